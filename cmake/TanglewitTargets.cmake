@@ -1,0 +1,46 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What every target of the program is compiled with, and short ways to declare a library of
+# src/ and a test of tests/.
+
+add_library(tanglewit_options INTERFACE)
+target_compile_features(tanglewit_options INTERFACE cxx_std_20)
+target_compile_definitions(
+  tanglewit_options
+  INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+            QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(MSVC)
+  target_compile_options(tanglewit_options INTERFACE /W4 /utf-8)
+else()
+  target_compile_options(tanglewit_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+                                                     -Wconversion -Wold-style-cast)
+endif()
+if(TANGLEWIT_SANITIZE)
+  target_compile_options(tanglewit_options INTERFACE -fsanitize=address,undefined
+                                                     -fno-sanitize-recover=all
+                                                     -fno-omit-frame-pointer)
+  target_link_options(tanglewit_options INTERFACE -fsanitize=address,undefined)
+endif()
+# Each folder below src/ is one library and includes are written "folder/File.h".
+target_include_directories(tanglewit_options INTERFACE "${PROJECT_SOURCE_DIR}/src")
+
+# tanglewit_library(<folder> SOURCES <files...> LINKS <targets...>)
+function(tanglewit_library folder)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(tanglewit_${folder} STATIC ${arg_SOURCES})
+  target_link_libraries(tanglewit_${folder} PUBLIC tanglewit_options ${arg_LINKS})
+endfunction()
+
+# tanglewit_test(<name> LINKS <targets...> [LABELS <labels...>]): builds <name>.cpp of this folder
+# and runs it without a display of its own. The name begins with the folder's name in CTest.
+function(tanglewit_test name)
+  cmake_parse_arguments(arg "" "" "LINKS;LABELS" ${ARGN})
+  get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+  add_executable(${name} ${name}.cpp)
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${name} PRIVATE Qt6::Test ${arg_LINKS})
+  add_test(NAME ${folder}/${name} COMMAND ${name})
+  set_tests_properties(
+    ${folder}/${name}
+    PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300
+               ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+endfunction()

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/ListFile.h"
+
+#include "runtime/ByteReader.h"
+
+#include <QtEndian>
+
+#include <limits>
+
+namespace {
+
+using Length = quint16;
+
+template <class Number> void appendNumber(QByteArray &bytes, Number number)
+{
+    const Number littleEndian = qToLittleEndian(number);
+    bytes.append(reinterpret_cast<const char *>(&littleEndian), sizeof littleEndian);
+}
+
+void appendText(QByteArray &bytes, const QString &text, std::size_t recordNumber)
+{
+    const QByteArray encoded = toWindows1252(text);
+    if (encoded.size() > std::numeric_limits<Length>::max())
+        throw RunTimeError(RunTimeError::Overflow,
+                           QStringLiteral("A text of word %1 is longer than 65535 characters")
+                               .arg(recordNumber));
+    appendNumber(bytes, static_cast<Length>(encoded.size()));
+    bytes.append(encoded);
+}
+
+} // namespace
+
+QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records)
+{
+    qsizetype size = sizeof(qint16);
+    for (const VocabRecord &record : records)
+        size += qsizetype(3 * sizeof(Length)) + record.Word.size() + record.Definition.size() +
+                record.Sentence.size();
+    QByteArray bytes;
+    bytes.reserve(size);
+    appendNumber(bytes, static_cast<qint16>(count.toInt()));
+    std::size_t recordNumber = 0;
+    for (const VocabRecord &record : records) {
+        ++recordNumber;
+        for (const QString *text : {&record.Word, &record.Definition, &record.Sentence})
+            appendText(bytes, *text, recordNumber);
+    }
+    return bytes;
+}
+
+std::vector<VocabRecord> ListFile::decode(QByteArrayView bytes, Integer maxCount)
+{
+    ByteReader reader(bytes);
+    const Integer count = reader.number<qint16>();
+    if (count < 0 || count > maxCount)
+        throw RunTimeError(
+            RunTimeError::SubscriptOutOfRange,
+            QStringLiteral("The file says that it holds %1 words; a list holds 0 to %2")
+                .arg(count.toInt())
+                .arg(maxCount.toInt()));
+    std::vector<VocabRecord> records(static_cast<std::size_t>(count.toInt()));
+    for (VocabRecord &record : records)
+        for (QString *text : {&record.Word, &record.Definition, &record.Sentence})
+            *text = reader.text();
+    return records;
+}

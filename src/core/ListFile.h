@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The bytes of a word list file (extension lwx), to and from records.
+//
+//   offset  size
+//   0       2     count N, signed
+//   2       ...   N records or more, without padding; each is
+//                   2 + L   Word        L: length in bytes, unsigned, then the text
+//                   2 + L   Definition
+//                   2 + L   Sentence
+//
+// Numbers are little-endian, texts are Windows-1252. There is no magic number, no terminator and
+// no checksum. Bytes behind record N mean nothing: they may be a record that a deletion left in
+// the storage, or the tail of an older, longer file.
+#pragma once
+
+#include "core/VocabRecord.h"
+#include "runtime/Integer.h"
+
+#include <QByteArray>
+
+#include <span>
+#include <vector>
+
+namespace ListFile {
+
+// The count, then every record given. Throws RunTimeError Overflow, naming the record, where a
+// text has more than 65,535 bytes.
+[[nodiscard]] QByteArray encode(Integer count, std::span<const VocabRecord> records);
+
+// The N records. A field beyond the end is zero or empty; a text cut off keeps the bytes that are
+// there. Throws RunTimeError SubscriptOutOfRange where N is negative or above `maxCount`.
+[[nodiscard]] std::vector<VocabRecord> decode(QByteArrayView bytes, Integer maxCount);
+
+} // namespace ListFile

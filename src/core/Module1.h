@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The state that all windows share, one copy for the whole run.
+#pragma once
+
+#include "runtime/Integer.h"
+
+#include <QDate>
+#include <QString>
+
+#include <array>
+
+class cVocabList;
+
+// One row of the Top 10 table.
+struct Top10Entry
+{
+    QDate EntryDate;
+    QString PlayerName; // empty for an unused row
+    Integer Points;     // 0 marks an unused row
+};
+
+namespace Module1 {
+
+// The list open in the main window; made at the first call.
+cVocabList &gVocabList();
+
+inline QString gFileName;   // the path that SaveFile and OpenFile use; empty = untitled
+inline QString gFileTitle;  // the open list's file name without folder
+inline QString gOpenedFile; // the path of the file whose contents are loaded
+inline bool gChanged = false; // the list has unsaved changes
+inline bool gSaved = false;   // the last save was completed
+
+inline bool gNewWord = false;      // the entry boxes hold a new word being typed
+inline bool gWordSelected = false; // an entry has been picked in the grid for editing
+
+inline Integer gLastItem;     // list position of the last entry that the grid page shows
+inline Integer gRowHeight;    // of one grid row, in twips
+inline Integer gHighlightRow; // grid row that is marked; 0 = none
+
+// The list position shown in grid row r is element r - 1; rows 1 to 24.
+inline std::array<Integer, 24> gRowItem;
+
+inline std::array<Top10Entry, 10> gTop10; // best first
+
+inline bool gUpbeatMusic = false; // the chosen set is the upbeat one
+inline bool gMusicOff = false;    // no music is to be played
+
+inline bool PrintItemNumber = false;
+inline QString PrintOrientation; // "Portrait" or "Landscape"
+
+} // namespace Module1

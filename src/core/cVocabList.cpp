@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/cVocabList.h"
+
+#include "core/ListFile.h"
+#include "core/Module1.h"
+#include "core/Notice.h"
+#include "runtime/BinaryFile.h"
+
+#include <algorithm>
+#include <utility>
+
+QString cVocabList::maxWordsText()
+{
+    return QStringLiteral("Cannot add any more words. Maximum number of words= %1").arg(MaxWords);
+}
+
+void cVocabList::AddVocab(const QString &NewWord, const QString &NewDef, const QString &NewSen)
+{
+    if (m_count >= MaxWords) {
+        notice(maxWordsText());
+        return;
+    }
+    if (m_count == 0)
+        m_slots.clear();
+    m_firstSlot = 1;
+    m_slots.resize(static_cast<std::size_t>(m_count.toInt()));
+    m_slots.push_back({NewWord, NewDef, NewSen});
+    // An empty index stands for one that nobody has asked for yet.
+    if (!m_index.isEmpty())
+        m_index.append(NewWord);
+    ++m_count;
+    m_current = m_count;
+    m_searchPos = 0;
+}
+
+void cVocabList::ClearList()
+{
+    m_slots.assign(2, {});
+    m_firstSlot = 0;
+    m_count = 0;
+    m_current = 1;
+    m_searchPos = 0;
+    m_index.clear();
+}
+
+void cVocabList::DeleteVocab()
+{
+    if (m_current == 0)
+        return;
+    if (m_current < m_count)
+        static_cast<void>(slot(m_current)); // a position below the storage fails before any change
+    if (m_count < 1)
+        return;
+    const int position = std::min(m_current, m_count).toInt();
+    if (!m_index.isEmpty())
+        m_index.remove(position, slot(position).Word);
+    const auto count = static_cast<std::size_t>(m_count.toInt());
+    if (m_current < m_count) {
+        const auto gap = m_slots.begin() + position - 1;
+        std::move(gap + 1, m_slots.begin() + m_count.toInt(), gap);
+        // The slot of the former last entry stays behind as a copy of it.
+        m_slots[count - 1] = m_slots[count - 2];
+    }
+    m_slots.resize(count);
+    --m_count;
+    m_current = m_current < 2 ? Integer(1) : m_current - 1;
+}
+
+void cVocabList::Edit(const QString &NewWord, const QString &NewDef, const QString &NewSen)
+{
+    VocabRecord &entry = slot(m_current);
+    m_searchPos = 0;
+    if (!m_index.isEmpty() && isEntry(m_current))
+        m_index.replace(m_current.toInt(), entry.Word, NewWord);
+    entry = {NewWord, NewDef, NewSen};
+}
+
+void cVocabList::SaveFile() const
+{
+    if (m_count == 0)
+        return;
+    BinaryFile::overwrite(Module1::gFileName, ListFile::encode(m_count, m_slots));
+    Module1::gChanged = false;
+}
+
+bool cVocabList::OpenFile()
+{
+    if (!Module1::gFileName.isEmpty()) {
+        std::vector<VocabRecord> records =
+            ListFile::decode(BinaryFile::read(Module1::gFileName), MaxWords);
+        m_count = records.size();
+        m_slots = std::move(records);
+        m_slots.resize(std::max<std::size_t>(m_slots.size(), 1));
+        m_firstSlot = 1;
+        m_index.clear();
+    }
+    Module1::gChanged = false;
+    m_current = 1;
+    m_searchPos = 0;
+    return !Module1::gFileName.isEmpty();
+}
+
+bool cVocabList::Exist(const QString &NewWord, Integer startpos)
+{
+    Integer start = startpos;
+    if (start < 1 && start <= m_count) {
+        // Only the slot that ClearList leaves before the first entry can be below 1.
+        if (slot(start).Word.toLower() == NewWord.toLower()) {
+            m_current = start;
+            return true;
+        }
+        ++start;
+    }
+    const Integer hit = find(NewWord, start);
+    if (hit == 0)
+        return false;
+    m_current = hit;
+    return true;
+}
+
+Integer cVocabList::SearchWord(const QString &FindWord)
+{
+    const Integer hit = find(FindWord, m_searchPos + 1);
+    m_searchPos = hit;
+    if (hit != 0)
+        m_current = hit;
+    return hit;
+}
+
+QString cVocabList::Word() const
+{
+    return m_current == 0 ? QString() : slot(m_current).Word;
+}
+
+QString cVocabList::Definition() const
+{
+    return m_current == 0 ? QString() : slot(m_current).Definition;
+}
+
+QString cVocabList::Sentence() const
+{
+    return m_current == 0 ? QString() : slot(m_current).Sentence;
+}
+
+QString cVocabList::length() const
+{
+    return QString::number(slot(m_current).Word.size());
+}
+
+VocabRecord &cVocabList::slot(Integer position)
+{
+    return const_cast<VocabRecord &>(std::as_const(*this).slot(position));
+}
+
+const VocabRecord &cVocabList::slot(Integer position) const
+{
+    const int index = position.toInt() - m_firstSlot;
+    if (index < 0 || index >= int(m_slots.size()))
+        throw RunTimeError(RunTimeError::SubscriptOutOfRange);
+    return m_slots[static_cast<std::size_t>(index)];
+}
+
+std::span<const VocabRecord> cVocabList::entries() const
+{
+    return std::span(m_slots).subspan(static_cast<std::size_t>(m_count == 0 ? 0 : 1 - m_firstSlot),
+                                      static_cast<std::size_t>(m_count.toInt()));
+}
+
+Integer cVocabList::find(const QString &word, Integer start)
+{
+    if (m_index.isEmpty())
+        m_index.rebuild(entries());
+    return m_index.find(word, start.toInt());
+}
+
+bool cVocabList::isEntry(Integer position) const
+{
+    return position >= 1 && position <= m_count;
+}

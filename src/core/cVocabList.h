@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A word list in memory: an ordered sequence of entries, 1-based, with a current position, a
+// resumable search and the scramble of the current word.
+//
+// No member checks a position against the number of entries: reading or editing outside the
+// storage throws RunTimeError SubscriptOutOfRange. A member that throws leaves the list as it was.
+#pragma once
+
+#include "core/VocabRecord.h"
+#include "core/WordIndex.h"
+#include "runtime/Integer.h"
+
+#include <functional>
+#include <span>
+#include <utility>
+#include <vector>
+
+class cVocabList
+{
+public:
+    // The largest round number with which a position + 23 and the count + 1 stay inside 16 bits.
+    static constexpr int MaxWords = 32000;
+    // What adding beyond it tells.
+    [[nodiscard]] static QString maxWordsText();
+
+    // Appends the texts as they are given and makes the new entry the current one. At MaxWords
+    // entries gives a notice and changes nothing.
+    void AddVocab(const QString &NewWord, const QString &NewDef, const QString &NewSen);
+    void ClearList();
+    // Removes the current entry; the one before it becomes current.
+    void DeleteVocab();
+    // Overwrites the current entry.
+    void Edit(const QString &NewWord, const QString &NewDef, const QString &NewSen);
+
+    // Writes gFileName in the layout of ListFile and clears gChanged; an empty list writes
+    // nothing. Throws what ListFile::encode and BinaryFile::overwrite throw.
+    void SaveFile() const;
+    // Replaces the list by the content of gFileName and clears gChanged. False without a name.
+    // Throws what BinaryFile::read and ListFile::decode throw.
+    bool OpenFile();
+
+    void CurrentWord(Integer CurWord) { m_current = CurWord; }
+    [[nodiscard]] Integer CurrentWord() const { return m_current; }
+
+    // Whether an entry from `startpos` on bears the word, regardless of case; a hit becomes
+    // current. Position 0 exists only right after ClearList.
+    bool Exist(const QString &NewWord, Integer startpos = 0);
+    [[nodiscard]] Integer NumWords() const { return m_count; }
+    // The next entry with the word after the last hit, which becomes current; 0 for none, after
+    // which the search starts at the first entry again.
+    Integer SearchWord(const QString &FindWord);
+
+    // A random order of the current word's characters in which no three that follow one another
+    // in the word do so here. A word of one or two characters has none: the scramble tries
+    // without end, or until the scramble hook gives up, which leaves the text empty.
+    QString ScrambledWord();
+
+    // Empty where the current position is 0.
+    [[nodiscard]] QString Word() const;
+    [[nodiscard]] QString Definition() const;
+    [[nodiscard]] QString Sentence() const;
+    // The number of characters of the current word, as text.
+    [[nodiscard]] QString length() const;
+
+    // Called between two attempts of the scramble; false gives up. None by default.
+    void setScrambleHook(std::function<bool()> goOn) { m_scrambleHook = std::move(goOn); }
+
+private:
+    void Scramble();
+
+    [[nodiscard]] VocabRecord &slot(Integer position);
+    [[nodiscard]] const VocabRecord &slot(Integer position) const;
+    [[nodiscard]] std::span<const VocabRecord> entries() const;
+    [[nodiscard]] Integer find(const QString &word, Integer start);
+    [[nodiscard]] bool isEntry(Integer position) const;
+
+    // Slot i of the storage is element i - m_firstSlot. There may be more slots than entries.
+    std::vector<VocabRecord> m_slots;
+    int m_firstSlot = 1;
+    Integer m_count;
+    Integer m_current;
+    Integer m_searchPos; // of the last hit; 0 = none
+    QString m_scrambled;
+    std::function<bool()> m_scrambleHook;
+    WordIndex m_index; // of all entries, or empty until a word is looked up
+};

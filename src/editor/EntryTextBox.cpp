@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/EntryTextBox.h"
+
+#include <QKeyEvent>
+#include <QTextDocument>
+
+EntryTextBox::EntryTextBox(QWidget *parent) : QPlainTextEdit(parent)
+{
+    setTabChangesFocus(true);
+}
+
+QString EntryTextBox::text() const
+{
+    // Not toPlainText: that would turn hard blanks into blanks.
+    const QString lineBreak = QStringLiteral("\r\n");
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, lineBreak)
+        .replace(QChar::LineSeparator, lineBreak);
+}
+
+void EntryTextBox::setText(const QString &text)
+{
+    setPlainText(text);
+}
+
+void EntryTextBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QPlainTextEdit::keyPressEvent(event);
+    } else if ((event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) != 0) {
+        textCursor().insertBlock();
+        ensureCursorVisible();
+    } else {
+        event->ignore();
+    }
+}

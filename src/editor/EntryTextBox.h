@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A box for a text of an entry that may have several lines. A line break is the two characters
+// CR LF.
+//
+// Enter is left to the window (its default button); Ctrl+Enter and Shift+Enter break the line.
+// Tab leaves the box.
+#pragma once
+
+#include <QPlainTextEdit>
+
+class EntryTextBox final : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit EntryTextBox(QWidget *parent = nullptr);
+
+    [[nodiscard]] QString text() const;
+    void setText(const QString &text);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+};

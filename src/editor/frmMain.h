@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window: the word list as a page of the grid, and below it the boxes and buttons in
+// which one entry is typed, changed, found and deleted.
+#pragma once
+
+#include "platform/CommonDialog.h"
+#include "platform/Form.h"
+#include "runtime/Integer.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QPushButton;
+struct MainLayout;
+
+namespace Ui {
+class frmMain;
+}
+
+class frmMain final : public Form<QMainWindow>
+{
+    Q_OBJECT
+
+public:
+    frmMain();
+    ~frmMain() override;
+
+protected:
+    void Form_Load() override;
+    void Form_GotFocus() override;
+    void Form_Terminate() override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    enum class Mode { Idle, NewList, NewWord, Editing, Search };
+
+    // frmMain.cpp: the shell
+    void connectHandlers();
+    void addShortcuts();
+    void loadTop10();
+    void place(MainLayout layout, int entryHeight);
+    void placeEntryArea(const MainLayout &layout, int height);
+    void showMode(Mode mode);
+    void setDefaultButton(QPushButton *button);
+    void showCaption();
+    void mnuExit_Click();
+
+    // frmMain_Entry.cpp: entry editing and search
+    void cmdNewWord_Click();
+    void cmdAdd_Click();
+    void cmdAbort_Click();
+    void cmdDelete_Click();
+    void cmdSearch_Click();
+    void mnuDeleteWord_Click();
+    void txtDefinition_Change();
+    void txtSentence_Change();
+    void addWord();
+    void updateWord();
+    void showEntry();
+    void ClearEntryBoxes();
+    void DisableEntryBoxes();
+    void EnableEntryBoxes();
+    [[nodiscard]] bool isCurrentWordAnEntry() const;
+
+    // frmMain_Grid.cpp: the grid and its scroll bar
+    void MSFlexGrid1_Click(int row, int column);
+    void VScroll1_Change();
+    void FillGrid(Integer top);
+    void NumberRows(Integer top);
+    void emptyGrid();
+    void scrollTo(Integer value);
+    void setScrollRange();
+    [[nodiscard]] Integer FirstShownItem() const;
+    void HighlightRow();
+    void UnhighlightRow();
+    void markRow(Integer row);
+    void MarkNewRow();
+
+    // frmMain_File.cpp: file commands
+    void mnuNew_Click();
+    void mnuOpen_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void openFile();
+    [[nodiscard]] bool mayEndLesson(bool mayCancelSaving);
+
+    std::unique_ptr<Ui::frmMain> m_ui;
+    QPushButton *m_defaultButton = nullptr; // what Enter presses
+    CommonDialog m_fileDialog;
+
+    bool m_entryShown = false; // the boxes show the current entry, picked or found
+    bool m_searching = false;  // the next page fill is a search's, which marks its own row
+};

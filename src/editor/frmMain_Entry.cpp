@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/frmMain.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "editor/ui_frmMain.h"
+#include "platform/MsgBox.h"
+#include "runtime/Blanks.h"
+
+using namespace Module1;
+
+void frmMain::cmdNewWord_Click()
+{
+    ClearEntryBoxes();
+    gWordSelected = false;
+    showMode(Mode::NewWord);
+    const Integer count = gVocabList().NumWords();
+    if (count > 0)
+        scrollTo(count < 23 ? Integer(1) : count - 21);
+    MarkNewRow();
+    gNewWord = true;
+    m_ui->txtWord->setFocus();
+}
+
+void frmMain::cmdAdd_Click()
+{
+    if (gNewWord && gVocabList().NumWords() >= cVocabList::MaxWords) {
+        MsgBox(cVocabList::maxWordsText());
+        return;
+    }
+    if (m_ui->txtWord->text().isEmpty())
+        m_ui->txtWord->setFocus();
+    else if (gWordSelected)
+        updateWord();
+    else if (gNewWord)
+        addWord();
+    if (gChanged)
+        m_ui->mnuSave->setEnabled(true);
+}
+
+void frmMain::updateWord()
+{
+    gVocabList().Edit(withoutOuterBlanks(m_ui->txtWord->text()),
+                      withoutOuterBlanks(m_ui->txtDefinition->text()),
+                      withoutOuterBlanks(m_ui->txtSentence->text()));
+    gChanged = true;
+    ClearEntryBoxes();
+    FillGrid(FirstShownItem());
+    gWordSelected = false;
+    showMode(Mode::Idle);
+    m_ui->cmdNewWord->setFocus();
+}
+
+// Unlike an update, an addition keeps outer blanks.
+void frmMain::addWord()
+{
+    cVocabList &list = gVocabList();
+    const QString word = m_ui->txtWord->text();
+    if (list.Exist(word, 1) && MsgBox(QStringLiteral("Word already exist.  Add word anyway?"),
+                                      MsgBoxButtons::YesNo) == MsgBoxAnswer::No) {
+        m_ui->txtWord->setFocus();
+        return;
+    }
+    list.AddVocab(word, m_ui->txtDefinition->text(), m_ui->txtSentence->text());
+    gChanged = true;
+
+    const Integer count = list.NumWords();
+    const Integer top = count < 23 ? Integer(1) : count - 21;
+    scrollTo(count);
+    FillGrid(top);
+    NumberRows(top);
+    ClearEntryBoxes();
+    m_ui->txtWord->setFocus();
+    MarkNewRow();
+}
+
+void frmMain::cmdAbort_Click()
+{
+    showMode(Mode::Idle);
+    MSFlexGrid &grid = *m_ui->MSFlexGrid1;
+    if (grid.Row() > 1)
+        grid.setCurrent(grid.Row() - 1, 1);
+    ClearEntryBoxes();
+    grid.setFocus();
+}
+
+void frmMain::cmdDelete_Click()
+{
+    cVocabList &list = gVocabList();
+    const Integer top = FirstShownItem();
+    if (!isCurrentWordAnEntry() || m_ui->txtWord->text() != list.Word()) {
+        MsgBox(QStringLiteral("Please select a word to delete or execute a search first."));
+        return;
+    }
+    if (MsgBox(QStringLiteral("Are you sure you want to delete '") + list.Word() +
+                   QStringLiteral("' ?"),
+               MsgBoxButtons::YesNo) == MsgBoxAnswer::No)
+        return;
+    list.DeleteVocab();
+    ClearEntryBoxes();
+    if (list.NumWords() > 0)
+        FillGrid(top);
+    else
+        emptyGrid();
+    NumberRows(top);
+    gChanged = true;
+    gNewWord = gWordSelected = false;
+    m_ui->mnuSave->setEnabled(true);
+    showMode(Mode::Idle);
+    m_ui->MSFlexGrid1->setFocus();
+}
+
+void frmMain::mnuDeleteWord_Click()
+{
+    if (gVocabList().NumWords() == 0)
+        MsgBox(QStringLiteral("Cannot delete: Your current wordlist is empty."));
+    else
+        cmdDelete_Click();
+}
+
+void frmMain::cmdSearch_Click()
+{
+    showMode(Mode::Search);
+    m_ui->txtWord->setFocus();
+    if (m_ui->txtWord->text().isEmpty()) {
+        UnhighlightRow();
+        return;
+    }
+    cVocabList &list = gVocabList();
+    const QString wanted = withoutOuterBlanks(m_ui->txtWord->text());
+    Integer hit = list.SearchWord(wanted);
+    if (hit == 0)
+        hit = list.SearchWord(wanted); // a miss starts over, so this one finds the first match
+    if (hit == 0) {
+        MsgBox(wanted + QStringLiteral(" is not in the list."));
+        return;
+    }
+    UnhighlightRow();
+    const bool onePage = list.NumWords() < 23;
+    m_searching = true;
+    scrollTo(onePage ? Integer(1) : hit);
+    markRow(onePage ? hit : Integer(1));
+    list.CurrentWord(hit);
+    showEntry();
+    m_ui->cmdDelete->setEnabled(true);
+}
+
+void frmMain::txtDefinition_Change()
+{
+    m_ui->FrameDef->setTitle(
+        QStringLiteral("Definition: %1").arg(m_ui->txtDefinition->text().size()));
+}
+
+void frmMain::txtSentence_Change()
+{
+    m_ui->FrameSen->setTitle(
+        QStringLiteral("Sentence: %1").arg(m_ui->txtSentence->text().size()));
+}
+
+void frmMain::showEntry()
+{
+    const cVocabList &list = gVocabList();
+    m_ui->txtWord->setText(list.Word());
+    m_ui->txtDefinition->setText(list.Definition());
+    m_ui->txtSentence->setText(list.Sentence());
+    m_entryShown = true;
+}
+
+void frmMain::ClearEntryBoxes()
+{
+    m_entryShown = false;
+    m_ui->txtWord->clear();
+    m_ui->txtDefinition->clear();
+    m_ui->txtSentence->clear();
+}
+
+void frmMain::DisableEntryBoxes()
+{
+    for (QWidget *box : {static_cast<QWidget *>(m_ui->txtWord),
+                         static_cast<QWidget *>(m_ui->txtDefinition),
+                         static_cast<QWidget *>(m_ui->txtSentence)})
+        box->setEnabled(false);
+}
+
+void frmMain::EnableEntryBoxes()
+{
+    for (QWidget *box : {static_cast<QWidget *>(m_ui->txtWord),
+                         static_cast<QWidget *>(m_ui->txtDefinition),
+                         static_cast<QWidget *>(m_ui->txtSentence)})
+        box->setEnabled(true);
+}
+
+bool frmMain::isCurrentWordAnEntry() const
+{
+    const Integer position = gVocabList().CurrentWord();
+    return position >= 1 && position <= gVocabList().NumWords();
+}

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/frmMain.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "editor/ui_frmMain.h"
+#include "platform/MsgBox.h"
+#include "platform/Paths.h"
+
+using namespace Module1;
+
+namespace {
+
+const QString ListFilter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*");
+
+// Puts the open list's name back where what it was changed for fails.
+class FileNameKeeper
+{
+public:
+    FileNameKeeper() = default;
+    Q_DISABLE_COPY_MOVE(FileNameKeeper)
+    ~FileNameKeeper()
+    {
+        if (m_done)
+            return;
+        gFileName = m_fileName;
+        gFileTitle = m_fileTitle;
+    }
+    void done() { m_done = true; }
+
+private:
+    QString m_fileName = gFileName;
+    QString m_fileTitle = gFileTitle;
+    bool m_done = false;
+};
+
+} // namespace
+
+void frmMain::mnuSave_Click()
+{
+    if (gFileName.isEmpty()) {
+        mnuSaveAs_Click();
+        return;
+    }
+    gVocabList().SaveFile();
+    m_ui->mnuSave->setEnabled(false);
+    MsgBox(gFileName + QStringLiteral(" has been saved."));
+    gChanged = false;
+    gSaved = true;
+}
+
+void frmMain::mnuSaveAs_Click()
+{
+    gSaved = false;
+    m_fileDialog.DialogTitle = QStringLiteral("Save File As");
+    m_fileDialog.Filter = ListFilter;
+    m_fileDialog.DefaultExt = QStringLiteral("lwx");
+    m_fileDialog.InitDir.clear();
+    m_fileDialog.OverwritePrompt = true;
+    if (!m_fileDialog.ShowSave(this))
+        return;
+    FileNameKeeper keeper;
+    gFileName = m_fileDialog.FileName;
+    gFileTitle = m_fileDialog.FileTitle;
+    gVocabList().SaveFile();
+    keeper.done();
+    m_ui->mnuSave->setEnabled(false);
+    gChanged = false;
+    showCaption();
+    gSaved = true;
+}
+
+void frmMain::mnuNew_Click()
+{
+    if (!mayEndLesson(true))
+        return;
+    gVocabList().ClearList();
+    gOpenedFile.clear();
+    gFileName.clear();
+    gFileTitle.clear();
+    m_fileDialog.FileName.clear();
+    showCaption();
+    ClearEntryBoxes();
+    emptyGrid();
+    gLastItem = 1;
+    NumberRows(1);
+    showMode(Mode::NewList);
+    m_ui->txtWord->setFocus();
+    gNewWord = true;
+    gWordSelected = false;
+    gChanged = false;
+    m_ui->mnuSave->setEnabled(false);
+}
+
+void frmMain::mnuOpen_Click()
+{
+    if (!mayEndLesson(false))
+        return;
+    openFile();
+    cmdAbort_Click();
+}
+
+// Asks whether the list in work may go, and saves it where the person wants that. False where it
+// is to stay: by a Cancel, or because it was not saved in the end.
+bool frmMain::mayEndLesson(bool mayCancelSaving)
+{
+    if (MsgBox(QStringLiteral("End current lesson?"), MsgBoxButtons::OkCancel) ==
+        MsgBoxAnswer::Cancel)
+        return false;
+    if (!gChanged)
+        return true;
+    const MsgBoxAnswer answer =
+        MsgBox(QStringLiteral("Do you want to save changes?"),
+               mayCancelSaving ? MsgBoxButtons::YesNoCancel : MsgBoxButtons::YesNo);
+    if (answer == MsgBoxAnswer::Yes) {
+        mnuSave_Click();
+        return gSaved;
+    }
+    return answer == MsgBoxAnswer::No;
+}
+
+void frmMain::openFile()
+{
+    m_fileDialog.DialogTitle = QStringLiteral("Open File");
+    m_fileDialog.Filter = ListFilter;
+    m_fileDialog.DefaultExt.clear();
+    m_fileDialog.InitDir = pathOf(Place::WordLists);
+    m_fileDialog.FileName.clear();
+    const bool chosen = m_fileDialog.ShowOpen(this);
+    FileNameKeeper keeper;
+    gFileName = chosen ? m_fileDialog.FileName : QString();
+    gFileTitle = chosen ? m_fileDialog.FileTitle : QString();
+    if (gFileName.isEmpty() || gFileName == gOpenedFile || !gVocabList().OpenFile()) {
+        keeper.done();
+        return;
+    }
+    keeper.done();
+    gOpenedFile = gFileName;
+    showCaption();
+    gLastItem = 1;
+    ClearEntryBoxes();
+    scrollTo(1);
+    FillGrid(1);
+    gVocabList().CurrentWord(1);
+    EnableEntryBoxes();
+    gChanged = false;
+    m_ui->mnuSave->setEnabled(false);
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/SampleLists.h"
+#include "editor/frmMain.h"
+#include "editor/frmSplash.h"
+#include "platform/Application.h"
+#include "platform/Guarded.h"
+#include "platform/MsgBox.h"
+#include "platform/Paths.h"
+
+int main(int argc, char *argv[])
+{
+    Application application(argc, argv);
+    if (application.PrevInstance()) {
+        MsgBox(QStringLiteral("The Tanglewit(c) is already running."));
+        return 0;
+    }
+    // Between the splash and the main window no window is open.
+    Application::setQuitOnLastWindowClosed(false);
+    frmSplash splash;
+    std::unique_ptr<frmMain> mainWindow;
+    QObject::connect(&splash, &frmSplash::unloaded, &application, [&mainWindow] {
+        runGuarded([] { installSampleLists(pathOf(Place::WordLists)); });
+        mainWindow = std::make_unique<frmMain>();
+        mainWindow->showMaximized();
+        Application::setQuitOnLastWindowClosed(true);
+    });
+    splash.show();
+    return Application::exec();
+}

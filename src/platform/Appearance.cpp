@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Appearance.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace {
+
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+QString styleSheet(const QPalette &palette)
+{
+    const bool dark = isDark(palette);
+    QString sheet = QStringLiteral(R"(
+QGroupBox { border: 1px solid @line; border-radius: 8px; margin-top: 9px; padding: 8px; }
+QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; color: @quiet; }
+QGroupBox#Frame1 { border: none; margin: 0; padding: 0; border-radius: 0; }
+QLineEdit, QPlainTextEdit {
+    background: palette(base); border: 1px solid @line; border-radius: 6px; padding: 3px 6px;
+    selection-background-color: @accent; selection-color: @onAccent; }
+QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid @accent; padding: 2px 5px; }
+QLineEdit:disabled, QPlainTextEdit:disabled { background: palette(window); }
+QPushButton {
+    background: palette(button); border: 1px solid @line; border-radius: 6px;
+    padding: 5px 14px; min-height: 18px; }
+QPushButton:hover { border-color: @accent; }
+QPushButton:pressed { background: @line; }
+QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
+QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; }
+QPushButton:disabled { background: palette(window); color: @disabled; border-color: @line; }
+MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @line; }
+MSFlexGrid:focus { border-bottom: 2px solid @accent; }
+)");
+    const QColor accent = accentColour(palette);
+    const auto set = [&sheet](const char *name, const QColor &colour) {
+        sheet.replace(QLatin1String(name), colour.name());
+    };
+    set("@accent", accent);
+    set("@onAccent", dark ? QColor(Qt::black) : QColor(Qt::white));
+    set("@focus", dark ? QColor(Qt::white) : accent.darker(170));
+    set("@line", dark ? QColor(0x5A, 0x5F, 0x63) : QColor(0xC3, 0xCB, 0xD1));
+    set("@quiet", dark ? QColor(0xB4, 0xBC, 0xC2) : QColor(0x4A, 0x56, 0x5E));
+    set("@disabled", dark ? QColor(0x8A, 0x90, 0x94) : QColor(0x8A, 0x93, 0x99));
+    return sheet;
+}
+
+} // namespace
+
+QColor accentColour(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(0x3F, 0xB6, 0xC2) : QColor(0x0E, 0x73, 0x80);
+}
+
+void applyAppearance(QApplication &application)
+{
+    if (application.style()->name() != QLatin1String("fusion"))
+        application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QString sheet = styleSheet(application.palette());
+    if (application.styleSheet() != sheet)
+        application.setStyleSheet(sheet);
+}

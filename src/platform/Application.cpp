@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Application.h"
+
+#include "core/Notice.h"
+#include "platform/Appearance.h"
+#include "platform/MsgBox.h"
+#include "platform/Paths.h"
+
+#include <QDir>
+#include <QIcon>
+#include <QVersionNumber>
+
+namespace {
+
+const QVersionNumber &version()
+{
+    static const QVersionNumber version =
+        QVersionNumber::fromString(QLatin1String(TANGLEWIT_VERSION));
+    return version;
+}
+
+} // namespace
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv)
+{
+    setApplicationName(Title());
+    setApplicationVersion(QLatin1String(TANGLEWIT_VERSION));
+    setOrganizationName(QStringLiteral("LexiBrook"));
+    setDesktopFileName(QStringLiteral("tanglewit"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/tanglewit.svg")));
+    applyAppearance(*this);
+    setNoticeHook([](const QString &text) { MsgBox(text); });
+}
+
+bool Application::PrevInstance()
+{
+    const QString folder = pathOf(Place::UserData);
+    m_instanceLock =
+        std::make_unique<QLockFile>(QDir(folder).filePath(QStringLiteral("tanglewit.lock")));
+    // However long a copy runs, its lock is good as long as its process lives.
+    m_instanceLock->setStaleLockTime(0);
+    return !m_instanceLock->tryLock() && m_instanceLock->error() == QLockFile::LockFailedError;
+}
+
+QString Application::Title()
+{
+    return QStringLiteral("Tanglewit");
+}
+
+int Application::Major()
+{
+    return version().majorVersion();
+}
+
+int Application::Minor()
+{
+    return version().minorVersion();
+}
+
+int Application::Revision()
+{
+    return version().microVersion();
+}
+
+QString Application::LegalCopyright()
+{
+    return QStringLiteral("Copyright \u00A9 2026 LexiBrook. All words are yours.");
+}
+
+bool Application::event(QEvent *event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        applyAppearance(*this);
+    return QApplication::event(event);
+}

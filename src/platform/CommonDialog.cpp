@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/CommonDialog.h"
+
+#include <QFileDialog>
+
+namespace {
+
+// "Lists (*.lwx)|*.lwx" becomes "Lists (*.lwx) (*.lwx)": Qt takes the pattern from the last
+// brackets and, told to hide the details, shows what stands before them.
+QStringList nameFilters(const QString &filter)
+{
+    QStringList filters;
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString pattern =
+            parts[i + 1] == QLatin1String("*.*") ? QStringLiteral("*") : parts[i + 1];
+        filters += QStringLiteral("%1 (%2)").arg(parts[i], pattern);
+    }
+    return filters;
+}
+
+} // namespace
+
+bool CommonDialog::ShowOpen(QWidget *parent)
+{
+    return show(parent, Purpose::Open);
+}
+
+bool CommonDialog::ShowSave(QWidget *parent)
+{
+    return show(parent, Purpose::Save);
+}
+
+bool CommonDialog::show(QWidget *parent, Purpose purpose)
+{
+    QFileDialog dialog(parent, DialogTitle);
+    dialog.setObjectName(QStringLiteral("CommonDialog"));
+    dialog.setAcceptMode(purpose == Purpose::Open ? QFileDialog::AcceptOpen
+                                                  : QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilters(nameFilters(Filter));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !OverwritePrompt);
+    dialog.setDefaultSuffix(DefaultExt);
+    dialog.setDirectory(!InitDir.isEmpty() ? InitDir : m_lastFolder);
+    if (!FileName.isEmpty())
+        dialog.selectFile(FileName);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    const QFileInfo chosen(dialog.selectedFiles().constFirst());
+    FileName = chosen.absoluteFilePath();
+    FileTitle = chosen.fileName();
+    m_lastFolder = chosen.absolutePath();
+    return true;
+}

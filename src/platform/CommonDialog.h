@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The common file dialog. Its properties stay from one opening to the next, so that the last
+// folder and name are offered again.
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+class CommonDialog
+{
+public:
+    // The folder that counts as last used at first.
+    explicit CommonDialog(const QString &startFolder) : m_lastFolder(startFolder) {}
+
+    QString DialogTitle;
+    // Pairs "text|pattern", joined by "|". The pattern *.* stands for all files.
+    QString Filter;
+    QString DefaultExt; // without dot, added to a name that has none; empty = none
+    QString InitDir;    // where the dialog starts; empty = the last used folder
+    bool OverwritePrompt = false; // asks before an existing file is chosen for saving
+
+    QString FileName;  // full path of the chosen file; set beforehand, it is offered
+    QString FileTitle; // its name without folder
+
+    // False where the person cancelled; the properties are as before then.
+    [[nodiscard]] bool ShowOpen(QWidget *parent);
+    [[nodiscard]] bool ShowSave(QWidget *parent);
+
+private:
+    enum class Purpose { Open, Save };
+    [[nodiscard]] bool show(QWidget *parent, Purpose purpose);
+
+    QString m_lastFolder;
+};

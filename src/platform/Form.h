@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A window with the life cycle of the program's forms.
+//
+// Form_Load runs when the form is shown for the first time after it was made or unloaded. Closing
+// it runs Form_QueryUnload, Form_Unload and Form_Terminate; where one of them refuses or fails,
+// the form stays. All of them are guarded.
+#pragma once
+
+#include "platform/Guarded.h"
+
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QShowEvent>
+
+// Window: QMainWindow, QDialog or QWidget.
+template <class Window> class Form : public Window
+{
+public:
+    using Window::Window;
+
+protected:
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_GotFocus() {}
+    // False keeps the form open.
+    virtual bool Form_QueryUnload() { return true; }
+    virtual void Form_Unload() {}
+    virtual void Form_Terminate() {}
+
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::WindowActivate)
+            runGuarded([this] { Form_Activate(); });
+        return Window::event(event);
+    }
+
+    void showEvent(QShowEvent *event) override
+    {
+        if (!m_loaded) {
+            m_loaded = true;
+            runGuarded([this] { Form_Load(); });
+        }
+        Window::showEvent(event);
+    }
+
+    void closeEvent(QCloseEvent *event) override
+    {
+        bool unloaded = false;
+        runGuarded([this, &unloaded] {
+            if (!Form_QueryUnload())
+                return;
+            Form_Unload();
+            Form_Terminate();
+            unloaded = true;
+        });
+        m_loaded = !unloaded;
+        if (unloaded)
+            Window::closeEvent(event);
+        else
+            event->ignore();
+    }
+
+    void focusInEvent(QFocusEvent *event) override
+    {
+        Window::focusInEvent(event);
+        runGuarded([this] { Form_GotFocus(); });
+    }
+
+private:
+    bool m_loaded = false;
+};

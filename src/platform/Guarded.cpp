@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Guarded.h"
+
+#include "platform/MsgBox.h"
+#include "runtime/RunTimeError.h"
+
+#include <new>
+
+void reportRunTimeError(const RunTimeError &error)
+{
+    MsgBox(error.report());
+}
+
+bool runGuarded(const std::function<void()> &handler)
+{
+    try {
+        handler();
+        return true;
+    } catch (const RunTimeError &error) {
+        reportRunTimeError(error);
+    } catch (const std::bad_alloc &) {
+        reportRunTimeError(RunTimeError(RunTimeError::OutOfMemory));
+    } catch (const std::exception &error) {
+        MsgBox(QString::fromUtf8(error.what()));
+    }
+    return false;
+}

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/MSFlexGrid.h"
+
+#include "platform/Screen.h"
+#include "runtime/RunTimeError.h"
+
+#include <QAbstractSlider>
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+
+// More than any cell can show on one line.
+constexpr int LongestShown = 1000;
+
+QString onOneLine(const QString &text)
+{
+    return text.left(LongestShown).simplified();
+}
+
+class OneLineDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QString displayText(const QVariant &value,
+                                      const QLocale & /*locale*/) const override
+    {
+        return onOneLine(value.toString());
+    }
+};
+
+QAbstractSlider::SliderAction sliderAction(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        return QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Down:
+        return QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_PageUp:
+        return QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_PageDown:
+        return QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_Home:
+        return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+        return QAbstractSlider::SliderToMaximum;
+    default:
+        return QAbstractSlider::SliderNoAction;
+    }
+}
+
+} // namespace
+
+MSFlexGrid::MSFlexGrid(QWidget *parent) : QTableWidget(parent)
+{
+    setItemDelegate(new OneLineDelegate(this));
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setWordWrap(false);
+    setAutoScroll(false);
+    connect(this, &QTableWidget::cellClicked, this, &MSFlexGrid::Click);
+}
+
+void MSFlexGrid::setSize(int rows, int columns)
+{
+    setRowCount(rows);
+    setColumnCount(columns);
+    for (int row = 0; row < rows; ++row)
+        for (int column = 0; column < columns; ++column)
+            if (!item(row, column))
+                setItem(row, column, new QTableWidgetItem);
+    layOutRows();
+}
+
+void MSFlexGrid::Clear()
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        for (int column = 0; column < columnCount(); ++column) {
+            setText(row, column, {});
+            setCellBold(row, column, false);
+            setCellBackColour(row, column, White);
+        }
+    }
+}
+
+void MSFlexGrid::setText(int row, int column, const QString &text)
+{
+    cell(row, column).setText(text);
+}
+
+QString MSFlexGrid::text(int row, int column) const
+{
+    const QTableWidgetItem *found = item(row, column);
+    return found ? found->text() : QString();
+}
+
+void MSFlexGrid::setCellBold(int row, int column, bool bold)
+{
+    QTableWidgetItem &item = cell(row, column);
+    if (item.font().bold() == bold)
+        return;
+    QFont boldFont;
+    boldFont.setBold(true);
+    item.setData(Qt::FontRole, bold ? QVariant(boldFont) : QVariant());
+}
+
+bool MSFlexGrid::cellBold(int row, int column) const
+{
+    return cell(row, column).font().bold();
+}
+
+void MSFlexGrid::setCellBackColour(int row, int column, CellColour colour)
+{
+    // White is the palette's own background, so that a dark palette stays dark.
+    QTableWidgetItem &item = cell(row, column);
+    const bool yellow = colour == Yellow;
+    item.setData(Qt::BackgroundRole, yellow ? QVariant(QBrush(Qt::yellow)) : QVariant());
+    item.setData(Qt::ForegroundRole, yellow ? QVariant(QBrush(Qt::black)) : QVariant());
+}
+
+MSFlexGrid::CellColour MSFlexGrid::cellBackColour(int row, int column) const
+{
+    return cell(row, column).data(Qt::BackgroundRole).isValid() ? Yellow : White;
+}
+
+void MSFlexGrid::setColWidth(int column, int twips)
+{
+    setColumnWidth(column, pixels(twips));
+}
+
+int MSFlexGrid::ColWidth(int column) const
+{
+    return columnWidth(column) * TwipsPerPixel;
+}
+
+void MSFlexGrid::setVisibleRows(int rows)
+{
+    m_visibleRows = rows;
+    layOutRows();
+}
+
+int MSFlexGrid::RowHeight(int row) const
+{
+    return rowHeight(row) * TwipsPerPixel;
+}
+
+void MSFlexGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableWidget::resizeEvent(event);
+    layOutRows();
+}
+
+void MSFlexGrid::wheelEvent(QWheelEvent *event)
+{
+    if (m_scrollBar)
+        QCoreApplication::sendEvent(m_scrollBar, event);
+}
+
+void MSFlexGrid::keyPressEvent(QKeyEvent *event)
+{
+    const QAbstractSlider::SliderAction action = sliderAction(event->key());
+    if (action != QAbstractSlider::SliderNoAction && m_scrollBar) {
+        m_scrollBar->triggerAction(action);
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        Q_EMIT Click(Row(), Col());
+        return;
+    default:
+        // No search by typing and no moving about: that is the window's business.
+        event->ignore();
+    }
+}
+
+bool MSFlexGrid::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTableWidget::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    if (isCut(index))
+        QToolTip::showText(help->globalPos(),
+                           QStringLiteral("<p style='white-space:pre-wrap'>%1</p>")
+                               .arg(text(index.row(), index.column()).toHtmlEscaped()),
+                           viewport(), visualRect(index));
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+bool MSFlexGrid::focusNextPrevChild(bool next)
+{
+    // Tab leaves the grid instead of walking its cells.
+    return QWidget::focusNextPrevChild(next);
+}
+
+void MSFlexGrid::layOutRows()
+{
+    const int height = viewport()->height();
+    for (int row = 0; row < rowCount(); ++row) {
+        const int top = height * row / m_visibleRows;
+        setRowHeight(row, std::max(1, height * (row + 1) / m_visibleRows - top));
+    }
+    constexpr int smallest = 9;
+    constexpr int largest = 22;
+    QFont rowFont = font();
+    rowFont.setPixelSize(std::clamp(height / m_visibleRows * 7 / 10, smallest, largest));
+    setFont(rowFont);
+}
+
+QTableWidgetItem &MSFlexGrid::cell(int row, int column) const
+{
+    QTableWidgetItem *found = item(row, column);
+    if (!found)
+        throw RunTimeError(RunTimeError::SubscriptOutOfRange);
+    return *found;
+}
+
+bool MSFlexGrid::isCut(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return false;
+    const QString shown = onOneLine(text(index.row(), index.column()));
+    QFont cellFont = font();
+    cellFont.setBold(cellBold(index.row(), index.column()));
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    return text(index.row(), index.column()) != shown ||
+           QFontMetrics(cellFont).horizontalAdvance(shown) + margin > columnWidth(index.column());
+}

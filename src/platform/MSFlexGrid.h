@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A page of cells without a scroll bar of its own: row 0 is the header, column 0 the item numbers.
+//
+// Rows and columns count from 0. Measures are in twips. Wheel and keyboard move the scroll bar
+// that the grid is given; Enter or Space click the current row.
+#pragma once
+
+#include <QTableWidget>
+
+class QScrollBar;
+
+class MSFlexGrid final : public QTableWidget
+{
+    Q_OBJECT
+
+public:
+    enum CellColour { White = 16777215, Yellow = 65535 };
+
+    explicit MSFlexGrid(QWidget *parent = nullptr);
+
+    // New rows and columns are empty.
+    void setSize(int rows, int columns);
+    // Empties every cell, header included, and takes off bold and background.
+    void Clear();
+
+    void setText(int row, int column, const QString &text);
+    // Empty outside the grid.
+    [[nodiscard]] QString text(int row, int column) const;
+    void setCellBold(int row, int column, bool bold);
+    [[nodiscard]] bool cellBold(int row, int column) const;
+    void setCellBackColour(int row, int column, CellColour colour);
+    [[nodiscard]] CellColour cellBackColour(int row, int column) const;
+
+    void setColWidth(int column, int twips);
+    [[nodiscard]] int ColWidth(int column) const;
+    // The rows from 0 on share the grid's height exactly; the text size follows. Rows behind them
+    // stay below the edge.
+    void setVisibleRows(int rows);
+    [[nodiscard]] int RowHeight(int row) const;
+
+    // The current cell.
+    void setCurrent(int row, int column) { setCurrentCell(row, column); }
+    [[nodiscard]] int Row() const { return currentRow(); }
+    [[nodiscard]] int Col() const { return currentColumn(); }
+
+    void scrollThrough(QScrollBar *scrollBar) { m_scrollBar = scrollBar; }
+
+Q_SIGNALS:
+    void Click(int row, int column);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void layOutRows();
+    [[nodiscard]] QTableWidgetItem &cell(int row, int column) const;
+    [[nodiscard]] bool isCut(const QModelIndex &index) const;
+
+    QScrollBar *m_scrollBar = nullptr;
+    int m_visibleRows = 1;
+};

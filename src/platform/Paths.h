@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program's fixed places.
+#pragma once
+
+#include <QString>
+
+enum class Place {
+    UserData,   // folder of what the program keeps for this person
+    Top10,      // file of the Top 10 table, in UserData
+    WordLists,  // start folder for word lists
+};
+
+// The absolute path. The folder that it lies in is made where it is missing; WordLists itself is
+// not, so that its absence tells the first start.
+[[nodiscard]] QString pathOf(Place place);

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Reads little-endian numbers and length-prefixed texts off a byte span, never beyond its end.
+//
+// A number that does not lie in the span whole is zero; a text cut off keeps what is there.
+#pragma once
+
+#include "runtime/Windows1252.h"
+
+#include <QtEndian>
+
+class ByteReader
+{
+public:
+    explicit ByteReader(QByteArrayView bytes) : m_rest(bytes) {}
+
+    [[nodiscard]] bool atEnd() const { return m_rest.isEmpty(); }
+
+    template <class Number> Number number()
+    {
+        const QByteArrayView bytes = take(sizeof(Number));
+        return bytes.size() < qsizetype(sizeof(Number)) ? Number(0)
+                                                        : qFromLittleEndian<Number>(bytes.data());
+    }
+
+    // An unsigned 16-bit length in bytes, then that many bytes of Windows-1252.
+    QString text() { return fromWindows1252(take(number<quint16>())); }
+
+private:
+    QByteArrayView take(qsizetype size)
+    {
+        const QByteArrayView taken = m_rest.first(qMin(size, m_rest.size()));
+        m_rest = m_rest.sliced(taken.size());
+        return taken;
+    }
+
+    QByteArrayView m_rest;
+};

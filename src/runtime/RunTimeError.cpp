@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "runtime/RunTimeError.h"
+
+namespace {
+
+QString words(RunTimeError::Number number)
+{
+    switch (number) {
+    case RunTimeError::InvalidProcedureCall:
+        return QStringLiteral("Invalid procedure call or argument");
+    case RunTimeError::Overflow:
+        return QStringLiteral("Overflow");
+    case RunTimeError::OutOfMemory:
+        return QStringLiteral("Out of memory");
+    case RunTimeError::SubscriptOutOfRange:
+        return QStringLiteral("Subscript out of range");
+    case RunTimeError::TypeMismatch:
+        return QStringLiteral("Type mismatch");
+    case RunTimeError::FileNotFound:
+        return QStringLiteral("File not found");
+    case RunTimeError::DiskFull:
+        return QStringLiteral("Disk full");
+    case RunTimeError::PermissionDenied:
+        return QStringLiteral("Permission denied");
+    case RunTimeError::PathFileAccess:
+        return QStringLiteral("Path/File access error");
+    case RunTimeError::PathNotFound:
+        return QStringLiteral("Path not found");
+    case RunTimeError::PrinterFault:
+        return QStringLiteral("Printer error");
+    }
+    return {};
+}
+
+} // namespace
+
+RunTimeError::RunTimeError(Number number, const QString &detail)
+    : m_number(number), m_detail(detail), m_what(report().toUtf8())
+{
+}
+
+QString RunTimeError::report() const
+{
+    QString text =
+        QStringLiteral("Run-time error '%1':\n\n%2").arg(int(m_number)).arg(words(m_number));
+    if (!m_detail.isEmpty())
+        text += QLatin1Char('\n') + m_detail;
+    return text;
+}

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "runtime/Windows1252.h"
+
+#include <unicode/ucnv.h>
+
+#include <array>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+struct Tables
+{
+    std::array<char16_t, 256> toUnicode{};
+    std::array<char, 65536> fromUnicode{};
+
+    Tables()
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        const std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(
+            ucnv_open("windows-1252", &status), ucnv_close);
+        std::array<char, 256> bytes{};
+        for (std::size_t i = 0; i < bytes.size(); ++i)
+            bytes[i] = static_cast<char>(i);
+        if (U_SUCCESS(status)) {
+            // One unit more than the text, so that ICU can end it without a warning.
+            std::array<char16_t, 257> characters{};
+            ucnv_toUChars(converter.get(), characters.data(), int(characters.size()), bytes.data(),
+                          int(bytes.size()), &status);
+            std::copy_n(characters.begin(), toUnicode.size(), toUnicode.begin());
+        }
+        if (U_FAILURE(status))
+            throw std::runtime_error("ICU has no converter for windows-1252");
+        fromUnicode.fill('?');
+        for (std::size_t i = 0; i < bytes.size(); ++i)
+            fromUnicode[toUnicode[i]] = bytes[i];
+    }
+};
+
+const Tables &tables()
+{
+    static const Tables tables;
+    return tables;
+}
+
+} // namespace
+
+QByteArray toWindows1252(QStringView text)
+{
+    const auto &map = tables().fromUnicode;
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char *out = bytes.data();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        *out++ = map[text[i].unicode()];
+        // A surrogate pair is one character and so one "?".
+        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            ++i;
+    }
+    bytes.truncate(out - bytes.constData());
+    return bytes;
+}
+
+QString fromWindows1252(QByteArrayView bytes)
+{
+    const auto &map = tables().toUnicode;
+    QString text(bytes.size(), Qt::Uninitialized);
+    QChar *out = text.data();
+    for (const char byte : bytes)
+        *out++ = QChar(map[static_cast<unsigned char>(byte)]);
+    return text;
+}
