@@ -21,9 +21,9 @@ void appendText(QByteArray &bytes, const QString &text, std::size_t recordNumber
 {
     const QByteArray encoded = toWindows1252(text);
     if (encoded.size() > std::numeric_limits<Length>::max())
-        throw RunTimeError(RunTimeError::Overflow,
-                           QStringLiteral("A text of word %1 is longer than 65535 characters")
-                               .arg(recordNumber));
+        throw RunTimeError(
+            RunTimeError::Overflow,
+            QStringLiteral("A text of word %1 is longer than 65535 characters").arg(recordNumber));
     appendNumber(bytes, static_cast<Length>(encoded.size()));
     bytes.append(encoded);
 }

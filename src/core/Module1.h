@@ -24,9 +24,9 @@ namespace Module1 {
 // The list open in the main window; made at the first call.
 cVocabList &gVocabList();
 
-inline QString gFileName;   // the path that SaveFile and OpenFile use; empty = untitled
-inline QString gFileTitle;  // the open list's file name without folder
-inline QString gOpenedFile; // the path of the file whose contents are loaded
+inline QString gFileName;     // the path that SaveFile and OpenFile use; empty = untitled
+inline QString gFileTitle;    // the open list's file name without folder
+inline QString gOpenedFile;   // the path of the file whose contents are loaded
 inline bool gChanged = false; // the list has unsaved changes
 inline bool gSaved = false;   // the last save was completed
 

@@ -26,10 +26,10 @@ void installSampleLists(const QString &folder)
         check(QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
                                               QFile::ReadOther));
     }
-    check(QFile::setPermissions(unfinished.path(),
-                                QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                    QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
-                                    QFile::ExeOther));
+    check(QFile::setPermissions(unfinished.path(), QFile::ReadOwner | QFile::WriteOwner |
+                                                       QFile::ExeOwner | QFile::ReadGroup |
+                                                       QFile::ExeGroup | QFile::ReadOther |
+                                                       QFile::ExeOther));
     check(QDir().rename(unfinished.path(), folder));
     unfinished.setAutoRemove(false);
 }

@@ -20,15 +20,14 @@ namespace {
 constexpr int GridRows = 25;
 constexpr int VisibleRows = 24; // the header and 23 entries
 
-constexpr int Spacing = 8;      // pixels, as all measures below
-constexpr int LineHeight = 32;  // of a one-line box or a button
+constexpr int Spacing = 8;     // pixels, as all measures below
+constexpr int LineHeight = 32; // of a one-line box or a button
 constexpr int ButtonWidth = 116;
 constexpr int SmallestEntryArea = 260;
 
 } // namespace
 
-frmMain::frmMain()
-    : m_ui(std::make_unique<Ui::frmMain>()), m_fileDialog(pathOf(Place::WordLists))
+frmMain::frmMain() : m_ui(std::make_unique<Ui::frmMain>()), m_fileDialog(pathOf(Place::WordLists))
 {
     m_ui->setupUi(this);
     for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep})
@@ -128,9 +127,7 @@ void frmMain::loadTop10()
 {
     Module1::gTop10 = Top10File::emptyTable(QDate::currentDate());
     // Without the table the editor works as well.
-    runGuarded([] {
-        Module1::gTop10 = Top10File::read(pathOf(Place::Top10), Module1::gTop10);
-    });
+    runGuarded([] { Module1::gTop10 = Top10File::read(pathOf(Place::Top10), Module1::gTop10); });
 }
 
 void frmMain::Form_GotFocus()
@@ -281,7 +278,7 @@ void frmMain::keyPressEvent(QKeyEvent *event)
 
 void frmMain::showCaption()
 {
-    setWindowTitle(QStringLiteral("LexiBrook- The Tanglewit: ") +
-                   (Module1::gFileTitle.isEmpty() ? QStringLiteral("(Untitled)")
-                                                  : Module1::gFileTitle));
+    setWindowTitle(
+        QStringLiteral("LexiBrook- The Tanglewit: ") +
+        (Module1::gFileTitle.isEmpty() ? QStringLiteral("(Untitled)") : Module1::gFileTitle));
 }

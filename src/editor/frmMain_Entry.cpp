@@ -153,8 +153,7 @@ void frmMain::txtDefinition_Change()
 
 void frmMain::txtSentence_Change()
 {
-    m_ui->FrameSen->setTitle(
-        QStringLiteral("Sentence: %1").arg(m_ui->txtSentence->text().size()));
+    m_ui->FrameSen->setTitle(QStringLiteral("Sentence: %1").arg(m_ui->txtSentence->text().size()));
 }
 
 void frmMain::showEntry()
@@ -176,17 +175,17 @@ void frmMain::ClearEntryBoxes()
 
 void frmMain::DisableEntryBoxes()
 {
-    for (QWidget *box : {static_cast<QWidget *>(m_ui->txtWord),
-                         static_cast<QWidget *>(m_ui->txtDefinition),
-                         static_cast<QWidget *>(m_ui->txtSentence)})
+    for (QWidget *box :
+         {static_cast<QWidget *>(m_ui->txtWord), static_cast<QWidget *>(m_ui->txtDefinition),
+          static_cast<QWidget *>(m_ui->txtSentence)})
         box->setEnabled(false);
 }
 
 void frmMain::EnableEntryBoxes()
 {
-    for (QWidget *box : {static_cast<QWidget *>(m_ui->txtWord),
-                         static_cast<QWidget *>(m_ui->txtDefinition),
-                         static_cast<QWidget *>(m_ui->txtSentence)})
+    for (QWidget *box :
+         {static_cast<QWidget *>(m_ui->txtWord), static_cast<QWidget *>(m_ui->txtDefinition),
+          static_cast<QWidget *>(m_ui->txtSentence)})
         box->setEnabled(true);
 }
 

@@ -3,8 +3,8 @@
 // already.
 #pragma once
 
-#include <QLockFile>
 #include <QApplication>
+#include <QLockFile>
 
 #include <memory>
 

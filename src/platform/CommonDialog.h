@@ -16,8 +16,8 @@ public:
     QString DialogTitle;
     // Pairs "text|pattern", joined by "|". The pattern *.* stands for all files.
     QString Filter;
-    QString DefaultExt; // without dot, added to a name that has none; empty = none
-    QString InitDir;    // where the dialog starts; empty = the last used folder
+    QString DefaultExt;           // without dot, added to a name that has none; empty = none
+    QString InitDir;              // where the dialog starts; empty = the last used folder
     bool OverwritePrompt = false; // asks before an existing file is chosen for saving
 
     QString FileName;  // full path of the chosen file; set beforehand, it is offered
