@@ -20,6 +20,8 @@ namespace {
 constexpr int GridRows = 25;
 constexpr int VisibleRows = 24; // the header and 23 entries
 
+constexpr int NumberWidth = 960; // twips, of the item numbers' column
+
 constexpr int Spacing = 8;     // pixels, as all measures below
 constexpr int LineHeight = 32; // of a one-line box or a button
 constexpr int ButtonWidth = 116;
@@ -171,6 +173,7 @@ void frmMain::place(MainLayout layout, int entryHeight)
 {
     MSFlexGrid &grid = *m_ui->MSFlexGrid1;
     int column = 0;
+    grid.setColWidth(column, NumberWidth);
     for (const int width : layout.columnWidths)
         grid.setColWidth(++column, width);
     const int windowWidth = pixels(layout.frameWidth + 200);

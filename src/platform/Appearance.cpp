@@ -13,6 +13,11 @@ bool isDark(const QPalette &palette)
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
+QColor onAccentColour(const QPalette &palette)
+{
+    return isDark(palette) ? Qt::black : Qt::white;
+}
+
 QString styleSheet(const QPalette &palette)
 {
     const bool dark = isDark(palette);
@@ -25,6 +30,7 @@ QLineEdit, QPlainTextEdit {
     selection-background-color: @accent; selection-color: @onAccent; }
 QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid @accent; padding: 2px 5px; }
 QLineEdit:disabled, QPlainTextEdit:disabled { background: palette(window); }
+QLineEdit#txtWord, EntryTextBox { font-size: 15px; }
 QPushButton {
     background: palette(button); border: 1px solid @line; border-radius: 6px;
     padding: 5px 14px; min-height: 18px; }
@@ -33,7 +39,8 @@ QPushButton:pressed { background: @line; }
 QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
 QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; }
 QPushButton:disabled { background: palette(window); color: @disabled; border-color: @line; }
-MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @line; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
 MSFlexGrid:focus { border-bottom: 2px solid @accent; }
 )");
     const QColor accent = accentColour(palette);
@@ -41,9 +48,10 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
         sheet.replace(QLatin1String(name), colour.name());
     };
     set("@accent", accent);
-    set("@onAccent", dark ? QColor(Qt::black) : QColor(Qt::white));
+    set("@onAccent", onAccentColour(palette));
     set("@focus", dark ? QColor(Qt::white) : accent.darker(170));
     set("@line", dark ? QColor(0x5A, 0x5F, 0x63) : QColor(0xC3, 0xCB, 0xD1));
+    set("@thin", dark ? QColor(0x44, 0x48, 0x4C) : QColor(0xDD, 0xE2, 0xE6));
     set("@quiet", dark ? QColor(0xB4, 0xBC, 0xC2) : QColor(0x4A, 0x56, 0x5E));
     set("@disabled", dark ? QColor(0x8A, 0x90, 0x94) : QColor(0x8A, 0x93, 0x99));
     return sheet;
@@ -60,7 +68,14 @@ void applyAppearance(QApplication &application)
 {
     if (application.style()->name() != QLatin1String("fusion"))
         application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const QString sheet = styleSheet(application.palette());
+    QPalette palette = QApplication::palette();
+    const QColor accent = accentColour(palette);
+    if (palette.color(QPalette::Highlight) != accent) {
+        palette.setColor(QPalette::Highlight, accent);
+        palette.setColor(QPalette::HighlightedText, onAccentColour(palette));
+        QApplication::setPalette(palette);
+    }
+    const QString sheet = styleSheet(palette);
     if (application.styleSheet() != sheet)
         application.setStyleSheet(sheet);
 }

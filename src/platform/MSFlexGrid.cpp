@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -34,6 +35,17 @@ public:
                                       const QLocale & /*locale*/) const override
     {
         return onOneLine(value.toString());
+    }
+
+protected:
+    // Header and item numbers frame the page.
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.row() == 0 || index.column() == 0)
+            option->backgroundBrush = option->palette.window();
+        if (index.column() == 0)
+            option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
     }
 };
 
@@ -155,6 +167,28 @@ void MSFlexGrid::setVisibleRows(int rows)
 int MSFlexGrid::RowHeight(int row) const
 {
     return rowHeight(row) * TwipsPerPixel;
+}
+
+// Where the columns leave room, the rows go on to the right edge.
+void MSFlexGrid::paintEvent(QPaintEvent *event)
+{
+    QTableWidget::paintEvent(event);
+    const int last = columnCount() - 1;
+    const int left = columnViewportPosition(last) + columnWidth(last);
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const int lineColour = style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this);
+    QPainter painter(viewport());
+    painter.setPen(QColor::fromRgba(static_cast<QRgb>(lineColour)));
+    for (int row = 0; row < rowCount(); ++row) {
+        const QRect rest(left, rowViewportPosition(row), viewport()->width() - left,
+                         rowHeight(row));
+        if (row == 0)
+            painter.fillRect(rest, palette().window());
+        else if (cellBackColour(row, last) == Yellow)
+            painter.fillRect(rest, Qt::yellow);
+        painter.drawLine(rest.bottomLeft(), rest.bottomRight());
+    }
 }
 
 void MSFlexGrid::resizeEvent(QResizeEvent *event)
