@@ -45,7 +45,7 @@ int WordIndex::find(const QString &word, int start) const
     if (entry == m_entries.cend() || start > int(m_marks.size()))
         return 0;
     const Mark startMark = m_marks[static_cast<std::size_t>(start - 1)];
-    const auto mark = std::lower_bound(entry->begin(), entry->end(), startMark);
+    const auto *const mark = std::lower_bound(entry->begin(), entry->end(), startMark);
     if (mark == entry->end())
         return 0;
     return 1 + int(std::lower_bound(m_marks.begin(), m_marks.end(), *mark) - m_marks.begin());

@@ -66,8 +66,8 @@ QColor accentColour(const QPalette &palette)
 
 void applyAppearance(QApplication &application)
 {
-    if (application.style()->name() != QLatin1String("fusion"))
-        application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (QApplication::style()->name() != QLatin1String("fusion"))
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QPalette palette = QApplication::palette();
     const QColor accent = accentColour(palette);
     if (palette.color(QPalette::Highlight) != accent) {

@@ -5,13 +5,15 @@
 
 #include <QString>
 
+#include <utility>
+
 class QWidget;
 
 class CommonDialog
 {
 public:
     // The folder that counts as last used at first.
-    explicit CommonDialog(const QString &startFolder) : m_lastFolder(startFolder) {}
+    explicit CommonDialog(QString startFolder) : m_lastFolder(std::move(startFolder)) {}
 
     QString DialogTitle;
     // Pairs "text|pattern", joined by "|". The pattern *.* stands for all files.

@@ -83,6 +83,7 @@ MSFlexGrid::MSFlexGrid(QWidget *parent) : QTableWidget(parent)
     setSelectionMode(NoSelection);
     setWordWrap(false);
     setAutoScroll(false);
+    setTabKeyNavigation(false); // Tab leaves the grid
     connect(this, &QTableWidget::cellClicked, this, &MSFlexGrid::Click);
 }
 
@@ -236,12 +237,6 @@ bool MSFlexGrid::viewportEvent(QEvent *event)
     else
         QToolTip::hideText();
     return true;
-}
-
-bool MSFlexGrid::focusNextPrevChild(bool next)
-{
-    // Tab leaves the grid instead of walking its cells.
-    return QWidget::focusNextPrevChild(next);
 }
 
 void MSFlexGrid::layOutRows()

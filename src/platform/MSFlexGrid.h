@@ -54,7 +54,6 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;
-    bool focusNextPrevChild(bool next) override;
 
 private:
     void layOutRows();

@@ -8,7 +8,7 @@ namespace {
 
 QString madeFolder(QStandardPaths::StandardLocation location, const QString &name)
 {
-    const QString folder = QStandardPaths::writableLocation(location) + QLatin1Char('/') + name;
+    QString folder = QStandardPaths::writableLocation(location) + QLatin1Char('/') + name;
     QDir().mkpath(folder);
     return folder;
 }

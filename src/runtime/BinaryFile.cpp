@@ -106,7 +106,7 @@ QByteArray BinaryFile::read(const QString &path)
     const bool missing = !file.exists();
     if (!file.open(missing ? QIODevice::ReadWrite : QIODevice::ReadOnly))
         fail(RunTimeError::PermissionDenied, path, file.errorString());
-    const QByteArray content = file.readAll();
+    QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError)
         fail(file, path);
     return content;

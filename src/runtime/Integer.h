@@ -37,7 +37,11 @@ public:
     friend constexpr Integer operator-(Integer a, Integer b) { return a.toInt() - b.toInt(); }
     friend constexpr Integer operator*(Integer a, Integer b) { return a.toInt() * b.toInt(); }
     friend constexpr Integer operator-(Integer a) { return -a.toInt(); }
-    friend constexpr auto operator<=>(Integer a, Integer b) = default;
+    friend constexpr bool operator==(Integer a, Integer b) { return a.m_value == b.m_value; }
+    friend constexpr std::strong_ordering operator<=>(Integer a, Integer b)
+    {
+        return a.m_value <=> b.m_value;
+    }
 
 private:
     static constexpr short checked(WholeNumber auto value)

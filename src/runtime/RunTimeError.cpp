@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runtime/RunTimeError.h"
 
+#include <utility>
+
 namespace {
 
 QString words(RunTimeError::Number number)
@@ -34,8 +36,8 @@ QString words(RunTimeError::Number number)
 
 } // namespace
 
-RunTimeError::RunTimeError(Number number, const QString &detail)
-    : m_number(number), m_detail(detail), m_what(report().toUtf8())
+RunTimeError::RunTimeError(Number number, QString detail)
+    : m_number(number), m_detail(std::move(detail)), m_what(report().toUtf8())
 {
 }
 

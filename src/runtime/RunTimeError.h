@@ -25,7 +25,7 @@ public:
     };
 
     // detail: for a file error the path and the system's reason, else empty.
-    explicit RunTimeError(Number number, const QString &detail = {});
+    explicit RunTimeError(Number number, QString detail = {});
 
     [[nodiscard]] Number number() const noexcept { return m_number; }
     // What the person reads: the numbered line, an empty line, the words and, where there is
