@@ -4,14 +4,14 @@
 #include "runtime/BinaryFile.h"
 #include "runtime/ByteReader.h"
 
-#include <cmath>
-
 namespace {
 
 QDate dateOfDayCount(double days)
 {
-    constexpr double latest = 2958465; // 31 December 9999
-    if (!(std::abs(days) <= latest))
+    constexpr double earliest = -657434; // 1 January 100
+    constexpr double latest = 2958465;   // 31 December 9999
+    // The day is the whole part, on both sides of zero.
+    if (!(days > earliest - 1 && days < latest + 1))
         return {};
     return QDate(1899, 12, 30).addDays(static_cast<qint64>(days));
 }

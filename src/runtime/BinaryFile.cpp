@@ -42,10 +42,24 @@ void checkPlace(const QString &path)
 // The file that a chain of symbolic links ends at, existing or not.
 QString withoutLinks(const QString &path)
 {
+    const QString existing = QFileInfo(path).canonicalFilePath();
+    if (!existing.isEmpty())
+        return existing;
     QString target = path;
     for (int links = 0; links < 40 && QFileInfo(target).isSymLink(); ++links)
         target = QFileInfo(target).symLinkTarget();
     return target;
+}
+
+// A write that stops short gives no reason; the next one does.
+void write(QFileDevice &file, QByteArrayView content, const QString &path)
+{
+    while (!content.isEmpty()) {
+        const qint64 written = file.write(content.data(), content.size());
+        if (written <= 0)
+            fail(file, path);
+        content = content.sliced(written);
+    }
 }
 
 void copyRest(QFile &from, QFileDevice &to, qint64 position, const QString &path)
@@ -58,15 +72,8 @@ void copyRest(QFile &from, QFileDevice &to, qint64 position, const QString &path
         const QByteArray chunk = from.read(ChunkSize);
         if (from.error() != QFileDevice::NoError)
             fail(from, path);
-        if (to.write(chunk) != chunk.size())
-            fail(to, path);
+        write(to, chunk, path);
     }
-}
-
-void write(QFileDevice &file, QByteArrayView content, const QString &path)
-{
-    if (file.write(content.data(), content.size()) != content.size())
-        fail(file, path);
 }
 
 void flush(QFileDevice &file, const QString &path)
@@ -79,8 +86,13 @@ void flush(QFileDevice &file, const QString &path)
 }
 
 // For a folder that admits no second file: the old bytes are put back if the new ones do not fit.
-void writeInPlace(QFile &file, QByteArrayView content, const QString &path)
+// Unbuffered, for bytes that the disk refused would stay in a buffer and come again.
+void writeInPlace(const QString &target, QByteArrayView content, const QString &path)
 {
+    QFile file(target);
+    const bool exists = file.exists();
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        fail(RunTimeError::PermissionDenied, path, file.errorString());
     const qint64 oldSize = file.size();
     const QByteArray oldStart = file.read(content.size());
     try {
@@ -92,7 +104,9 @@ void writeInPlace(QFile &file, QByteArrayView content, const QString &path)
         file.seek(0);
         file.write(oldStart);
         file.resize(oldSize);
-        file.flush();
+        static_cast<void>(flushToDisk(file));
+        if (!exists)
+            file.remove();
         throw;
     }
 }
@@ -101,8 +115,9 @@ void writeInPlace(QFile &file, QByteArrayView content, const QString &path)
 
 QByteArray BinaryFile::read(const QString &path)
 {
-    checkPlace(path);
-    QFile file(path);
+    const QString target = withoutLinks(path);
+    checkPlace(target);
+    QFile file(target);
     const bool missing = !file.exists();
     if (!file.open(missing ? QIODevice::ReadWrite : QIODevice::ReadOnly))
         fail(RunTimeError::PermissionDenied, path, file.errorString());
@@ -125,14 +140,16 @@ void BinaryFile::overwrite(const QString &path, QByteArrayView content)
     if (!newFile.open(QIODevice::WriteOnly)) {
         if (!exists)
             fail(RunTimeError::PermissionDenied, path, newFile.errorString());
-        writeInPlace(oldFile, content, path);
+        oldFile.close();
+        writeInPlace(target, content, path);
         return;
     }
     write(newFile, content, path);
     copyRest(oldFile, newFile, content.size(), path);
     flush(newFile, path);
     oldFile.close();
+    // The name may be too long for a second one beside it, or the folder's rights refuse the swap.
     if (!newFile.commit())
-        fail(newFile, path);
+        writeInPlace(target, content, path);
     flushFolderToDisk(QFileInfo(target).absolutePath());
 }
