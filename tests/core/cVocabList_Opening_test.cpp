@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/cVocabList.h"
+
+#include "core/ListTools.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using Module1::gChanged;
+using Module1::gFileName;
+
+namespace {
+
+// A list that was in use when the next file is opened: stale slot, a search under way.
+void fill(cVocabList &list)
+{
+    addWords(list, {u"old"_s, u"two"_s, u"old"_s, u"four"_s});
+    list.DeleteVocab();
+    static_cast<void>(list.SearchWord(u"old"_s));
+    list.CurrentWord(2);
+}
+
+} // namespace
+
+class cVocabList_Opening_test : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { gChanged = true; }
+    void cleanup() { gFileName.clear(); }
+
+    void openingReplacesTheListAndGoesToEntryOne()
+    {
+        const TestFolder folder;
+        gFileName =
+            folder.write(u"list.lwx"_s, fileCount(2) + fileRecord("cat", "animal", "Meow.") +
+                                            fileRecord("old", "", "s"));
+        cVocabList list;
+        fill(list);
+        QVERIFY(list.OpenFile());
+        QCOMPARE(wordsOf(list), (QStringList{u"cat"_s, u"old"_s}));
+        QCOMPARE(entryText(list, 1), u"cat|animal|Meow."_s);
+        QCOMPARE(entryText(list, 2), u"old||s"_s);
+        QCOMPARE(list.CurrentWord().toInt(), 1);
+        QVERIFY(!gChanged);
+        QVERIFY(!hasSlot(list, 0));
+        QVERIFY(!hasSlot(list, 3));
+        QVERIFY(!list.Exist(u"two"_s, 1));
+        QCOMPARE(list.SearchWord(u"cat"_s).toInt(), 1); // the search began anew
+    }
+
+    void withoutANameTheListStaysButForPositionSearchAndChanges()
+    {
+        cVocabList list;
+        fill(list);
+        QVERIFY(!list.OpenFile());
+        QCOMPARE(wordsOf(list), (QStringList{u"old"_s, u"two"_s, u"old"_s}));
+        QVERIFY(hasSlot(list, 4));
+        QCOMPARE(list.CurrentWord().toInt(), 1);
+        QVERIFY(!gChanged);
+        QCOMPARE(list.SearchWord(u"old"_s).toInt(), 1);
+    }
+
+    void anEmptyFileOpensAsAnEmptyListWithOneSlot_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("no bytes") << QByteArray();
+        QTest::newRow("half a count") << QByteArray("\x05");
+        QTest::newRow("count 0") << fileCount(0);
+        QTest::newRow("count 0 before records") << fileCount(0) + fileRecord("cat");
+    }
+
+    void anEmptyFileOpensAsAnEmptyListWithOneSlot()
+    {
+        QFETCH(QByteArray, bytes);
+        const TestFolder folder;
+        gFileName = folder.write(u"list.lwx"_s, bytes);
+        cVocabList list;
+        fill(list);
+        QVERIFY(list.OpenFile());
+        QCOMPARE(list.NumWords().toInt(), 0);
+        QCOMPARE(list.CurrentWord().toInt(), 1);
+        QCOMPARE(entryText(list, 1), u"||"_s);
+        QVERIFY(!hasSlot(list, 0));
+        QVERIFY(!hasSlot(list, 2));
+        QVERIFY(!gChanged);
+        QVERIFY(!list.Exist(u"old"_s, 1));
+        QCOMPARE(folder.bytes(u"list.lwx"_s), bytes);
+        addWords(list, {u"new"_s});
+        QCOMPARE(wordsOf(list), QStringList{u"new"_s});
+        QVERIFY(!hasSlot(list, 2));
+    }
+
+    void aMissingFileIsCreatedEmptyAndOpensAsAnEmptyList()
+    {
+        const TestFolder folder;
+        gFileName = folder.path(u"new.lwx"_s);
+        cVocabList list;
+        fill(list);
+        QVERIFY(list.OpenFile());
+        QCOMPARE(list.NumWords().toInt(), 0);
+        QCOMPARE(folder.names(), QStringList{u"new.lwx"_s});
+        QCOMPARE(folder.bytes(u"new.lwx"_s), QByteArray());
+    }
+
+    void aFileShorterThanItsCountGivesEmptyTexts()
+    {
+        const TestFolder folder;
+        gFileName = folder.write(u"list.lwx"_s, fileCount(4) + fileRecord("cat"));
+        cVocabList list;
+        QVERIFY(list.OpenFile());
+        QCOMPARE(wordsOf(list), (QStringList{u"cat"_s, QString(), QString(), QString()}));
+        QCOMPARE(entryText(list, 4), u"||"_s);
+    }
+
+    void theLargestListRoundTrips()
+    {
+        const TestFolder folder;
+        gFileName = folder.path(u"list.lwx"_s);
+        cVocabList list;
+        for (int i = 1; i <= cVocabList::MaxWords; ++i)
+            addWords(list, {QString::number(i)});
+        list.SaveFile();
+        cVocabList opened;
+        QVERIFY(opened.OpenFile());
+        QCOMPARE(opened.NumWords().toInt(), 32000);
+        QCOMPARE(wordsOf(opened), wordsOf(list));
+        QVERIFY(opened.Exist(u"32000"_s, 1));
+        QCOMPARE(opened.CurrentWord().toInt(), 32000);
+    }
+
+    void textsRoundTrip()
+    {
+        QByteArray all;
+        for (int byte = 0; byte < 256; ++byte)
+            all.append(char(byte));
+        const QStringList texts{QString(),
+                                u" "_s,
+                                u"line\r\nbreak\tand tab"_s,
+                                u"déjà vu – 5 €"_s,
+                                fromWindows1252(all),
+                                QString(65'535, u'x')};
+        const TestFolder folder;
+        gFileName = folder.path(u"list.lwx"_s);
+        cVocabList list;
+        for (const QString &text : texts)
+            for (const QString &other : texts)
+                list.AddVocab(text, other, text);
+        list.SaveFile();
+        cVocabList opened;
+        QVERIFY(opened.OpenFile());
+        QCOMPARE(opened.NumWords().toInt(), 36);
+        for (int i = 1; i <= 36; ++i)
+            QCOMPARE(entryText(opened, i), entryText(list, i));
+    }
+
+    void charactersThatTheCodePageLacksComeBackAsQuestionMarks()
+    {
+        const TestFolder folder;
+        gFileName = folder.path(u"list.lwx"_s);
+        cVocabList list;
+        list.AddVocab(u"αβ"_s, u"a😀b"_s, u"Ωmega"_s);
+        list.SaveFile();
+        QVERIFY(list.OpenFile());
+        QCOMPARE(entryText(list, 1), u"??|a?b|?mega"_s);
+    }
+
+    void aFileThatCannotBeOpenedLeavesAllAsItWas_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("error");
+        const int subscript = RunTimeError::SubscriptOutOfRange;
+        QTest::newRow("missing folder")
+            << u"none/list.lwx"_s << QByteArray() << int(RunTimeError::PathNotFound);
+        QTest::newRow("folder of that name")
+            << u"folder"_s << QByteArray() << int(RunTimeError::PathFileAccess);
+        for (const int count : {-1, -2, -32768, 32001, 32767})
+            QTest::addRow("count %d", count)
+                << u"list.lwx"_s << fileCount(count) + fileRecord("cat") << subscript;
+    }
+
+    void aFileThatCannotBeOpenedLeavesAllAsItWas()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, error);
+        const TestFolder folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"folder"_s));
+        if (!bytes.isEmpty())
+            folder.write(name, bytes);
+        gFileName = folder.path(name);
+        for (const bool changed : {true, false}) {
+            gChanged = changed;
+            cVocabList list;
+            fill(list);
+            QCOMPARE(int(errorNumberOf([&] { return list.OpenFile(); })), error);
+            QCOMPARE(gChanged, changed);
+            QCOMPARE(gFileName, folder.path(name));
+            QCOMPARE(list.CurrentWord().toInt(), 2);
+            QCOMPARE(wordsOf(list), (QStringList{u"old"_s, u"two"_s, u"old"_s}));
+            QCOMPARE(entryText(list, 4), u"four|four def|four sen"_s);
+            QCOMPARE(list.SearchWord(u"old"_s).toInt(), 3);
+        }
+    }
+
+    void aFileCutAnywhereOpensOrLeavesAllAsItWas()
+    {
+        const QByteArray whole =
+            fileCount(3) + fileRecord("cat") + fileRecord("", "", "x") + fileRecord("dog");
+        const TestFolder folder;
+        for (qsizetype size = 0; size <= whole.size(); ++size) {
+            gFileName = folder.write(u"list.lwx"_s, whole.first(size));
+            cVocabList list;
+            QVERIFY(list.OpenFile());
+            QCOMPARE(list.NumWords().toInt(), size < 2 ? 0 : 3);
+            const int endOfCat = 2 + 3 * 2 + 3 + 7 + 7;
+            if (size >= endOfCat)
+                QCOMPARE(entryText(list, 1), u"cat|cat def|cat sen"_s);
+            if (size < whole.size() && size >= 2)
+                QVERIFY(entryText(list, 3) != u"dog|dog def|dog sen"_s);
+        }
+    }
+
+    void twoThousandFilesOfRandomBytesOpenOrLeaveTheListAsItWas()
+    {
+        std::mt19937 random(2024);
+        const TestFolder folder;
+        cVocabList list;
+        fill(list);
+        int opened = 0;
+        int refused = 0;
+        for (unsigned i = 0; i < 2000; ++i) {
+            QByteArray bytes = randomBytes(qsizetype(random() % 600), i);
+            if (i % 50 != 0 && bytes.size() >= 2)
+                bytes.replace(0, 2, fileCount(int(random() % 50)));
+            gFileName = folder.write(u"list.lwx"_s, bytes);
+            const QStringList before = wordsOf(list);
+            const int count = bytes.size() < 2 ? 0 : qFromLittleEndian<qint16>(bytes.constData());
+            if (count < 0 || count > cVocabList::MaxWords) {
+                QCOMPARE(errorNumberOf([&] { return list.OpenFile(); }),
+                         RunTimeError::SubscriptOutOfRange);
+                QCOMPARE(wordsOf(list), before);
+                ++refused;
+            } else {
+                QVERIFY(list.OpenFile());
+                QCOMPARE(list.NumWords().toInt(), count);
+                ++opened;
+            }
+            QCOMPARE(folder.bytes(u"list.lwx"_s), bytes);
+        }
+        QVERIFY(opened > 1900);
+        QVERIFY(refused > 10);
+    }
+};
+
+QTEST_GUILESS_MAIN(cVocabList_Opening_test)
+#include "cVocabList_Opening_test.moc"

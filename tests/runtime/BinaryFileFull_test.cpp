@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Writing where the new bytes do not fit, under a limit on the size of files: the old file stays
+// whole.
+#include "runtime/BinaryFile.h"
+
+#include "runtime/ChildProcess.h"
+#include "runtime/TestFiles.h"
+
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Name = u"list.lwx"_s;
+
+bool limitFileSize(rlim_t size)
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{size, size};
+    return setrlimit(RLIMIT_FSIZE, &limit) == 0;
+}
+
+} // namespace
+
+class BinaryFileFull_test : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFileThatMayNotGrowStaysWhole_data()
+    {
+        QTest::addColumn<bool>("inPlace");
+        QTest::addColumn<int>("oldSize");
+        QTest::addColumn<int>("newSize");
+        for (const bool inPlace : {false, true}) {
+            const char *kind = inPlace ? "in place" : "replaced";
+            QTest::addRow("%s, small over small", kind) << inPlace << 100 << 12'000;
+            QTest::addRow("%s, small over empty", kind) << inPlace << 0 << 12'000;
+            QTest::addRow("%s, large over small", kind) << inPlace << 100 << 100'000;
+            QTest::addRow("%s, large over middle", kind) << inPlace << 3'000 << 100'000;
+            QTest::addRow("%s, very large", kind) << inPlace << 3'000 << 3'000'000;
+        }
+    }
+
+    void aFileThatMayNotGrowStaysWhole()
+    {
+        QFETCH(bool, inPlace);
+        QFETCH(int, oldSize);
+        QFETCH(int, newSize);
+        const TestFolder folder;
+        const QByteArray before = randomBytes(oldSize, 1);
+        const QByteArray content = randomBytes(newSize, 2);
+        const QString path = folder.write(Name, before);
+        // A folder that may not be written to admits no temporary file.
+        QVERIFY(folder.setMode(inPlace ? 0555 : 0755));
+        const int error = inChildProcess([&] {
+            return dropPrivileges() && limitFileSize(8'000)
+                       ? int(errorNumberOf([&] { BinaryFile::overwrite(path, content); }))
+                       : 254;
+        });
+        QVERIFY(folder.setMode(0755));
+        QCOMPARE(error, int(RunTimeError::PathFileAccess));
+        QCOMPARE(folder.bytes(Name), before);
+        QCOMPARE(folder.names(), QStringList{Name});
+    }
+
+    void aNewFileThatDoesNotFitIsNotLeftBehind()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(Name);
+        const QByteArray content = randomBytes(100'000, 1);
+        const int error = inChildProcess([&] {
+            return limitFileSize(8'000)
+                       ? int(errorNumberOf([&] { BinaryFile::overwrite(path, content); }))
+                       : 254;
+        });
+        QCOMPARE(error, int(RunTimeError::PathFileAccess));
+        QCOMPARE(folder.names(), QStringList());
+    }
+
+    void anOldTailThatDoesNotFitIsAnError()
+    {
+        const TestFolder folder;
+        const QByteArray before = randomBytes(100'000, 1);
+        const QString path = folder.write(Name, before);
+        const int error = inChildProcess([&] {
+            return limitFileSize(8'000)
+                       ? int(errorNumberOf([&] { BinaryFile::overwrite(path, "abc"); }))
+                       : 254;
+        });
+        QCOMPARE(error, int(RunTimeError::PathFileAccess));
+        QCOMPARE(folder.bytes(Name), before);
+        QCOMPARE(folder.names(), QStringList{Name});
+    }
+};
+
+QTEST_GUILESS_MAIN(BinaryFileFull_test)
+#include "BinaryFileFull_test.moc"

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Writing to a full disk: a file system of 64 KiB that the test mounts for itself alone.
+#include "runtime/BinaryFile.h"
+
+#include "runtime/ChildProcess.h"
+#include "runtime/TestFiles.h"
+
+#include <QTest>
+
+#include <sched.h>
+#include <sys/mount.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype DiskSize = 64 * 1024;
+constexpr int CannotMount = 254;
+const QString Name = u"list.lwx"_s;
+
+bool writeTo(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+           file.write(text) == text.size();
+}
+
+// Seen by this process alone and gone with it.
+bool mountSmallDisk(const QString &folder)
+{
+    const QByteArray user = QByteArray::number(getuid());
+    const QByteArray group = QByteArray::number(getgid());
+    return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 &&
+           writeTo(u"/proc/self/setgroups"_s, "deny") &&
+           writeTo(u"/proc/self/uid_map"_s, "0 " + user + " 1") &&
+           writeTo(u"/proc/self/gid_map"_s, "0 " + group + " 1") &&
+           mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, "size=64k") == 0;
+}
+
+// From now on the disk admits no new file.
+bool allowNoNewFile(const QString &folder)
+{
+    return chmod(QFile::encodeName(folder).constData(), 0555) == 0 && dropPrivileges();
+}
+
+// Takes the last page too.
+void fillUp(const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        while (file.write(QByteArray(512, 'f')) == 512) {
+        }
+}
+
+} // namespace
+
+class BinaryFileSmallDisk_test : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFullDiskLeavesTheOldFileWhole_data()
+    {
+        QTest::addColumn<bool>("inPlace");
+        QTest::addColumn<int>("oldSize");
+        QTest::addColumn<int>("newSize");
+        QTest::addColumn<bool>("full");
+        for (const bool inPlace : {false, true}) {
+            const char *kind = inPlace ? "in place" : "replaced";
+            QTest::addRow("%s, small, disk full", kind) << inPlace << 4096 << 12'000 << true;
+            QTest::addRow("%s, large, disk full", kind) << inPlace << 4096 << 30'000 << true;
+            QTest::addRow("%s, large over small", kind) << inPlace << 100 << 70'000 << false;
+            QTest::addRow("%s, larger than the disk", kind) << inPlace << 9'000 << 300'000 << false;
+        }
+        // Each fits, but not both at the same time.
+        QTest::newRow("replaced, two do not fit") << false << 40'000 << 40'000 << false;
+        QTest::newRow("replaced, small with a long tail") << false << 40'000 << 10 << false;
+    }
+
+    void aFullDiskLeavesTheOldFileWhole()
+    {
+        QFETCH(bool, inPlace);
+        QFETCH(int, oldSize);
+        QFETCH(int, newSize);
+        QFETCH(bool, full);
+        const TestFolder outside;
+        QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
+        const QString disk = outside.path(u"disk/"_s);
+        const QByteArray before = randomBytes(oldSize, 1);
+        const QByteArray content = randomBytes(newSize, 2);
+        const int error = inChildProcess([&] {
+            if (!mountSmallDisk(disk) || !writeTo(disk + Name, before))
+                return CannotMount;
+            if (full)
+                fillUp(disk + u"filler"_s);
+            if (inPlace && !allowNoNewFile(disk))
+                return CannotMount;
+            const int number = errorNumberOf([&] { BinaryFile::overwrite(disk + Name, content); });
+            writeTo(
+                outside.path(u"names"_s),
+                QDir(disk).entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u'\n').toUtf8());
+            return QFile::copy(disk + Name, outside.path(u"found"_s)) ? number : 253;
+        });
+        QCOMPARE(error, int(RunTimeError::DiskFull));
+        QCOMPARE(outside.bytes(u"found"_s), before);
+        QCOMPARE(outside.bytes(u"names"_s), full ? "filler\n" + Name.toUtf8() : Name.toUtf8());
+    }
+
+    void aNewFileThatDoesNotFitIsNotLeftBehind()
+    {
+        const TestFolder outside;
+        QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
+        const QString disk = outside.path(u"disk/"_s);
+        const QByteArray content = randomBytes(DiskSize + 1, 1);
+        const int error = inChildProcess([&] {
+            if (!mountSmallDisk(disk))
+                return CannotMount;
+            const int number = errorNumberOf([&] { BinaryFile::overwrite(disk + Name, content); });
+            return QDir(disk).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                       ? number
+                       : 253;
+        });
+        QCOMPARE(error, int(RunTimeError::DiskFull));
+    }
+
+    void aFileOfTheWholeDiskFitsInPlace()
+    {
+        const TestFolder outside;
+        QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
+        const QString disk = outside.path(u"disk/"_s);
+        const QByteArray content = randomBytes(DiskSize, 1);
+        const int error = inChildProcess([&] {
+            if (!mountSmallDisk(disk) || !writeTo(disk + Name, "old") || !allowNoNewFile(disk))
+                return CannotMount;
+            const int number = errorNumberOf([&] { BinaryFile::overwrite(disk + Name, content); });
+            return QFile::copy(disk + Name, outside.path(u"found"_s)) ? number : 253;
+        });
+        QCOMPARE(error, int(NoRunTimeError));
+        QCOMPARE(outside.bytes(u"found"_s), content);
+    }
+};
+
+QTEST_GUILESS_MAIN(BinaryFileSmallDisk_test)
+#include "BinaryFileSmallDisk_test.moc"

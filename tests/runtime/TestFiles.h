@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Files put there and looked at without the code under test.
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <random>
+#include <sys/stat.h>
+
+class TestFolder
+{
+public:
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString path() const { return m_folder.path(); }
+
+    QString write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("The test cannot write %s", qPrintable(file.fileName()));
+        return file.fileName();
+    }
+
+    [[nodiscard]] QByteArray bytes(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : "(cannot be read)";
+    }
+
+    // Permission bits of the folder itself.
+    [[nodiscard]] bool setMode(mode_t mode) const
+    {
+        return chmod(QFile::encodeName(path()).constData(), mode) == 0;
+    }
+
+    // The names of all that is in the folder, hidden or dangling too, sorted.
+    [[nodiscard]] QStringList names() const
+    {
+        return QDir(path()).entryList(
+            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+// Different bytes for each seed, the same in every run.
+[[nodiscard]] inline QByteArray randomBytes(qsizetype size, unsigned seed)
+{
+    std::mt19937 random(seed);
+    QByteArray bytes(size, '\0');
+    for (char &byte : bytes)
+        byte = static_cast<char>(random() & 0xFF);
+    return bytes;
+}
