@@ -100,9 +100,7 @@ void frmMain::Form_Load()
     grid.setVisibleRows(VisibleRows);
     gNewWord = gWordSelected = gChanged = false;
 
-    const QSize screen = screenInTwips(*this);
-    place(mainLayout(screen.width(), screen.height()), SmallestEntryArea);
-    gRowHeight = grid.RowHeight(1);
+    fitToWindow();
     emptyGrid();
 
     gLastItem = 1;
@@ -159,17 +157,23 @@ void frmMain::mnuExit_Click()
 void frmMain::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
+    fitToWindow();
+}
+
+// Laid out from the whole screen's size, which the window takes; smaller where it is smaller.
+void frmMain::fitToWindow()
+{
     const QSize screen = screenInTwips(*this);
     const QSize inside = centralWidget()->size() * TwipsPerPixel;
     MainLayout layout = mainLayout(std::min(screen.width(), inside.width()), screen.height());
-    // In a window smaller than the screen the grid gives way before the entry area is cut.
+    // The grid gives way before the entry area is cut.
     const int room = std::max(0, inside.height() - SmallestEntryArea * TwipsPerPixel);
     layout.gridHeight = layout.frameTop = std::min(layout.gridHeight, room);
     place(layout, centralWidget()->height() - pixels(layout.frameTop));
     Module1::gRowHeight = m_ui->MSFlexGrid1->RowHeight(1);
 }
 
-void frmMain::place(MainLayout layout, int entryHeight)
+void frmMain::place(const MainLayout &layout, int entryHeight)
 {
     MSFlexGrid &grid = *m_ui->MSFlexGrid1;
     int column = 0;

@@ -40,7 +40,8 @@ private:
     void connectHandlers();
     void addShortcuts();
     void loadTop10();
-    void place(MainLayout layout, int entryHeight);
+    void fitToWindow();
+    void place(const MainLayout &layout, int entryHeight);
     void placeEntryArea(const MainLayout &layout, int height);
     void showMode(Mode mode);
     void setDefaultButton(QPushButton *button);
