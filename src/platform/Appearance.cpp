@@ -3,8 +3,6 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
 
 namespace {
 
@@ -53,7 +51,7 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
     set("@line", dark ? QColor(0x5A, 0x5F, 0x63) : QColor(0xC3, 0xCB, 0xD1));
     set("@thin", dark ? QColor(0x44, 0x48, 0x4C) : QColor(0xDD, 0xE2, 0xE6));
     set("@quiet", dark ? QColor(0xB4, 0xBC, 0xC2) : QColor(0x4A, 0x56, 0x5E));
-    set("@disabled", dark ? QColor(0x8A, 0x90, 0x94) : QColor(0x8A, 0x93, 0x99));
+    set("@disabled", dark ? QColor(0x8A, 0x90, 0x94) : QColor(0x72, 0x7C, 0x83));
     return sheet;
 }
 
@@ -66,8 +64,6 @@ QColor accentColour(const QPalette &palette)
 
 void applyAppearance(QApplication &application)
 {
-    if (QApplication::style()->name() != QLatin1String("fusion"))
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QPalette palette = QApplication::palette();
     const QColor accent = accentColour(palette);
     if (palette.color(QPalette::Highlight) != accent) {

@@ -28,6 +28,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setOrganizationName(QStringLiteral("LexiBrook"));
     setDesktopFileName(QStringLiteral("tanglewit"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tanglewit.svg")));
+    setStyle(QStringLiteral("Fusion"));
     applyAppearance(*this);
     setNoticeHook([](const QString &text) { MsgBox(text); });
 }
@@ -37,8 +38,9 @@ bool Application::PrevInstance()
     const QString folder = pathOf(Place::UserData);
     m_instanceLock =
         std::make_unique<QLockFile>(QDir(folder).filePath(QStringLiteral("tanglewit.lock")));
-    // However long a copy runs, its lock is good as long as its process lives.
-    m_instanceLock->setStaleLockTime(0);
+    // A lock that a living copy holds cannot be taken away; any other one, even an empty file that
+    // a power cut left, does not count.
+    m_instanceLock->setStaleLockTime(1);
     return !m_instanceLock->tryLock() && m_instanceLock->error() == QLockFile::LockFailedError;
 }
 

@@ -22,6 +22,8 @@ bool runGuarded(const std::function<void()> &handler)
         reportRunTimeError(RunTimeError(RunTimeError::OutOfMemory));
     } catch (const std::exception &error) {
         MsgBox(QString::fromUtf8(error.what()));
+    } catch (...) {
+        MsgBox(QStringLiteral("The command has ended by an unknown error."));
     }
     return false;
 }

@@ -26,6 +26,13 @@ QString onOneLine(const QString &text)
     return text.left(LongestShown).simplified();
 }
 
+// Rich text, so that long lines are wrapped.
+QString toolTip(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(text.toHtmlEscaped());
+}
+
 class OneLineDelegate final : public QStyledItemDelegate
 {
 public:
@@ -230,9 +237,7 @@ bool MSFlexGrid::viewportEvent(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
     if (isCut(index))
-        QToolTip::showText(help->globalPos(),
-                           QStringLiteral("<p style='white-space:pre-wrap'>%1</p>")
-                               .arg(text(index.row(), index.column()).toHtmlEscaped()),
+        QToolTip::showText(help->globalPos(), toolTip(text(index.row(), index.column())),
                            viewport(), visualRect(index));
     else
         QToolTip::hideText();
@@ -270,5 +275,5 @@ bool MSFlexGrid::isCut(const QModelIndex &index) const
     cellFont.setBold(cellBold(index.row(), index.column()));
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
     return text(index.row(), index.column()) != shown ||
-           QFontMetrics(cellFont).horizontalAdvance(shown) + margin > columnWidth(index.column());
+           QFontMetrics(cellFont).horizontalAdvance(shown) + margin >= visualRect(index).width();
 }

@@ -12,13 +12,17 @@ void SvgPicture::setSource(const QString &path)
 {
     m_source = path;
     m_renderer = std::make_unique<QSvgRenderer>(path);
-    m_renderer->setAspectRatioMode(Qt::KeepAspectRatioByExpanding);
     update();
 }
 
 void SvgPicture::paintEvent(QPaintEvent * /*event*/)
 {
+    if (!m_renderer)
+        return;
+    const QSizeF size =
+        m_renderer->viewBoxF().size().scaled(rect().size(), Qt::KeepAspectRatioByExpanding);
+    QRectF whole(QPointF(), size);
+    whole.moveCenter(QRectF(rect()).center());
     QPainter painter(this);
-    if (m_renderer)
-        m_renderer->render(&painter, rect());
+    m_renderer->render(&painter, whole);
 }

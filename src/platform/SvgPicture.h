@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A picture drawn from an SVG file, sharp at any scale factor.
+// A picture drawn from an SVG file, sharp at any scale factor. It fills the widget and keeps its
+// proportions.
 #pragma once
 
 #include <QWidget>

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list open in the main window as the tests of the file commands see it, and list files made
+// byte by byte without the program's own code.
+#pragma once
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "support/MainWindow.h"
+
+#include <QFile>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+const QString EndLesson = QStringLiteral("End current lesson?");
+const QString SaveChanges = QStringLiteral("Do you want to save changes?");
+const QString CaptionStart = QStringLiteral("LexiBrook- The Tanglewit: ");
+
+using Entries = QList<QStringList>; // word, definition and sentence each
+
+inline QByteArray number16(int value)
+{
+    const char bytes[] = {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8 & 0xFF)};
+    return QByteArray(bytes, 2);
+}
+
+inline QByteArray recordBytes(const QStringList &entry)
+{
+    QByteArray bytes;
+    for (const QString &text : entry)
+        bytes += number16(int(text.size())) + text.toLatin1();
+    return bytes;
+}
+
+inline QByteArray listBytes(const Entries &entries)
+{
+    QByteArray bytes = number16(int(entries.size()));
+    for (const QStringList &entry : entries)
+        bytes += recordBytes(entry);
+    return bytes;
+}
+
+// "name 1", "definition 1 of name", "sentence 1 of name", …
+inline Entries someEntries(int count, const QString &name)
+{
+    Entries entries;
+    for (int i = 1; i <= count; ++i)
+        entries += {QStringLiteral("%1 %2").arg(name).arg(i),
+                    QStringLiteral("definition %2 of %1").arg(name).arg(i),
+                    QStringLiteral("sentence %2 of %1").arg(name).arg(i)};
+    return entries;
+}
+
+inline void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        Controls::fail(QStringLiteral("cannot write ") + path);
+}
+
+inline QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        Controls::fail(QStringLiteral("cannot read ") + path);
+    return file.readAll();
+}
+
+inline Entries openEntries()
+{
+    cVocabList &list = Module1::gVocabList();
+    const Integer current = list.CurrentWord();
+    Entries entries;
+    for (Integer i = 1; i <= list.NumWords(); ++i) {
+        list.CurrentWord(i);
+        entries += {list.Word(), list.Definition(), list.Sentence()};
+    }
+    list.CurrentWord(current);
+    return entries;
+}
+
+// Everything that a command which changes nothing must leave as it is.
+struct OpenList
+{
+    explicit OpenList(MainWindow &main)
+        : fileName(Module1::gFileName), fileTitle(Module1::gFileTitle),
+          openedFile(Module1::gOpenedFile), caption(main.window().windowTitle()),
+          changed(Module1::gChanged), mayBeSaved(main.action("mnuSave").isEnabled()),
+          position(Module1::gVocabList().CurrentWord().toInt()), scrolledTo(main.bar().value()),
+          entries(openEntries())
+    {
+        for (int row = 0; row < main.grid().rowCount(); ++row)
+            page += main.row(row);
+    }
+    bool operator==(const OpenList &) const = default;
+
+    QString fileName;
+    QString fileTitle;
+    QString openedFile;
+    QString caption;
+    bool changed;
+    bool mayBeSaved;
+    int position;
+    int scrolledTo;
+    Entries entries;
+    QList<QStringList> page;
+};
+
+// Opens a list file in a window whose list is unchanged.
+inline void openList(MainWindow &main, const QString &path)
+{
+    main.answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+    main.answers.chooseFile(path);
+    main.choose("mnuOpen");
+}
+
+// Types a new entry and ends the entry mode.
+inline void addEntry(MainWindow &main, const QString &word)
+{
+    main.click("cmdNewWord");
+    main.typeEntry(word, QStringLiteral("a definition"), QStringLiteral("A sentence."));
+    main.click("cmdAdd");
+    main.click("cmdAbort");
+}
+
+inline QStringList addedEntry(const QString &word)
+{
+    return {word, QStringLiteral("a definition"), QStringLiteral("A sentence.")};
+}

@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/EntryTextBox.h"
+#include "editor/OpenList.h"
+#include "support/FormTest.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using namespace Module1;
+
+namespace {
+
+// A disk that takes no file beyond a size, for as long as the object lives.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t largestFile) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_oldLimit);
+        setLimit(largestFile);
+    }
+    ~FullDisk()
+    {
+        setLimit(m_oldLimit.rlim_cur);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+    Q_DISABLE_COPY_MOVE(FullDisk)
+
+private:
+    void setLimit(rlim_t largestFile)
+    {
+        rlimit limit = m_oldLimit;
+        limit.rlim_cur = largestFile;
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
+            Controls::fail(QStringLiteral("the size of files cannot be limited"));
+    }
+
+    rlimit m_oldLimit{};
+    void (*m_oldHandler)(int);
+};
+
+} // namespace
+
+class frmMain_FileErrors_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_main = std::make_unique<MainWindow>();
+        QVERIFY(QDir().mkdir(m_main->path(QStringLiteral("lists"))));
+        m_path = m_main->path(QStringLiteral("lists/animals.lwx"));
+        m_other = m_main->path(QStringLiteral("other.lwx"));
+        writeFile(m_path, listBytes(m_entries));
+        openList(*m_main, m_path);
+        addEntry(*m_main, QStringLiteral("cow"));
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_main->answers.allSeen());
+        m_main.reset();
+    }
+
+    void aFullDiskLeavesTheFileWholeAndTheChangesUnsaved()
+    {
+        gVocabList().AddVocab(QStringLiteral("long"), QString(60'000, QLatin1Char('x')),
+                              QString(60'000, QLatin1Char('y')));
+        const Entries entries = openEntries();
+        gSaved = false;
+        const OpenList before(*m_main);
+        {
+            const FullDisk disk(64 * 1024);
+            expectReport(m_path);
+            m_main->choose("mnuSave");
+        }
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QVERIFY(!gSaved);
+        QVERIFY(m_main->action("mnuSave").isEnabled());
+        QCOMPARE(readFile(m_path), listBytes(m_entries));
+        QCOMPARE(QDir(QFileInfo(m_path).path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{QStringLiteral("animals.lwx")});
+
+        // Elsewhere there is room.
+        m_main->answers.chooseFile(m_other);
+        m_main->choose("mnuSaveAs");
+        QCOMPARE(readFile(m_other), listBytes(entries));
+        QVERIFY(!gChanged);
+        QVERIFY(gSaved);
+        QCOMPARE(gFileName, m_other);
+    }
+
+    void saveAsToAFullDiskKeepsTheName()
+    {
+        gVocabList().AddVocab(QStringLiteral("long"), QString(60'000, QLatin1Char('x')),
+                              QString(60'000, QLatin1Char('y')));
+        const OpenList before(*m_main);
+        {
+            const FullDisk disk(64 * 1024);
+            m_main->answers.chooseFile(m_other);
+            expectReport(m_other);
+            m_main->choose("mnuSaveAs");
+        }
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QVERIFY(!gSaved);
+        QVERIFY(!QFile::exists(m_other));
+
+        const Entries entries = openEntries();
+        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->choose("mnuSave");
+        QCOMPARE(readFile(m_path), listBytes(entries));
+    }
+
+    void saveAsIntoAFolderThatIsGoneKeepsTheName()
+    {
+        const OpenList before(*m_main);
+        const QString lost = m_main->path(QStringLiteral("lost/animals.lwx"));
+        m_main->answers.chooseFile(lost);
+        expectReport(lost, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        m_main->choose("mnuSaveAs");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QVERIFY(!gSaved);
+        QCOMPARE(readFile(m_path), listBytes(m_entries));
+    }
+
+    void saveAsOverWhatIsNoFileKeepsTheName()
+    {
+        QCOMPARE(mkfifo(QFile::encodeName(m_other).constData(), 0600), 0);
+        const OpenList before(*m_main);
+        m_main->answers.chooseFile(m_other);
+        m_main->answers.answerOverwrite(QStringLiteral("other.lwx"), QMessageBox::Yes);
+        expectReport(m_other, QStringLiteral("Run-time error '75':\n\nPath/File access error\n"));
+        m_main->choose("mnuSaveAs");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QVERIFY(!QFileInfo(m_other).isFile());
+    }
+
+    void anUntitledListStaysUntitledWhereSaveAsFails()
+    {
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->choose("mnuNew");
+        addEntry(*m_main, QStringLiteral("cow"));
+        const QString lost = m_main->path(QStringLiteral("lost/animals.lwx"));
+        m_main->answers.chooseFile(lost);
+        expectReport(lost, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        m_main->choose("mnuSave");
+        QCOMPARE(gFileName, QString());
+        QCOMPARE(gFileTitle, QString());
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("(Untitled)"));
+        QVERIFY(gChanged);
+        QVERIFY(m_main->action("mnuSave").isEnabled());
+    }
+
+    void saveWhoseFolderIsGoneKeepsTheChanges()
+    {
+        QVERIFY(QDir(m_main->path(QStringLiteral("lists"))).removeRecursively());
+        const OpenList before(*m_main);
+        expectReport(m_path, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        m_main->choose("mnuSave");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QVERIFY(m_main->action("mnuSave").isEnabled());
+    }
+
+    void saveWithAFolderInTheWayKeepsTheChanges()
+    {
+        QVERIFY(QFile::remove(m_path));
+        QVERIFY(QDir().mkdir(m_path));
+        const OpenList before(*m_main);
+        expectReport(m_path, QStringLiteral("Run-time error '75':\n\nPath/File access error\n"));
+        m_main->choose("mnuSave");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QVERIFY(QDir(m_path).exists());
+    }
+
+    void aTextTooLongForTheFileIsReportedBeforeTheFileIsTouched()
+    {
+        m_main->click("cmdNewWord");
+        m_main->type("txtWord", QStringLiteral("long"));
+        m_main->control<EntryTextBox>("txtSentence").setText(QString(65'536, QLatin1Char('x')));
+        m_main->click("cmdAdd");
+        m_main->click("cmdAbort");
+        const QDateTime written = QFileInfo(m_path).lastModified();
+        const OpenList before(*m_main);
+        expectReport(QStringLiteral("word 7"), QStringLiteral("Run-time error '6':\n\nOverflow\n"));
+        m_main->choose("mnuSave");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QCOMPARE(readFile(m_path), listBytes(m_entries));
+        QCOMPARE(QFileInfo(m_path).lastModified(), written);
+
+        m_main->answers.chooseFile(m_other);
+        expectReport(QStringLiteral("word 7"), QStringLiteral("Run-time error '6':\n\nOverflow\n"));
+        m_main->choose("mnuSaveAs");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(!QFile::exists(m_other));
+    }
+
+    void theLongestTextIsSavedAndReadWhole()
+    {
+        m_main->click("cmdNewWord");
+        m_main->type("txtWord", QStringLiteral("long"));
+        m_main->control<EntryTextBox>("txtSentence").setText(QString(65'535, QLatin1Char('x')));
+        m_main->click("cmdAdd");
+        m_main->click("cmdAbort");
+        const Entries entries = openEntries();
+        m_main->answers.chooseFile(m_other);
+        m_main->choose("mnuSaveAs");
+        QCOMPARE(readFile(m_other), listBytes(entries));
+        openList(*m_main, m_other);
+        QCOMPARE(openEntries(), entries);
+    }
+
+    void aFileThatCannotBeReadLeavesTheOpenListWhole_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("report");
+        const QString subscript = QStringLiteral("Run-time error '9':\n\nSubscript out of range\n");
+        QTest::newRow("count -1") << number16(-1) << subscript;
+        QTest::newRow("count -32768") << number16(-32768) << subscript;
+        QTest::newRow("negative count before good records")
+            << number16(-5) + listBytes(m_entries).mid(2) << subscript;
+        QTest::newRow("more than a list holds") << number16(32001) << subscript;
+        QTest::newRow("the largest count") << number16(32767) << subscript;
+        QTest::newRow("a pipe") << QByteArray()
+                                << QStringLiteral(
+                                       "Run-time error '75':\n\nPath/File access error\n");
+    }
+
+    void aFileThatCannotBeReadLeavesTheOpenListWhole()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, report);
+        if (bytes.isEmpty())
+            QCOMPARE(mkfifo(QFile::encodeName(m_other).constData(), 0600), 0);
+        else
+            writeFile(m_other, bytes);
+        const OpenList before(*m_main);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->answers.chooseFile(m_other);
+        expectReport(QString(), report);
+        m_main->choose("mnuOpen");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+
+        const Entries entries = openEntries();
+        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->choose("mnuSave");
+        QCOMPARE(readFile(m_path), listBytes(entries));
+    }
+
+    void aFileInAFolderThatIsGoneLeavesTheOpenListWhole()
+    {
+        const OpenList before(*m_main);
+        const QString lost = m_main->path(QStringLiteral("lost/animals.lwx"));
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->answers.chooseFile(lost);
+        expectReport(lost, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        m_main->choose("mnuOpen");
+        QVERIFY(OpenList(*m_main) == before);
+    }
+
+private:
+    void expectReport(const QString &part,
+                      const QString &start = QStringLiteral("Run-time error '"))
+    {
+        m_main->answers.expectAnyMsgBox(QMessageBox::Ok, [part, start](QMessageBox &box) {
+            QVERIFY2(box.text().startsWith(start) && box.text().contains(part),
+                     qPrintable(box.text()));
+            QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+        });
+    }
+
+    const Entries m_entries = someEntries(5, QStringLiteral("animal"));
+    QString m_path;
+    QString m_other;
+    std::unique_ptr<MainWindow> m_main;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmMain_FileErrors_test>(argc, argv);
+}
+
+#include "frmMain_FileErrors_test.moc"

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/OpenList.h"
+#include "support/FormTest.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+
+using namespace Module1;
+
+class frmMain_FileNew_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_main = std::make_unique<MainWindow>();
+        m_path = m_main->path(QStringLiteral("animals.lwx"));
+        writeFile(m_path, listBytes(m_entries));
+        openList(*m_main, m_path);
+        QCOMPARE(openEntries(), m_entries);
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_main->answers.allSeen());
+        m_main.reset();
+    }
+
+    void cancelKeepsTheLesson()
+    {
+        const OpenList before(*m_main);
+        answer(EndLesson, QMessageBox::Cancel, QMessageBox::Ok | QMessageBox::Cancel);
+        m_main->choose("mnuNew");
+        QVERIFY(OpenList(*m_main) == before);
+    }
+
+    void anUnchangedListGoesWithoutAQuestionAboutSaving()
+    {
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        QCOMPARE(gVocabList().NumWords().toInt(), 0);
+        QCOMPARE(readFile(m_path), listBytes(m_entries));
+    }
+
+    void cancelAtTheQuestionAboutSavingKeepsListAndTitle()
+    {
+        addEntry(*m_main, QStringLiteral("cow"));
+        const OpenList before(*m_main);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        answer(SaveChanges, QMessageBox::Cancel,
+               QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        m_main->choose("mnuNew");
+        QVERIFY(OpenList(*m_main) == before);
+        QCOMPARE(readFile(m_path), listBytes(m_entries));
+    }
+
+    void noGivesTheChangesUp()
+    {
+        addEntry(*m_main, QStringLiteral("cow"));
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->choose("mnuNew");
+        QCOMPARE(gVocabList().NumWords().toInt(), 0);
+        QVERIFY(!gChanged);
+        QCOMPARE(readFile(m_path), listBytes(m_entries));
+    }
+
+    void yesSavesFirst()
+    {
+        addEntry(*m_main, QStringLiteral("cow"));
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->choose("mnuNew");
+        QCOMPARE(gVocabList().NumWords().toInt(), 0);
+        QCOMPARE(readFile(m_path),
+                 listBytes(m_entries + Entries{addedEntry(QStringLiteral("cow"))}));
+    }
+
+    void yesForAnUntitledListAsksForItsName()
+    {
+        startUntitledList();
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        m_main->answers.chooseFile(m_main->path(QStringLiteral("second.lwx")));
+        m_main->choose("mnuNew");
+        QCOMPARE(gVocabList().NumWords().toInt(), 0);
+        QCOMPARE(gFileName, QString());
+        QCOMPARE(readFile(m_main->path(QStringLiteral("second.lwx"))),
+                 listBytes({addedEntry(QStringLiteral("cow"))}));
+    }
+
+    void aCancelledSaveAsKeepsTheListAlsoAfterAnEarlierSave()
+    {
+        startUntitledList();
+        gSaved = true; // as the save of an earlier list left it
+        const OpenList before(*m_main);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        m_main->answers.cancelFileDialog();
+        m_main->choose("mnuNew");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+        QVERIFY(!gSaved);
+    }
+
+    void aSaveThatFailsKeepsTheList()
+    {
+        addEntry(*m_main, QStringLiteral("cow"));
+        QVERIFY(QFile::remove(m_path));
+        QVERIFY(QDir().mkdir(m_path));
+        const OpenList before(*m_main);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        m_main->answers.expectAnyMsgBox(QMessageBox::Ok, [](QMessageBox &box) {
+            QVERIFY2(box.text().startsWith(
+                         QStringLiteral("Run-time error '75':\n\nPath/File access error\n")),
+                     qPrintable(box.text()));
+        });
+        m_main->choose("mnuNew");
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(gChanged);
+    }
+
+    void theNewListIsUntitledAndEmptyAndReadyForAWord()
+    {
+        m_main->fill(40);
+        m_main->bar().setValue(12);
+        m_main->clickCell(3, 2);
+        QVERIFY(!m_main->markedRows().isEmpty());
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+
+        QCOMPARE(gVocabList().NumWords().toInt(), 0);
+        QCOMPARE(gFileName, QString());
+        QCOMPARE(gFileTitle, QString());
+        QCOMPARE(gOpenedFile, QString());
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("(Untitled)"));
+        QVERIFY(gNewWord);
+        QVERIFY(!gWordSelected);
+        QVERIFY(!gChanged);
+        QCOMPARE(gLastItem.toInt(), 1);
+        QCOMPARE(gHighlightRow.toInt(), 0);
+        checkEmptyPage();
+
+        for (const char *box : {"txtWord", "txtDefinition", "txtSentence"}) {
+            QVERIFY(m_main->control<QWidget>(box).isEnabled());
+            QCOMPARE(m_main->text(box), QString());
+        }
+        QCOMPARE(m_main->window().focusWidget(), &m_main->control<QWidget>("txtWord"));
+        QVERIFY(!m_main->control<QPushButton>("cmdAdd").isVisible());
+        QVERIFY(m_main->control<QPushButton>("cmdNewWord").isVisible());
+        QVERIFY(m_main->control<QPushButton>("cmdNewWord").isEnabled());
+    }
+
+    void theNewListAsksForANameWhenItIsSaved()
+    {
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        addEntry(*m_main, QStringLiteral("cow"));
+        m_main->answers.cancelFileDialog([](QFileDialog &dialog) {
+            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
+            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), QString());
+        });
+        m_main->choose("mnuSave");
+        QCOMPARE(readFile(m_path), listBytes(m_entries));
+    }
+
+    void afterNewTheFileOfBeforeIsReadAgain()
+    {
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        openList(*m_main, m_path);
+        QCOMPARE(openEntries(), m_entries);
+    }
+
+private:
+    // Expects a question with exactly these buttons.
+    void answer(const QString &text, QMessageBox::StandardButton button,
+                QMessageBox::StandardButtons buttons)
+    {
+        m_main->answers.expectMsgBox(text, button, [buttons](QMessageBox &box) {
+            QCOMPARE(box.standardButtons(), buttons);
+        });
+    }
+
+    void startUntitledList()
+    {
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        addEntry(*m_main, QStringLiteral("cow"));
+    }
+
+    void checkEmptyPage()
+    {
+        QCOMPARE(m_main->row(0),
+                 (QStringList{QString(), QStringLiteral("Vocabulary Word"),
+                              QStringLiteral("Definition"), QStringLiteral("Sentence")}));
+        for (int column = 1; column <= 3; ++column)
+            QVERIFY(m_main->grid().cellBold(0, column));
+        for (int row = 1; row <= 24; ++row)
+            QCOMPARE(m_main->row(row), (QStringList{row <= 23 ? QString::number(row) : QString(),
+                                                    QString(), QString(), QString()}));
+        QCOMPARE(m_main->markedRows(), QList<int>());
+        QCOMPARE(m_main->grid().Row(), 1);
+        QCOMPARE(m_main->grid().Col(), 1);
+    }
+
+    const Entries m_entries = someEntries(5, QStringLiteral("animal"));
+    QString m_path;
+    std::unique_ptr<MainWindow> m_main;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmMain_FileNew_test>(argc, argv);
+}
+
+#include "frmMain_FileNew_test.moc"

@@ -1,0 +1,305 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Appearance.h"
+
+#include "support/FormTest.h"
+
+#include <QGroupBox>
+#include <QHash>
+#include <QImage>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double ReadableText = 4.5; // WCAG 2, level AA
+constexpr double ReadableMark = 3;   // and for large text, lines and what is disabled
+
+double luminance(const QColor &colour)
+{
+    const auto part = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+           0.0722 * part(colour.blueF());
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto [low, high] = std::minmax(luminance(a), luminance(b));
+    return (high + 0.05) / (low + 0.05);
+}
+
+QPalette lightPalette()
+{
+    return QPalette(QColor(0xEF, 0xEF, 0xEF));
+}
+
+QPalette darkPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(0x2D, 0x2D, 0x2D));
+    palette.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
+    palette.setColor(QPalette::Button, QColor(0x38, 0x38, 0x38));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, QColor(0xF0, 0xF0, 0xF0));
+    return palette;
+}
+
+// The colour that most of the picture has, and the one in it that stands out most from that.
+struct Seen
+{
+    QColor paper;
+    QColor ink;
+};
+
+Seen look(const QImage &image)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    QRgb paper = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        if (it.value() > counts.value(paper))
+            paper = it.key();
+    Seen seen{QColor(paper), QColor(paper)};
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        if (contrast(seen.paper, QColor(it.key())) > contrast(seen.paper, seen.ink))
+            seen.ink = QColor(it.key());
+    return seen;
+}
+
+// The inside of a widget: no frame, no round corners.
+Seen lookInside(QWidget &widget)
+{
+    constexpr int frame = 6;
+    return look(widget.grab(widget.rect().adjusted(frame, frame, -frame, -frame)).toImage());
+}
+
+QFont fontWithThickStrokes()
+{
+    QFont font;
+    font.setPixelSize(40);
+    font.setBold(true);
+    return font;
+}
+
+// Counts the events of a kind that an object gets.
+class EventCounter final : public QObject
+{
+public:
+    EventCounter(QObject &object, QEvent::Type type) : m_type(type)
+    {
+        object.installEventFilter(this);
+    }
+    [[nodiscard]] int count() const { return m_count; }
+
+protected:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        m_count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+    int m_count = 0;
+};
+
+} // namespace
+
+class Appearance_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { wear(lightPalette()); }
+
+    void theAccentStandsOutFromItsWindow()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            for (const auto role : {QPalette::Window, QPalette::Base})
+                QVERIFY(contrast(accentColour(palette), palette.color(role)) >= ReadableMark);
+        }
+        QVERIFY(accentColour(lightPalette()) != accentColour(darkPalette()));
+    }
+
+    void buttonsAreReadable_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<bool>("isDefault");
+        QTest::addColumn<bool>("enabled");
+        for (const bool dark : {false, true})
+            for (const bool isDefault : {false, true})
+                for (const bool enabled : {false, true})
+                    QTest::addRow("%s, %s, %s", dark ? "dark" : "light",
+                                  isDefault ? "default" : "ordinary",
+                                  enabled ? "enabled" : "disabled")
+                        << dark << isDefault << enabled;
+    }
+
+    void buttonsAreReadable()
+    {
+        QFETCH(bool, dark);
+        QFETCH(bool, isDefault);
+        QFETCH(bool, enabled);
+        wear(dark ? darkPalette() : lightPalette());
+        QWidget window;
+        QPushButton button(QStringLiteral("IIII"), &window);
+        button.setFont(fontWithThickStrokes());
+        button.resize(240, 80);
+        button.setDefault(isDefault);
+        button.setEnabled(enabled);
+        window.show();
+        const Seen seen = lookInside(button);
+        const double found = contrast(seen.paper, seen.ink);
+        QVERIFY2(found >= (enabled ? ReadableText : ReadableMark),
+                 qPrintable(QStringLiteral("%1 on %2 has %3")
+                                .arg(seen.ink.name(), seen.paper.name())
+                                .arg(found)));
+        QCOMPARE(seen.paper == accentColour(QApplication::palette()), isDefault && enabled);
+    }
+
+    void aPressedButtonIsReadable()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            for (const bool isDefault : {false, true}) {
+                wear(palette);
+                QPushButton button(QStringLiteral("IIII"));
+                button.setFont(fontWithThickStrokes());
+                button.resize(240, 80);
+                button.setDefault(isDefault);
+                button.show();
+                button.setDown(true);
+                const Seen seen = lookInside(button);
+                QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
+                         qPrintable(seen.ink.name() + QStringLiteral(" on ") + seen.paper.name()));
+            }
+        }
+    }
+
+    void theTitleOfAFrameIsReadable()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            wear(palette);
+            QWidget window;
+            QGroupBox frame(QStringLiteral("IIII"), &window);
+            frame.setFont(fontWithThickStrokes());
+            frame.resize(300, 200);
+            window.resize(320, 220);
+            window.show();
+            const Seen seen = look(frame.grab(QRect(16, 10, 60, 20)).toImage());
+            QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
+                     qPrintable(seen.ink.name() + QStringLiteral(" on ") + seen.paper.name()));
+        }
+    }
+
+    void selectedTextIsReadable()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            wear(palette);
+            QLineEdit box(QStringLiteral("IIIIIIIIIIIIIIII"));
+            box.setFont(fontWithThickStrokes());
+            box.resize(160, 80);
+            box.show();
+            QVERIFY(QTest::qWaitForWindowActive(&box));
+            box.setFocus();
+            box.selectAll();
+            const Seen seen = look(box.grab(QRect(12, 26, 100, 24)).toImage());
+            QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
+                     qPrintable(seen.ink.name() + QStringLiteral(" on ") + seen.paper.name()));
+        }
+    }
+
+    // The frame of the focus must differ from what a button without it has there.
+    void theFocusIsSeenOnEveryButton()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            for (const bool isDefault : {false, true}) {
+                wear(palette);
+                QWidget window;
+                QPushButton button(QString(), &window);
+                QPushButton other(QString(), &window);
+                button.setGeometry(20, 20, 200, 60);
+                other.setGeometry(20, 100, 200, 60);
+                button.setAutoDefault(false);
+                other.setAutoDefault(false);
+                button.setDefault(isDefault);
+                window.resize(240, 180);
+                window.show();
+                QVERIFY(QTest::qWaitForWindowActive(&window));
+                const auto frame = [&button] { return button.grab().toImage().pixelColor(100, 1); };
+                other.setFocus();
+                const QColor without = frame();
+                button.setFocus();
+                QVERIFY2(contrast(frame(), without) >= 1.5,
+                         qPrintable(frame().name() + QStringLiteral(" and ") + without.name()));
+            }
+        }
+    }
+
+    void theLookFollowsThePaletteAtRunTime()
+    {
+        QPushButton button(QStringLiteral("IIII"));
+        button.setFont(fontWithThickStrokes());
+        button.resize(240, 80);
+        button.setDefault(true);
+        button.show();
+        const QColor light = lookInside(button).paper;
+        QCOMPARE(light, accentColour(lightPalette()));
+        wear(darkPalette());
+        QCOMPARE(lookInside(button).paper, accentColour(darkPalette()));
+        wear(lightPalette());
+        QCOMPARE(lookInside(button).paper, light);
+    }
+
+    void aChangeOfThePaletteSettles()
+    {
+        const EventCounter changes(*qApp, QEvent::ApplicationPaletteChange);
+        wear(darkPalette());
+        const int first = changes.count();
+        QVERIFY(first >= 1);
+        QVERIFY2(first <= 4, qPrintable(QString::number(first)));
+        for (int i = 0; i < 20; ++i)
+            QCoreApplication::processEvents();
+        QCOMPARE(changes.count(), first);
+    }
+
+    void applyingTheLookAgainChangesNothing()
+    {
+        const QString before = qApp->styleSheet();
+        QVERIFY(!before.isEmpty());
+        QPushButton button;
+        button.show();
+        const EventCounter paletteChanges(*qApp, QEvent::ApplicationPaletteChange);
+        const EventCounter styleChanges(button, QEvent::StyleChange);
+        applyAppearance(*qApp);
+        QCoreApplication::processEvents();
+        QCOMPARE(qApp->styleSheet(), before);
+        QCOMPARE(paletteChanges.count(), 0);
+        QCOMPARE(styleChanges.count(), 0);
+    }
+
+    void noPlaceholderIsLeftInTheStyleSheet()
+    {
+        QVERIFY2(!qApp->styleSheet().contains(QLatin1Char('@')), qPrintable(qApp->styleSheet()));
+    }
+
+private:
+    static void wear(const QPalette &palette)
+    {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<Appearance_test>(argc, argv);
+}
+
+#include "Appearance_test.moc"

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Application.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextStream>
+
+#include <memory>
+
+namespace {
+
+const QString HoldArgument = QStringLiteral("--be-a-copy");
+
+// Another copy of the program: tells whether it found one before it, then lives until its input
+// ends.
+int beACopy(Application &application)
+{
+    QTextStream output(stdout);
+    output << (application.PrevInstance() ? "second" : "first") << Qt::endl;
+    QTextStream(stdin).readAll();
+    return 0;
+}
+
+class Copy
+{
+public:
+    Copy() { m_process.start(QCoreApplication::applicationFilePath(), {HoldArgument}); }
+
+    // What the copy said of itself.
+    QByteArray answer()
+    {
+        while (!m_process.canReadLine() && m_process.waitForReadyRead())
+            ;
+        return m_process.readLine().trimmed();
+    }
+
+    bool end()
+    {
+        m_process.closeWriteChannel();
+        return m_process.waitForFinished() && m_process.exitCode() == 0;
+    }
+
+    bool kill()
+    {
+        m_process.kill();
+        return m_process.waitForFinished() && m_process.exitStatus() == QProcess::CrashExit;
+    }
+
+private:
+    QProcess m_process;
+};
+
+} // namespace
+
+class Application_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_data = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_data->isValid());
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_data->path()));
+    }
+
+    void theTitleIsTanglewit()
+    {
+        QCOMPARE(Application::Title(), QStringLiteral("Tanglewit"));
+        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Tanglewit"));
+    }
+
+    void theVersionIsOneNoughtNought()
+    {
+        QCOMPARE(Application::Major(), 1);
+        QCOMPARE(Application::Minor(), 0);
+        QCOMPARE(Application::Revision(), 0);
+        QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.0.0"));
+    }
+
+    void theLegalNoticeNamesTheMaker()
+    {
+        QVERIFY(Application::LegalCopyright().contains(QStringLiteral("LexiBrook")));
+    }
+
+    void theFirstCopyFindsNoOther()
+    {
+        Copy first;
+        QCOMPARE(first.answer(), QByteArray("first"));
+        QVERIFY(first.end());
+    }
+
+    void aSecondCopyFindsTheFirstWhileItLives()
+    {
+        Copy first;
+        QCOMPARE(first.answer(), QByteArray("first"));
+        Copy second;
+        QCOMPARE(second.answer(), QByteArray("second"));
+        QVERIFY(second.end());
+        Copy third;
+        QCOMPARE(third.answer(), QByteArray("second"));
+        QVERIFY(third.end());
+        QVERIFY(first.end());
+    }
+
+    void aCopyThatEndedDoesNotCount()
+    {
+        Copy first;
+        QCOMPARE(first.answer(), QByteArray("first"));
+        QVERIFY(first.end());
+        Copy next;
+        QCOMPARE(next.answer(), QByteArray("first"));
+        QVERIFY(next.end());
+    }
+
+    void aCopyThatWasKilledDoesNotCount()
+    {
+        Copy first;
+        QCOMPARE(first.answer(), QByteArray("first"));
+        QVERIFY(first.kill());
+        QVERIFY(QFile::exists(lockPath()));
+        Copy next;
+        QCOMPARE(next.answer(), QByteArray("first"));
+        QVERIFY(next.end());
+    }
+
+    void aCopyCountsHoweverLongItRuns()
+    {
+        Copy first;
+        QCOMPARE(first.answer(), QByteArray("first"));
+        QFile lock(lockPath());
+        QVERIFY(lock.open(QIODevice::ReadWrite));
+        QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addYears(-1),
+                                 QFileDevice::FileModificationTime));
+        lock.close();
+        Copy second;
+        QCOMPARE(second.answer(), QByteArray("second"));
+        QVERIFY(second.end());
+        QVERIFY(first.end());
+    }
+
+    // As a machine that lost its power leaves it.
+    void anEmptyLockThatNobodyHoldsDoesNotKeepTheProgramFromStarting()
+    {
+        Copy first;
+        QCOMPARE(first.answer(), QByteArray("first"));
+        QVERIFY(first.kill());
+        QVERIFY(QFile::resize(lockPath(), 0));
+        Copy next;
+        QCOMPARE(next.answer(), QByteArray("first"));
+        QVERIFY(next.end());
+    }
+
+    void whereNoLockCanBeLaidTheProgramStarts()
+    {
+        const QString notAFolder = m_data->filePath(QStringLiteral("file"));
+        QFile file(notAFolder);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(notAFolder));
+        Copy copy;
+        QCOMPARE(copy.answer(), QByteArray("first"));
+        QVERIFY(copy.end());
+    }
+
+private:
+    [[nodiscard]] QString lockPath() const
+    {
+        return m_data->filePath(QStringLiteral("Lexibrook/tanglewit.lock"));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_data;
+};
+
+int main(int argc, char *argv[])
+{
+    Application application(argc, argv);
+    if (application.arguments().contains(HoldArgument))
+        return beACopy(application);
+    Application_test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "Application_test.moc"

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/CommonDialog.h"
+
+#include "support/Controls.h"
+#include "support/DialogAnswers.h"
+#include "support/FormTest.h"
+#include "support/FreshState.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
+
+#include <memory>
+
+namespace {
+
+const QString ListFilter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*");
+
+QString offeredName(const QFileDialog &dialog)
+{
+    return Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
+}
+
+QStringList filesShown(const QFileDialog &dialog)
+{
+    const auto &view = Controls::find<QListView>(dialog, "listView");
+    QStringList names;
+    for (int row = 0; row < view.model()->rowCount(view.rootIndex()); ++row)
+        names += view.model()->index(row, 0, view.rootIndex()).data().toString();
+    names.sort();
+    return names;
+}
+
+} // namespace
+
+class CommonDialog_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_state = std::make_unique<FreshState>();
+        m_answers = std::make_unique<DialogAnswers>();
+        for (const char *folder : {"first", "second", "folder.with.dots"})
+            QVERIFY(QDir(m_state->home()).mkdir(QLatin1String(folder)));
+        m_dialog = std::make_unique<CommonDialog>(path("first"));
+        m_dialog->DialogTitle = QStringLiteral("Save File As");
+        m_dialog->Filter = ListFilter;
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_answers->allSeen());
+        m_answers.reset();
+        m_state.reset();
+    }
+
+    void titleAndFiltersAreShownExactly()
+    {
+        const auto inspect = [](QFileDialog &dialog) {
+            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
+            const auto &types = Controls::find<QComboBox>(dialog, "fileTypeCombo");
+            QCOMPARE(types.count(), 2);
+            QCOMPARE(types.itemText(0), QStringLiteral("Vocab Data (*.lwx)"));
+            QCOMPARE(types.itemText(1), QStringLiteral("All files (*.*)"));
+            QCOMPARE(types.currentIndex(), 0);
+        };
+        m_answers->cancelFileDialog(inspect);
+        QVERIFY(!m_dialog->ShowSave(nullptr));
+        m_answers->cancelFileDialog(inspect);
+        QVERIFY(!m_dialog->ShowOpen(nullptr));
+    }
+
+    void theFirstFilterListsWordListsInEitherCase()
+    {
+        for (const char *name : {"cat.lwx", "DOG.LWX", "notes.txt", "bare", "cat.lwx.bak"})
+            make(QStringLiteral("first/") + QLatin1String(name));
+        m_answers->cancelFileDialog([](QFileDialog &dialog) {
+            QTRY_COMPARE(filesShown(dialog),
+                         (QStringList{QStringLiteral("DOG.LWX"), QStringLiteral("cat.lwx")}));
+        });
+        QVERIFY(!m_dialog->ShowOpen(nullptr));
+    }
+
+    void allFilesAreAllFilesWithoutADotToo()
+    {
+        for (const char *name : {"cat.lwx", "notes.txt", "bare"})
+            make(QStringLiteral("first/") + QLatin1String(name));
+        m_answers->cancelFileDialog([](QFileDialog &dialog) {
+            QTest::keyClick(&Controls::find<QComboBox>(dialog, "fileTypeCombo"), Qt::Key_Down);
+            QTRY_COMPARE(filesShown(dialog),
+                         (QStringList{QStringLiteral("bare"), QStringLiteral("cat.lwx"),
+                                      QStringLiteral("notes.txt")}));
+        });
+        QVERIFY(!m_dialog->ShowOpen(nullptr));
+    }
+
+    void theDefaultExtensionIsAddedWhereThereIsNone_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("extension");
+        QTest::addColumn<QString>("chosen");
+        const auto row = [](const char *typed, const char *extension, const char *chosen) {
+            QTest::addRow("%s with %s", typed, extension)
+                << QString::fromUtf8(typed) << QString::fromUtf8(extension)
+                << QString::fromUtf8(chosen);
+        };
+        row("cat", "lwx", "cat.lwx");
+        row("cat.lwx", "lwx", "cat.lwx");
+        row("cat.txt", "lwx", "cat.txt");
+        row("two words", "lwx", "two words.lwx");
+        row("\u00E9t\u00E9", "lwx", "\u00E9t\u00E9.lwx");
+        row("../folder.with.dots/cat", "lwx", "../folder.with.dots/cat.lwx");
+        row("cat", "", "cat");
+    }
+
+    void theDefaultExtensionIsAddedWhereThereIsNone()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, extension);
+        QFETCH(QString, chosen);
+        m_dialog->DefaultExt = extension;
+        m_answers->chooseFile(typed);
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        QCOMPARE(m_dialog->FileName, QDir::cleanPath(path("first/") + chosen));
+        QCOMPARE(m_dialog->FileTitle, QFileInfo(chosen).fileName());
+    }
+
+    void anExistingFileIsReplacedOnlyAfterYes()
+    {
+        make(QStringLiteral("first/cat.lwx"));
+        m_dialog->DefaultExt = QStringLiteral("lwx");
+        m_dialog->OverwritePrompt = true;
+        m_answers->chooseFile(QStringLiteral("cat"));
+        m_answers->answerOverwrite(QStringLiteral("cat.lwx"), QMessageBox::Yes);
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        QCOMPARE(m_dialog->FileTitle, QStringLiteral("cat.lwx"));
+    }
+
+    void afterNoAnotherNameCanBeChosen()
+    {
+        make(QStringLiteral("first/cat.lwx"));
+        m_dialog->OverwritePrompt = true;
+        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        m_answers->answerOverwrite(QStringLiteral("cat.lwx"), QMessageBox::No);
+        m_answers->chooseFile(QStringLiteral("dog.lwx"), [](QFileDialog &dialog) {
+            // The question has just gone: who types waits until the dialog has the focus again.
+            dialog.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        });
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        QCOMPARE(m_dialog->FileTitle, QStringLiteral("dog.lwx"));
+
+        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        m_answers->answerOverwrite(QStringLiteral("cat.lwx"), QMessageBox::No);
+        m_answers->cancelFileDialog();
+        QVERIFY(!m_dialog->ShowSave(nullptr));
+        QCOMPARE(m_dialog->FileTitle, QStringLiteral("dog.lwx"));
+    }
+
+    void withoutTheOptionAnExistingFileIsTakenUnasked()
+    {
+        make(QStringLiteral("first/cat.lwx"));
+        m_dialog->OverwritePrompt = false;
+        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        QCOMPARE(m_dialog->FileName, path("first/cat.lwx"));
+    }
+
+    void openingAnExistingFileNeverAsks()
+    {
+        make(QStringLiteral("first/cat.lwx"));
+        m_dialog->OverwritePrompt = true;
+        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        QVERIFY(m_dialog->ShowOpen(nullptr));
+        QCOMPARE(m_dialog->FileName, path("first/cat.lwx"));
+        QCOMPARE(m_dialog->FileTitle, QStringLiteral("cat.lwx"));
+    }
+
+    void aNameThatDoesNotExistCanBeOpened()
+    {
+        m_answers->chooseFile(QStringLiteral("new.lwx"));
+        QVERIFY(m_dialog->ShowOpen(nullptr));
+        QCOMPARE(m_dialog->FileName, path("first/new.lwx"));
+        QVERIFY(!QFile::exists(m_dialog->FileName));
+    }
+
+    void theDialogStartsInTheFolderGivenOrElseInTheLastUsed()
+    {
+        const auto startsIn = [this](const QString &folder) {
+            return [this, folder](QFileDialog &dialog) {
+                QCOMPARE(dialog.directory().absolutePath(), m_state->path(folder));
+            };
+        };
+        const QString first = QStringLiteral("first");
+        const QString second = QStringLiteral("second");
+
+        m_answers->cancelFileDialog(startsIn(first));
+        QVERIFY(!m_dialog->ShowSave(nullptr));
+
+        m_dialog->InitDir = path("second");
+        m_answers->cancelFileDialog(startsIn(second));
+        QVERIFY(!m_dialog->ShowOpen(nullptr));
+        m_dialog->InitDir.clear();
+        m_answers->cancelFileDialog(startsIn(first)); // what was cancelled is not used
+        QVERIFY(!m_dialog->ShowSave(nullptr));
+
+        m_dialog->InitDir = path("second");
+        m_answers->chooseFile(QStringLiteral("cat.lwx"), startsIn(second));
+        QVERIFY(m_dialog->ShowOpen(nullptr));
+        m_dialog->InitDir.clear();
+        m_dialog->FileName.clear();
+        m_answers->cancelFileDialog(startsIn(second));
+        QVERIFY(!m_dialog->ShowSave(nullptr));
+    }
+
+    void theNameSetBeforehandIsOffered()
+    {
+        m_dialog->FileName = path("second/cat.lwx");
+        m_answers->acceptFileDialog(
+            [](QFileDialog &dialog) { QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx")); });
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        QCOMPARE(m_dialog->FileName, path("second/cat.lwx"));
+    }
+
+    void theLastNameIsOfferedAgain()
+    {
+        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        m_answers->cancelFileDialog(
+            [](QFileDialog &dialog) { QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx")); });
+        QVERIFY(!m_dialog->ShowSave(nullptr));
+    }
+
+    void withoutANameTheFieldIsEmpty()
+    {
+        m_answers->cancelFileDialog(
+            [](QFileDialog &dialog) { QCOMPARE(offeredName(dialog), QString()); });
+        QVERIFY(!m_dialog->ShowOpen(nullptr));
+    }
+
+    void cancelKeepsTheProperties()
+    {
+        m_dialog->FileName = path("second/cat.lwx");
+        m_dialog->FileTitle = QStringLiteral("cat.lwx");
+        m_dialog->DefaultExt = QStringLiteral("lwx");
+        m_dialog->OverwritePrompt = true;
+        for (const bool save : {false, true}) {
+            m_answers->cancelFileDialog();
+            QVERIFY(!(save ? m_dialog->ShowSave(nullptr) : m_dialog->ShowOpen(nullptr)));
+            QCOMPARE(m_dialog->FileName, path("second/cat.lwx"));
+            QCOMPARE(m_dialog->FileTitle, QStringLiteral("cat.lwx"));
+            QCOMPARE(m_dialog->DialogTitle, QStringLiteral("Save File As"));
+            QCOMPARE(m_dialog->Filter, ListFilter);
+            QCOMPARE(m_dialog->DefaultExt, QStringLiteral("lwx"));
+            QVERIFY(m_dialog->OverwritePrompt);
+        }
+    }
+
+private:
+    [[nodiscard]] QString path(const char *name) const
+    {
+        return m_state->path(QLatin1String(name));
+    }
+
+    void make(const QString &name) const
+    {
+        QFile file(m_state->path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+
+    std::unique_ptr<FreshState> m_state;
+    std::unique_ptr<DialogAnswers> m_answers;
+    std::unique_ptr<CommonDialog> m_dialog;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<CommonDialog_test>(argc, argv);
+}
+
+#include "CommonDialog_test.moc"

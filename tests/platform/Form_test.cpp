@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Form.h"
+
+#include "runtime/RunTimeError.h"
+#include "support/DialogAnswers.h"
+#include "support/FormTest.h"
+
+#include <QDialog>
+#include <QMainWindow>
+
+#include <utility>
+
+namespace {
+
+const QString Report = QStringLiteral("Run-time error '9':\n\nSubscript out of range");
+
+// A form that notes its events and fails in one of them on demand, once.
+template <class Window> class NotingForm final : public Form<Window>
+{
+public:
+    NotingForm() { this->setFocusPolicy(Qt::StrongFocus); }
+
+    [[nodiscard]] QStringList takeEvents() { return std::exchange(m_events, {}); }
+
+    QString failIn;
+    bool mayUnload = true;
+
+protected:
+    void Form_Load() override { note(QStringLiteral("Load")); }
+    void Form_Activate() override { note(QStringLiteral("Activate")); }
+    void Form_GotFocus() override { note(QStringLiteral("GotFocus")); }
+    bool Form_QueryUnload() override
+    {
+        note(QStringLiteral("QueryUnload"));
+        return mayUnload;
+    }
+    void Form_Unload() override { note(QStringLiteral("Unload")); }
+    void Form_Terminate() override { note(QStringLiteral("Terminate")); }
+
+private:
+    void note(const QString &event)
+    {
+        m_events += event;
+        if (event == failIn) {
+            failIn.clear();
+            throw RunTimeError(RunTimeError::SubscriptOutOfRange);
+        }
+    }
+
+    QStringList m_events;
+};
+
+using Window = NotingForm<QWidget>;
+
+const QStringList Unloading = {QStringLiteral("QueryUnload"), QStringLiteral("Unload"),
+                               QStringLiteral("Terminate")};
+
+template <class Form> void showActive(Form &form)
+{
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+}
+
+} // namespace
+
+class Form_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void loadRunsWhenTheFormIsShownNotWhenItIsMade()
+    {
+        Window form;
+        QCoreApplication::processEvents();
+        QCOMPARE(form.takeEvents(), QStringList());
+        form.show();
+        QCOMPARE(form.takeEvents().count(QStringLiteral("Load")), 1);
+    }
+
+    void loadComesBeforeActivate()
+    {
+        Window form;
+        showActive(form);
+        const QStringList events = form.takeEvents();
+        QCOMPARE(events.first(), QStringLiteral("Load"));
+        QVERIFY(events.contains(QStringLiteral("Activate")));
+    }
+
+    void hidingAndShowingDoesNotLoadAgain()
+    {
+        Window form;
+        showActive(form);
+        static_cast<void>(form.takeEvents());
+        form.hide();
+        QWidget other;
+        showActive(other);
+        showActive(form);
+        const QStringList events = form.takeEvents();
+        QVERIFY(!events.contains(QStringLiteral("Load")));
+        QVERIFY(events.contains(QStringLiteral("Activate")));
+    }
+
+    void closingUnloadsInOrder()
+    {
+        Window form;
+        showActive(form);
+        static_cast<void>(form.takeEvents());
+        QVERIFY(form.close());
+        QCOMPARE(form.takeEvents(), Unloading);
+        QVERIFY(!form.isVisible());
+    }
+
+    void afterUnloadingTheFormLoadsAnew()
+    {
+        Window form;
+        showActive(form);
+        QVERIFY(form.close());
+        static_cast<void>(form.takeEvents());
+        form.show();
+        QCOMPARE(form.takeEvents().count(QStringLiteral("Load")), 1);
+    }
+
+    void queryUnloadKeepsTheForm()
+    {
+        Window form;
+        showActive(form);
+        static_cast<void>(form.takeEvents());
+        form.mayUnload = false;
+        QVERIFY(!form.close());
+        QVERIFY(form.isVisible());
+        QCOMPARE(form.takeEvents(), QStringList{QStringLiteral("QueryUnload")});
+        form.hide();
+        form.show();
+        QVERIFY(!form.takeEvents().contains(QStringLiteral("Load")));
+
+        form.mayUnload = true;
+        QVERIFY(form.close());
+        QVERIFY(!form.isVisible());
+    }
+
+    void anErrorWhileUnloadingKeepsTheForm_data()
+    {
+        QTest::addColumn<int>("failing");
+        for (int i = 0; i < Unloading.size(); ++i)
+            QTest::newRow(qPrintable(Unloading.at(i))) << i;
+    }
+
+    void anErrorWhileUnloadingKeepsTheForm()
+    {
+        QFETCH(int, failing);
+        DialogAnswers answers;
+        Window form;
+        showActive(form);
+        static_cast<void>(form.takeEvents());
+        form.failIn = Unloading.at(failing);
+        answers.expectMsgBox(Report);
+        QVERIFY(!form.close());
+        QVERIFY(answers.allSeen());
+        QVERIFY(form.isVisible());
+        QStringList events = form.takeEvents();
+        events.removeAll(QStringLiteral("Activate")); // after the box
+        events.removeAll(QStringLiteral("GotFocus"));
+        QCOMPARE(events, Unloading.mid(0, failing + 1));
+
+        form.hide();
+        form.show();
+        QVERIFY(!form.takeEvents().contains(QStringLiteral("Load")));
+        QVERIFY(form.close());
+        QVERIFY(!form.isVisible());
+    }
+
+    void everyActivationIsAnEvent()
+    {
+        Window form;
+        QWidget other;
+        showActive(form);
+        showActive(other);
+        static_cast<void>(form.takeEvents());
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        QCOMPARE(form.takeEvents().count(QStringLiteral("Activate")), 1);
+    }
+
+    void theFocusOfTheFormItselfIsAnEvent()
+    {
+        Window form;
+        auto *box = new QWidget(&form);
+        box->setFocusPolicy(Qt::StrongFocus);
+        showActive(form);
+        box->setFocus();
+        static_cast<void>(form.takeEvents());
+        form.setFocus();
+        QCOMPARE(form.takeEvents(), QStringList{QStringLiteral("GotFocus")});
+        box->setFocus();
+        QCOMPARE(form.takeEvents(), QStringList());
+    }
+
+    void anErrorInAnyOtherEventIsReportedAndTheFormShows_data()
+    {
+        QTest::addColumn<QString>("event");
+        QTest::newRow("Load") << QStringLiteral("Load");
+        QTest::newRow("Activate") << QStringLiteral("Activate");
+        QTest::newRow("GotFocus") << QStringLiteral("GotFocus");
+    }
+
+    void anErrorInAnyOtherEventIsReportedAndTheFormShows()
+    {
+        QFETCH(QString, event);
+        DialogAnswers answers;
+        Window form;
+        form.failIn = event;
+        answers.expectMsgBox(Report);
+        form.show();
+        form.setFocus();
+        QTRY_COMPARE(answers.seen(), 1);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QVERIFY(answers.allSeen());
+        QVERIFY(form.isVisible());
+        QVERIFY(form.close());
+    }
+
+    void aDialogAndAMainWindowAreFormsToo()
+    {
+        NotingForm<QDialog> dialog;
+        showActive(dialog);
+        QVERIFY(dialog.takeEvents().contains(QStringLiteral("Load")));
+        QVERIFY(dialog.close());
+        QCOMPARE(dialog.takeEvents(), Unloading);
+
+        NotingForm<QMainWindow> window;
+        showActive(window);
+        QVERIFY(window.takeEvents().contains(QStringLiteral("Load")));
+        QVERIFY(window.close());
+        QCOMPARE(window.takeEvents(), Unloading);
+    }
+
+    void aDialogThatRefusesToUnloadStaysOpen()
+    {
+        NotingForm<QDialog> dialog;
+        showActive(dialog);
+        dialog.mayUnload = false;
+        QVERIFY(!dialog.close());
+        QVERIFY(dialog.isVisible());
+    }
+
+    // Esc closes a dialog as its close box does.
+    void escClosesADialogThroughItsUnloading()
+    {
+        NotingForm<QDialog> dialog;
+        showActive(dialog);
+        static_cast<void>(dialog.takeEvents());
+        dialog.mayUnload = false;
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.takeEvents(), QStringList{QStringLiteral("QueryUnload")});
+        dialog.mayUnload = true;
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.takeEvents(), Unloading);
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<Form_test>(argc, argv);
+}
+
+#include "Form_test.moc"

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A grid on the screen as the main window has it, with a scroll bar beside it.
+#pragma once
+
+#include "platform/MSFlexGrid.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QImage>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QToolTip>
+
+inline constexpr int Rows = 25;
+inline constexpr int VisibleRows = 24;
+
+class GridPage
+{
+public:
+    GridPage()
+    {
+        grid.setSize(Rows, 4);
+        grid.setVisibleRows(VisibleRows);
+        bar.setRange(0, 100);
+        bar.setPageStep(23);
+        bar.setValue(50);
+        grid.scrollThrough(&bar);
+        grid.resize(600, 480);
+        grid.show();
+    }
+
+    [[nodiscard]] QPoint centreOf(int row, int column) const
+    {
+        return grid.visualRect(grid.model()->index(row, column)).center();
+    }
+
+    // The tool tip of a cell, as a person reads it; empty for none.
+    QString toolTip(int row, int column)
+    {
+        // Qt would take off an older one after a while only.
+        for (QWidget *window : QApplication::topLevelWidgets())
+            if (window->objectName() == QLatin1String("qtooltip_label"))
+                window->hide();
+        const QPoint spot = centreOf(row, column);
+        QHelpEvent event(QEvent::ToolTip, spot, grid.viewport()->mapToGlobal(spot));
+        QCoreApplication::sendEvent(grid.viewport(), &event);
+        if (!QToolTip::isVisible())
+            return {};
+        QTextDocument shown;
+        shown.setHtml(QToolTip::text());
+        return shown.toPlainText();
+    }
+
+    QImage cellImage(int row, int column)
+    {
+        return grid.grab(grid.visualRect(grid.model()->index(row, column))).toImage();
+    }
+
+    QScrollBar bar;
+    MSFlexGrid grid;
+};

@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/GridPage.h"
+#include "runtime/RunTimeError.h"
+
+#include <QFontMetrics>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+void turnWheel(QWidget &widget, int notches)
+{
+    const QPointF spot(50, 50);
+    QWheelEvent event(spot, widget.mapToGlobal(spot), {}, {0, notches * 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+} // namespace
+
+class MSFlexGrid_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newCellsAreEmptyWhiteAndOfNormalWeight();
+    void growingKeepsTheOldCells();
+    void clearEmptiesEveryCellHeaderIncluded();
+    void aTextIsKeptAsItIs();
+    void outsideTheGridReadsEmptyAndWritingFails();
+    void columnsAreMeasuredInTwips();
+
+    void rowsShareTheHeightExactlyAtEveryHeight();
+    void theTextFitsItsRow();
+    void anotherNumberOfRowsIsLaidOutAtOnce();
+    void noScrollBarOfItsOwnIsShown();
+
+    void keysMoveTheScrollBar_data();
+    void keysMoveTheScrollBar();
+    void theWheelMovesTheScrollBar();
+    void theGridItselfNeverScrolls();
+    void withoutAScrollBarKeysAndWheelDoNothing();
+    void enterAndSpaceClickTheCurrentCell_data();
+    void enterAndSpaceClickTheCurrentCell();
+    void theMouseClicksTheCellUnderIt();
+    void typingIsLeftToTheWindow();
+    void tabLeavesTheGrid();
+};
+
+void MSFlexGrid_test::newCellsAreEmptyWhiteAndOfNormalWeight()
+{
+    MSFlexGrid grid;
+    grid.setSize(Rows, 4);
+    QCOMPARE(grid.rowCount(), Rows);
+    QCOMPARE(grid.columnCount(), 4);
+    for (int row = 0; row < Rows; ++row) {
+        for (int column = 0; column < 4; ++column) {
+            QCOMPARE(grid.text(row, column), QString());
+            QVERIFY(!grid.cellBold(row, column));
+            QCOMPARE(grid.cellBackColour(row, column), MSFlexGrid::White);
+        }
+    }
+}
+
+void MSFlexGrid_test::growingKeepsTheOldCells()
+{
+    MSFlexGrid grid;
+    grid.setSize(2, 2);
+    grid.setText(1, 1, QStringLiteral("cat"));
+    grid.setSize(3, 3);
+    QCOMPARE(grid.text(1, 1), QStringLiteral("cat"));
+    grid.setText(2, 2, QStringLiteral("dog"));
+    QCOMPARE(grid.text(2, 2), QStringLiteral("dog"));
+}
+
+void MSFlexGrid_test::clearEmptiesEveryCellHeaderIncluded()
+{
+    MSFlexGrid grid;
+    grid.setSize(Rows, 4);
+    for (int row = 0; row < Rows; ++row) {
+        for (int column = 0; column < 4; ++column) {
+            grid.setText(row, column, QStringLiteral("cat"));
+            grid.setCellBold(row, column, true);
+            grid.setCellBackColour(row, column, MSFlexGrid::Yellow);
+        }
+    }
+    grid.Clear();
+    QCOMPARE(grid.rowCount(), Rows);
+    QCOMPARE(grid.columnCount(), 4);
+    for (int row = 0; row < Rows; ++row) {
+        for (int column = 0; column < 4; ++column) {
+            QCOMPARE(grid.text(row, column), QString());
+            QVERIFY(!grid.cellBold(row, column));
+            QCOMPARE(grid.cellBackColour(row, column), MSFlexGrid::White);
+        }
+    }
+}
+
+void MSFlexGrid_test::aTextIsKeptAsItIs()
+{
+    MSFlexGrid grid;
+    grid.setSize(2, 2);
+    const QString text = QStringLiteral("  a\tb\r\nc \u00E9 <b>x</b> ");
+    grid.setText(1, 1, text);
+    QCOMPARE(grid.text(1, 1), text);
+    grid.setText(1, 1, {});
+    QCOMPARE(grid.text(1, 1), QString());
+}
+
+void MSFlexGrid_test::outsideTheGridReadsEmptyAndWritingFails()
+{
+    MSFlexGrid grid;
+    grid.setSize(2, 2);
+    QCOMPARE(grid.text(2, 0), QString());
+    QCOMPARE(grid.text(-1, 0), QString());
+    QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setText(2, 0, QStringLiteral("cat")));
+    QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setCellBold(0, 2, true));
+    QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setCellBackColour(-1, 0, MSFlexGrid::Yellow));
+}
+
+void MSFlexGrid_test::columnsAreMeasuredInTwips()
+{
+    GridPage page;
+    page.grid.setColWidth(1, 2194);
+    QCOMPARE(page.grid.columnWidth(1), 146);
+    QVERIFY(std::abs(page.grid.ColWidth(1) - 2194) < 15);
+    page.grid.setColWidth(2, 5120);
+    QCOMPARE(page.grid.columnWidth(2), 341);
+    QCOMPARE(page.grid.RowHeight(1), page.grid.rowHeight(1) * 15);
+}
+
+void MSFlexGrid_test::rowsShareTheHeightExactlyAtEveryHeight()
+{
+    GridPage page;
+    for (int height = 200; height <= 1100; height += 1) {
+        page.grid.resize(600, height);
+        const int inside = page.grid.viewport()->height();
+        int sum = 0;
+        int smallest = height;
+        int largest = 0;
+        for (int row = 0; row < VisibleRows; ++row) {
+            const int rowHeight = page.grid.rowHeight(row);
+            sum += rowHeight;
+            smallest = std::min(smallest, rowHeight);
+            largest = std::max(largest, rowHeight);
+        }
+        QCOMPARE(sum, inside);
+        QVERIFY(largest - smallest <= 1);
+        QVERIFY(page.grid.rowViewportPosition(VisibleRows) >= inside);
+        QCOMPARE(page.grid.rowAt(inside - 1), VisibleRows - 1);
+    }
+}
+
+void MSFlexGrid_test::theTextFitsItsRow()
+{
+    GridPage page;
+    int previous = 0;
+    for (int height = 384; height <= 1080; height += 12) { // half of a screen of 768 and more
+        page.grid.resize(600, height);
+        const int size = page.grid.font().pixelSize();
+        QVERIFY2(QFontMetrics(page.grid.font()).height() <= page.grid.rowHeight(1),
+                 qPrintable(QStringLiteral("at height %1").arg(height)));
+        QVERIFY(size >= previous);
+        previous = size;
+    }
+    QVERIFY(previous > 11);
+}
+
+void MSFlexGrid_test::anotherNumberOfRowsIsLaidOutAtOnce()
+{
+    GridPage page;
+    page.grid.setVisibleRows(10);
+    int sum = 0;
+    for (int row = 0; row < 10; ++row)
+        sum += page.grid.rowHeight(row);
+    QCOMPARE(sum, page.grid.viewport()->height());
+}
+
+void MSFlexGrid_test::noScrollBarOfItsOwnIsShown()
+{
+    GridPage page;
+    page.grid.resize(100, 60);
+    QVERIFY(!page.grid.verticalScrollBar()->isVisible());
+    QVERIFY(!page.grid.horizontalScrollBar()->isVisible());
+}
+
+void MSFlexGrid_test::keysMoveTheScrollBar_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<int>("value");
+    QTest::newRow("up") << Qt::Key_Up << 49;
+    QTest::newRow("down") << Qt::Key_Down << 51;
+    QTest::newRow("page up") << Qt::Key_PageUp << 27;
+    QTest::newRow("page down") << Qt::Key_PageDown << 73;
+    QTest::newRow("home") << Qt::Key_Home << 0;
+    QTest::newRow("end") << Qt::Key_End << 100;
+    QTest::newRow("left") << Qt::Key_Left << 50;
+    QTest::newRow("right") << Qt::Key_Right << 50;
+}
+
+void MSFlexGrid_test::keysMoveTheScrollBar()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(int, value);
+    GridPage page;
+    QTest::keyClick(&page.grid, key);
+    QCOMPARE(page.bar.value(), value);
+}
+
+void MSFlexGrid_test::theWheelMovesTheScrollBar()
+{
+    GridPage page;
+    turnWheel(*page.grid.viewport(), -1);
+    QCOMPARE(page.bar.value(), 50 + QApplication::wheelScrollLines());
+    turnWheel(*page.grid.viewport(), 2);
+    QCOMPARE(page.bar.value(), 50 - QApplication::wheelScrollLines());
+}
+
+void MSFlexGrid_test::theGridItselfNeverScrolls()
+{
+    GridPage page;
+    page.grid.setText(24, 1, QStringLiteral("behind the edge"));
+    turnWheel(*page.grid.viewport(), -10);
+    for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Down})
+        QTest::keyClick(&page.grid, key);
+    page.grid.setCurrent(24, 3);
+    QCOMPARE(page.grid.verticalScrollBar()->value(), 0);
+    QCOMPARE(page.grid.rowViewportPosition(0), 0);
+    QCOMPARE(page.grid.columnViewportPosition(0), 0);
+}
+
+void MSFlexGrid_test::withoutAScrollBarKeysAndWheelDoNothing()
+{
+    MSFlexGrid grid;
+    grid.setSize(Rows, 4);
+    grid.setVisibleRows(VisibleRows);
+    grid.show();
+    grid.setCurrent(3, 1);
+    turnWheel(*grid.viewport(), -1);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_End);
+    QCOMPARE(grid.Row(), 3);
+    QCOMPARE(grid.rowViewportPosition(0), 0);
+}
+
+void MSFlexGrid_test::enterAndSpaceClickTheCurrentCell_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+    QTest::newRow("Space") << Qt::Key_Space;
+}
+
+void MSFlexGrid_test::enterAndSpaceClickTheCurrentCell()
+{
+    QFETCH(Qt::Key, key);
+    GridPage page;
+    page.grid.setCurrent(7, 2);
+    QCOMPARE(page.grid.Row(), 7);
+    QCOMPARE(page.grid.Col(), 2);
+    QSignalSpy clicks(&page.grid, &MSFlexGrid::Click);
+    QTest::keyClick(&page.grid, key);
+    QCOMPARE(clicks, (QList<QVariantList>{{7, 2}}));
+}
+
+void MSFlexGrid_test::theMouseClicksTheCellUnderIt()
+{
+    GridPage page;
+    QSignalSpy clicks(&page.grid, &MSFlexGrid::Click);
+    for (const int row : {0, 1, 12, 23})
+        for (int column = 0; column < 4; ++column)
+            QTest::mouseClick(page.grid.viewport(), Qt::LeftButton, {}, page.centreOf(row, column));
+    QCOMPARE(clicks.size(), 16);
+    QCOMPARE(clicks.at(6), (QVariantList{1, 2}));
+    QCOMPARE(clicks.at(15), (QVariantList{23, 3}));
+    QCOMPARE(page.grid.Row(), 23);
+    QCOMPARE(page.grid.Col(), 3);
+}
+
+void MSFlexGrid_test::typingIsLeftToTheWindow()
+{
+    GridPage page;
+    page.grid.setText(5, 1, QStringLiteral("cat"));
+    page.grid.setCurrent(1, 1);
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier, QStringLiteral("c"));
+    QCoreApplication::sendEvent(&page.grid, &event);
+    QVERIFY(!event.isAccepted());
+    QCOMPARE(page.grid.Row(), 1);
+    QCOMPARE(page.grid.text(1, 1), QString());
+}
+
+void MSFlexGrid_test::tabLeavesTheGrid()
+{
+    QWidget window;
+    auto *before = new QWidget(&window);
+    auto *grid = new MSFlexGrid(&window);
+    auto *behind = new QWidget(&window);
+    for (QWidget *neighbour : {before, behind})
+        neighbour->setFocusPolicy(Qt::StrongFocus);
+    grid->setSize(Rows, 4);
+    grid->setCurrent(1, 1);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), behind);
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), before);
+    QCOMPARE(grid->Col(), 1);
+}
+
+QTEST_MAIN(MSFlexGrid_test)
+#include "MSFlexGrid_test.moc"

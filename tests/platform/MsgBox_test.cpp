@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/MsgBox.h"
+
+#include "core/Notice.h"
+#include "support/DialogAnswers.h"
+#include "support/FormTest.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+using Buttons = QMessageBox::StandardButtons;
+
+Buttons expectedButtons(MsgBoxButtons buttons)
+{
+    switch (buttons) {
+    case MsgBoxButtons::OkOnly:
+        return QMessageBox::Ok;
+    case MsgBoxButtons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case MsgBoxButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MsgBoxButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return {};
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(MsgBoxButtons)
+Q_DECLARE_METATYPE(MsgBoxAnswer)
+
+class MsgBox_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theTextIsShownAsItIs_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("plain") << QStringLiteral("End current lesson?");
+        QTest::newRow("markup") << QStringLiteral("<b>x</b> is not in the list.");
+        QTest::newRow("two blanks") << QStringLiteral("Word already exist.  Add word anyway?");
+        QTest::newRow("lines") << QStringLiteral("Run-time error '9':\n\nSubscript out of range");
+        QTest::newRow("ampersand") << QStringLiteral("a & b && c is not in the list.");
+        QTest::newRow("accents") << QStringLiteral("\u00E9t\u00E9 is not in the list.");
+    }
+
+    void theTextIsShownAsItIs()
+    {
+        QFETCH(QString, text);
+        DialogAnswers answers;
+        answers.expectMsgBox(text, QMessageBox::Ok, [&text](QMessageBox &box) {
+            QCOMPARE(box.windowTitle(), QStringLiteral("Tanglewit"));
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            QCOMPARE(box.informativeText(), QString());
+            const auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+            QVERIFY(label);
+            QCOMPARE(label->text(), text);
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+        });
+        MsgBox(text);
+        QVERIFY(answers.allSeen());
+    }
+
+    void eachButtonIsItsAnswer_data()
+    {
+        QTest::addColumn<MsgBoxButtons>("buttons");
+        QTest::addColumn<int>("pressed");
+        QTest::addColumn<MsgBoxAnswer>("answer");
+        using enum MsgBoxButtons;
+        QTest::newRow("OK") << OkOnly << int(QMessageBox::Ok) << MsgBoxAnswer::Ok;
+        QTest::newRow("OK/Cancel: OK") << OkCancel << int(QMessageBox::Ok) << MsgBoxAnswer::Ok;
+        QTest::newRow("OK/Cancel: Cancel")
+            << OkCancel << int(QMessageBox::Cancel) << MsgBoxAnswer::Cancel;
+        QTest::newRow("Yes/No: Yes") << YesNo << int(QMessageBox::Yes) << MsgBoxAnswer::Yes;
+        QTest::newRow("Yes/No: No") << YesNo << int(QMessageBox::No) << MsgBoxAnswer::No;
+        QTest::newRow("Yes/No/Cancel: Yes")
+            << YesNoCancel << int(QMessageBox::Yes) << MsgBoxAnswer::Yes;
+        QTest::newRow("Yes/No/Cancel: No")
+            << YesNoCancel << int(QMessageBox::No) << MsgBoxAnswer::No;
+        QTest::newRow("Yes/No/Cancel: Cancel")
+            << YesNoCancel << int(QMessageBox::Cancel) << MsgBoxAnswer::Cancel;
+    }
+
+    void eachButtonIsItsAnswer()
+    {
+        QFETCH(MsgBoxButtons, buttons);
+        QFETCH(int, pressed);
+        DialogAnswers answers;
+        answers.expectMsgBox(QStringLiteral("Well?"), QMessageBox::StandardButton(pressed),
+                             [buttons](QMessageBox &box) {
+                                 QCOMPARE(box.standardButtons(), expectedButtons(buttons));
+                             });
+        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        QVERIFY(answers.allSeen());
+    }
+
+    void withoutAKindThereIsOnlyOk()
+    {
+        DialogAnswers answers;
+        answers.expectMsgBox(QStringLiteral("Well."), QMessageBox::Ok, [](QMessageBox &box) {
+            QCOMPARE(box.standardButtons(), Buttons(QMessageBox::Ok));
+        });
+        QCOMPARE(MsgBox(QStringLiteral("Well.")), MsgBoxAnswer::Ok);
+        QVERIFY(answers.allSeen());
+    }
+
+    void enterPressesTheFirstButton_data()
+    {
+        QTest::addColumn<MsgBoxButtons>("buttons");
+        QTest::addColumn<MsgBoxAnswer>("answer");
+        QTest::newRow("OK") << MsgBoxButtons::OkOnly << MsgBoxAnswer::Ok;
+        QTest::newRow("OK/Cancel") << MsgBoxButtons::OkCancel << MsgBoxAnswer::Ok;
+        QTest::newRow("Yes/No") << MsgBoxButtons::YesNo << MsgBoxAnswer::Yes;
+        QTest::newRow("Yes/No/Cancel") << MsgBoxButtons::YesNoCancel << MsgBoxAnswer::Yes;
+    }
+
+    void enterPressesTheFirstButton()
+    {
+        QFETCH(MsgBoxButtons, buttons);
+        withBox([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
+        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+    }
+
+    void escAndTheCloseBoxDismissWhatCanBeDismissed_data()
+    {
+        QTest::addColumn<MsgBoxButtons>("buttons");
+        QTest::addColumn<MsgBoxAnswer>("answer");
+        QTest::newRow("OK") << MsgBoxButtons::OkOnly << MsgBoxAnswer::Ok;
+        QTest::newRow("OK/Cancel") << MsgBoxButtons::OkCancel << MsgBoxAnswer::Cancel;
+        QTest::newRow("Yes/No/Cancel") << MsgBoxButtons::YesNoCancel << MsgBoxAnswer::Cancel;
+    }
+
+    void escAndTheCloseBoxDismissWhatCanBeDismissed()
+    {
+        QFETCH(MsgBoxButtons, buttons);
+        withBox([](QMessageBox &box) { QTest::keyClick(box.defaultButton(), Qt::Key_Escape); });
+        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        withBox([](QMessageBox &box) { box.close(); });
+        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+    }
+
+    void aYesNoQuestionIsNotDismissed()
+    {
+        withBox([](QMessageBox &box) {
+            QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
+            QVERIFY(box.isVisible());
+            QTest::keyClick(&box, Qt::Key_Escape);
+            QVERIFY(box.isVisible());
+            QVERIFY(!box.close());
+            QVERIFY(box.isVisible());
+            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+        });
+        QCOMPARE(MsgBox(QStringLiteral("Well?"), MsgBoxButtons::YesNo), MsgBoxAnswer::Yes);
+    }
+
+    void theBoxStandsOverTheActiveWindow()
+    {
+        QWidget window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        DialogAnswers answers;
+        answers.expectMsgBox(QStringLiteral("Well."), QMessageBox::Ok, [&window](QMessageBox &box) {
+            QCOMPARE(box.parentWidget(), &window);
+            QVERIFY(box.isModal());
+        });
+        MsgBox(QStringLiteral("Well."));
+        QVERIFY(answers.allSeen());
+    }
+
+    void whatTheDataHasToTellIsShown()
+    {
+        DialogAnswers answers;
+        answers.expectMsgBox(QStringLiteral("Cannot add any more words."));
+        notice(QStringLiteral("Cannot add any more words."));
+        QVERIFY(answers.allSeen());
+    }
+
+private:
+    // Does it to the next message box as soon as that shows.
+    void withBox(const std::function<void(QMessageBox &)> &deed)
+    {
+        auto *timer = new QTimer(this);
+        connect(timer, &QTimer::timeout, timer, [timer, deed] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box || !box->isVisible())
+                return;
+            timer->stop();
+            timer->deleteLater();
+            deed(*box);
+        });
+        timer->start(0);
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<MsgBox_test>(argc, argv);
+}
+
+#include "MsgBox_test.moc"
