@@ -39,6 +39,8 @@ QPushButton:pressed { background: @line; }
 QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
 QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; }
 QPushButton:disabled { background: palette(window); color: @disabled; border-color: @line; }
+FlashCard { border-radius: 14px; border: 1px solid @line; }
+FlashCard:focus { border: 2px solid @accent; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
 MSFlexGrid:focus { border-bottom: 2px solid @accent; }

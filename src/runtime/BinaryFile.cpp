@@ -99,12 +99,14 @@ void writeInPlace(QFile &file, QByteArrayView content, const QString &path)
 
 } // namespace
 
-QByteArray BinaryFile::read(const QString &path)
+QByteArray BinaryFile::read(const QString &path, Missing missing)
 {
     checkPlace(path);
     QFile file(path);
-    const bool missing = !file.exists();
-    if (!file.open(missing ? QIODevice::ReadWrite : QIODevice::ReadOnly))
+    const bool exists = file.exists();
+    if (!exists && missing == Missing::IsAnError)
+        fail(RunTimeError::FileNotFound, path, QStringLiteral("There is no such file"));
+    if (!file.open(exists ? QIODevice::ReadOnly : QIODevice::ReadWrite))
         fail(RunTimeError::PermissionDenied, path, file.errorString());
     QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError)

@@ -11,8 +11,10 @@
 
 namespace BinaryFile {
 
-// The whole content. A missing file is created empty.
-[[nodiscard]] QByteArray read(const QString &path);
+enum class Missing { IsCreated, IsAnError };
+
+// The whole content. A missing file is created empty, or is the error File not found.
+[[nodiscard]] QByteArray read(const QString &path, Missing missing = Missing::IsCreated);
 
 // Leaves the file as if `content` had been written over it from the first byte without
 // truncating it: what an older, longer file held beyond stays. The new file takes the old one's
