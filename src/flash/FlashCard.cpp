@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QTextOption>
 
 #include <array>
@@ -28,19 +29,25 @@ FlashCard::FlashCard(QWidget *parent) : QPlainTextEdit(parent)
     document()->setDefaultTextOption(centred);
 }
 
-void FlashCard::setText(const QString &text)
+void FlashCard::setText(const QString &text, Side side)
 {
+    if (side != m_side) {
+        m_side = side;
+        style()->polish(this);
+    }
     m_text = text;
     setPlainText(text.trimmed());
     fitType();
 }
 
-void FlashCard::turnTo(const QString &text)
+void FlashCard::turnTo(const QString &text, Side side)
 {
-    if (text == m_text)
+    if (side == m_side) {
+        setText(text, side);
         return;
+    }
     const QPixmap oldSide = grab();
-    setText(text);
+    setText(text, side);
     CardTurn::play(*this, oldSide, grab());
 }
 

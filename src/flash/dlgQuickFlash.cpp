@@ -59,8 +59,8 @@ void dlgQuickFlash::Form_Load()
     ShuffleCards();
     gOrderIndex = 1;
     gVocabList().CurrentWord(gWordOrder(gOrderIndex));
-    m_ui->txtWord->setText(gVocabList().Word());
-    m_ui->txtDef->setText(ClosedCard + QStringLiteral("\r\n"));
+    m_ui->txtWord->setText(gVocabList().Word(), FlashCard::Side::Front);
+    m_ui->txtDef->setText(ClosedCard + QStringLiteral("\r\n"), FlashCard::Side::Back);
     showRun(Run::ByHand);
 }
 
@@ -91,27 +91,27 @@ void dlgQuickFlash::cmdPrevious_Click()
 void dlgQuickFlash::showCard()
 {
     gVocabList().CurrentWord(gWordOrder(gOrderIndex));
-    m_ui->txtWord->setText(gVocabList().Word());
-    m_ui->txtDef->setText(ClosedCard);
+    m_ui->txtWord->setText(gVocabList().Word(), FlashCard::Side::Front);
+    m_ui->txtDef->setText(ClosedCard, FlashCard::Side::Back);
 }
 
 void dlgQuickFlash::txtDef_Click()
 {
-    m_ui->txtDef->turnTo(gVocabList().Definition());
+    m_ui->txtDef->turnTo(gVocabList().Definition(), FlashCard::Side::Front);
 }
 
 void dlgQuickFlash::cmdAutoFlash_Click()
 {
     m_tmrWord.start();
     cmdNext_Click();
-    m_ui->txtDef->setText({});
+    m_ui->txtDef->setText({}, FlashCard::Side::Back);
     showRun(Run::Automatic);
 }
 
 void dlgQuickFlash::tmrWord_Timer()
 {
     const QString definition = gVocabList().Definition();
-    m_ui->txtDef->turnTo(definition);
+    m_ui->txtDef->turnTo(definition, FlashCard::Side::Front);
     m_tmrWord.stop();
     m_tmrDef.start(definitionTime(definition.size()).toInt());
 }
@@ -119,7 +119,7 @@ void dlgQuickFlash::tmrWord_Timer()
 void dlgQuickFlash::tmrDef_Timer()
 {
     cmdNext_Click();
-    m_ui->txtDef->setText({});
+    m_ui->txtDef->setText({}, FlashCard::Side::Back);
     m_tmrWord.start();
     m_tmrDef.stop();
 }

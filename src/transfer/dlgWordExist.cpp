@@ -7,6 +7,8 @@
 #include "runtime/Blanks.h"
 #include "transfer/ui_dlgWordExist.h"
 
+#include <QStyle>
+
 using namespace Module1;
 
 dlgWordExist::dlgWordExist(QWidget *parent)
@@ -135,6 +137,10 @@ void dlgWordExist::lockExisting(bool locked)
     m_ui->txtCurWord->setReadOnly(locked);
     m_ui->txtCurDef->setReadOnly(locked);
     m_ui->txtCurSen->setReadOnly(locked);
+    for (QWidget *box :
+         {static_cast<QWidget *>(m_ui->txtCurWord), static_cast<QWidget *>(m_ui->txtCurDef),
+          static_cast<QWidget *>(m_ui->txtCurSen)})
+        box->style()->polish(box); // a locked box looks locked
 }
 
 // An entry that is on show can be unlocked, then updated, and deleted at any time.
