@@ -31,16 +31,19 @@ function(tanglewit_library folder)
 endfunction()
 
 # tanglewit_test(<name> LINKS <targets...> [LABELS <labels...>]): builds <name>.cpp of this folder
-# and runs it without a display of its own. The name begins with the folder's name in CTest.
+# and runs it without a display, as if on a screen of 1024x768 pixels. The name begins with the
+# folder's name in CTest.
 function(tanglewit_test name)
   cmake_parse_arguments(arg "" "" "LINKS;LABELS" ${ARGN})
   get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+  set(support "${PROJECT_SOURCE_DIR}/tests/support")
   add_executable(${name} ${name}.cpp)
+  set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${name} PRIVATE Qt6::Test ${arg_LINKS})
   add_test(NAME ${folder}/${name} COMMAND ${name})
   set_tests_properties(
     ${folder}/${name}
     PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300
-               ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+               ENVIRONMENT "QT_QPA_PLATFORM=offscreen:configfile=${support}/screen-1024x768.json;LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0")
 endfunction()

@@ -22,7 +22,8 @@ bool isSame(const VocabRecord &a, const VocabRecord &b)
 
 void check(QByteArrayView bytes)
 {
-    const std::vector<VocabRecord> records = ListFile::decode(bytes, MaxCount);
+    const ListFile::Content content = ListFile::decode(bytes, MaxCount);
+    const std::vector<VocabRecord> &records = content.records;
     require(records.size() <= std::size_t(MaxCount));
     qsizetype characters = 0;
     for (const VocabRecord &record : records)
@@ -30,7 +31,8 @@ void check(QByteArrayView bytes)
     require(characters <= bytes.size());
 
     const QByteArray written = ListFile::encode(records.size(), records);
-    const std::vector<VocabRecord> again = ListFile::decode(written, MaxCount);
+    const ListFile::Content second = ListFile::decode(written, MaxCount);
+    const std::vector<VocabRecord> &again = second.records;
     require(std::equal(records.begin(), records.end(), again.begin(), again.end(), isSame));
     // Where bytes are left over no field was cut off: the file begins with those very bytes.
     if (written.size() < bytes.size())

@@ -20,8 +20,10 @@ int main(int argc, char *argv[])
     std::unique_ptr<frmMain> mainWindow;
     QObject::connect(&splash, &frmSplash::unloaded, &application, [&mainWindow] {
         runGuarded([] { installSampleLists(pathOf(Place::WordLists)); });
-        mainWindow = std::make_unique<frmMain>();
-        mainWindow->showMaximized();
+        runGuarded([&mainWindow] {
+            mainWindow = std::make_unique<frmMain>();
+            mainWindow->showMaximized();
+        });
         Application::setQuitOnLastWindowClosed(true);
     });
     splash.show();

@@ -48,7 +48,7 @@ QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records)
     return bytes;
 }
 
-std::vector<VocabRecord> ListFile::decode(QByteArrayView bytes, Integer maxCount)
+ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)
 {
     ByteReader reader(bytes);
     const Integer count = reader.number<qint16>();
@@ -58,9 +58,15 @@ std::vector<VocabRecord> ListFile::decode(QByteArrayView bytes, Integer maxCount
             QStringLiteral("The file says that it holds %1 words; a list holds 0 to %2")
                 .arg(count.toInt())
                 .arg(maxCount.toInt()));
-    std::vector<VocabRecord> records(static_cast<std::size_t>(count.toInt()));
-    for (VocabRecord &record : records)
-        for (QString *text : {&record.Word, &record.Definition, &record.Sentence})
-            *text = reader.text();
-    return records;
+    Content content;
+    content.characters = fromWindows1252(bytes);
+    content.records.resize(static_cast<std::size_t>(count.toInt()));
+    const QChar *characters = content.characters.constData();
+    for (VocabRecord &record : content.records) {
+        for (QString *text : {&record.Word, &record.Definition, &record.Sentence}) {
+            const QByteArrayView span = reader.textBytes();
+            *text = QString::fromRawData(characters + (span.data() - bytes.data()), span.size());
+        }
+    }
+    return content;
 }

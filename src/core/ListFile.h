@@ -23,12 +23,28 @@
 
 namespace ListFile {
 
+// The most bytes of a file that can matter where it holds up to maxCount records.
+[[nodiscard]] constexpr qint64 longestFile(Integer maxCount)
+{
+    constexpr qint64 longestText = 2 + 65535;
+    return 2 + maxCount.toInt() * 3 * longestText;
+}
+
 // The count, then every record given. Throws RunTimeError Overflow, naming the record, where a
 // text has more than 65,535 bytes.
 [[nodiscard]] QByteArray encode(Integer count, std::span<const VocabRecord> records);
 
+// One block for all texts of a file takes a fraction of the time and room of a block for each.
+struct Content
+{
+    QString characters;
+    // Their texts are views of `characters`, good for as long as that lives: what leaves the list
+    // must be copied.
+    std::vector<VocabRecord> records;
+};
+
 // The N records. A field beyond the end is zero or empty; a text cut off keeps the bytes that are
 // there. Throws RunTimeError SubscriptOutOfRange where N is negative or above `maxCount`.
-[[nodiscard]] std::vector<VocabRecord> decode(QByteArrayView bytes, Integer maxCount);
+[[nodiscard]] Content decode(QByteArrayView bytes, Integer maxCount);
 
 } // namespace ListFile

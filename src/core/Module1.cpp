@@ -8,3 +8,15 @@ cVocabList &Module1::gVocabList()
     static cVocabList list;
     return list;
 }
+
+cVocabList &Module1::gImportList()
+{
+    static cVocabList list;
+    return list;
+}
+
+cVocabList &Module1::gExportList()
+{
+    static cVocabList list;
+    return list;
+}

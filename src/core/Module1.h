@@ -2,6 +2,7 @@
 // The state that all windows share, one copy for the whole run.
 #pragma once
 
+#include "runtime/Array.h"
 #include "runtime/Integer.h"
 
 #include <QDate>
@@ -21,8 +22,10 @@ struct Top10Entry
 
 namespace Module1 {
 
-// The list open in the main window; made at the first call.
-cVocabList &gVocabList();
+// Each list is made at the first call.
+cVocabList &gVocabList();  // open in the main window
+cVocabList &gImportList(); // a file being imported
+cVocabList &gExportList(); // the target of an export
 
 inline QString gFileName;     // the path that SaveFile and OpenFile use; empty = untitled
 inline QString gFileTitle;    // the open list's file name without folder
@@ -39,6 +42,21 @@ inline Integer gHighlightRow; // grid row that is marked; 0 = none
 
 // The list position shown in grid row r is element r - 1; rows 1 to 24.
 inline std::array<Integer, 24> gRowItem;
+
+// The answers of the existing-word dialog, and what is being imported.
+inline bool gAddThis = false;    // add the conflicting word
+inline bool gAddAll = false;     // add every further word without checking
+inline bool gSkipAll = false;    // skip every further conflicting word without asking
+inline bool gStopImport = false; // the import ends here
+inline QString gImportWord;
+inline QString gImportDef;
+inline QString gImportSen;
+inline Integer gImportCount;     // words added by this import
+inline Array<QString> gDifLines; // of the last DIF file read
+
+inline Array<Integer> gWordOrder; // list positions in the order in which they are asked
+inline Integer gOrderIndex;       // position in gWordOrder of the word on show
+inline Integer gOrderSize;        // positions of gWordOrder in use
 
 inline std::array<Top10Entry, 10> gTop10; // best first
 

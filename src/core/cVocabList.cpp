@@ -3,11 +3,21 @@
 
 #include "core/ListFile.h"
 #include "core/Module1.h"
-#include "core/Notice.h"
 #include "runtime/BinaryFile.h"
+#include "runtime/Notice.h"
 
 #include <algorithm>
 #include <utility>
+
+namespace {
+
+// A text of the storage may be a view that dies with the list's content.
+QString copyOf(const QString &text)
+{
+    return QStringView(text).toString();
+}
+
+} // namespace
 
 QString cVocabList::maxWordsText()
 {
@@ -86,13 +96,14 @@ void cVocabList::SaveFile() const
 bool cVocabList::OpenFile()
 {
     if (!Module1::gFileName.isEmpty()) {
-        std::vector<VocabRecord> records =
-            ListFile::decode(BinaryFile::read(Module1::gFileName), MaxWords);
-        m_count = records.size();
-        m_slots = std::move(records);
+        ListFile::Content content = ListFile::decode(
+            BinaryFile::read(Module1::gFileName, ListFile::longestFile(MaxWords)), MaxWords);
+        m_index.clear();
+        m_count = content.records.size();
+        m_slots = std::move(content.records);
+        m_fileCharacters = std::move(content.characters);
         m_slots.resize(std::max<std::size_t>(m_slots.size(), 1));
         m_firstSlot = 1;
-        m_index.clear();
     }
     Module1::gChanged = false;
     m_current = 1;
@@ -129,17 +140,17 @@ Integer cVocabList::SearchWord(const QString &FindWord)
 
 QString cVocabList::Word() const
 {
-    return m_current == 0 ? QString() : slot(m_current).Word;
+    return m_current == 0 ? QString() : copyOf(slot(m_current).Word);
 }
 
 QString cVocabList::Definition() const
 {
-    return m_current == 0 ? QString() : slot(m_current).Definition;
+    return m_current == 0 ? QString() : copyOf(slot(m_current).Definition);
 }
 
 QString cVocabList::Sentence() const
 {
-    return m_current == 0 ? QString() : slot(m_current).Sentence;
+    return m_current == 0 ? QString() : copyOf(slot(m_current).Sentence);
 }
 
 QString cVocabList::length() const
@@ -166,10 +177,15 @@ std::span<const VocabRecord> cVocabList::entries() const
                                       static_cast<std::size_t>(m_count.toInt()));
 }
 
-Integer cVocabList::find(const QString &word, Integer start)
+void cVocabList::prepareLookup()
 {
     if (m_index.isEmpty())
         m_index.rebuild(entries());
+}
+
+Integer cVocabList::find(const QString &word, Integer start)
+{
+    prepareLookup();
     return m_index.find(word, start.toInt());
 }
 

@@ -50,6 +50,9 @@ public:
     // which the search starts at the first entry again.
     Integer SearchWord(const QString &FindWord);
 
+    // Does now what the first look-up would do: 32,000 entries take some milliseconds.
+    void prepareLookup();
+
     // A random order of the current word's characters in which no three that follow one another
     // in the word do so here. A word of one or two characters has none: the scramble tries
     // without end, or until the scramble hook gives up, which leaves the text empty.
@@ -76,6 +79,7 @@ private:
 
     // Slot i of the storage is element i - m_firstSlot. There may be more slots than entries.
     std::vector<VocabRecord> m_slots;
+    QString m_fileCharacters; // what texts read from a file are views of
     int m_firstSlot = 1;
     Integer m_count;
     Integer m_current;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/cVocabList.h"
 
-#include "core/Notice.h"
+#include "runtime/Notice.h"
 #include "runtime/RandomNumbers.h"
 
 #include <optional>

@@ -51,6 +51,7 @@ void frmMain::connectHandlers()
     onClick(m_ui->cmdAbort, &frmMain::cmdAbort_Click);
     onClick(m_ui->cmdDelete, &frmMain::cmdDelete_Click);
     onClick(m_ui->cmdSearch, &frmMain::cmdSearch_Click);
+    onClick(m_ui->cmdQuickFlash, &frmMain::cmdQuickFlash_Click);
 
     const auto onChoice = [this](QAction *item, void (frmMain::*handler)()) {
         connect(item, &QAction::triggered, this, guarded(this, handler));
@@ -59,6 +60,10 @@ void frmMain::connectHandlers()
     onChoice(m_ui->mnuOpen, &frmMain::mnuOpen_Click);
     onChoice(m_ui->mnuSave, &frmMain::mnuSave_Click);
     onChoice(m_ui->mnuSaveAs, &frmMain::mnuSaveAs_Click);
+    onChoice(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
+    onChoice(m_ui->mnuExport, &frmMain::mnuExport_Click);
+    onChoice(m_ui->mnuImport, &frmMain::mnuImport_Click);
+    onChoice(m_ui->mnuQuickFlash, &frmMain::cmdQuickFlash_Click);
     onChoice(m_ui->mnuExit, &frmMain::mnuExit_Click);
     onChoice(m_ui->mnuDeleteWord, &frmMain::mnuDeleteWord_Click);
 
@@ -92,7 +97,7 @@ void frmMain::Form_Load()
     gVocabList().ClearList();
     gFileName.clear();
     gOpenedFile.clear();
-    m_entryShown = false;
+    m_shownEntry = 0;
     m_searching = false;
 
     MSFlexGrid &grid = *m_ui->MSFlexGrid1;

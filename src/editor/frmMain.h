@@ -12,6 +12,7 @@
 #include <memory>
 
 class QPushButton;
+enum class MsgBoxButtons;
 struct MainLayout;
 
 namespace Ui {
@@ -63,6 +64,7 @@ private:
     void ClearEntryBoxes();
     void DisableEntryBoxes();
     void EnableEntryBoxes();
+    void returnToShownEntry();
     [[nodiscard]] bool isCurrentWordAnEntry() const;
 
     // frmMain_Grid.cpp: the grid and its scroll bar
@@ -79,18 +81,25 @@ private:
     void markRow(Integer row);
     void MarkNewRow();
 
+    // frmMain_Transfer.cpp: import, export, text file, flash cards
+    void mnuImport_Click();
+    void mnuExport_Click();
+    void mnuCreateTextFile_Click();
+    void cmdQuickFlash_Click();
+    void importWords(const QString &path);
+
     // frmMain_File.cpp: file commands
     void mnuNew_Click();
     void mnuOpen_Click();
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void openFile();
-    [[nodiscard]] bool mayEndLesson(bool mayCancelSaving);
+    [[nodiscard]] bool mayEndLesson(MsgBoxButtons saveAnswers);
 
     std::unique_ptr<Ui::frmMain> m_ui;
     QPushButton *m_defaultButton = nullptr; // what Enter presses
     CommonDialog m_fileDialog;
 
-    bool m_entryShown = false; // the boxes show the current entry, picked or found
-    bool m_searching = false;  // the next page fill is a search's, which marks its own row
+    Integer m_shownEntry;     // position of the entry in the boxes, picked or found; 0 = none
+    bool m_searching = false; // the next page fill is a search's, which marks its own row
 };

@@ -40,6 +40,7 @@ void frmMain::cmdAdd_Click()
 
 void frmMain::updateWord()
 {
+    returnToShownEntry();
     gVocabList().Edit(withoutOuterBlanks(m_ui->txtWord->text()),
                       withoutOuterBlanks(m_ui->txtDefinition->text()),
                       withoutOuterBlanks(m_ui->txtSentence->text()));
@@ -88,6 +89,7 @@ void frmMain::cmdDelete_Click()
 {
     cVocabList &list = gVocabList();
     const Integer top = FirstShownItem();
+    returnToShownEntry();
     if (!isCurrentWordAnEntry() || m_ui->txtWord->text() != list.Word()) {
         MsgBox(QStringLiteral("Please select a word to delete or execute a search first."));
         return;
@@ -103,6 +105,8 @@ void frmMain::cmdDelete_Click()
     else
         emptyGrid();
     NumberRows(top);
+    if (top > list.NumWords() && list.NumWords() > 0)
+        scrollTo(list.NumWords()); // the page would be an empty one behind the list
     gChanged = true;
     gNewWord = gWordSelected = false;
     m_ui->mnuSave->setEnabled(true);
@@ -162,15 +166,15 @@ void frmMain::showEntry()
     m_ui->txtWord->setText(list.Word());
     m_ui->txtDefinition->setText(list.Definition());
     m_ui->txtSentence->setText(list.Sentence());
-    m_entryShown = true;
+    m_shownEntry = list.CurrentWord();
 }
 
 void frmMain::ClearEntryBoxes()
 {
-    m_entryShown = false;
+    m_shownEntry = 0;
     m_ui->txtWord->clear();
-    m_ui->txtDefinition->clear();
-    m_ui->txtSentence->clear();
+    m_ui->txtDefinition->setText({});
+    m_ui->txtSentence->setText({});
 }
 
 void frmMain::DisableEntryBoxes()
@@ -187,6 +191,13 @@ void frmMain::EnableEntryBoxes()
          {static_cast<QWidget *>(m_ui->txtWord), static_cast<QWidget *>(m_ui->txtDefinition),
           static_cast<QWidget *>(m_ui->txtSentence)})
         box->setEnabled(true);
+}
+
+// Other windows may have moved the current position since the entry was picked or found.
+void frmMain::returnToShownEntry()
+{
+    if (m_shownEntry != 0)
+        gVocabList().CurrentWord(m_shownEntry);
 }
 
 bool frmMain::isCurrentWordAnEntry() const

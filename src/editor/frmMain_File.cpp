@@ -7,6 +7,8 @@
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 
+#include <QTimer>
+
 using namespace Module1;
 
 namespace {
@@ -72,7 +74,7 @@ void frmMain::mnuSaveAs_Click()
 
 void frmMain::mnuNew_Click()
 {
-    if (!mayEndLesson(true))
+    if (!mayEndLesson(MsgBoxButtons::YesNoCancel))
         return;
     gVocabList().ClearList();
     gOpenedFile.clear();
@@ -89,12 +91,11 @@ void frmMain::mnuNew_Click()
     gNewWord = true;
     gWordSelected = false;
     gChanged = false;
-    m_ui->mnuSave->setEnabled(false);
 }
 
 void frmMain::mnuOpen_Click()
 {
-    if (!mayEndLesson(false))
+    if (!mayEndLesson(MsgBoxButtons::YesNo))
         return;
     openFile();
     cmdAbort_Click();
@@ -102,16 +103,14 @@ void frmMain::mnuOpen_Click()
 
 // Asks whether the list in work may go, and saves it where the person wants that. False where it
 // is to stay: by a Cancel, or because it was not saved in the end.
-bool frmMain::mayEndLesson(bool mayCancelSaving)
+bool frmMain::mayEndLesson(MsgBoxButtons saveAnswers)
 {
     if (MsgBox(QStringLiteral("End current lesson?"), MsgBoxButtons::OkCancel) ==
         MsgBoxAnswer::Cancel)
         return false;
     if (!gChanged)
         return true;
-    const MsgBoxAnswer answer =
-        MsgBox(QStringLiteral("Do you want to save changes?"),
-               mayCancelSaving ? MsgBoxButtons::YesNoCancel : MsgBoxButtons::YesNo);
+    const MsgBoxAnswer answer = MsgBox(QStringLiteral("Do you want to save changes?"), saveAnswers);
     if (answer == MsgBoxAnswer::Yes) {
         mnuSave_Click();
         return gSaved;
@@ -145,4 +144,6 @@ void frmMain::openFile()
     EnableEntryBoxes();
     gChanged = false;
     m_ui->mnuSave->setEnabled(false);
+    // When the page is painted, so that the first search answers as fast as the others.
+    QTimer::singleShot(0, this, [] { gVocabList().prepareLookup(); });
 }

@@ -68,9 +68,8 @@ void frmMain::FillGrid(Integer top)
 {
     cVocabList &list = gVocabList();
     if (m_searching)
-        m_entryShown = false;
+        m_shownEntry = 0;
     m_searching = false;
-    const Integer shownEntry = m_entryShown ? list.CurrentWord() : Integer(0);
 
     const Integer count = list.NumWords();
     if (count > 0)
@@ -91,11 +90,9 @@ void frmMain::FillGrid(Integer top)
         list.CurrentWord(list.CurrentWord() + 1);
     }
 
-    if (shownEntry == 0)
-        return;
-    list.CurrentWord(shownEntry);
-    if (shownEntry >= top && shownEntry <= gLastItem)
-        markRow(shownEntry - top + 1);
+    returnToShownEntry();
+    if (m_shownEntry >= top && m_shownEntry <= gLastItem)
+        markRow(m_shownEntry - top + 1);
 }
 
 void frmMain::NumberRows(Integer top)

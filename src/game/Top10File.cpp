@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr qint64 longestFile = 10 * (8 + 2 + 65535 + 2);
+
 QDate dateOfDayCount(double days)
 {
     constexpr double earliest = -657434; // 1 January 100
@@ -41,5 +43,5 @@ Top10File::Table Top10File::decode(QByteArrayView bytes, const Table &defaults)
 
 Top10File::Table Top10File::read(const QString &path, const Table &defaults)
 {
-    return decode(BinaryFile::read(path), defaults);
+    return decode(BinaryFile::read(path, longestFile), defaults);
 }

@@ -22,12 +22,13 @@ QString styleSheet(const QPalette &palette)
     QString sheet = QStringLiteral(R"(
 QGroupBox { border: 1px solid @line; border-radius: 8px; margin-top: 9px; padding: 8px; }
 QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; color: @quiet; }
-QGroupBox#Frame1 { border: none; margin: 0; padding: 0; border-radius: 0; }
+#centralWidget > QGroupBox#Frame1 { border: none; margin: 0; padding: 0; border-radius: 0; }
 QLineEdit, QPlainTextEdit {
     background: palette(base); border: 1px solid @line; border-radius: 6px; padding: 3px 6px;
     selection-background-color: @accent; selection-color: @onAccent; }
 QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid @accent; padding: 2px 5px; }
-QLineEdit:disabled, QPlainTextEdit:disabled { background: palette(window); }
+QLineEdit:disabled, QPlainTextEdit:disabled, QLineEdit[readOnly="true"],
+EntryTextBox[readOnly="true"] { background: palette(window); color: @quiet; }
 QLineEdit#txtWord, EntryTextBox { font-size: 15px; }
 QPushButton {
     background: palette(button); border: 1px solid @line; border-radius: 6px;
@@ -37,6 +38,9 @@ QPushButton:pressed { background: @line; }
 QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
 QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; }
 QPushButton:disabled { background: palette(window); color: @disabled; border-color: @line; }
+FlashCard { border-radius: 14px; border: 1px solid @line; }
+FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
+FlashCard:focus { border: 2px solid @focus; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
 MSFlexGrid:focus { border-bottom: 2px solid @accent; }

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Application.h"
 
-#include "core/Notice.h"
 #include "platform/Appearance.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
+#include "runtime/Notice.h"
 
-#include <QDir>
 #include <QIcon>
 #include <QVersionNumber>
 
@@ -35,9 +34,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 
 bool Application::PrevInstance()
 {
-    const QString folder = pathOf(Place::UserData);
-    m_instanceLock =
-        std::make_unique<QLockFile>(QDir(folder).filePath(QStringLiteral("tanglewit.lock")));
+    m_instanceLock = std::make_unique<QLockFile>(pathOf(Place::InstanceLock));
     // A lock that a living copy holds cannot be taken away; any other one, even an empty file that
     // a power cut left, does not count.
     m_instanceLock->setStaleLockTime(1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/CommonDialog.h"
 
+#include <QDir>
 #include <QFileDialog>
 
 namespace {
@@ -34,6 +35,7 @@ bool CommonDialog::ShowSave(QWidget *parent)
 bool CommonDialog::show(QWidget *parent, Purpose purpose)
 {
     QFileDialog dialog(parent, DialogTitle);
+    dialog.resize(900, 560);
     dialog.setObjectName(QStringLiteral("CommonDialog"));
     dialog.setAcceptMode(purpose == Purpose::Open ? QFileDialog::AcceptOpen
                                                   : QFileDialog::AcceptSave);
@@ -48,7 +50,7 @@ bool CommonDialog::show(QWidget *parent, Purpose purpose)
     if (dialog.exec() != QDialog::Accepted)
         return false;
     const QFileInfo chosen(dialog.selectedFiles().constFirst());
-    FileName = chosen.absoluteFilePath();
+    FileName = QDir::toNativeSeparators(chosen.absoluteFilePath());
     FileTitle = chosen.fileName();
     m_lastFolder = chosen.absolutePath();
     return true;

@@ -6,20 +6,15 @@
 
 #include <new>
 
-void reportRunTimeError(const RunTimeError &error)
-{
-    MsgBox(error.report());
-}
-
 bool runGuarded(const std::function<void()> &handler)
 {
     try {
         handler();
         return true;
     } catch (const RunTimeError &error) {
-        reportRunTimeError(error);
+        MsgBox(error.report());
     } catch (const std::bad_alloc &) {
-        reportRunTimeError(RunTimeError(RunTimeError::OutOfMemory));
+        MsgBox(RunTimeError(RunTimeError::OutOfMemory).report());
     } catch (const std::exception &error) {
         MsgBox(QString::fromUtf8(error.what()));
     } catch (...) {

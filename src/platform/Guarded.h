@@ -4,10 +4,6 @@
 
 #include <functional>
 
-class RunTimeError;
-
-void reportRunTimeError(const RunTimeError &error);
-
 // Runs the handler; what it throws is reported and stops here. True where it ran to its end.
 bool runGuarded(const std::function<void()> &handler);
 

@@ -27,7 +27,7 @@ QString onOneLine(const QString &text)
 }
 
 // Rich text, so that long lines are wrapped.
-QString toolTip(QString text)
+QString wrappingToolTip(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(text.toHtmlEscaped());
@@ -149,6 +149,8 @@ void MSFlexGrid::setCellBackColour(int row, int column, CellColour colour)
     const bool yellow = colour == Yellow;
     item.setData(Qt::BackgroundRole, yellow ? QVariant(QBrush(Qt::yellow)) : QVariant());
     item.setData(Qt::ForegroundRole, yellow ? QVariant(QBrush(Qt::black)) : QVariant());
+    if (column == columnCount() - 1)
+        viewport()->update(); // the row goes on to the right edge
 }
 
 MSFlexGrid::CellColour MSFlexGrid::cellBackColour(int row, int column) const
@@ -218,16 +220,10 @@ void MSFlexGrid::keyPressEvent(QKeyEvent *event)
         m_scrollBar->triggerAction(action);
         return;
     }
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
+    if (event->key() == Qt::Key_Space)
         Q_EMIT Click(Row(), Col());
-        return;
-    default:
-        // No search by typing and no moving about: that is the window's business.
-        event->ignore();
-    }
+    else
+        event->ignore(); // Enter belongs to the window's default button
 }
 
 bool MSFlexGrid::viewportEvent(QEvent *event)
@@ -237,7 +233,7 @@ bool MSFlexGrid::viewportEvent(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
     if (isCut(index))
-        QToolTip::showText(help->globalPos(), toolTip(text(index.row(), index.column())),
+        QToolTip::showText(help->globalPos(), wrappingToolTip(text(index.row(), index.column())),
                            viewport(), visualRect(index));
     else
         QToolTip::hideText();

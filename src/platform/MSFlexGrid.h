@@ -2,7 +2,7 @@
 // A page of cells without a scroll bar of its own: row 0 is the header, column 0 the item numbers.
 //
 // Rows and columns count from 0. Measures are in twips. Wheel and keyboard move the scroll bar
-// that the grid is given; Enter or Space click the current row.
+// that the grid is given; Space clicks the current row.
 #pragma once
 
 #include <QTableWidget>

@@ -31,6 +31,9 @@ QString pathOf(Place place)
     switch (place) {
     case Place::UserData:
         return userData();
+    case Place::InstanceLock:
+        return madeFolder(QStandardPaths::GenericDataLocation, QStringLiteral("Lexibrook")) +
+               QStringLiteral("/tanglewit.lock");
     case Place::Top10:
         return userData() + QStringLiteral("/top10.bin");
     case Place::WordLists:

@@ -5,9 +5,10 @@
 #include <QString>
 
 enum class Place {
-    UserData,  // folder of what the program keeps for this person
-    Top10,     // file of the Top 10 table, in UserData
-    WordLists, // start folder for word lists
+    UserData,     // folder of what the program keeps for this person
+    InstanceLock, // file that tells whether the program runs
+    Top10,        // file of the Top 10 table, in UserData
+    WordLists,    // start folder for word lists
 };
 
 // The absolute path. The folder that it lies in is made where it is missing; WordLists itself is

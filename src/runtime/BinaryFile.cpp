@@ -9,11 +9,21 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace {
 
 constexpr qint64 ChunkSize = 1 << 20;
+
+bool isDiskFull(int systemError)
+{
+#ifdef EDQUOT
+    if (systemError == EDQUOT)
+        return true;
+#endif
+    return systemError == ENOSPC;
+}
 
 [[noreturn]] void fail(RunTimeError::Number number, const QString &path, const QString &reason)
 {
@@ -78,11 +88,13 @@ void copyRest(QFile &from, QFileDevice &to, qint64 position, const QString &path
 
 void flush(QFileDevice &file, const QString &path)
 {
-    if (!flushToDisk(file)) {
-        const bool diskFull = errno == ENOSPC || file.error() == QFileDevice::ResourceError;
-        fail(diskFull ? RunTimeError::DiskFull : RunTimeError::PathFileAccess, path,
-             QStringLiteral("The disk did not take the file"));
-    }
+    if (flushToDisk(file))
+        return;
+    const int reason = errno;
+    fail(isDiskFull(reason) || file.error() == QFileDevice::ResourceError
+             ? RunTimeError::DiskFull
+             : RunTimeError::PathFileAccess,
+         path, qt_error_string(reason));
 }
 
 // For a folder that admits no second file: the old bytes are put back if the new ones do not fit.
@@ -113,15 +125,17 @@ void writeInPlace(const QString &target, QByteArrayView content, const QString &
 
 } // namespace
 
-QByteArray BinaryFile::read(const QString &path)
+QByteArray BinaryFile::read(const QString &path, qint64 maxSize, Missing missing)
 {
     const QString target = withoutLinks(path);
     checkPlace(target);
     QFile file(target);
-    const bool missing = !file.exists();
-    if (!file.open(missing ? QIODevice::ReadWrite : QIODevice::ReadOnly))
+    const bool exists = file.exists();
+    if (!exists && missing == Missing::IsAnError)
+        fail(RunTimeError::FileNotFound, path, QStringLiteral("There is no such file"));
+    if (!file.open(exists ? QIODevice::ReadOnly : QIODevice::ReadWrite))
         fail(RunTimeError::PermissionDenied, path, file.errorString());
-    QByteArray content = file.readAll();
+    QByteArray content = file.read(std::min(file.size(), maxSize));
     if (file.error() != QFileDevice::NoError)
         fail(file, path);
     return content;

@@ -9,10 +9,17 @@
 #include <QByteArray>
 #include <QString>
 
+#include <limits>
+
 namespace BinaryFile {
 
-// The whole content. A missing file is created empty.
-[[nodiscard]] QByteArray read(const QString &path);
+enum class Missing { IsCreated, IsAnError };
+
+// The content, as far as its first maxSize bytes. A missing file is created empty, or is the error
+// File not found.
+[[nodiscard]] QByteArray read(const QString &path,
+                              qint64 maxSize = std::numeric_limits<qint64>::max(),
+                              Missing missing = Missing::IsCreated);
 
 // Leaves the file as if `content` had been written over it from the first byte without
 // truncating it: what an older, longer file held beyond stays. The new file takes the old one's

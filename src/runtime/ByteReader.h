@@ -23,7 +23,8 @@ public:
     }
 
     // An unsigned 16-bit length in bytes, then that many bytes of Windows-1252.
-    QString text() { return fromWindows1252(take(number<quint16>())); }
+    QByteArrayView textBytes() { return take(number<quint16>()); }
+    QString text() { return fromWindows1252(textBytes()); }
 
 private:
     QByteArrayView take(qsizetype size)

@@ -3,6 +3,7 @@
 
 #include <unicode/ucnv.h>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <stdexcept>
@@ -60,12 +61,25 @@ QByteArray toWindows1252(QStringView text)
     return bytes;
 }
 
+// Latin-1 but for the 32 bytes from 80 on, which most stretches of a text have none of.
 QString fromWindows1252(QByteArrayView bytes)
 {
+    constexpr qsizetype stretch = 512;
     const auto &map = tables().toUnicode;
-    QString text(bytes.size(), Qt::Uninitialized);
-    QChar *out = text.data();
-    for (const char byte : bytes)
-        *out++ = QChar(map[static_cast<unsigned char>(byte)]);
+    QString text = QString::fromLatin1(bytes);
+    auto *const characters = reinterpret_cast<char16_t *>(text.data());
+    const auto differs = [](char16_t character) { return (character & 0xFFE0U) == 0x80; };
+    for (qsizetype start = 0; start < text.size(); start += stretch) {
+        char16_t *const first = characters + start;
+        char16_t *const end = characters + std::min(start + stretch, text.size());
+        unsigned any = 0;
+        for (const char16_t *character = first; character < end; ++character)
+            any |= differs(*character) ? 1U : 0U;
+        if (any == 0)
+            continue;
+        for (char16_t *character = first; character < end; ++character)
+            if (differs(*character))
+                *character = map[*character];
+    }
     return text;
 }

@@ -46,7 +46,8 @@ QStringList readByStream(const QByteArray &bytes)
 QStringList readByDecode(const QByteArray &bytes)
 {
     QStringList records;
-    for (const VocabRecord &record : ListFile::decode(bytes, MaxCount))
+    const ListFile::Content content = ListFile::decode(bytes, MaxCount);
+    for (const VocabRecord &record : content.records)
         records << textOf(record);
     return records;
 }
@@ -124,7 +125,7 @@ private Q_SLOTS:
             const QByteArray bytes = ListFile::encode(2, records);
             QCOMPARE(bytes.size(), 2 + 6 + 6 + length);
             QCOMPARE(qFromLittleEndian<quint16>(bytes.constData() + 8 + 2 * field), length);
-            QString back = textOf(ListFile::decode(bytes, MaxCount)[1]);
+            QString back = textOf(ListFile::decode(bytes, MaxCount).records[1]);
             QCOMPARE(back.remove(u'|'), fromWindows1252(toWindows1252(text)));
         }
     }
@@ -171,7 +172,9 @@ private Q_SLOTS:
         QFETCH(bool, accepted);
         const QByteArray bytes = fileCount(count);
         std::size_t records = 0;
-        const auto decode = [&] { return records = ListFile::decode(bytes, maximum).size(); };
+        const auto decode = [&] {
+            return records = ListFile::decode(bytes, maximum).records.size();
+        };
         const QString report = reportOf(decode);
         if (accepted) {
             QCOMPARE(report, QString());

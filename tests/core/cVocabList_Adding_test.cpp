@@ -3,7 +3,7 @@
 #include "core/cVocabList.h"
 
 #include "core/ListTools.h"
-#include "core/Notice.h"
+#include "runtime/Notice.h"
 
 #include <QTest>
 

@@ -2,7 +2,7 @@
 #include "core/cVocabList.h"
 
 #include "core/ListTools.h"
-#include "core/Notice.h"
+#include "runtime/Notice.h"
 #include "runtime/ChiSquare.h"
 #include "runtime/RandomNumbers.h"
 

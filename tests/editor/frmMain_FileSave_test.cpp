@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/EntryTextBox.h"
+#include "platform/EntryTextBox.h"
 #include "editor/OpenList.h"
 #include "platform/Paths.h"
 #include "support/FormTest.h"

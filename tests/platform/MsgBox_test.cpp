@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/MsgBox.h"
 
-#include "core/Notice.h"
+#include "runtime/Notice.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/Notice.h"
+#include "runtime/Notice.h"
 
 #include <QStringList>
 #include <QTest>

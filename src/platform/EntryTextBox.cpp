@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/EntryTextBox.h"
+#include "platform/EntryTextBox.h"
 
 #include <QKeyEvent>
+#include <QSignalBlocker>
 #include <QTextDocument>
 
 EntryTextBox::EntryTextBox(QWidget *parent) : QPlainTextEdit(parent)
@@ -11,6 +12,8 @@ EntryTextBox::EntryTextBox(QWidget *parent) : QPlainTextEdit(parent)
 
 QString EntryTextBox::text() const
 {
+    if (!document()->isModified())
+        return m_setText;
     // Not toPlainText: that would turn hard blanks into blanks.
     const QString lineBreak = QStringLiteral("\r\n");
     return document()
@@ -21,7 +24,12 @@ QString EntryTextBox::text() const
 
 void EntryTextBox::setText(const QString &text)
 {
-    setPlainText(text);
+    m_setText = text;
+    {
+        const QSignalBlocker untilSet(this);
+        setPlainText(text);
+    }
+    Q_EMIT textChanged();
 }
 
 void EntryTextBox::keyPressEvent(QKeyEvent *event)
@@ -29,7 +37,8 @@ void EntryTextBox::keyPressEvent(QKeyEvent *event)
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QPlainTextEdit::keyPressEvent(event);
     } else if ((event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) != 0) {
-        textCursor().insertBlock();
+        if (!isReadOnly())
+            textCursor().insertBlock();
         ensureCursorVisible();
     } else {
         event->ignore();

@@ -2,8 +2,9 @@
 // A box for a text of an entry that may have several lines. A line break is the two characters
 // CR LF.
 //
-// Enter is left to the window (its default button); Ctrl+Enter and Shift+Enter break the line.
-// Tab leaves the box.
+// A text that the person has not changed comes back exactly as it was set, other line breaks
+// included. Enter is left to the window (its default button); Ctrl+Enter and Shift+Enter break the
+// line. Tab leaves the box.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -20,4 +21,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QString m_setText;
 };

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/frmMain.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "editor/ui_frmMain.h"
+#include "flash/dlgQuickFlash.h"
+#include "platform/MsgBox.h"
+#include "platform/Paths.h"
+#include "platform/ProgressShown.h"
+#include "runtime/BinaryFile.h"
+#include "transfer/Import.h"
+#include "transfer/TextFile.h"
+#include "transfer/dlgExport.h"
+
+using namespace Module1;
+
+void frmMain::mnuImport_Click()
+{
+    const Integer remembered = gVocabList().CurrentWord();
+    m_fileDialog.Filter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|Data Interchange Format (*.dif)|"
+                                         "*.dif|All files (*.*)|*.*");
+    m_fileDialog.DialogTitle = QStringLiteral("Import words");
+    m_fileDialog.DefaultExt.clear();
+    m_fileDialog.InitDir.clear();
+    m_fileDialog.FileName.clear();
+    if (!m_fileDialog.ShowOpen(this))
+        return;
+    // Words may move and go while they come in, so that a picked entry is let go first.
+    if (m_shownEntry != 0)
+        cmdAbort_Click();
+    const QString openList = gFileName;
+    gFileName = m_fileDialog.FileName;
+    runGuarded([this] { importWords(gFileName); });
+    FillGrid(remembered);
+    gVocabList().CurrentWord(1);
+    m_ui->MSFlexGrid1->setCurrent(1, 1);
+    gFileName = openList;
+}
+
+// The kind of the file is what follows the first dot of its whole path.
+void frmMain::importWords(const QString &path)
+{
+    const QString kind = path.mid(path.indexOf(QLatin1Char('.')) + 1, 3);
+    Import import(this);
+    ProgressShown progress(this);
+    connect(&import, &Import::refresh, this, [this] {
+        FillGrid(FirstShownItem());
+        repaint();
+    });
+    connect(&import, &Import::changed, this, [this] { m_ui->mnuSave->setEnabled(true); });
+    connect(&import, &Import::progress, &progress, &ProgressShown::show);
+    if (kind == QLatin1String("lwx"))
+        import.ImportWordList();
+    else if (kind == QLatin1String("dif"))
+        import.ImportDif();
+}
+
+void frmMain::mnuExport_Click()
+{
+    if (gVocabList().NumWords() == 0) {
+        MsgBox(QStringLiteral("Cannot export: Your current wordlist is empty"));
+        return;
+    }
+    dlgExport dialog(pathOf(Place::WordLists), this);
+    dialog.exec();
+}
+
+void frmMain::mnuCreateTextFile_Click()
+{
+    if (gVocabList().NumWords() == 0) {
+        MsgBox(QStringLiteral("File not created: Your current wordlist is empty."));
+        return;
+    }
+    m_fileDialog.DefaultExt = QStringLiteral("txt");
+    m_fileDialog.OverwritePrompt = true;
+    m_fileDialog.InitDir.clear();
+    m_fileDialog.DialogTitle = QStringLiteral("Create Text File");
+    m_fileDialog.Filter = QStringLiteral("Text (*.txt)|*.txt");
+    gSaved = false;
+    if (!m_fileDialog.ShowSave(this))
+        return;
+    BinaryFile::overwrite(m_fileDialog.FileName, textOfList(gVocabList()));
+    showCaption();
+    gSaved = true;
+}
+
+void frmMain::cmdQuickFlash_Click()
+{
+    if (gVocabList().NumWords() == 0) {
+        MsgBox(QStringLiteral("Your current wordlist is empty"));
+        return;
+    }
+    dlgQuickFlash dialog(this);
+    connect(&dialog, &dlgQuickFlash::terminated, this, &frmMain::show);
+    dialog.exec();
+}

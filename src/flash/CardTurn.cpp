@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flash/CardTurn.h"
+
+#include <QPainter>
+#include <QStyle>
+
+#include <cmath>
+#include <utility>
+
+void CardTurn::play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide)
+{
+    for (CardTurn *running : card.findChildren<CardTurn *>(QString(), Qt::FindDirectChildrenOnly))
+        running->close();
+    const int duration =
+        card.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &card);
+    if (duration <= 0 || !card.isVisible())
+        return;
+    auto *turn = new CardTurn(card, oldSide, newSide);
+    turn->m_turn.setDuration(duration);
+    turn->show();
+    turn->m_turn.start();
+}
+
+CardTurn::CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide)
+    : QWidget(&card), m_oldSide(std::move(oldSide)), m_newSide(std::move(newSide))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setGeometry(card.rect());
+    m_turn.setStartValue(0.0);
+    m_turn.setEndValue(1.0);
+    m_turn.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&m_turn, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_turn, &QVariantAnimation::finished, this, &QWidget::close);
+}
+
+void CardTurn::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.fillRect(rect(), parentWidget()->parentWidget()->palette().window());
+    const double turned = m_turn.currentValue().toDouble();
+    const double shown = std::abs(1 - 2 * turned);
+    const double left = width() * (1 - shown) / 2;
+    painter.drawPixmap(QRectF(left, 0, width() * shown, height()),
+                       turned < 0.5 ? m_oldSide : m_newSide, {});
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The short motion of a card that is turned over: its old side narrows, its new one widens.
+#pragma once
+
+#include <QPixmap>
+#include <QVariantAnimation>
+#include <QWidget>
+
+class CardTurn final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // Plays over the card and goes away by itself; at once where the style asks for no motion.
+    static void play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide);
+
+    QPixmap m_oldSide;
+    QPixmap m_newSide;
+    QVariantAnimation m_turn; // from 0, the old side, to 1, the new one
+};

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flash/FlashCard.h"
+
+#include "flash/CardTurn.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QTextOption>
+
+#include <array>
+
+namespace {
+
+// Sizes of the type in points, the largest that fits is taken.
+constexpr std::array TypeSizes{32, 28, 24, 20, 18, 16, 14, 12};
+
+} // namespace
+
+FlashCard::FlashCard(QWidget *parent) : QPlainTextEdit(parent)
+{
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::NoTextInteraction);
+    setTabChangesFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setCursor(Qt::PointingHandCursor);
+    QTextOption centred(Qt::AlignHCenter);
+    centred.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    document()->setDefaultTextOption(centred);
+}
+
+void FlashCard::setText(const QString &text, Side side)
+{
+    if (side != m_side) {
+        m_side = side;
+        style()->polish(this);
+    }
+    m_text = text;
+    setPlainText(text.trimmed());
+    fitType();
+}
+
+void FlashCard::turnTo(const QString &text, Side side)
+{
+    if (side == m_side) {
+        setText(text, side);
+        return;
+    }
+    const QPixmap oldSide = grab();
+    setText(text, side);
+    CardTurn::play(*this, oldSide, grab());
+}
+
+void FlashCard::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+        event->key() == Qt::Key_Space)
+        Q_EMIT Click();
+    else
+        QPlainTextEdit::keyPressEvent(event);
+}
+
+void FlashCard::mouseReleaseEvent(QMouseEvent *event)
+{
+    QPlainTextEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && viewport()->rect().contains(event->pos()))
+        Q_EMIT Click();
+}
+
+void FlashCard::resizeEvent(QResizeEvent *event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    fitType();
+}
+
+void FlashCard::fitType()
+{
+    const int padding = 2 * int(document()->documentMargin());
+    const QRect room = contentsRect().adjusted(0, 0, -padding, -padding);
+    QRect needed;
+    QFont type = font();
+    for (const int size : TypeSizes) {
+        type.setPointSize(size);
+        needed = QFontMetrics(type).boundingRect(
+            room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), toPlainText());
+        if (room.contains(needed))
+            break;
+    }
+    if (type != document()->defaultFont())
+        document()->setDefaultFont(type);
+    setViewportMargins(0, std::max(0, (room.height() - needed.height()) / 2), 0, 0);
+}

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flash/dlgQuickFlash.h"
+
+#include "core/Module1.h"
+#include "core/WordOrder.h"
+#include "core/cVocabList.h"
+#include "flash/DefinitionTime.h"
+#include "flash/ui_dlgQuickFlash.h"
+
+#include <QShortcut>
+
+#include <algorithm>
+
+using namespace Module1;
+
+namespace {
+
+const QString ClosedCard = QStringLiteral("Click on card");
+
+} // namespace
+
+dlgQuickFlash::dlgQuickFlash(QWidget *parent)
+    : DialogForm(parent), m_ui(std::make_unique<Ui::dlgQuickFlash>())
+{
+    m_ui->setupUi(this);
+    const auto onClick = [this](QPushButton *button, void (dlgQuickFlash::*handler)()) {
+        connect(button, &QPushButton::clicked, this, guarded(this, handler));
+    };
+    onClick(m_ui->cmdNext, &dlgQuickFlash::cmdNext_Click);
+    onClick(m_ui->cmdPrevious, &dlgQuickFlash::cmdPrevious_Click);
+    onClick(m_ui->cmdAutoFlash, &dlgQuickFlash::cmdAutoFlash_Click);
+    onClick(m_ui->cmdStop, &dlgQuickFlash::cmdStop_Click);
+    onClick(m_ui->CancelButton, &dlgQuickFlash::CancelButton_Click);
+    connect(m_ui->txtDef, &FlashCard::Click, this, guarded(this, &dlgQuickFlash::txtDef_Click));
+
+    const auto onTimer = [this](QTimer &timer, const QString &name, int interval,
+                                void (dlgQuickFlash::*handler)()) {
+        timer.setParent(this);
+        timer.setObjectName(name);
+        timer.setInterval(interval);
+        connect(&timer, &QTimer::timeout, this, guarded(this, handler));
+    };
+    onTimer(m_tmrWord, QStringLiteral("tmrWord"), 3000, &dlgQuickFlash::tmrWord_Timer);
+    onTimer(m_tmrDef, QStringLiteral("tmrDef"), 5000, &dlgQuickFlash::tmrDef_Timer);
+
+    const auto onKey = [this](Qt::Key key, auto action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    onKey(Qt::Key_Space, guarded(this, &dlgQuickFlash::txtDef_Click));
+    onKey(Qt::Key_Right, [this] { m_ui->cmdNext->click(); });
+    onKey(Qt::Key_Left, [this] { m_ui->cmdPrevious->click(); });
+}
+
+dlgQuickFlash::~dlgQuickFlash() = default;
+
+void dlgQuickFlash::Form_Load()
+{
+    gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
+    ShuffleCards();
+    gOrderIndex = 1;
+    gVocabList().CurrentWord(gWordOrder(gOrderIndex));
+    m_ui->txtWord->setText(gVocabList().Word(), FlashCard::Side::Front);
+    m_ui->txtDef->setText(ClosedCard + QStringLiteral("\r\n"), FlashCard::Side::Back);
+    showRun(Run::ByHand);
+}
+
+void dlgQuickFlash::Form_Terminate()
+{
+    m_tmrWord.stop();
+    m_tmrDef.stop();
+    Q_EMIT terminated();
+}
+
+void dlgQuickFlash::ShuffleCards()
+{
+    gWordOrder = drawWordOrder(gOrderSize, gVocabList().NumWords());
+}
+
+void dlgQuickFlash::cmdNext_Click()
+{
+    gOrderIndex = gOrderIndex < gOrderSize ? gOrderIndex + 1 : Integer(1);
+    showCard();
+}
+
+void dlgQuickFlash::cmdPrevious_Click()
+{
+    gOrderIndex = gOrderIndex >= 2 ? gOrderIndex - 1 : gOrderSize;
+    showCard();
+}
+
+void dlgQuickFlash::showCard()
+{
+    gVocabList().CurrentWord(gWordOrder(gOrderIndex));
+    m_ui->txtWord->setText(gVocabList().Word(), FlashCard::Side::Front);
+    m_ui->txtDef->setText(ClosedCard, FlashCard::Side::Back);
+}
+
+void dlgQuickFlash::txtDef_Click()
+{
+    m_ui->txtDef->turnTo(gVocabList().Definition(), FlashCard::Side::Front);
+}
+
+void dlgQuickFlash::cmdAutoFlash_Click()
+{
+    m_tmrWord.start();
+    cmdNext_Click();
+    m_ui->txtDef->setText({}, FlashCard::Side::Back);
+    showRun(Run::Automatic);
+}
+
+void dlgQuickFlash::tmrWord_Timer()
+{
+    const QString definition = gVocabList().Definition();
+    m_ui->txtDef->turnTo(definition, FlashCard::Side::Front);
+    m_tmrWord.stop();
+    m_tmrDef.start(definitionTime(definition.size()).toInt());
+}
+
+void dlgQuickFlash::tmrDef_Timer()
+{
+    cmdNext_Click();
+    m_ui->txtDef->setText({}, FlashCard::Side::Back);
+    m_tmrWord.start();
+    m_tmrDef.stop();
+}
+
+void dlgQuickFlash::cmdStop_Click()
+{
+    m_tmrWord.stop();
+    m_tmrDef.stop();
+    showRun(Run::ByHand);
+}
+
+void dlgQuickFlash::CancelButton_Click()
+{
+    close();
+}
+
+// The two buttons share one place; the keyboard stays with the one that is there.
+void dlgQuickFlash::showRun(Run run)
+{
+    const bool automatic = run == Run::Automatic;
+    const bool hadFocus = m_ui->cmdAutoFlash->hasFocus() || m_ui->cmdStop->hasFocus();
+    m_ui->cmdAutoFlash->setVisible(!automatic);
+    m_ui->cmdStop->setVisible(automatic);
+    if (hadFocus)
+        (automatic ? m_ui->cmdStop : m_ui->cmdAutoFlash)->setFocus();
+    m_ui->cmdNext->setEnabled(!automatic);
+    m_ui->cmdPrevious->setEnabled(!automatic);
+}

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/ProgressShown.h"
+
+#include "platform/Application.h"
+
+#include <QCloseEvent>
+#include <QProgressDialog>
+
+namespace {
+
+constexpr int FirstShown = 400; // milliseconds
+constexpr int Interval = 50;
+
+// Goes only when the loop is over: without it the windows below could be used.
+class StayingProgressDialog final : public QProgressDialog
+{
+public:
+    using QProgressDialog::QProgressDialog;
+
+    void reject() override {}
+
+protected:
+    void closeEvent(QCloseEvent *event) override { event->ignore(); }
+};
+
+} // namespace
+
+ProgressShown::ProgressShown(QWidget *window) : m_window(*window)
+{
+    m_window.setCursor(Qt::WaitCursor);
+    m_sinceShown.start();
+}
+
+ProgressShown::~ProgressShown()
+{
+    m_window.unsetCursor();
+}
+
+void ProgressShown::show(int done, int total)
+{
+    if (m_sinceShown.elapsed() < (m_dialog ? Interval : FirstShown))
+        return;
+    if (!m_dialog) {
+        m_dialog =
+            std::make_unique<StayingProgressDialog>(QString(), QString(), 0, total, &m_window);
+        m_dialog->setWindowTitle(Application::Title());
+        m_dialog->setWindowModality(Qt::WindowModal);
+        m_dialog->setAutoReset(false);
+        m_dialog->show();
+    }
+    m_dialog->setValue(done); // lets the windows repaint
+    m_dialog->setLabelText(QStringLiteral("%1 of %2").arg(done).arg(total));
+    m_sinceShown.restart();
+}

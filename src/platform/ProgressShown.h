@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keeps a window alive during a long loop: a wait cursor at once and, once the loop has run for a
+// moment, a bar with its progress. No command can be given meanwhile.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+
+#include <memory>
+
+class QProgressDialog;
+
+class ProgressShown final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The window must outlive the object.
+    explicit ProgressShown(QWidget *window);
+    ~ProgressShown() override;
+
+    // Cheap enough to be called at every step.
+    void show(int done, int total);
+
+private:
+    QWidget &m_window;
+    QElapsedTimer m_sinceShown;
+    std::unique_ptr<QProgressDialog> m_dialog;
+};

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Texts that a person or a file gives for numbers.
+//
+// Outer blanks do not count. A text that is no number throws RunTimeError TypeMismatch.
+#pragma once
+
+#include "runtime/Integer.h"
+
+[[nodiscard]] double toNumber(const QString &text);
+
+// Rounded to the nearest whole number, halves to even; Overflow where that does not fit.
+[[nodiscard]] Integer toInteger(const QString &text);

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "transfer/Import.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "platform/MsgBox.h"
+#include "runtime/BinaryFile.h"
+#include "runtime/TextToNumber.h"
+#include "transfer/DifLines.h"
+#include "transfer/dlgWordExist.h"
+
+#include <limits>
+
+using namespace Module1;
+
+void Import::ImportWordList()
+{
+    gAddThis = gAddAll = gStopImport = gSkipAll = false;
+    cVocabList &source = gImportList();
+    source.CurrentWord(1);
+    gImportCount = 0;
+    if (!source.OpenFile() || !fitsInList())
+        return;
+    while (source.CurrentWord() <= source.NumWords() && !gStopImport) {
+        if (!source.Word().isEmpty()) {
+            gImportWord = source.Word();
+            gImportDef = source.Definition();
+            gImportSen = source.Sentence();
+            if (gAddAll || !gVocabList().Exist(gImportWord, 1))
+                add();
+            else
+                addConflicting();
+        }
+        Q_EMIT progress(source.CurrentWord().toInt(), source.NumWords().toInt());
+        source.CurrentWord(source.CurrentWord() + 1);
+    }
+    if (gChanged)
+        Q_EMIT changed();
+    MsgBox(gImportCount.toText() + QStringLiteral(" words imported"));
+    gAddThis = gAddAll = false;
+}
+
+bool Import::fitsInList() const
+{
+    const int count = gVocabList().NumWords().toInt();
+    if (count > cVocabList::MaxWords) {
+        MsgBox(QStringLiteral("Cannot import any more words. Maximum number of words=%1")
+                   .arg(cVocabList::MaxWords));
+        return false;
+    }
+    if (gImportList().NumWords().toInt() + count > cVocabList::MaxWords) {
+        MsgBox(QStringLiteral("Cannot import words because this will exceed maximum number of "
+                              "words. Maximum number of words=%1")
+                   .arg(cVocabList::MaxWords));
+        return false;
+    }
+    return true;
+}
+
+void Import::addConflicting()
+{
+    if (!gSkipAll)
+        askAboutWord();
+    if (gAddThis || gAddAll)
+        add();
+}
+
+void Import::ReadDifLines()
+{
+    const QByteArray bytes = BinaryFile::read(gFileName, std::numeric_limits<qint64>::max(),
+                                              BinaryFile::Missing::IsAnError);
+    // An empty file leaves the lines of the one before.
+    if (!bytes.isEmpty())
+        gDifLines = difLines(bytes);
+}
+
+void Import::ImportDif()
+{
+    ReadDifLines();
+    const double vectors = toNumber(difCount(gDifLines(5)));
+    const Integer valuesPerRow = toInteger(difCount(gDifLines(8)));
+    gAddThis = gAddAll = gStopImport = false;
+    gImportList().CurrentWord(1);
+    gImportCount = 0;
+    int line = 14;
+    while (vectors >= 1 && !gStopImport) {
+        if (gDifLines(line) != QLatin1String("BOT")) {
+            ++line;
+        } else {
+            line = readDifRow(line, valuesPerRow);
+            if (!gAddAll) {
+                if (!gVocabList().Exist(gImportWord, 1))
+                    add();
+                else if (!gSkipAll)
+                    askAboutWord();
+            }
+            // Also after a new word: once Yes was answered, each new word comes in twice until
+            // the dialog opens again.
+            if (gAddThis || gAddAll)
+                add();
+        }
+        if (gDifLines(line) == QLatin1String("EOD"))
+            gStopImport = true;
+        Q_EMIT progress(line, gDifLines.size());
+    }
+    MsgBox(gImportCount.toText() + QStringLiteral(" words added"));
+    gSkipAll = gAddThis = gAddAll = false;
+}
+
+// Reads the row that the line opens; values that it does not carry stay as they were. Returns the
+// line of the last value read.
+int Import::readDifRow(int line, Integer valuesPerRow)
+{
+    line += 2;
+    gImportWord = difValue(gDifLines(line));
+    if (valuesPerRow == 2) {
+        line += 2;
+        gImportDef = difValue(gDifLines(line));
+    }
+    if (valuesPerRow == 3) {
+        line += 2;
+        gImportSen = difValue(gDifLines(line));
+    }
+    return line;
+}
+
+void Import::add()
+{
+    gVocabList().AddVocab(gImportWord, gImportDef, gImportSen);
+    gChanged = true;
+    ++gImportCount;
+}
+
+void Import::askAboutWord()
+{
+    dlgWordExist dialog(qobject_cast<QWidget *>(parent()));
+    connect(&dialog, &dlgWordExist::refresh, this, &Import::refresh);
+    dialog.exec();
+}

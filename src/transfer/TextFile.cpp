@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "transfer/TextFile.h"
+
+#include "core/cVocabList.h"
+#include "runtime/Windows1252.h"
+
+QByteArray textOfList(cVocabList &list)
+{
+    QByteArray text;
+    for (Integer i = 1; i <= list.NumWords(); ++i) {
+        list.CurrentWord(i);
+        text += toWindows1252(list.Word()) + '\t' + toWindows1252(list.Definition()) + '\t' +
+                toWindows1252(list.Sentence()) + "\r\n";
+    }
+    return text;
+}

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "transfer/dlgExport.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "platform/LostFocus.h"
+#include "platform/MsgBox.h"
+#include "runtime/Blanks.h"
+#include "runtime/TextToNumber.h"
+#include "transfer/ui_dlgExport.h"
+
+using namespace Module1;
+
+namespace {
+
+// The number of a range box, brought into 1..NumWords there as well.
+Integer rangeNumber(QLineEdit &box)
+{
+    const Integer number = toInteger(box.text());
+    const Integer allowed = std::clamp(number, Integer(1), gVocabList().NumWords());
+    if (allowed != number)
+        box.setText(allowed.toText());
+    return allowed;
+}
+
+// Calls `visit` with each number of the range in its order; returns how many there are.
+template <class Visit> Integer forEachNumber(Integer first, Integer last, Visit visit)
+{
+    const int step = last >= first ? 1 : -1;
+    for (int i = first.toInt(); i != last.toInt() + step; i += step)
+        visit(Integer(i));
+    return (last.toInt() - first.toInt()) * step + 1;
+}
+
+// Puts the open list's file name and its mark of changes back where an export fails.
+class OpenListKeeper
+{
+public:
+    OpenListKeeper() = default;
+    Q_DISABLE_COPY_MOVE(OpenListKeeper)
+    ~OpenListKeeper()
+    {
+        if (m_done)
+            return;
+        gFileName = m_fileName;
+        gChanged = m_changed;
+    }
+    void done() { m_done = true; }
+
+private:
+    QString m_fileName = gFileName;
+    bool m_changed = gChanged;
+    bool m_done = false;
+};
+
+} // namespace
+
+dlgExport::dlgExport(const QString &startFolder, QWidget *parent)
+    : DialogForm(parent), m_ui(std::make_unique<Ui::dlgExport>()), Cdlg(startFolder)
+{
+    m_ui->setupUi(this);
+    new LostFocus(m_ui->txtStart, [this] { txtStart_LostFocus(); });
+    new LostFocus(m_ui->txtEnd, [this] { txtEnd_LostFocus(); });
+    const auto onClick = [this](QPushButton *button, void (dlgExport::*handler)()) {
+        connect(button, &QPushButton::clicked, this, guarded(this, handler));
+    };
+    onClick(m_ui->cmdBrowse, &dlgExport::cmdBrowse_Click);
+    onClick(m_ui->cmdOk, &dlgExport::cmdOK_Click);
+    onClick(m_ui->cmdCancel, &dlgExport::cmdCancel_Click);
+}
+
+dlgExport::~dlgExport() = default;
+
+void dlgExport::Form_Load()
+{
+    StartNo = 1;
+    EndNo = gVocabList().NumWords();
+    m_ui->txtStart->setText(StartNo.toText());
+    m_ui->txtEnd->setText(EndNo.toText());
+    fillPreview(EqualNumbers::ShowNothing);
+}
+
+void dlgExport::txtStart_LostFocus()
+{
+    StartNo = rangeNumber(*m_ui->txtStart);
+    fillPreview(EqualNumbers::ShowNothing);
+}
+
+void dlgExport::txtEnd_LostFocus()
+{
+    EndNo = rangeNumber(*m_ui->txtEnd);
+    fillPreview(EqualNumbers::ShowTheWord);
+}
+
+void dlgExport::fillPreview(EqualNumbers equalNumbers)
+{
+    m_ui->lstExportWords->clear();
+    if (StartNo == EndNo && equalNumbers == EqualNumbers::ShowNothing)
+        return;
+    cVocabList &list = gVocabList();
+    QStringList words;
+    ExportCount = forEachNumber(StartNo, EndNo, [&](Integer i) {
+        list.CurrentWord(i);
+        words += list.Word();
+    });
+    m_ui->lstExportWords->addItems(words);
+}
+
+void dlgExport::cmdBrowse_Click()
+{
+    Cdlg.Filter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|Data Interchange Format (*.dif)|*.dif|"
+                                 "All files (*.*)|*.*");
+    Cdlg.DialogTitle = QStringLiteral("Export words");
+    if (!Cdlg.ShowOpen(this))
+        m_ui->txtFilename->clear();
+    else if (Cdlg.FileName == gOpenedFile)
+        MsgBox(gOpenedFile + QStringLiteral(" file is currently in use."));
+    else
+        m_ui->txtFilename->setText(Cdlg.FileName);
+}
+
+void dlgExport::cmdOK_Click()
+{
+    if (m_ui->txtFilename->text().isEmpty())
+        return;
+    // Enter presses OK without leaving the box that was typed in.
+    if (m_ui->txtStart->hasFocus())
+        txtStart_LostFocus();
+    if (m_ui->txtEnd->hasFocus())
+        txtEnd_LostFocus();
+    exportRange();
+}
+
+void dlgExport::exportRange()
+{
+    OpenListKeeper keeper;
+    gFileName = withoutOuterBlanks(m_ui->txtFilename->text());
+    cVocabList &target = gExportList();
+    if (!target.OpenFile()) {
+        keeper.done();
+        MsgBox(QStringLiteral("Invalid file name."));
+        return;
+    }
+    cVocabList &list = gVocabList();
+    ExportCount = forEachNumber(StartNo, EndNo, [&](Integer i) {
+        list.CurrentWord(i);
+        target.AddVocab(list.Word(), list.Definition(), list.Sentence());
+    });
+    target.SaveFile();
+    keeper.done();
+    close();
+    MsgBox(ExportCount.toText() + QStringLiteral(" words has been added to ") + gFileName);
+}
+
+void dlgExport::cmdCancel_Click()
+{
+    close();
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Copies a range of the open list's entries to the end of another list file.
+#pragma once
+
+#include "platform/CommonDialog.h"
+#include "platform/DialogForm.h"
+#include "runtime/Integer.h"
+
+#include <memory>
+
+class QLineEdit;
+
+namespace Ui {
+class dlgExport;
+}
+
+class dlgExport final : public DialogForm
+{
+    Q_OBJECT
+
+public:
+    // The file dialog begins in the folder.
+    explicit dlgExport(const QString &startFolder, QWidget *parent = nullptr);
+    ~dlgExport() override;
+
+protected:
+    void Form_Load() override;
+
+private:
+    // What the preview shows of a range whose first and last number are equal.
+    enum class EqualNumbers { ShowNothing, ShowTheWord };
+
+    void txtStart_LostFocus();
+    void txtEnd_LostFocus();
+    void cmdBrowse_Click();
+    void cmdOK_Click();
+    void cmdCancel_Click();
+
+    void fillPreview(EqualNumbers equalNumbers);
+    void exportRange();
+
+    std::unique_ptr<Ui::dlgExport> m_ui;
+    CommonDialog Cdlg;
+    Integer StartNo; // first item number of the range
+    Integer EndNo;   // last item number; below the first, the range runs downwards
+    Integer ExportCount;
+};

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "transfer/dlgWordExist.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "platform/MsgBox.h"
+#include "runtime/Blanks.h"
+#include "transfer/ui_dlgWordExist.h"
+
+#include <QStyle>
+
+using namespace Module1;
+
+dlgWordExist::dlgWordExist(QWidget *parent)
+    : DialogForm(parent), m_ui(std::make_unique<Ui::dlgWordExist>())
+{
+    m_ui->setupUi(this);
+    const auto onClick = [this](QPushButton *button, void (dlgWordExist::*handler)()) {
+        connect(button, &QPushButton::clicked, this, guarded(this, handler));
+    };
+    onClick(m_ui->cmdYes, &dlgWordExist::cmdYes_Click);
+    onClick(m_ui->cmdNo, &dlgWordExist::cmdNo_Click);
+    onClick(m_ui->cmdYesToAll, &dlgWordExist::cmdYesToAll_Click);
+    onClick(m_ui->cmdNoToAll, &dlgWordExist::cmdNoToAll_Click);
+    onClick(m_ui->cmdAbort, &dlgWordExist::cmdAbort_Click);
+    onClick(m_ui->cmdFindNext, &dlgWordExist::cmdFindNext_Click);
+    onClick(m_ui->cmdAllowModify, &dlgWordExist::cmdAllowModify_Click);
+    onClick(m_ui->cmdUpdate, &dlgWordExist::cmdUpdate_Click);
+    onClick(m_ui->cmdDelete, &dlgWordExist::cmdDelete_Click);
+}
+
+dlgWordExist::~dlgWordExist() = default;
+
+void dlgWordExist::Form_Load()
+{
+    const cVocabList &list = gVocabList();
+    m_ui->lblWordExist->setText(QLatin1Char('\'') + list.Word() +
+                                QStringLiteral("' already exist. Add anyway?"));
+    m_ui->frmCurWord->setTitle(m_ui->frmCurWord->title() + list.CurrentWord().toText());
+    showExisting();
+    lockExisting(true);
+    enableEditing(true);
+    m_ui->txtImportWord->setText(gImportWord);
+    m_ui->txtImportDef->setText(gImportDef);
+    m_ui->txtImportSen->setText(gImportSen);
+    gAddThis = gAddAll = false;
+}
+
+void dlgWordExist::cmdYes_Click()
+{
+    gAddThis = true;
+    gStopImport = false;
+    unload();
+}
+
+void dlgWordExist::cmdNo_Click()
+{
+    gAddThis = false;
+    gStopImport = false;
+    close();
+}
+
+void dlgWordExist::cmdYesToAll_Click()
+{
+    gAddAll = true;
+    gStopImport = false;
+    unload();
+}
+
+void dlgWordExist::cmdNoToAll_Click()
+{
+    gAddThis = gAddAll = false;
+    gSkipAll = true;
+    gStopImport = false;
+    unload();
+}
+
+void dlgWordExist::cmdAbort_Click()
+{
+    gStopImport = true;
+    unload();
+}
+
+void dlgWordExist::cmdFindNext_Click()
+{
+    cVocabList &list = gVocabList();
+    if (!list.Exist(gImportWord, list.CurrentWord() + 1)) {
+        MsgBox(QStringLiteral("Search ended. No more words found."));
+        return;
+    }
+    m_ui->frmCurWord->setTitle(QStringLiteral("Current word: ") + list.CurrentWord().toText());
+    showExisting();
+    enableEditing(true);
+}
+
+void dlgWordExist::cmdAllowModify_Click()
+{
+    lockExisting(false);
+    enableEditing(true);
+}
+
+void dlgWordExist::cmdUpdate_Click()
+{
+    if (MsgBox(QStringLiteral("Are you sure you want to change the content of this word?"),
+               MsgBoxButtons::OkCancel) == MsgBoxAnswer::Cancel)
+        return;
+    gVocabList().Edit(withoutOuterBlanks(m_ui->txtCurWord->text()),
+                      withoutOuterBlanks(m_ui->txtCurDef->text()),
+                      withoutOuterBlanks(m_ui->txtCurSen->text()));
+    gChanged = true;
+}
+
+void dlgWordExist::cmdDelete_Click()
+{
+    if (MsgBox(QStringLiteral("Are you sure you want to delete '") + gImportWord +
+                   QStringLiteral("' ?"),
+               MsgBoxButtons::YesNo) == MsgBoxAnswer::No)
+        return;
+    gVocabList().DeleteVocab();
+    m_ui->txtCurWord->clear();
+    m_ui->txtCurDef->setText({});
+    m_ui->txtCurSen->setText({});
+    // The current entry is another one now, which nobody has seen here.
+    enableEditing(false);
+}
+
+void dlgWordExist::showExisting()
+{
+    const cVocabList &list = gVocabList();
+    m_ui->txtCurWord->setText(list.Word());
+    m_ui->txtCurDef->setText(list.Definition());
+    m_ui->txtCurSen->setText(list.Sentence());
+}
+
+void dlgWordExist::lockExisting(bool locked)
+{
+    m_ui->txtCurWord->setReadOnly(locked);
+    m_ui->txtCurDef->setReadOnly(locked);
+    m_ui->txtCurSen->setReadOnly(locked);
+    for (QWidget *box :
+         {static_cast<QWidget *>(m_ui->txtCurWord), static_cast<QWidget *>(m_ui->txtCurDef),
+          static_cast<QWidget *>(m_ui->txtCurSen)})
+        box->style()->polish(box); // a locked box looks locked
+}
+
+// An entry that is on show can be unlocked, then updated, and deleted at any time.
+void dlgWordExist::enableEditing(bool entryShown)
+{
+    const bool locked = m_ui->txtCurWord->isReadOnly();
+    m_ui->cmdAllowModify->setEnabled(entryShown && locked);
+    m_ui->cmdUpdate->setEnabled(entryShown && !locked);
+    m_ui->cmdDelete->setEnabled(entryShown);
+}
+
+void dlgWordExist::unload()
+{
+    close();
+    Q_EMIT refresh();
+}

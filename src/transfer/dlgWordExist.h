@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The question about an imported word that the open list holds already, and a small editor of the
+// entry that holds it. Answers by the flags gAddThis, gAddAll, gSkipAll and gStopImport.
+#pragma once
+
+#include "platform/DialogForm.h"
+
+#include <memory>
+
+namespace Ui {
+class dlgWordExist;
+}
+
+class dlgWordExist final : public DialogForm
+{
+    Q_OBJECT
+
+public:
+    explicit dlgWordExist(QWidget *parent = nullptr);
+    ~dlgWordExist() override;
+
+Q_SIGNALS:
+    // The main window should be brought up to date.
+    void refresh();
+
+protected:
+    void Form_Load() override;
+
+private:
+    void cmdYes_Click();
+    void cmdNo_Click();
+    void cmdYesToAll_Click();
+    void cmdNoToAll_Click();
+    void cmdAbort_Click();
+    void cmdFindNext_Click();
+    void cmdAllowModify_Click();
+    void cmdUpdate_Click();
+    void cmdDelete_Click();
+
+    void showExisting();
+    void lockExisting(bool locked);
+    void enableEditing(bool entryShown);
+    void unload();
+
+    std::unique_ptr<Ui::dlgWordExist> m_ui;
+};

@@ -1,0 +1,45 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What the chapters of the tour have in common: numbered pictures, told steps."""
+import contextlib
+import shutil
+
+from stage.person import Person
+
+
+class Guide:
+    def __init__(self, desktop, program, sources, pictures):
+        self.person = Person(desktop, program)
+        self.home = desktop.new_home()
+        self.sources = sources  # folder of the texts that the sample lists are made of
+        self._pictures = pictures
+        self._taken = 0
+        self._empty_pictures()
+
+    @property
+    def lists(self):
+        """The folder of the person's word lists."""
+        return self.home / "Documents" / "Lexibrook" / "MyLists"
+
+    @contextlib.contextmanager
+    def step(self, what):
+        try:
+            yield
+        except Exception as error:
+            print(f"NOT SEEN  {what}\n  {error}", flush=True)
+            raise
+        print(f"seen      {what}", flush=True)
+
+    def picture(self, name, window=None):
+        self._taken += 1
+        file = self._pictures / f"{self._taken:02}-{name}.png"
+        self.person.desktop.picture(file, window.box if window else None)
+
+    def keeps(self, file):
+        """A file that the program made goes beside the pictures."""
+        shutil.copy(file, self._pictures)
+
+    def _empty_pictures(self):
+        self._pictures.mkdir(parents=True, exist_ok=True)
+        for pattern in ("*.png", "*.lwx"):
+            for old in self._pictures.glob(pattern):
+                old.unlink()

@@ -1,0 +1,62 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A sample list is opened and leafed through."""
+from stage.conditions import until
+from stage.listfile import entries
+
+Name = "French - First Words"
+
+
+def rows_from(listed, first):
+    """The grid's rows when entry `first` is at the top."""
+    return [(str(first + i), *entry) for i, entry in enumerate(listed[first - 1:first + 22])]
+
+
+def opens(guide, name, picture=None):
+    """File > Open from the question to the chosen list."""
+    person = guide.person
+    person.chooses("File", "Open...")
+    person.is_told("End current lesson?")
+    if picture:
+        guide.picture("question-end-lesson")
+    person.answers("End current lesson?", "OK")
+    dialog = person.window("Open File")
+    file = until(f"{name} offered", lambda: dialog.find("table cell", f"{name}.lwx"))
+    person.clicks(file)
+    until("the name taken", lambda: dialog.find("text", "File name:").text, f"{name}.lwx")
+    if picture:
+        guide.picture(picture)
+    person.clicks(dialog.find("push button", "Open"))
+    return person.window(f"LexiBrook- The Tanglewit: {name}.lwx")
+
+
+def take(guide):
+    person = guide.person
+    listed = entries(guide.lists / f"{Name}.lwx")
+
+    with guide.step("The File menu opens"):
+        items = person.opens_menu("File")
+        until("Save not yet possible", lambda: not items["Save"].usable)
+        guide.picture("menu-file")
+        person.presses("Escape", "Escape")
+        until("the menu closed", lambda: not items["Open..."].shows)
+
+    with guide.step(f"File > Open asks to end the lesson and opens \"{Name}\""):
+        opens(guide, Name, "dialog-open")
+
+    with guide.step("The first page of the list stands in the grid"):
+        until("the first page", lambda: person.page(), rows_from(listed, 1))
+        guide.picture("list-opened")
+
+    with guide.step("Wheel, Page Down, End and Home leaf through the list"):
+        grid = person.control("table", "Word list")
+        bar = person.control("scroll bar", "First entry shown")
+        person.turns_the_wheel(grid, 2)
+        moved = until("the page moved by the wheel", lambda: bar.value > 1 and bar.value)
+        until("the page of the wheel", lambda: person.page(), rows_from(listed, moved))
+        person.presses("Next")
+        until("23 entries further", lambda: bar.value, moved + 23)
+        page = rows_from(listed, moved + 23)
+        until("the next page", lambda: person.page()[:len(page)], page)
+        guide.picture("list-scrolled")
+        person.presses("Home")
+        until("the first page again", lambda: person.page(), rows_from(listed, 1))

@@ -1,0 +1,45 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The list is saved, saved under another name, opened again; the program ends."""
+from stage.conditions import until
+from stage.listfile import entries
+from tour import opening
+
+NewName = "French - My Words"
+
+
+def take(guide):
+    person = guide.person
+    file = guide.lists / f"{opening.Name}.lwx"
+    with guide.step("Save writes the file and says so"):
+        person.chooses("File", "Save")
+        message = f"{file} has been saved."
+        person.is_told(message)
+        until("the entries on disk", lambda: entries(file), guide.expected, limit=0)
+        guide.picture("message-saved")
+        person.answers(message, "OK")
+
+    copy = guide.lists / f"{NewName}.lwx"
+    with guide.step("Save As writes the list under another name"):
+        person.chooses("File", "Save As...")
+        dialog = person.window("Save File As")
+        person.fills("File name:", NewName)
+        guide.picture("dialog-save-as")
+        person.clicks(dialog.find("push button", "Save"))
+        person.window(f"LexiBrook- The Tanglewit: {NewName}.lwx")
+        until("the entries on disk", lambda: entries(copy), guide.expected)
+        until("the first file as it was", lambda: entries(file), guide.expected, limit=0)
+
+    with guide.step("Opened again, the list shows the changes"):
+        opening.opens(guide, NewName)
+        until("the changed page", lambda: person.page(),
+              opening.rows_from(guide.expected, 1))
+        person.presses("End")
+        last = len(guide.expected)
+        until("the last entry", lambda: person.row(1), (str(last), *guide.expected[-1]))
+        guide.picture("opened-again")
+
+    with guide.step("Exit ends the program without a question"):
+        person.chooses("File", "Exit")
+        until("the program's end", lambda: person.process.poll(), 0)
+    guide.keeps(file)
+    guide.keeps(copy)

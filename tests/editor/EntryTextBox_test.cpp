@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/EntryTextBox.h"
+
+#include "support/Controls.h"
+#include "support/FormTest.h"
+
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+namespace {
+
+// A window with the box between two other controls; it notes the Enter keys that reach it.
+class Window final : public QWidget
+{
+public:
+    Window()
+    {
+        auto *column = new QVBoxLayout(this);
+        before = new QLineEdit;
+        box = new EntryTextBox;
+        after = new QLineEdit;
+        for (QWidget *control : {static_cast<QWidget *>(before), static_cast<QWidget *>(box),
+                                 static_cast<QWidget *>(after)})
+            column->addWidget(control);
+        show();
+        if (!QTest::qWaitForWindowActive(this))
+            Controls::fail(QStringLiteral("the window does not become active"));
+        box->setFocus();
+    }
+
+    QLineEdit *before = nullptr;
+    EntryTextBox *box = nullptr;
+    QLineEdit *after = nullptr;
+    int enters = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            ++enters;
+    }
+};
+
+} // namespace
+
+class EntryTextBox_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void enterIsLeftToTheWindow_data();
+    void enterIsLeftToTheWindow();
+    void withControlOrShiftEnterBreaksTheLine_data();
+    void withControlOrShiftEnterBreaksTheLine();
+    void aLineBreakReplacesTheSelection();
+    void textsComeBackAsTheyWereSet_data();
+    void textsComeBackAsTheyWereSet();
+    void lineBreaksOfAnyKindComeBackAsCrLf_data();
+    void lineBreaksOfAnyKindComeBackAsCrLf();
+    void tabLeavesTheBox();
+    void aPastedTextKeepsItsLinesAndLosesItsDress();
+    void everyChangeIsSignalled();
+};
+
+void EntryTextBox_test::enterIsLeftToTheWindow_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter of the keypad") << Qt::Key_Enter;
+}
+
+void EntryTextBox_test::enterIsLeftToTheWindow()
+{
+    QFETCH(Qt::Key, key);
+    Window window;
+    QTest::keyClicks(window.box, QStringLiteral("one"));
+    QTest::keyClick(window.box, key, key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier);
+    QTest::keyClicks(window.box, QStringLiteral("two"));
+    QCOMPARE(window.box->text(), QStringLiteral("onetwo"));
+    QCOMPARE(window.enters, 1);
+}
+
+void EntryTextBox_test::withControlOrShiftEnterBreaksTheLine_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("Ctrl+Return") << Qt::Key_Return << Qt::KeyboardModifiers(Qt::ControlModifier);
+    QTest::newRow("Shift+Return") << Qt::Key_Return << Qt::KeyboardModifiers(Qt::ShiftModifier);
+    QTest::newRow("Ctrl+Enter") << Qt::Key_Enter << Qt::KeyboardModifiers(Qt::ControlModifier);
+    QTest::newRow("Shift+Enter") << Qt::Key_Enter << Qt::KeyboardModifiers(Qt::ShiftModifier);
+}
+
+void EntryTextBox_test::withControlOrShiftEnterBreaksTheLine()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    Window window;
+    QTest::keyClicks(window.box, QStringLiteral("a"));
+    QTest::keyClick(window.box, key, modifiers);
+    QTest::keyClicks(window.box, QStringLiteral("b"));
+    QCOMPARE(window.box->text(), QStringLiteral("a\r\nb"));
+    QCOMPARE(window.box->text().size(), 4);
+    QCOMPARE(window.enters, 0);
+}
+
+void EntryTextBox_test::aLineBreakReplacesTheSelection()
+{
+    Window window;
+    window.box->setText(QStringLiteral("abc"));
+    window.box->selectAll();
+    QTest::keyClick(window.box, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(window.box->text(), QStringLiteral("\r\n"));
+}
+
+void EntryTextBox_test::textsComeBackAsTheyWereSet_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("one line") << QStringLiteral("a small animal");
+    QTest::newRow("outer blanks") << QStringLiteral("  cat  ");
+    QTest::newRow("two lines") << QStringLiteral("one\r\ntwo");
+    QTest::newRow("an empty line between and at the end") << QStringLiteral("one\r\n\r\ntwo\r\n");
+    QTest::newRow("only a line break") << QStringLiteral("\r\n");
+    QTest::newRow("a tab") << QStringLiteral("one\ttwo");
+    QTest::newRow("a hard blank") << QStringLiteral("10\u00A0km");
+    QTest::newRow("accents") << QStringLiteral("\u00E9t\u00E9, \u0153uf, 5 \u20AC");
+    QTest::newRow("marks of hypertext") << QStringLiteral("<b>not bold</b> &amp;");
+}
+
+void EntryTextBox_test::textsComeBackAsTheyWereSet()
+{
+    QFETCH(QString, text);
+    EntryTextBox box;
+    box.setText(text);
+    QCOMPARE(box.text(), text);
+}
+
+void EntryTextBox_test::lineBreaksOfAnyKindComeBackAsCrLf_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("LF") << QStringLiteral("one\ntwo");
+    QTest::newRow("CR") << QStringLiteral("one\rtwo");
+    QTest::newRow("line separator") << QStringLiteral("one\u2028two");
+    QTest::newRow("paragraph separator") << QStringLiteral("one\u2029two");
+}
+
+void EntryTextBox_test::lineBreaksOfAnyKindComeBackAsCrLf()
+{
+    QFETCH(QString, text);
+    EntryTextBox box;
+    box.setText(text);
+    QCOMPARE(box.text(), QStringLiteral("one\r\ntwo"));
+}
+
+void EntryTextBox_test::tabLeavesTheBox()
+{
+    Window window;
+    QTest::keyClick(window.box, Qt::Key_Tab);
+    QVERIFY(window.after->hasFocus());
+    window.box->setFocus();
+    QTest::keyClick(window.box, Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(window.before->hasFocus());
+    QCOMPARE(window.box->text(), QString());
+}
+
+void EntryTextBox_test::aPastedTextKeepsItsLinesAndLosesItsDress()
+{
+    Window window;
+    auto *data = new QMimeData;
+    data->setHtml(QStringLiteral("<p><b>one</b></p><p>two</p>"));
+    data->setText(QStringLiteral("one\ntwo"));
+    QApplication::clipboard()->setMimeData(data);
+    window.box->paste();
+    QCOMPARE(window.box->text(), QStringLiteral("one\r\ntwo"));
+    QApplication::clipboard()->clear();
+}
+
+void EntryTextBox_test::everyChangeIsSignalled()
+{
+    Window window;
+    const QSignalSpy changes(window.box, &QPlainTextEdit::textChanged);
+    QTest::keyClicks(window.box, QStringLiteral("a"));
+    QCOMPARE(changes.size(), 1);
+    QTest::keyClick(window.box, Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(changes.size(), 2);
+    window.box->setText({});
+    QCOMPARE(changes.size(), 3);
+}
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<EntryTextBox_test>(argc, argv);
+}
+
+#include "EntryTextBox_test.moc"

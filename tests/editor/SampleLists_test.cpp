@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/SampleLists.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "runtime/RunTimeError.h"
+#include "support/FreshState.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSet>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+const QString Folder = QStringLiteral("MyLists");
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+// Inflected words differ at their ends, so that their beginnings must do.
+bool isMentioned(const QString &word, const QString &sentence)
+{
+    const QStringList parts = word.split(QLatin1Char(' '));
+    return std::all_of(parts.begin(), parts.end(), [&sentence](const QString &part) {
+        return sentence.contains(part.left(3), Qt::CaseInsensitive);
+    });
+}
+
+} // namespace
+
+class SampleLists_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFolderIsMadeAndFilled();
+    void aFolderThatExistsIsLeftAsItIs_data();
+    void aFolderThatExistsIsLeftAsItIs();
+    void aFolderThatCannotBeMadeIsAnError();
+    void theFolderHasNoDot();
+    void eachListIsGood_data();
+    void eachListIsGood();
+    void oneListHasAccentsAndOneTwoWordPhrases();
+};
+
+void SampleLists_test::theFolderIsMadeAndFilled()
+{
+    const FreshState state;
+    installSampleLists(state.path(Folder));
+    const QDir samples(QStringLiteral(":/lists"));
+    const QDir installed(state.path(Folder));
+    QVERIFY(samples.entryList(QDir::Files).size() >= 5);
+    QCOMPARE(installed.entryList(QDir::Files), samples.entryList(QDir::Files));
+    for (const QString &name : samples.entryList(QDir::Files)) {
+        QFile sample(samples.filePath(name));
+        QFile copy(installed.filePath(name));
+        QVERIFY(sample.open(QIODevice::ReadOnly));
+        // Resources are read-only; the person's lists are not.
+        QVERIFY(copy.permissions().testFlags(QFile::ReadOwner | QFile::WriteOwner));
+        QVERIFY(copy.open(QIODevice::ReadWrite));
+        QCOMPARE(copy.readAll(), sample.readAll());
+    }
+    // Nothing else is left beside it.
+    QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{Folder});
+}
+
+void SampleLists_test::aFolderThatExistsIsLeftAsItIs_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::newRow("empty") << QStringList();
+    QTest::newRow("with a list") << QStringList{QStringLiteral("mine.lwx")};
+    QTest::newRow("with a sample that was changed")
+        << QStringList{QStringLiteral("French - First Words.lwx")};
+}
+
+void SampleLists_test::aFolderThatExistsIsLeftAsItIs()
+{
+    QFETCH(QStringList, files);
+    const FreshState state;
+    const QDir folder(state.path(Folder));
+    QVERIFY(QDir().mkpath(folder.path()));
+    for (const QString &name : files)
+        writeFile(folder.filePath(name), "mine");
+    installSampleLists(folder.path());
+    QCOMPARE(folder.entryList(QDir::Files), files);
+    for (const QString &name : files) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("mine"));
+    }
+}
+
+void SampleLists_test::aFolderThatCannotBeMadeIsAnError()
+{
+    const FreshState state;
+    writeFile(state.path(QStringLiteral("file")), "in the way");
+    try {
+        installSampleLists(state.path(QStringLiteral("file/MyLists")));
+        QFAIL("no error");
+    } catch (const RunTimeError &error) {
+        QCOMPARE(error.number(), RunTimeError::PathFileAccess);
+        QVERIFY(error.report().contains(
+            QDir::toNativeSeparators(state.path(QStringLiteral("file/MyLists")))));
+    }
+}
+
+void SampleLists_test::theFolderHasNoDot()
+{
+    // Import tells the kind of a file by the first dot of its path.
+    const QStringList names = QDir(QStringLiteral(":/lists")).entryList(QDir::Files);
+    for (const QString &name : names)
+        QCOMPARE(name.indexOf(QLatin1Char('.')), name.size() - 4);
+}
+
+void SampleLists_test::eachListIsGood_data()
+{
+    QTest::addColumn<QString>("name");
+    const QStringList names = QDir(QStringLiteral(":/lists")).entryList(QDir::Files);
+    for (const QString &name : names)
+        QTest::newRow(qUtf8Printable(name)) << name;
+}
+
+void SampleLists_test::eachListIsGood()
+{
+    QFETCH(QString, name);
+    const FreshState state;
+    installSampleLists(state.path(Folder));
+    Module1::gFileName = QDir(state.path(Folder)).filePath(name);
+    cVocabList &list = Module1::gVocabList();
+    QVERIFY(list.OpenFile());
+    QVERIFY(list.NumWords() >= 40);
+
+    QSet<QString> words;
+    for (Integer item = 1; item <= list.NumWords(); ++item) {
+        list.CurrentWord(item);
+        const QString word = list.Word();
+        const QByteArray what =
+            QStringLiteral("entry %1, \"%2\"").arg(item.toText(), word).toUtf8();
+        // Words longer than the game has letter tiles for, or too short to scramble.
+        QVERIFY2(word.size() >= 3 && word.size() <= 30, what);
+        QVERIFY2(!words.contains(word.toLower()), what);
+        words += word.toLower();
+        QVERIFY2(!list.Definition().isEmpty(), what);
+        QVERIFY2(!list.Sentence().isEmpty(), what);
+        QVERIFY2(isMentioned(word, list.Sentence()), what);
+        for (const QString &text : {word, list.Definition(), list.Sentence()}) {
+            QCOMPARE(text, text.simplified());
+            // Stands for a character that list files have no byte for.
+            QVERIFY2(!text.contains(QStringLiteral("??")) && !word.contains(QLatin1Char('?')),
+                     what);
+        }
+    }
+}
+
+void SampleLists_test::oneListHasAccentsAndOneTwoWordPhrases()
+{
+    int listsWithAccents = 0;
+    int listsOfPhrases = 0;
+    const QDir samples(QStringLiteral(":/lists"));
+    for (const QString &name : samples.entryList(QDir::Files)) {
+        const FreshState state;
+        installSampleLists(state.path(Folder));
+        Module1::gFileName = QDir(state.path(Folder)).filePath(name);
+        cVocabList &list = Module1::gVocabList();
+        QVERIFY(list.OpenFile());
+        int accents = 0;
+        int phrases = 0;
+        for (Integer item = 1; item <= list.NumWords(); ++item) {
+            list.CurrentWord(item);
+            const QString word = list.Word();
+            accents += std::any_of(word.begin(), word.end(),
+                                   [](QChar letter) { return letter.unicode() > 0x7F; })
+                           ? 1
+                           : 0;
+            phrases += word.count(QLatin1Char(' ')) == 1 ? 1 : 0;
+        }
+        listsWithAccents += accents >= 5 ? 1 : 0;
+        listsOfPhrases += list.NumWords() == phrases ? 1 : 0;
+    }
+    QVERIFY(listsWithAccents >= 1);
+    QVERIFY(listsOfPhrases >= 1);
+}
+
+QTEST_GUILESS_MAIN(SampleLists_test)
+
+#include "SampleLists_test.moc"

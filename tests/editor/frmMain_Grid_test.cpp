@@ -1,0 +1,343 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "support/EditorModes.h"
+#include "support/FormTest.h"
+#include "support/MainWindow.h"
+
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QToolTip>
+
+using namespace Module1;
+
+namespace {
+
+const QStringList EmptyRow{QString(), QString(), QString(), QString()};
+
+// The page of MainWindow::fill that begins with entry `top`, to its last row.
+void comparePage(MainWindow &main, int top)
+{
+    const int count = gVocabList().NumWords().toInt();
+    for (int row = 1; row <= 24; ++row)
+        QCOMPARE(main.row(row),
+                 top + row - 1 <= count ? EditorModes::filledRow(top + row - 1) : EmptyRow);
+}
+
+QPoint middleOf(MSFlexGrid &grid, int row, int column)
+{
+    return grid.visualItemRect(grid.item(row, column)).center();
+}
+
+void askForToolTip(MSFlexGrid &grid, int row, int column)
+{
+    const QPoint place = middleOf(grid, row, column);
+    QHelpEvent help(QEvent::ToolTip, place, grid.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(grid.viewport(), &help);
+}
+
+} // namespace
+
+class frmMain_Grid_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aPageShowsTheEntriesFromItsFirst_data();
+    void aPageShowsTheEntriesFromItsFirst();
+    void theHeaderStandsAboveEachPage();
+    void aFillRemembersWhichEntriesItShows();
+    void theScrollBarGoesFromZeroToOneBehindTheList_data();
+    void theScrollBarGoesFromZeroToOneBehindTheList();
+    void valueZeroShowsThePageFromEntryOne();
+    void onALongListTheMaximumShowsThePageOfTheLastEntry_data();
+    void onALongListTheMaximumShowsThePageOfTheLastEntry();
+    void onAShortListTheMaximumShowsAnEmptyPage();
+    void onAnEmptyListScrollingDoesNothing();
+    void withNothingPickedThePositionStaysBehindThePage_data();
+    void withNothingPickedThePositionStaysBehindThePage();
+
+    void theWheelScrolls();
+    void keysOverTheGridScroll_data();
+    void keysOverTheGridScroll();
+    void enterAndSpacePickTheFirstRowOfAScrolledPage_data();
+    void enterAndSpacePickTheFirstRowOfAScrolledPage();
+    void tabLeavesTheGrid();
+
+    void textsTooLongForTheirCellAreShownWholeInAToolTip_data();
+    void textsTooLongForTheirCellAreShownWholeInAToolTip();
+    void textsThatFitHaveNoToolTip();
+};
+
+void frmMain_Grid_test::aPageShowsTheEntriesFromItsFirst_data()
+{
+    QTest::addColumn<int>("entries");
+    QTest::addColumn<int>("top");
+    for (const int entries : {1, 5, 22, 23, 24, 25, 100})
+        QTest::addRow("%d entries", entries) << entries << 1;
+    QTest::newRow("page 2 of 24") << 24 << 2;
+    QTest::newRow("page 50 of 100") << 100 << 50;
+    QTest::newRow("page 77 of 100") << 100 << 77;
+    QTest::newRow("page 78 of 100") << 100 << 78;
+    QTest::newRow("page 100 of 100") << 100 << 100;
+    QTest::newRow("page 5 of 5") << 5 << 5;
+    QTest::newRow("last page of 32000") << 32000 << 32000;
+}
+
+void frmMain_Grid_test::aPageShowsTheEntriesFromItsFirst()
+{
+    QFETCH(int, entries);
+    QFETCH(int, top);
+    MainWindow main;
+    main.fill(entries);
+    main.bar().setValue(top);
+    QCOMPARE(main.bar().value(), top);
+    comparePage(main, top);
+    QCOMPARE(main.markedRows(), QList<int>());
+}
+
+void frmMain_Grid_test::theHeaderStandsAboveEachPage()
+{
+    MainWindow main;
+    main.fill(60);
+    main.bar().setValue(30);
+    QCOMPARE(main.row(0), (QStringList{QString(), QStringLiteral("Vocabulary Word"),
+                                       QStringLiteral("Definition"), QStringLiteral("Sentence")}));
+    for (int column = 1; column <= 3; ++column)
+        QVERIFY(main.grid().cellBold(0, column));
+    QCOMPARE(main.grid().rowCount(), 25);
+    QCOMPARE(main.grid().Row(), 1);
+    QCOMPARE(main.grid().Col(), 1);
+}
+
+void frmMain_Grid_test::aFillRemembersWhichEntriesItShows()
+{
+    MainWindow main;
+    main.fill(60);
+    main.bar().setValue(10);
+    QCOMPARE(gLastItem, 33);
+    for (std::size_t i = 0; i < 24; ++i)
+        QCOMPARE(gRowItem[i], 10 + i);
+    main.bar().setValue(50);
+    QCOMPARE(gLastItem, 60);
+    for (std::size_t i = 0; i < 11; ++i)
+        QCOMPARE(gRowItem[i], 50 + i);
+    main.bar().setValue(1);
+    QCOMPARE(gLastItem, 24);
+    main.fill(5);
+    QCOMPARE(gLastItem, 5);
+}
+
+void frmMain_Grid_test::theScrollBarGoesFromZeroToOneBehindTheList_data()
+{
+    QTest::addColumn<int>("entries");
+    for (const int entries : {1, 5, 100, 32000})
+        QTest::addRow("%d", entries) << entries;
+}
+
+void frmMain_Grid_test::theScrollBarGoesFromZeroToOneBehindTheList()
+{
+    QFETCH(int, entries);
+    MainWindow main;
+    main.fill(entries);
+    QCOMPARE(main.bar().minimum(), 0);
+    QCOMPARE(main.bar().maximum(), entries + 1);
+    QCOMPARE(main.bar().singleStep(), 1);
+    QCOMPARE(main.bar().pageStep(), 23);
+}
+
+void frmMain_Grid_test::valueZeroShowsThePageFromEntryOne()
+{
+    MainWindow main;
+    main.fill(60);
+    main.bar().setValue(10);
+    main.bar().setValue(0);
+    QCOMPARE(main.bar().value(), 0);
+    comparePage(main, 1);
+    QCOMPARE(gLastItem, 24);
+}
+
+void frmMain_Grid_test::onALongListTheMaximumShowsThePageOfTheLastEntry_data()
+{
+    QTest::addColumn<int>("entries");
+    for (const int entries : {22, 23, 60, 32000})
+        QTest::addRow("%d", entries) << entries;
+}
+
+void frmMain_Grid_test::onALongListTheMaximumShowsThePageOfTheLastEntry()
+{
+    QFETCH(int, entries);
+    MainWindow main;
+    main.fill(entries);
+    main.bar().setValue(main.bar().maximum());
+    QCOMPARE(main.bar().value(), entries);
+    comparePage(main, entries);
+}
+
+void frmMain_Grid_test::onAShortListTheMaximumShowsAnEmptyPage()
+{
+    MainWindow main;
+    main.fill(5);
+    main.bar().setValue(6);
+    QCOMPARE(main.bar().value(), 6);
+    for (int row = 1; row <= 24; ++row)
+        QCOMPARE(main.row(row), EmptyRow);
+    main.clickCell(1, 1);
+    QCOMPARE(main.look(), EditorModes::idle());
+    main.bar().setValue(5);
+    comparePage(main, 5);
+    QVERIFY(main.answers.allSeen());
+}
+
+void frmMain_Grid_test::onAnEmptyListScrollingDoesNothing()
+{
+    MainWindow main;
+    const Integer current = gVocabList().CurrentWord();
+    main.bar().setValue(1);
+    main.bar().setValue(0);
+    QCOMPARE(main.row(1), (QStringList{QStringLiteral("1"), QString(), QString(), QString()}));
+    QCOMPARE(gVocabList().CurrentWord(), current);
+    QCOMPARE(gLastItem, 1);
+    QVERIFY(main.answers.allSeen());
+}
+
+void frmMain_Grid_test::withNothingPickedThePositionStaysBehindThePage_data()
+{
+    QTest::addColumn<int>("top");
+    QTest::addColumn<int>("position");
+    QTest::newRow("first page") << 2 << 26;
+    QTest::newRow("last entries") << 50 << 61;
+}
+
+void frmMain_Grid_test::withNothingPickedThePositionStaysBehindThePage()
+{
+    QFETCH(int, top);
+    MainWindow main;
+    main.fill(60);
+    main.bar().setValue(top);
+    QTEST(gVocabList().CurrentWord().toInt(), "position");
+}
+
+void frmMain_Grid_test::theWheelScrolls()
+{
+    MainWindow main;
+    main.fill(60);
+    QWidget &viewport = *main.grid().viewport();
+    const QPoint place = middleOf(main.grid(), 5, 1);
+    const auto turn = [&](int angle) {
+        QWheelEvent wheel(place, viewport.mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&viewport, &wheel);
+    };
+    const int lines = QApplication::wheelScrollLines();
+    QVERIFY(lines > 0);
+    turn(-120);
+    QCOMPARE(main.bar().value(), 1 + lines);
+    comparePage(main, 1 + lines);
+    turn(-120);
+    turn(120);
+    comparePage(main, 1 + lines);
+}
+
+void frmMain_Grid_test::keysOverTheGridScroll_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<int>("top"); // from 30
+    QTest::newRow("Up") << Qt::Key_Up << 29;
+    QTest::newRow("Down") << Qt::Key_Down << 31;
+    QTest::newRow("Page Up") << Qt::Key_PageUp << 7;
+    QTest::newRow("Page Down") << Qt::Key_PageDown << 53;
+    QTest::newRow("Home") << Qt::Key_Home << 1;
+    QTest::newRow("End") << Qt::Key_End << 60;
+}
+
+void frmMain_Grid_test::keysOverTheGridScroll()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(int, top);
+    MainWindow main;
+    main.fill(60);
+    main.bar().setValue(30);
+    main.grid().setFocus();
+    Controls::press(key);
+    comparePage(main, top);
+    // Home is the bar's minimum.
+    QCOMPARE(main.bar().value(), key == Qt::Key_Home ? 0 : top);
+    QVERIFY(main.grid().hasFocus());
+}
+
+void frmMain_Grid_test::enterAndSpacePickTheFirstRowOfAScrolledPage_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+    QTest::newRow("Space") << Qt::Key_Space;
+}
+
+void frmMain_Grid_test::enterAndSpacePickTheFirstRowOfAScrolledPage()
+{
+    QFETCH(Qt::Key, key);
+    MainWindow main;
+    main.fill(60);
+    main.grid().setFocus();
+    Controls::press(Qt::Key_Down);
+    Controls::press(key);
+    QCOMPARE(main.text("txtWord"), QStringLiteral("word 2"));
+    QCOMPARE(main.look(), EditorModes::editing());
+    QVERIFY(main.control<QWidget>("txtWord").hasFocus());
+}
+
+void frmMain_Grid_test::tabLeavesTheGrid()
+{
+    MainWindow main;
+    main.fill(5);
+    main.grid().setFocus();
+    Controls::press(Qt::Key_Tab);
+    QVERIFY(!main.grid().hasFocus());
+    QVERIFY(QApplication::focusWidget());
+}
+
+void frmMain_Grid_test::textsTooLongForTheirCellAreShownWholeInAToolTip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("long") << QStringLiteral("a <long> & winding text ").repeated(20).trimmed();
+    QTest::newRow("several lines")
+        << QStringLiteral("one\r\ntwo ") + QStringLiteral("three ").repeated(40).trimmed();
+}
+
+void frmMain_Grid_test::textsTooLongForTheirCellAreShownWholeInAToolTip()
+{
+    QFETCH(QString, text);
+    MainWindow main;
+    gVocabList().AddVocab(QStringLiteral("cat"), text, text);
+    main.bar().setValue(1);
+    MSFlexGrid &grid = main.grid();
+    QCOMPARE(grid.textElideMode(), Qt::ElideRight);
+    QString shown = text.toHtmlEscaped();
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    QVERIFY(!grid.wordWrap());
+    for (const int column : {2, 3}) {
+        askForToolTip(grid, 1, column);
+        QTRY_VERIFY(QToolTip::isVisible());
+        QVERIFY(QToolTip::text().contains(shown));
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+}
+
+void frmMain_Grid_test::textsThatFitHaveNoToolTip()
+{
+    MainWindow main;
+    main.fill(1);
+    for (const int column : {1, 2, 3}) {
+        askForToolTip(main.grid(), 1, column);
+        QVERIFY(!QToolTip::isVisible());
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmMain_Grid_test>(argc, argv);
+}
+
+#include "frmMain_Grid_test.moc"

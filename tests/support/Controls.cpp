@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/Controls.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTest>
+
+void Controls::fail(const QString &what)
+{
+    qFatal("%s: %s", QTest::currentTestFunction(), qUtf8Printable(what));
+}
+
+void Controls::click(QAbstractButton &button)
+{
+    if (!button.isVisible() || !button.isEnabled())
+        fail(button.objectName() + QStringLiteral(" is hidden or disabled and cannot be clicked"));
+    QTest::mouseClick(&button, Qt::LeftButton);
+}
+
+void Controls::choose(QAction &item)
+{
+    if (!item.isVisible() || !item.isEnabled())
+        fail(item.objectName() + QStringLiteral(" is hidden or disabled and cannot be chosen"));
+    item.trigger();
+}
+
+void Controls::type(QWidget &box, const QString &text)
+{
+    if (!box.isVisible() || !box.isEnabled())
+        fail(box.objectName() + QStringLiteral(" is hidden or disabled and takes no text"));
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Delete);
+    QTest::keyClicks(&box, text);
+}
+
+void Controls::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (!focus)
+        fail(QStringLiteral("nothing has the keyboard focus"));
+    QTest::keyClick(focus, key, modifiers);
+}

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/DialogAnswers.h"
+
+#include "platform/Application.h"
+
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <utility>
+
+namespace {
+
+constexpr int LookInterval = 5; // ms
+constexpr int MostLooks = 600;  // at a dialog that should close
+
+void fail(const QString &what)
+{
+    QTest::qFail(qUtf8Printable(what), __FILE__, __LINE__);
+}
+
+void compare(const char *what, const QString &actual, const QString &expected)
+{
+    if (actual != expected)
+        fail(QStringLiteral("%1 is \"%2\" instead of \"%3\"")
+                 .arg(QLatin1String(what), actual, expected));
+}
+
+QString describe(const QDialog &dialog)
+{
+    if (const auto *box = qobject_cast<const QMessageBox *>(&dialog))
+        return QStringLiteral("message box \"%1\"").arg(box->text());
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QLatin1String(dialog.metaObject()->className()), dialog.windowTitle());
+}
+
+std::function<void()> pressing(QAbstractButton *button, const QString &name)
+{
+    if (!button || !button->isVisible() || !button->isEnabled()) {
+        fail(QStringLiteral("the dialog has no %1 that can be pressed").arg(name));
+        return {};
+    }
+    return [button = QPointer(button)] {
+        if (button)
+            QTest::mouseClick(button, Qt::LeftButton);
+    };
+}
+
+std::function<void()> answering(QMessageBox &box, QMessageBox::StandardButton answer)
+{
+    return pressing(box.button(answer), QStringLiteral("button %1").arg(answer));
+}
+
+QAbstractButton *buttonOf(QFileDialog &dialog, QDialogButtonBox::StandardButton button)
+{
+    auto *buttons = dialog.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+    return buttons ? buttons->button(button) : nullptr;
+}
+
+void accept(QFileDialog &dialog)
+{
+    const auto button = dialog.acceptMode() == QFileDialog::AcceptOpen ? QDialogButtonBox::Open
+                                                                       : QDialogButtonBox::Save;
+    if (const auto press = pressing(buttonOf(dialog, button), QStringLiteral("Open or Save")))
+        press();
+}
+
+} // namespace
+
+DialogAnswers::DialogAnswers()
+{
+    connect(&m_timer, &QTimer::timeout, this, &DialogAnswers::look);
+    m_timer.start(LookInterval);
+}
+
+DialogAnswers::~DialogAnswers()
+{
+    for (const Expected &expected : m_expected)
+        fail(expected.what + QStringLiteral(" did not come"));
+}
+
+void DialogAnswers::expectMsgBox(const QString &text, QMessageBox::StandardButton answer,
+                                 std::function<void(QMessageBox &)> inspect)
+{
+    expect({QStringLiteral("message box \"%1\"").arg(text), false,
+            [text, answer, inspect = std::move(inspect)](QDialog &dialog) {
+                auto &box = static_cast<QMessageBox &>(dialog);
+                compare("the message", box.text(), text);
+                compare("the message box's title", box.windowTitle(), Application::Title());
+                if (inspect)
+                    inspect(box);
+                return answering(box, answer);
+            }});
+}
+
+void DialogAnswers::expectAnyMsgBox(QMessageBox::StandardButton answer,
+                                    std::function<void(QMessageBox &)> inspect)
+{
+    expect({QStringLiteral("a message box"), false,
+            [answer, inspect = std::move(inspect)](QDialog &dialog) {
+                auto &box = static_cast<QMessageBox &>(dialog);
+                compare("the message box's title", box.windowTitle(), Application::Title());
+                inspect(box);
+                return answering(box, answer);
+            }});
+}
+
+void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect)
+{
+    expectFileDialog(QStringLiteral("file dialog for \"%1\"").arg(name), std::move(inspect),
+                     [name](QFileDialog &dialog) {
+                         auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+                         if (!box)
+                             return fail(QStringLiteral("the file dialog has no box for the name"));
+                         // Pasted in one piece: the completion would guess on while it is typed.
+                         box->setFocus();
+                         box->selectAll();
+                         box->insert(name);
+                         accept(dialog);
+                     });
+}
+
+void DialogAnswers::acceptFileDialog(std::function<void(QFileDialog &)> inspect)
+{
+    expectFileDialog(QStringLiteral("file dialog to accept"), std::move(inspect), accept);
+}
+
+void DialogAnswers::cancelFileDialog(std::function<void(QFileDialog &)> inspect)
+{
+    expectFileDialog(
+        QStringLiteral("file dialog to cancel"), std::move(inspect), [](QFileDialog &dialog) {
+            if (const auto press =
+                    pressing(buttonOf(dialog, QDialogButtonBox::Cancel), QStringLiteral("Cancel")))
+                press();
+        });
+}
+
+void DialogAnswers::answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer)
+{
+    expect({QStringLiteral("question about replacing \"%1\"").arg(fileTitle), false,
+            [fileTitle, answer](QDialog &dialog) {
+                auto &box = static_cast<QMessageBox &>(dialog);
+                if (!qobject_cast<QFileDialog *>(box.parentWidget()) ||
+                    !box.text().contains(fileTitle))
+                    fail(QStringLiteral("\"%1\" is not the file dialog's question about \"%2\"")
+                             .arg(box.text(), fileTitle));
+                return answering(box, answer);
+            }});
+}
+
+bool DialogAnswers::allSeen()
+{
+    for (const Expected &expected : std::exchange(m_expected, {})) {
+        m_failed = true;
+        fail(expected.what + QStringLiteral(" did not come"));
+    }
+    return !m_failed;
+}
+
+void DialogAnswers::expect(Expected expected)
+{
+    m_expected.push_back(std::move(expected));
+}
+
+void DialogAnswers::expectFileDialog(const QString &what,
+                                     std::function<void(QFileDialog &)> inspect,
+                                     std::function<void(QFileDialog &)> answer)
+{
+    expect(
+        {what, true, [inspect = std::move(inspect), answer = std::move(answer)](QDialog &dialog) {
+             auto &fileDialog = static_cast<QFileDialog &>(dialog);
+             compare("the file dialog's name", dialog.objectName(), QStringLiteral("CommonDialog"));
+             if (inspect)
+                 inspect(fileDialog);
+             return [answer, open = QPointer(&fileDialog)] {
+                 if (open)
+                     answer(*open);
+             };
+         }});
+}
+
+// What a window manager does and the display without one does not: when a dialog is gone, the
+// window below it is active again.
+void DialogAnswers::activateWindow()
+{
+    if (QApplication::activeWindow() || m_seen == 0)
+        return;
+    if (QWidget *dialog = QApplication::activeModalWidget()) {
+        dialog->activateWindow();
+        return;
+    }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        if (window->isVisible() && window->windowType() == Qt::Window)
+            window->activateWindow();
+}
+
+void DialogAnswers::look()
+{
+    activateWindow();
+    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (!dialog || !dialog->isVisible() || dialog == m_pressed)
+        return;
+    if (dialog != m_answered) {
+        m_answered = dialog;
+        m_waited = 0;
+        meet(*dialog);
+    } else if (++m_waited > MostLooks) {
+        m_waited = 0;
+        dismiss(*dialog, QStringLiteral("%1 stays open after its answer"));
+    }
+}
+
+void DialogAnswers::meet(QDialog &dialog)
+{
+    const bool isFileDialog = qobject_cast<QFileDialog *>(&dialog) != nullptr;
+    const bool isKnown = isFileDialog || qobject_cast<QMessageBox *>(&dialog) != nullptr;
+    if (m_expected.empty() || !isKnown || m_expected.front().isFileDialog != isFileDialog) {
+        dismiss(dialog, QStringLiteral("unexpected %1") +
+                            (m_expected.empty()
+                                 ? QString()
+                                 : QStringLiteral(" instead of ") + m_expected.front().what));
+        return;
+    }
+    const Expected expected = std::move(m_expected.front());
+    m_expected.pop_front();
+    ++m_seen;
+    const std::function<void()> answer = expected.answer(dialog);
+    if (!answer) {
+        dismiss(dialog, QStringLiteral("%1 could not be answered"));
+        return;
+    }
+    // An answer may open a further dialog, for which the timer must be able to fire.
+    QMetaObject::invokeMethod(
+        this,
+        [this, answer, pressed = QPointer(&dialog)] {
+            const QPointer<QDialog> outer = std::exchange(m_pressed, pressed);
+            answer();
+            m_pressed = outer;
+        },
+        Qt::QueuedConnection);
+}
+
+void DialogAnswers::dismiss(QDialog &dialog, const QString &reason)
+{
+    m_failed = true;
+    fail(reason.arg(describe(dialog)));
+    QMetaObject::invokeMethod(
+        &dialog, [&dialog] { dialog.done(QDialog::Rejected); }, Qt::QueuedConnection);
+}

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The person in front of the program's modal dialogs: a queue of message boxes and file dialogs
+// that are expected, each answered in the real dialog as soon as it shows.
+//
+// A dialog that is not the next expected one fails the test and is dismissed, so that nothing
+// hangs; one that was expected and did not come fails it when the object goes.
+#pragma once
+
+#include <QMessageBox>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+
+class QFileDialog;
+
+class DialogAnswers final : public QObject
+{
+    Q_OBJECT
+
+public:
+    DialogAnswers();
+    ~DialogAnswers() override;
+
+    // The exact text, the application's title and, pressed, the real button. `inspect` sees the
+    // box before it is answered.
+    void expectMsgBox(const QString &text, QMessageBox::StandardButton answer = QMessageBox::Ok,
+                      std::function<void(QMessageBox &)> inspect = {});
+    // As above, the text being checked by `inspect` alone.
+    void expectAnyMsgBox(QMessageBox::StandardButton answer,
+                         std::function<void(QMessageBox &)> inspect);
+
+    // A file dialog: the name (a full path, or one relative to the folder shown) is put into the
+    // name box and Open or Save is pressed.
+    void chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect = {});
+    // A file dialog whose offered name is accepted as it stands.
+    void acceptFileDialog(std::function<void(QFileDialog &)> inspect = {});
+    void cancelFileDialog(std::function<void(QFileDialog &)> inspect = {});
+    // The file dialog's own question whether the file may be replaced. After Yes the file dialog
+    // closes; after No it is open again, and what comes next in the queue answers it.
+    void answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer);
+
+    // Whether every dialog that was expected has come and gone and no other one has.
+    [[nodiscard]] bool allSeen();
+    [[nodiscard]] int seen() const { return m_seen; }
+
+private:
+    struct Expected
+    {
+        QString what;
+        bool isFileDialog = false;
+        // Checks the dialog and returns what answers it, or nothing where it is another one.
+        std::function<std::function<void()>(QDialog &)> answer;
+    };
+
+    void expect(Expected expected);
+    void expectFileDialog(const QString &what, std::function<void(QFileDialog &)> inspect,
+                          std::function<void(QFileDialog &)> answer);
+    void look();
+    void activateWindow();
+    void meet(QDialog &dialog);
+    void dismiss(QDialog &dialog, const QString &reason);
+
+    std::deque<Expected> m_expected;
+    QTimer m_timer;
+    QPointer<QDialog> m_answered; // the dialog met last
+    QPointer<QDialog> m_pressed;  // the dialog whose answer is running
+    int m_waited = 0;             // looks at the answered dialog that found it open still
+    int m_seen = 0;
+    bool m_failed = false;
+};

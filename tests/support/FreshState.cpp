@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/FreshState.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "support/Controls.h"
+
+#include <QDir>
+#include <QSettings>
+
+namespace {
+
+void resetGlobals()
+{
+    using namespace Module1;
+    gVocabList() = cVocabList();
+    gFileName.clear();
+    gFileTitle.clear();
+    gOpenedFile.clear();
+    gChanged = gSaved = gNewWord = gWordSelected = false;
+    gLastItem = gRowHeight = gHighlightRow = 0;
+    gRowItem = {};
+    gTop10 = {};
+    gUpbeatMusic = gMusicOff = PrintItemNumber = false;
+    PrintOrientation.clear();
+}
+
+} // namespace
+
+FreshState::FreshState()
+{
+    if (!m_home.isValid())
+        Controls::fail(m_home.errorString());
+    const auto place = [this](const char *variable, const QString &folder) {
+        const QString path = this->path(folder);
+        QDir().mkpath(path);
+        qputenv(variable, QFile::encodeName(path));
+    };
+    place("HOME", QStringLiteral("."));
+    place("XDG_DATA_HOME", QStringLiteral(".local/share"));
+    place("XDG_CONFIG_HOME", QStringLiteral(".config"));
+    place("XDG_CACHE_HOME", QStringLiteral(".cache"));
+    // Where the file dialog keeps its state.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       path(QStringLiteral(".config")));
+    resetGlobals();
+}
+
+FreshState::~FreshState()
+{
+    resetGlobals();
+}

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A freshly started main window, shown maximised and active, in a fresh home, with the person who
+// answers its dialogs.
+#pragma once
+
+#include "editor/frmMain.h"
+#include "platform/MSFlexGrid.h"
+#include "support/Controls.h"
+#include "support/DialogAnswers.h"
+#include "support/FreshState.h"
+
+#include <QList>
+#include <QStringList>
+
+class QScrollBar;
+
+class MainWindow final
+{
+    FreshState m_state;
+    std::unique_ptr<frmMain> m_window;
+
+public:
+    enum class Start { Shown, Hidden };
+    explicit MainWindow(Start start = Start::Shown);
+    ~MainWindow();
+    Q_DISABLE_COPY_MOVE(MainWindow)
+
+    DialogAnswers answers;
+
+    // Shows the window maximised and waits until it is active.
+    void show();
+
+    [[nodiscard]] frmMain &window() { return *m_window; }
+    // A path in the fresh home.
+    [[nodiscard]] QString path(const QString &name) const { return m_state.path(name); }
+
+    template <class Control> [[nodiscard]] Control &control(const char *name)
+    {
+        return Controls::find<Control>(*m_window, name);
+    }
+    [[nodiscard]] QAction &action(const char *name) { return control<QAction>(name); }
+    [[nodiscard]] MSFlexGrid &grid() { return control<MSFlexGrid>("MSFlexGrid1"); }
+    [[nodiscard]] QScrollBar &bar();
+
+    void click(const char *button);
+    void choose(const char *menuItem);
+    void type(const char *box, const QString &text);
+    // Of txtWord, txtDefinition or txtSentence.
+    [[nodiscard]] QString text(const char *box);
+
+    // Types an entry into the boxes, which must be enabled.
+    void typeEntry(const QString &word, const QString &definition = {},
+                   const QString &sentence = {});
+
+    // Puts entries ("word 1", "definition 1", "sentence 1"), … into the list in place of what it
+    // held and shows the page from entry 1.
+    void fill(int entries);
+    // The same with these words, "definition of " and "sentence of " each.
+    void fill(const QStringList &words);
+
+    // Clicks the middle of a cell, which must be in sight.
+    void clickCell(int row, int column);
+    // Item number, word, definition and sentence that the grid shows in the row.
+    [[nodiscard]] QStringList row(int row);
+    // The rows that are marked in all three data columns. A row that is marked in part, or whose
+    // bold and yellow disagree, ends the test.
+    [[nodiscard]] QList<int> markedRows();
+
+    // What a person sees of the entry area, control by control: "hidden", or the button's caption
+    // and then "disabled", "enabled" or "default"; of the text boxes "disabled" or "enabled".
+    [[nodiscard]] QStringList look();
+
+private:
+    void showFirstPage();
+};
