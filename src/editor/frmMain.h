@@ -87,6 +87,7 @@ private:
     void mnuCreateTextFile_Click();
     void cmdQuickFlash_Click();
     void importWords(const QString &path);
+    void refresh();
 
     // frmMain_File.cpp: file commands
     void mnuNew_Click();

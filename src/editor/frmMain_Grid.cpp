@@ -72,8 +72,7 @@ void frmMain::FillGrid(Integer top)
     m_searching = false;
 
     const Integer count = list.NumWords();
-    if (count > 0)
-        gLastItem = std::min(top + LargeChange, count);
+    gLastItem = count > 0 ? std::min(top + LargeChange, count) : Integer(1);
     top = std::max(top, Integer(1));
     emptyGrid();
     list.CurrentWord(top);

@@ -32,10 +32,16 @@ void frmMain::mnuImport_Click()
     const QString openList = gFileName;
     gFileName = m_fileDialog.FileName;
     runGuarded([this] { importWords(gFileName); });
+    gFileName = openList;
     FillGrid(remembered);
     gVocabList().CurrentWord(1);
     m_ui->MSFlexGrid1->setCurrent(1, 1);
-    gFileName = openList;
+}
+
+void frmMain::refresh()
+{
+    FillGrid(FirstShownItem());
+    repaint();
 }
 
 // The kind of the file is what follows the first dot of its whole path.
@@ -44,12 +50,10 @@ void frmMain::importWords(const QString &path)
     const QString kind = path.mid(path.indexOf(QLatin1Char('.')) + 1, 3);
     Import import(this);
     ProgressShown progress(this);
-    connect(&import, &Import::refresh, this, [this] {
-        FillGrid(FirstShownItem());
-        repaint();
-    });
+    connect(&import, &Import::refresh, this, guarded(this, &frmMain::refresh));
     connect(&import, &Import::changed, this, [this] { m_ui->mnuSave->setEnabled(true); });
     connect(&import, &Import::progress, &progress, &ProgressShown::show);
+    connect(&import, &Import::paused, &progress, &ProgressShown::pause);
     if (kind == QLatin1String("lwx"))
         import.ImportWordList();
     else if (kind == QLatin1String("dif"))

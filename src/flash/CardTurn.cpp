@@ -7,10 +7,15 @@
 #include <cmath>
 #include <utility>
 
+void CardTurn::end(QWidget &card)
+{
+    const auto turns = card.findChildren<CardTurn *>(QString(), Qt::FindDirectChildrenOnly);
+    for (CardTurn *turn : turns)
+        turn->close();
+}
+
 void CardTurn::play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide)
 {
-    for (CardTurn *running : card.findChildren<CardTurn *>(QString(), Qt::FindDirectChildrenOnly))
-        running->close();
     const int duration =
         card.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &card);
     if (duration <= 0 || !card.isVisible())

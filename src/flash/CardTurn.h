@@ -11,7 +11,9 @@ class CardTurn final : public QWidget
     Q_OBJECT
 
 public:
-    // Plays over the card and goes away by itself; at once where the style asks for no motion.
+    // Plays over the card and goes away by itself, or at the call of end; not at all where the
+    // style asks for no motion.
+    static void end(QWidget &card);
     static void play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide);
 
 protected:

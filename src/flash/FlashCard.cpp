@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QTextOption>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -23,6 +24,7 @@ FlashCard::FlashCard(QWidget *parent) : QPlainTextEdit(parent)
     setTextInteractionFlags(Qt::NoTextInteraction);
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setCursor(Qt::PointingHandCursor);
     viewport()->setCursor(Qt::PointingHandCursor);
     QTextOption centred(Qt::AlignHCenter);
     centred.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -31,6 +33,7 @@ FlashCard::FlashCard(QWidget *parent) : QPlainTextEdit(parent)
 
 void FlashCard::setText(const QString &text, Side side)
 {
+    CardTurn::end(*this);
     if (side != m_side) {
         m_side = side;
         style()->polish(this);
@@ -46,6 +49,7 @@ void FlashCard::turnTo(const QString &text, Side side)
         setText(text, side);
         return;
     }
+    CardTurn::end(*this);
     const QPixmap oldSide = grab();
     setText(text, side);
     CardTurn::play(*this, oldSide, grab());
@@ -62,9 +66,22 @@ void FlashCard::keyPressEvent(QKeyEvent *event)
 
 void FlashCard::mouseReleaseEvent(QMouseEvent *event)
 {
-    QPlainTextEdit::mouseReleaseEvent(event);
+    // Accepted, so that it does not come to the card a second time.
+    event->accept();
     if (event->button() == Qt::LeftButton && viewport()->rect().contains(event->pos()))
         Q_EMIT Click();
+}
+
+// Above and below the text the card is no part of the viewport.
+bool FlashCard::event(QEvent *event)
+{
+    const bool pressed = event->type() == QEvent::MouseButtonPress;
+    if (!pressed && event->type() != QEvent::MouseButtonRelease)
+        return QPlainTextEdit::event(event);
+    const auto &mouse = static_cast<QMouseEvent &>(*event);
+    if (!pressed && mouse.button() == Qt::LeftButton && rect().contains(mouse.pos()))
+        Q_EMIT Click();
+    return true;
 }
 
 void FlashCard::resizeEvent(QResizeEvent *event)
@@ -78,14 +95,17 @@ void FlashCard::fitType()
     const int padding = 2 * int(document()->documentMargin());
     const QRect room = contentsRect().adjusted(0, 0, -padding, -padding);
     QRect needed;
+    bool fits = false;
     QFont type = font();
     for (const int size : TypeSizes) {
         type.setPointSize(size);
         needed = QFontMetrics(type).boundingRect(
             room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), toPlainText());
-        if (room.contains(needed))
+        fits = room.contains(needed);
+        if (fits)
             break;
     }
+    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     if (type != document()->defaultFont())
         document()->setDefaultFont(type);
     setViewportMargins(0, std::max(0, (room.height() - needed.height()) / 2), 0, 0);

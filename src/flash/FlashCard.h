@@ -19,13 +19,14 @@ public:
     [[nodiscard]] QString text() const { return m_text; }
     [[nodiscard]] bool isBack() const { return m_side == Side::Back; }
     void setText(const QString &text, Side side);
-    // As setText, but the card is seen to turn, unless the system asks for less motion.
+    // As setText, but the card is seen to turn, unless the style asks for no motion.
     void turnTo(const QString &text, Side side);
 
 Q_SIGNALS:
     void Click();
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

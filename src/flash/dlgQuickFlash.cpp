@@ -23,6 +23,12 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgQuickFlash>())
 {
     m_ui->setupUi(this);
+    // The two buttons share one place and size.
+    for (QPushButton *button : {m_ui->cmdAutoFlash, m_ui->cmdStop}) {
+        QSizePolicy policy = button->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(policy);
+    }
     const auto onClick = [this](QPushButton *button, void (dlgQuickFlash::*handler)()) {
         connect(button, &QPushButton::clicked, this, guarded(this, handler));
     };
@@ -38,6 +44,7 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
         timer.setParent(this);
         timer.setObjectName(name);
         timer.setInterval(interval);
+        timer.setTimerType(Qt::PreciseTimer);
         connect(&timer, &QTimer::timeout, this, guarded(this, handler));
     };
     onTimer(m_tmrWord, QStringLiteral("tmrWord"), 3000, &dlgQuickFlash::tmrWord_Timer);
@@ -136,7 +143,7 @@ void dlgQuickFlash::CancelButton_Click()
     close();
 }
 
-// The two buttons share one place; the keyboard stays with the one that is there.
+// The keyboard stays with the button that is there.
 void dlgQuickFlash::showRun(Run run)
 {
     const bool automatic = run == Run::Automatic;

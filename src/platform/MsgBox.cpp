@@ -68,11 +68,23 @@ private:
     }
 };
 
+// No window is active right after one has closed.
+QWidget *owner()
+{
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        if (window->isVisible())
+            return window;
+    return nullptr;
+}
+
 } // namespace
 
 MsgBoxAnswer MsgBox(const QString &text, MsgBoxButtons buttons)
 {
-    AnsweredMessageBox box(QApplication::activeWindow());
+    AnsweredMessageBox box(owner());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setWindowTitle(Application::Title());
     box.setTextFormat(Qt::PlainText);

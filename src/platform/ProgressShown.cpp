@@ -4,6 +4,7 @@
 #include "platform/Application.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QProgressDialog>
 
 namespace {
@@ -46,9 +47,17 @@ void ProgressShown::show(int done, int total)
         m_dialog->setWindowTitle(Application::Title());
         m_dialog->setWindowModality(Qt::WindowModal);
         m_dialog->setAutoReset(false);
-        m_dialog->show();
+        m_dialog->setMinimumDuration(0);
     }
-    m_dialog->setValue(done); // lets the windows repaint
     m_dialog->setLabelText(QStringLiteral("%1 of %2").arg(done).arg(total));
+    m_dialog->setValue(done);
+    m_dialog->show();
+    QCoreApplication::processEvents(); // the windows repaint
+    m_sinceShown.restart();
+}
+
+void ProgressShown::pause()
+{
+    m_dialog.reset();
     m_sinceShown.restart();
 }

@@ -21,6 +21,9 @@ public:
 
     // Cheap enough to be called at every step.
     void show(int done, int total);
+    // Before and after the loop waits for the person: that time does not count, and no bar stands
+    // behind a question.
+    void pause();
 
 private:
     QWidget &m_window;

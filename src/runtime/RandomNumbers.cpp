@@ -14,7 +14,11 @@ std::function<float()> &source()
     return source;
 }
 
-std::mt19937 newEngine()
+// A state of 64 bits is seeded in no time; its upper bits are the good ones.
+using Engine =
+    std::linear_congruential_engine<std::uint64_t, 6364136223846793005U, 1442695040888963407U, 0>;
+
+Engine newEngine()
 {
     // The counter tells apart two seedings within one tick of the clock.
     static std::uint32_t seedings = 0;
@@ -22,12 +26,12 @@ std::mt19937 newEngine()
         std::chrono::high_resolution_clock::now().time_since_epoch().count());
     std::seed_seq seeds{static_cast<std::uint32_t>(now), static_cast<std::uint32_t>(now >> 32),
                         ++seedings};
-    return std::mt19937(seeds);
+    return Engine(seeds);
 }
 
-std::mt19937 &engine()
+Engine &engine()
 {
-    static std::mt19937 engine = newEngine();
+    static Engine engine = newEngine();
     return engine;
 }
 
@@ -44,7 +48,7 @@ float RandomNumbers::next()
     constexpr unsigned bits = 24; // what the mantissa of a float holds
     if (source())
         return source()();
-    return static_cast<float>(engine()() >> (32 - bits)) / static_cast<float>(1U << bits);
+    return static_cast<float>(engine()() >> (64 - bits)) / static_cast<float>(1U << bits);
 }
 
 void RandomNumbers::setSource(std::function<float()> newSource)

@@ -23,6 +23,8 @@ double toNumber(const QString &text)
 {
     bool isNumber = false;
     const double number = QLocale::c().toDouble(withoutOuterBlanks(text), &isNumber);
+    if (!isNumber && std::isinf(number))
+        throw RunTimeError(RunTimeError::Overflow);
     if (!isNumber || !std::isfinite(number))
         throw RunTimeError(RunTimeError::TypeMismatch);
     return number;

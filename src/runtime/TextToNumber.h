@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Texts that a person or a file gives for numbers.
 //
-// Outer blanks do not count. A text that is no number throws RunTimeError TypeMismatch.
+// Outer blanks do not count. A text that is no number throws RunTimeError TypeMismatch, one beyond
+// all range Overflow.
 #pragma once
 
 #include "runtime/Integer.h"

@@ -36,6 +36,7 @@ void Import::ImportWordList()
     }
     if (gChanged)
         Q_EMIT changed();
+    Q_EMIT paused();
     MsgBox(gImportCount.toText() + QStringLiteral(" words imported"));
     gAddThis = gAddAll = false;
 }
@@ -103,6 +104,7 @@ void Import::ImportDif()
             gStopImport = true;
         Q_EMIT progress(line, gDifLines.size());
     }
+    Q_EMIT paused();
     MsgBox(gImportCount.toText() + QStringLiteral(" words added"));
     gSkipAll = gAddThis = gAddAll = false;
 }
@@ -133,7 +135,9 @@ void Import::add()
 
 void Import::askAboutWord()
 {
+    Q_EMIT paused();
     dlgWordExist dialog(qobject_cast<QWidget *>(parent()));
     connect(&dialog, &dlgWordExist::refresh, this, &Import::refresh);
     dialog.exec();
+    Q_EMIT paused();
 }

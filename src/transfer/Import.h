@@ -25,6 +25,8 @@ Q_SIGNALS:
     void refresh();
     // A word list was read and there are changes to save.
     void changed();
+    // Before and after a question or message to the person.
+    void paused();
     // Steps done of all.
     void progress(int done, int total);
 

@@ -9,8 +9,12 @@ QByteArray textOfList(cVocabList &list)
     QByteArray text;
     for (Integer i = 1; i <= list.NumWords(); ++i) {
         list.CurrentWord(i);
-        text += toWindows1252(list.Word()) + '\t' + toWindows1252(list.Definition()) + '\t' +
-                toWindows1252(list.Sentence()) + "\r\n";
+        text += toWindows1252(list.Word());
+        text += '\t';
+        text += toWindows1252(list.Definition());
+        text += '\t';
+        text += toWindows1252(list.Sentence());
+        text += "\r\n";
     }
     return text;
 }

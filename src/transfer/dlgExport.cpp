@@ -9,6 +9,8 @@
 #include "runtime/TextToNumber.h"
 #include "transfer/ui_dlgExport.h"
 
+#include <algorithm>
+
 using namespace Module1;
 
 namespace {
@@ -123,11 +125,9 @@ void dlgExport::cmdOK_Click()
 {
     if (m_ui->txtFilename->text().isEmpty())
         return;
-    // Enter presses OK without leaving the box that was typed in.
-    if (m_ui->txtStart->hasFocus())
-        txtStart_LostFocus();
-    if (m_ui->txtEnd->hasFocus())
-        txtEnd_LostFocus();
+    // Enter presses OK without leaving the box, and a box may still hold what was no number.
+    StartNo = rangeNumber(*m_ui->txtStart);
+    EndNo = rangeNumber(*m_ui->txtEnd);
     exportRange();
 }
 
@@ -137,7 +137,6 @@ void dlgExport::exportRange()
     gFileName = withoutOuterBlanks(m_ui->txtFilename->text());
     cVocabList &target = gExportList();
     if (!target.OpenFile()) {
-        keeper.done();
         MsgBox(QStringLiteral("Invalid file name."));
         return;
     }

@@ -150,6 +150,8 @@ void dlgWordExist::enableEditing(bool entryShown)
     m_ui->cmdAllowModify->setEnabled(entryShown && locked);
     m_ui->cmdUpdate->setEnabled(entryShown && !locked);
     m_ui->cmdDelete->setEnabled(entryShown);
+    // Enter in a box that is being edited must not answer the question.
+    (m_ui->cmdUpdate->isEnabled() ? m_ui->cmdUpdate : m_ui->cmdYes)->setDefault(true);
 }
 
 void dlgWordExist::unload()

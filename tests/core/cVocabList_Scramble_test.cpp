@@ -2,8 +2,8 @@
 #include "core/cVocabList.h"
 
 #include "core/ListTools.h"
-#include "runtime/Notice.h"
 #include "runtime/ChiSquare.h"
+#include "runtime/Notice.h"
 #include "runtime/RandomNumbers.h"
 
 #include <QTest>

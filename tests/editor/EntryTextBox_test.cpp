@@ -59,8 +59,10 @@ private Q_SLOTS:
     void aLineBreakReplacesTheSelection();
     void textsComeBackAsTheyWereSet_data();
     void textsComeBackAsTheyWereSet();
-    void lineBreaksOfAnyKindComeBackAsCrLf_data();
-    void lineBreaksOfAnyKindComeBackAsCrLf();
+    void anUntouchedTextKeepsItsLineBreaks_data();
+    void anUntouchedTextKeepsItsLineBreaks();
+    void inAChangedTextAllLineBreaksAreCrLf_data() { anUntouchedTextKeepsItsLineBreaks_data(); }
+    void inAChangedTextAllLineBreaksAreCrLf();
     void tabLeavesTheBox();
     void aPastedTextKeepsItsLinesAndLosesItsDress();
     void everyChangeIsSignalled();
@@ -139,7 +141,7 @@ void EntryTextBox_test::textsComeBackAsTheyWereSet()
     QCOMPARE(box.text(), text);
 }
 
-void EntryTextBox_test::lineBreaksOfAnyKindComeBackAsCrLf_data()
+void EntryTextBox_test::anUntouchedTextKeepsItsLineBreaks_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("LF") << QStringLiteral("one\ntwo");
@@ -148,12 +150,22 @@ void EntryTextBox_test::lineBreaksOfAnyKindComeBackAsCrLf_data()
     QTest::newRow("paragraph separator") << QStringLiteral("one\u2029two");
 }
 
-void EntryTextBox_test::lineBreaksOfAnyKindComeBackAsCrLf()
+void EntryTextBox_test::anUntouchedTextKeepsItsLineBreaks()
 {
     QFETCH(QString, text);
     EntryTextBox box;
     box.setText(text);
-    QCOMPARE(box.text(), QStringLiteral("one\r\ntwo"));
+    QCOMPARE(box.text(), text);
+}
+
+void EntryTextBox_test::inAChangedTextAllLineBreaksAreCrLf()
+{
+    QFETCH(QString, text);
+    Window window;
+    window.box->setText(text);
+    window.box->moveCursor(QTextCursor::End);
+    QTest::keyClicks(window.box, QStringLiteral("s"));
+    QCOMPARE(window.box->text(), QStringLiteral("one\r\ntwos"));
 }
 
 void EntryTextBox_test::tabLeavesTheBox()

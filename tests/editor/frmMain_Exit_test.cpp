@@ -42,9 +42,11 @@ QStringList wordsIn(const QString &path)
 {
     QFile file(path);
     QStringList words;
-    if (file.open(QIODevice::ReadOnly))
-        for (const VocabRecord &record : ListFile::decode(file.readAll(), cVocabList::MaxWords))
-            words += record.Word;
+    if (!file.open(QIODevice::ReadOnly))
+        return words;
+    const ListFile::Content content = ListFile::decode(file.readAll(), cVocabList::MaxWords);
+    for (const VocabRecord &record : content.records)
+        words += QString(record.Word.constData(), record.Word.size());
     return words;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/EntryTextBox.h"
 #include "editor/OpenList.h"
+#include "platform/EntryTextBox.h"
 #include "support/FormTest.h"
 
 #include <QDir>

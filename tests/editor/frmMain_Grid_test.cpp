@@ -60,8 +60,9 @@ private Q_SLOTS:
     void theWheelScrolls();
     void keysOverTheGridScroll_data();
     void keysOverTheGridScroll();
-    void enterAndSpacePickTheFirstRowOfAScrolledPage_data();
-    void enterAndSpacePickTheFirstRowOfAScrolledPage();
+    void spacePicksTheFirstRowOfAScrolledPage();
+    void enterOverTheGridIsTheDefaultButton_data();
+    void enterOverTheGridIsTheDefaultButton();
     void tabLeavesTheGrid();
 
     void textsTooLongForTheirCellAreShownWholeInAToolTip_data();
@@ -266,25 +267,33 @@ void frmMain_Grid_test::keysOverTheGridScroll()
     QVERIFY(main.grid().hasFocus());
 }
 
-void frmMain_Grid_test::enterAndSpacePickTheFirstRowOfAScrolledPage_data()
+void frmMain_Grid_test::spacePicksTheFirstRowOfAScrolledPage()
+{
+    MainWindow main;
+    main.fill(60);
+    main.grid().setFocus();
+    Controls::press(Qt::Key_Down);
+    Controls::press(Qt::Key_Space);
+    QCOMPARE(main.text("txtWord"), QStringLiteral("word 2"));
+    QCOMPARE(main.look(), EditorModes::editing());
+    QVERIFY(main.control<QWidget>("txtWord").hasFocus());
+}
+
+void frmMain_Grid_test::enterOverTheGridIsTheDefaultButton_data()
 {
     QTest::addColumn<Qt::Key>("key");
     QTest::newRow("Return") << Qt::Key_Return;
     QTest::newRow("Enter") << Qt::Key_Enter;
-    QTest::newRow("Space") << Qt::Key_Space;
 }
 
-void frmMain_Grid_test::enterAndSpacePickTheFirstRowOfAScrolledPage()
+void frmMain_Grid_test::enterOverTheGridIsTheDefaultButton()
 {
     QFETCH(Qt::Key, key);
     MainWindow main;
     main.fill(60);
     main.grid().setFocus();
-    Controls::press(Qt::Key_Down);
     Controls::press(key);
-    QCOMPARE(main.text("txtWord"), QStringLiteral("word 2"));
-    QCOMPARE(main.look(), EditorModes::editing());
-    QVERIFY(main.control<QWidget>("txtWord").hasFocus());
+    QCOMPARE(main.look(), EditorModes::newWord());
 }
 
 void frmMain_Grid_test::tabLeavesTheGrid()

@@ -296,12 +296,13 @@ void frmMain_Keyboard_test::tabWalksWordDefinitionSentenceButtons_data()
             strings += QLatin1String(name);
         return strings;
     };
-    QTest::newRow("idle") << names({"MSFlexGrid1", "cmdNewWord", "cmdSearch"});
-    QTest::newRow("new word") << names(
-        {"txtWord", "txtDefinition", "txtSentence", "cmdAdd", "cmdAbort", "MSFlexGrid1"});
+    QTest::newRow("idle") << names({"MSFlexGrid1", "cmdNewWord", "cmdSearch", "cmdQuickFlash"});
+    QTest::newRow("new word") << names({"txtWord", "txtDefinition", "txtSentence", "cmdAdd",
+                                        "cmdAbort", "cmdQuickFlash", "MSFlexGrid1"});
     QTest::newRow("editing") << names({"txtWord", "txtDefinition", "txtSentence", "cmdAdd",
-                                       "cmdAbort", "cmdDelete", "MSFlexGrid1"});
-    QTest::newRow("search") << names({"txtWord", "cmdAbort", "cmdSearch", "MSFlexGrid1"});
+                                       "cmdAbort", "cmdDelete", "cmdQuickFlash", "MSFlexGrid1"});
+    QTest::newRow("search") << names(
+        {"txtWord", "cmdAbort", "cmdSearch", "cmdQuickFlash", "MSFlexGrid1"});
 }
 
 void frmMain_Keyboard_test::tabWalksWordDefinitionSentenceButtons()
@@ -357,7 +358,7 @@ void frmMain_Keyboard_test::aWholeLessonNeedsNoMouse()
     QTRY_VERIFY(main.window().isActiveWindow());
     main.grid().setFocus();
     Controls::press(Qt::Key_Home);
-    Controls::press(Qt::Key_Return);
+    Controls::press(Qt::Key_Space);
     QCOMPARE(main.text("txtWord"), QStringLiteral("cat"));
     QCOMPARE(main.look(), EditorModes::editing());
 }

@@ -29,7 +29,7 @@ private Q_SLOTS:
     void eachControlIsThere();
     void menusHoldTheirItemsInOrder_data();
     void menusHoldTheirItemsInOrder();
-    void onlySaveIsDisabledAmongTheFileCommands();
+    void onlySaveIsDisabledAmongTheCommands();
     void whatIsNotBuiltYetIsDisabled_data();
     void whatIsNotBuiltYetIsDisabled();
     void theTop10TableHasTenUnusedRowsOfToday();
@@ -214,21 +214,21 @@ void frmMain_Start_test::menusHoldTheirItemsInOrder()
     QCOMPARE(found, items);
 }
 
-void frmMain_Start_test::onlySaveIsDisabledAmongTheFileCommands()
+void frmMain_Start_test::onlySaveIsDisabledAmongTheCommands()
 {
     MainWindow main;
     QVERIFY(!main.action("mnuSave").isEnabled());
-    for (const char *item : {"mnuNew", "mnuOpen", "mnuSaveAs", "mnuExit", "mnuDeleteWord"})
+    for (const char *item : {"mnuNew", "mnuOpen", "mnuSaveAs", "mnuCreateTextFile", "mnuExport",
+                             "mnuImport", "mnuExit", "mnuDeleteWord", "mnuQuickFlash"})
         QVERIFY2(main.action(item).isEnabled(), item);
 }
 
 void frmMain_Start_test::whatIsNotBuiltYetIsDisabled_data()
 {
     QTest::addColumn<bool>("isAction");
-    for (const char *item : {"mnuCreateTextFile", "mnuPageSetup", "mnuPrinterSetup", "mnuPrint",
-                             "mnuExport", "mnuImport", "mnuPlayScramble", "mnuQuickFlash"})
+    for (const char *item : {"mnuPageSetup", "mnuPrinterSetup", "mnuPrint", "mnuPlayScramble"})
         QTest::newRow(item) << true;
-    for (const char *control : {"mnuMusic", "cmdPlayScramble", "cmdQuickFlash"})
+    for (const char *control : {"mnuMusic", "cmdPlayScramble"})
         QTest::newRow(control) << false;
 }
 

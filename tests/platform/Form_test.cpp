@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Form.h"
 
+#include "platform/DialogForm.h"
 #include "runtime/RunTimeError.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
@@ -15,7 +16,7 @@ namespace {
 const QString Report = QStringLiteral("Run-time error '9':\n\nSubscript out of range");
 
 // A form that notes its events and fails in one of them on demand, once.
-template <class Window> class NotingForm final : public Form<Window>
+template <class Base> class NotingForm final : public Base
 {
 public:
     NotingForm() { this->setFocusPolicy(Qt::StrongFocus); }
@@ -50,7 +51,7 @@ private:
     QStringList m_events;
 };
 
-using Window = NotingForm<QWidget>;
+using Window = NotingForm<Form<QWidget>>;
 
 const QStringList Unloading = {QStringLiteral("QueryUnload"), QStringLiteral("Unload"),
                                QStringLiteral("Terminate")};
@@ -221,13 +222,13 @@ private Q_SLOTS:
 
     void aDialogAndAMainWindowAreFormsToo()
     {
-        NotingForm<QDialog> dialog;
+        NotingForm<DialogForm> dialog;
         showActive(dialog);
         QVERIFY(dialog.takeEvents().contains(QStringLiteral("Load")));
         QVERIFY(dialog.close());
         QCOMPARE(dialog.takeEvents(), Unloading);
 
-        NotingForm<QMainWindow> window;
+        NotingForm<Form<QMainWindow>> window;
         showActive(window);
         QVERIFY(window.takeEvents().contains(QStringLiteral("Load")));
         QVERIFY(window.close());
@@ -236,7 +237,7 @@ private Q_SLOTS:
 
     void aDialogThatRefusesToUnloadStaysOpen()
     {
-        NotingForm<QDialog> dialog;
+        NotingForm<DialogForm> dialog;
         showActive(dialog);
         dialog.mayUnload = false;
         QVERIFY(!dialog.close());
@@ -246,7 +247,7 @@ private Q_SLOTS:
     // Esc closes a dialog as its close box does.
     void escClosesADialogThroughItsUnloading()
     {
-        NotingForm<QDialog> dialog;
+        NotingForm<DialogForm> dialog;
         showActive(dialog);
         static_cast<void>(dialog.takeEvents());
         dialog.mayUnload = false;

@@ -7,9 +7,11 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -85,7 +87,7 @@ DialogAnswers::~DialogAnswers()
 void DialogAnswers::expectMsgBox(const QString &text, QMessageBox::StandardButton answer,
                                  std::function<void(QMessageBox &)> inspect)
 {
-    expect({QStringLiteral("message box \"%1\"").arg(text), false,
+    expect({QStringLiteral("message box \"%1\"").arg(text), Kind::MessageBox,
             [text, answer, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 compare("the message", box.text(), text);
@@ -99,7 +101,7 @@ void DialogAnswers::expectMsgBox(const QString &text, QMessageBox::StandardButto
 void DialogAnswers::expectAnyMsgBox(QMessageBox::StandardButton answer,
                                     std::function<void(QMessageBox &)> inspect)
 {
-    expect({QStringLiteral("a message box"), false,
+    expect({QStringLiteral("a message box"), Kind::MessageBox,
             [answer, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 compare("the message box's title", box.windowTitle(), Application::Title());
@@ -115,7 +117,9 @@ void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDial
                          auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
                          if (!box)
                              return fail(QStringLiteral("the file dialog has no box for the name"));
-                         // Pasted in one piece: the completion would guess on while it is typed.
+                         // The completion would guess on while the name is typed, and its list
+                         // would pop up between a click and its button.
+                         box->setCompleter(nullptr);
                          box->setFocus();
                          box->selectAll();
                          box->insert(name);
@@ -140,7 +144,7 @@ void DialogAnswers::cancelFileDialog(std::function<void(QFileDialog &)> inspect)
 
 void DialogAnswers::answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer)
 {
-    expect({QStringLiteral("question about replacing \"%1\"").arg(fileTitle), false,
+    expect({QStringLiteral("question about replacing \"%1\"").arg(fileTitle), Kind::MessageBox,
             [fileTitle, answer](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 if (!qobject_cast<QFileDialog *>(box.parentWidget()) ||
@@ -148,6 +152,21 @@ void DialogAnswers::answerOverwrite(const QString &fileTitle, QMessageBox::Stand
                     fail(QStringLiteral("\"%1\" is not the file dialog's question about \"%2\"")
                              .arg(box.text(), fileTitle));
                 return answering(box, answer);
+            }});
+}
+
+void DialogAnswers::useForm(const char *name, std::function<void(QDialog &)> use)
+{
+    const QString form = QLatin1String(name);
+    expect({form, Kind::Form, [this, form, use = std::move(use)](QDialog &dialog) {
+                compare("the form's name", dialog.objectName(), form);
+                m_inUse.emplace_back(&dialog);
+                return [this, use, open = QPointer(&dialog)] {
+                    if (open)
+                        use(*open);
+                    if (open && open->isVisible())
+                        dismiss(*open, QStringLiteral("%1 stays open after its use"));
+                };
             }});
 }
 
@@ -160,6 +179,13 @@ bool DialogAnswers::allSeen()
     return !m_failed;
 }
 
+DialogAnswers::Kind DialogAnswers::kindOf(const QDialog &dialog)
+{
+    if (qobject_cast<const QFileDialog *>(&dialog))
+        return Kind::FileDialog;
+    return qobject_cast<const QMessageBox *>(&dialog) ? Kind::MessageBox : Kind::Form;
+}
+
 void DialogAnswers::expect(Expected expected)
 {
     m_expected.push_back(std::move(expected));
@@ -169,17 +195,18 @@ void DialogAnswers::expectFileDialog(const QString &what,
                                      std::function<void(QFileDialog &)> inspect,
                                      std::function<void(QFileDialog &)> answer)
 {
-    expect(
-        {what, true, [inspect = std::move(inspect), answer = std::move(answer)](QDialog &dialog) {
-             auto &fileDialog = static_cast<QFileDialog &>(dialog);
-             compare("the file dialog's name", dialog.objectName(), QStringLiteral("CommonDialog"));
-             if (inspect)
-                 inspect(fileDialog);
-             return [answer, open = QPointer(&fileDialog)] {
-                 if (open)
-                     answer(*open);
-             };
-         }});
+    expect({what, Kind::FileDialog,
+            [inspect = std::move(inspect), answer = std::move(answer)](QDialog &dialog) {
+                auto &fileDialog = static_cast<QFileDialog &>(dialog);
+                compare("the file dialog's name", dialog.objectName(),
+                        QStringLiteral("CommonDialog"));
+                if (inspect)
+                    inspect(fileDialog);
+                return [answer, open = QPointer(&fileDialog)] {
+                    if (open)
+                        answer(*open);
+                };
+            }});
 }
 
 // What a window manager does and the display without one does not: when a dialog is gone, the
@@ -194,7 +221,8 @@ void DialogAnswers::activateWindow()
     }
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows)
-        if (window->isVisible() && window->windowType() == Qt::Window)
+        if (window->isVisible() &&
+            (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog))
             window->activateWindow();
 }
 
@@ -202,7 +230,13 @@ void DialogAnswers::look()
 {
     activateWindow();
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isVisible() || dialog == m_pressed)
+    if (!dialog || !dialog->isVisible() || qobject_cast<QProgressDialog *>(dialog))
+        return; // a bar of progress asks nothing
+    // A message box that is closed but not gone is about to say what becomes of the dialog below.
+    if (qobject_cast<QMessageBox *>(m_answered) && !m_answered->isVisible())
+        return;
+    std::erase(m_inUse, nullptr);
+    if (std::find(m_inUse.begin(), m_inUse.end(), dialog) != m_inUse.end())
         return;
     if (dialog != m_answered) {
         m_answered = dialog;
@@ -216,9 +250,7 @@ void DialogAnswers::look()
 
 void DialogAnswers::meet(QDialog &dialog)
 {
-    const bool isFileDialog = qobject_cast<QFileDialog *>(&dialog) != nullptr;
-    const bool isKnown = isFileDialog || qobject_cast<QMessageBox *>(&dialog) != nullptr;
-    if (m_expected.empty() || !isKnown || m_expected.front().isFileDialog != isFileDialog) {
+    if (m_expected.empty() || m_expected.front().kind != kindOf(dialog)) {
         dismiss(dialog, QStringLiteral("unexpected %1") +
                             (m_expected.empty()
                                  ? QString()
@@ -234,14 +266,7 @@ void DialogAnswers::meet(QDialog &dialog)
         return;
     }
     // An answer may open a further dialog, for which the timer must be able to fire.
-    QMetaObject::invokeMethod(
-        this,
-        [this, answer, pressed = QPointer(&dialog)] {
-            const QPointer<QDialog> outer = std::exchange(m_pressed, pressed);
-            answer();
-            m_pressed = outer;
-        },
-        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
 }
 
 void DialogAnswers::dismiss(QDialog &dialog, const QString &reason)

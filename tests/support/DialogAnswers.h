@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The person in front of the program's modal dialogs: a queue of message boxes and file dialogs
-// that are expected, each answered in the real dialog as soon as it shows.
+// The person in front of the program's modal dialogs: a queue of message boxes, file dialogs and
+// forms that are expected, each answered in the real dialog as soon as it shows.
 //
 // A dialog that is not the next expected one fails the test and is dismissed, so that nothing
 // hangs; one that was expected and did not come fails it when the object goes.
@@ -13,6 +13,7 @@
 
 #include <deque>
 #include <functional>
+#include <vector>
 
 class QFileDialog;
 
@@ -42,19 +43,26 @@ public:
     // closes; after No it is open again, and what comes next in the queue answers it.
     void answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer);
 
+    // A modal form of the program, by its name: `use` clicks and types in it and has to close it.
+    // What opens over it is the next in the queue.
+    void useForm(const char *name, std::function<void(QDialog &)> use);
+
     // Whether every dialog that was expected has come and gone and no other one has.
     [[nodiscard]] bool allSeen();
     [[nodiscard]] int seen() const { return m_seen; }
 
 private:
+    enum class Kind { MessageBox, FileDialog, Form };
+
     struct Expected
     {
         QString what;
-        bool isFileDialog = false;
+        Kind kind = Kind::MessageBox;
         // Checks the dialog and returns what answers it, or nothing where it is another one.
         std::function<std::function<void()>(QDialog &)> answer;
     };
 
+    [[nodiscard]] static Kind kindOf(const QDialog &dialog);
     void expect(Expected expected);
     void expectFileDialog(const QString &what, std::function<void(QFileDialog &)> inspect,
                           std::function<void(QFileDialog &)> answer);
@@ -65,9 +73,9 @@ private:
 
     std::deque<Expected> m_expected;
     QTimer m_timer;
-    QPointer<QDialog> m_answered; // the dialog met last
-    QPointer<QDialog> m_pressed;  // the dialog whose answer is running
-    int m_waited = 0;             // looks at the answered dialog that found it open still
+    std::vector<QPointer<QDialog>> m_inUse; // forms, below one another
+    QPointer<QDialog> m_answered;           // the dialog met last, while its answer is under way
+    int m_waited = 0;                       // looks at the answered dialog that found it open still
     int m_seen = 0;
     bool m_failed = false;
 };

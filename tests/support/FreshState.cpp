@@ -13,13 +13,22 @@ namespace {
 void resetGlobals()
 {
     using namespace Module1;
-    gVocabList() = cVocabList();
+    for (cVocabList *list : {&gVocabList(), &gImportList(), &gExportList()})
+        *list = cVocabList();
     gFileName.clear();
     gFileTitle.clear();
     gOpenedFile.clear();
     gChanged = gSaved = gNewWord = gWordSelected = false;
     gLastItem = gRowHeight = gHighlightRow = 0;
     gRowItem = {};
+    gAddThis = gAddAll = gSkipAll = gStopImport = false;
+    gImportWord.clear();
+    gImportDef.clear();
+    gImportSen.clear();
+    gImportCount = 0;
+    gDifLines = {};
+    gWordOrder = {};
+    gOrderIndex = gOrderSize = 0;
     gTop10 = {};
     gUpbeatMusic = gMusicOff = PrintItemNumber = false;
     PrintOrientation.clear();

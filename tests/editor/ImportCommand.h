@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// File > Import in a freshly started main window, the file to import chosen in the real dialog.
+#pragma once
+
+#include "support/EditorModes.h"
+#include "support/FormTest.h"
+#include "support/MainWindow.h"
+#include "transfer/ImportTools.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+class ImportCommand final
+{
+public:
+    MainWindow main;
+
+    // Writes the file below the fresh home and chooses it.
+    void import(const QString &name, const QByteArray &bytes,
+                std::function<void(QFileDialog &)> inspect = {})
+    {
+        const QString file = main.path(name);
+        QDir().mkpath(QFileInfo(file).path());
+        ImportTools::writeFile(file, bytes);
+        choose(file, std::move(inspect));
+    }
+
+    void importList(const QStringList &entries)
+    {
+        import(QStringLiteral("words.lwx"), ImportTools::listFile(entries));
+    }
+
+    void importDif(const QByteArrayList &lines)
+    {
+        import(QStringLiteral("words.dif"), ImportTools::joined(lines));
+    }
+
+    // What comes after the file dialog is given before, by the functions below.
+    void choose(const QString &file, std::function<void(QFileDialog &)> inspect = {})
+    {
+        main.answers.chooseFile(file, std::move(inspect));
+        for (const auto &expect : std::exchange(m_after, {}))
+            expect();
+        main.choose("mnuImport");
+    }
+
+    // What the person meets once the file is chosen, in this order.
+    void expectMsgBox(const QString &text, std::function<void(QMessageBox &)> inspect = {})
+    {
+        m_after.emplace_back([this, text, inspect = std::move(inspect)] {
+            main.answers.expectMsgBox(text, QMessageBox::Ok, inspect);
+        });
+    }
+    void expectQuestion(const QString &answer, std::function<void(QDialog &)> look = {})
+    {
+        m_after.emplace_back([this, answer, look = std::move(look)] {
+            ImportTools::expectQuestion(main.answers, answer, look);
+        });
+    }
+    void expectReport(const QString &start, const QString &part = {})
+    {
+        m_after.emplace_back([this, start, part] {
+            main.answers.expectAnyMsgBox(QMessageBox::Ok, [start, part](QMessageBox &box) {
+                QVERIFY2(box.text().startsWith(start) && box.text().contains(part),
+                         qPrintable(box.text()));
+            });
+        });
+    }
+
+    // The grid's words, from the first row on, until a row shows none.
+    [[nodiscard]] QStringList words()
+    {
+        QStringList words;
+        for (int row = 1; row < main.grid().rowCount(); ++row) {
+            const QString word = main.row(row)[1];
+            if (word.isEmpty())
+                break;
+            words += word;
+        }
+        return words;
+    }
+
+private:
+    std::vector<std::function<void()>> m_after;
+};

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the main window looks like, and does not do, while a long import runs.
+#include "editor/ImportCommand.h"
+#include "transfer/Import.h"
+
+#include <QProgressDialog>
+#include <QWindow>
+
+using namespace Module1;
+
+namespace {
+
+constexpr int Words = 3000;
+
+} // namespace
+
+class frmMain_ImportProgress_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_command = std::make_unique<ImportCommand>();
+        m_command->main.fill({QStringLiteral("word 1")});
+        m_incoming.clear();
+        for (int i = 1; i <= Words; ++i)
+            m_incoming += QStringLiteral("word %1|").arg(i);
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_command->main.answers.allSeen());
+        m_command.reset();
+    }
+
+    void aLongImportShowsItsProgressAndTakesNoCommand_data()
+    {
+        QTest::addColumn<bool>("isDif");
+        QTest::newRow("word list") << false;
+        QTest::newRow("DIF file") << true;
+    }
+
+    void aLongImportShowsItsProgressAndTakesNoCommand()
+    {
+        QFETCH(bool, isDif);
+        MainWindow &main = m_command->main;
+        int shown = 0; // steps with a bar on the screen
+        m_command->expectQuestion(QStringLiteral("cmdNo"), [&](QDialog &) {
+            QCOMPARE(main.window().cursor().shape(), Qt::WaitCursor);
+            auto *import = main.window().findChild<Import *>();
+            QVERIFY(import);
+            connect(import, &Import::progress, import, [&](int done, int total) {
+                dawdle();
+                if (isBarShown() && shown++ == 0) {
+                    QVERIFY(done <= total);
+                    tryCommands();
+                }
+            });
+        });
+        m_command->expectMsgBox(
+            (isDif ? QStringLiteral("%1 words added") : QStringLiteral("%1 words imported"))
+                .arg(Words - 1));
+        if (isDif)
+            m_command->importDif(ImportTools::difLinesOf(m_incoming));
+        else
+            m_command->importList(m_incoming);
+
+        QVERIFY(shown > 0);
+        QVERIFY(!isBarShown());
+        QCOMPARE(main.window().cursor().shape(), Qt::ArrowCursor);
+        QCoreApplication::processEvents();
+        // Neither then nor afterwards did a command come through.
+        QCOMPARE(main.look(), EditorModes::idle());
+        QCOMPARE(gVocabList().NumWords().toInt(), Words);
+        QVERIFY(main.window().isVisible());
+        tryCommands();
+        QCOMPARE(main.look(), EditorModes::newWord());
+    }
+
+    void aBarThatWasSentAwayStillKeepsCommandsAway()
+    {
+        MainWindow &main = m_command->main;
+        bool wasShown = false;
+        m_command->expectQuestion(QStringLiteral("cmdNo"), [&](QDialog &) {
+            connect(main.window().findChild<Import *>(), &Import::progress, &main.window(),
+                    [&](int done, int) {
+                        if (!wasShown)
+                            dawdle();
+                        if (isBarShown() && !wasShown) {
+                            wasShown = true;
+                            QTest::keyClick(bar(), Qt::Key_Escape);
+                        }
+                        if (wasShown && done % 100 == 0)
+                            tryCommands();
+                    });
+        });
+        m_command->expectMsgBox(QStringLiteral("%1 words imported").arg(Words - 1));
+        m_command->importList(m_incoming);
+        QVERIFY(wasShown);
+        QCOMPARE(main.look(), EditorModes::idle());
+        QCOMPARE(gVocabList().NumWords().toInt(), Words);
+    }
+
+    void aShortImportShowsNone()
+    {
+        m_command->expectMsgBox(QStringLiteral("1 words imported"),
+                                [this](QMessageBox &) { QVERIFY(!isBarShown()); });
+        m_command->importList({QStringLiteral("cat")});
+    }
+
+private:
+    [[nodiscard]] QProgressDialog *bar() const
+    {
+        return m_command->main.window().findChild<QProgressDialog *>();
+    }
+    [[nodiscard]] bool isBarShown() const { return bar() && bar()->isVisible(); }
+
+    // Each word takes its time, as on a slow machine, until the bar comes up.
+    void dawdle() const
+    {
+        if (!isBarShown())
+            QTest::qSleep(1);
+    }
+
+    // A click on New Word as the window system gives it.
+    void tryCommands()
+    {
+        MainWindow &main = m_command->main;
+        auto &button = main.control<QPushButton>("cmdNewWord");
+        QWindow *window = main.window().windowHandle();
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          button.mapTo(&main.window(), button.rect().center()));
+    }
+
+    std::unique_ptr<ImportCommand> m_command;
+    QStringList m_incoming;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmMain_ImportProgress_test>(argc, argv);
+}
+
+#include "frmMain_ImportProgress_test.moc"

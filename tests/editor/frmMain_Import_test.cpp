@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/ImportCommand.h"
+#include "editor/OpenList.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+
+using namespace Module1;
+using ImportTools::difLinesOf;
+using ImportTools::joined;
+using ImportTools::listFile;
+
+namespace {
+
+const QString Imported = QStringLiteral("%1 words imported");
+const QString Added = QStringLiteral("%1 words added");
+
+} // namespace
+
+class frmMain_Import_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_command = std::make_unique<ImportCommand>(); }
+
+    void cleanup()
+    {
+        QVERIFY(m_command->main.answers.allSeen());
+        m_command.reset();
+    }
+
+    void theFileDialogOffersListsThenDifFilesThenAll()
+    {
+        m_command->expectMsgBox(Imported.arg(1));
+        m_command->import(
+            QStringLiteral("words.lwx"), listFile({QStringLiteral("cat")}),
+            [](QFileDialog &dialog) {
+                QCOMPARE(dialog.windowTitle(), QStringLiteral("Import words"));
+                QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+                const QStringList filters = dialog.nameFilters();
+                QCOMPARE(filters.size(), 3);
+                QVERIFY(filters[0].startsWith(QStringLiteral("Vocab Data (*.lwx)")));
+                QVERIFY(filters[1].startsWith(QStringLiteral("Data Interchange Format (*.dif)")));
+                QVERIFY(filters[2].startsWith(QStringLiteral("All files (*.*)")));
+            });
+        // The name that was chosen last is not offered again.
+        m_command->main.answers.cancelFileDialog([](QFileDialog &dialog) {
+            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), QString());
+        });
+        m_command->main.choose("mnuImport");
+    }
+
+    void cancelChangesNothing()
+    {
+        MainWindow &main = m_command->main;
+        main.fill(5);
+        main.clickCell(3, 2);
+        gFileName = QStringLiteral("open list");
+        gAddThis = gAddAll = gSkipAll = gStopImport = true;
+        const OpenList before(main);
+        main.answers.cancelFileDialog();
+        main.choose("mnuImport");
+        QVERIFY(OpenList(main) == before);
+        QCOMPARE(ImportTools::flags(), QStringLiteral("TASE"));
+        // The picked entry is still picked.
+        QCOMPARE(main.look(), EditorModes::editing());
+        QCOMPARE(main.text("txtWord"), QStringLiteral("word 3"));
+        QCOMPARE(main.markedRows(), QList<int>{3});
+    }
+
+    void theKindFollowsTheFirstDotOfTheWholePath_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("kind"); // what is imported as
+        for (const char *name : {"words.lwx", "words.lwxy", "words.lwx.old", ".lwx",
+                                 "my.lwx lists/words.dif", "words.lwx.dif"})
+            QTest::newRow(name) << QString::fromLatin1(name) << QStringLiteral("lwx");
+        for (const char *name :
+             {"words.dif", "words.diff", "words.dif.txt", ".dif", "my.dif/words.lwx"})
+            QTest::newRow(name) << QString::fromLatin1(name) << QStringLiteral("dif");
+        for (const char *name :
+             {"WORDS.LWX", "WORDS.DIF", "words.Lwx", "words.dIf", "my.lists/words.lwx",
+              "my.lists/words.dif", "a.words.lwx", "words.txt", "words.lw", "words.di", "words",
+              "words.", "words..lwx", "words. lwx"})
+            QTest::newRow(name) << QString::fromLatin1(name) << QString();
+    }
+
+    void theKindFollowsTheFirstDotOfTheWholePath()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, kind);
+        MainWindow &main = m_command->main;
+        QVERIFY2(!main.path(QString()).contains(QLatin1Char('.')),
+                 "the folder for temporary files must have no dot in its path");
+        main.fill({QStringLiteral("dog")});
+        gFileName = QStringLiteral("open list");
+        const bool isDif = kind == QLatin1String("dif");
+        if (!kind.isEmpty())
+            m_command->expectMsgBox((isDif ? Added : Imported).arg(1));
+        const bool asDif =
+            isDif || (kind.isEmpty() && name.endsWith(QLatin1String("dif"), Qt::CaseInsensitive));
+        m_command->import(name, asDif ? joined(difLinesOf({QStringLiteral("cat|1")}))
+                                      : listFile({QStringLiteral("cat|1")}));
+        QCOMPARE(gVocabList().NumWords().toInt(), kind.isEmpty() ? 1 : 2);
+        QCOMPARE(gFileName, QStringLiteral("open list"));
+        QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
+        QCOMPARE(gChanged, !kind.isEmpty());
+    }
+
+    void theGridIsRebuiltFromTheRememberedPosition()
+    {
+        MainWindow &main = m_command->main;
+        main.fill(30);
+        gVocabList().CurrentWord(12);
+        m_command->expectMsgBox(Imported.arg(2));
+        m_command->importList({QStringLiteral("new a|b|c"), QStringLiteral("new d")});
+        QCOMPARE(main.row(1), EditorModes::filledRow(12));
+        QCOMPARE(main.row(19), EditorModes::filledRow(30));
+        QCOMPARE(main.row(20), (QStringList{QStringLiteral("31"), QStringLiteral("new a"),
+                                            QStringLiteral("b"), QStringLiteral("c")}));
+        QCOMPARE(main.row(21)[1], QStringLiteral("new d"));
+        QCOMPARE(main.grid().rowCount(), 25);
+        QCOMPARE(main.grid().Row(), 1);
+        QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
+        QCOMPARE(main.bar().maximum(), 33);
+    }
+
+    void anEmptyListShowsWhatCameIn()
+    {
+        m_command->expectMsgBox(Added.arg(2));
+        m_command->importDif(difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")}));
+        QCOMPARE(m_command->words(), (QStringList{QStringLiteral("cat"), QStringLiteral("dog")}));
+        QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
+    }
+
+    void aPickedEntryIsLetGoBeforeTheImport_data()
+    {
+        QTest::addColumn<bool>("bySearch");
+        QTest::newRow("clicked in the grid") << false;
+        QTest::newRow("found") << true;
+    }
+
+    void aPickedEntryIsLetGoBeforeTheImport()
+    {
+        QFETCH(bool, bySearch);
+        MainWindow &main = m_command->main;
+        main.fill(5);
+        if (bySearch) {
+            main.click("cmdSearch");
+            main.type("txtWord", QStringLiteral("word 3"));
+            main.click("cmdSearch");
+        } else {
+            main.clickCell(3, 1);
+        }
+        QCOMPARE(main.markedRows(), QList<int>{3});
+        m_command->expectQuestion(QStringLiteral("cmdNo"), [&main](QDialog &) {
+            QCOMPARE(main.look(), EditorModes::idle());
+            QCOMPARE(main.text("txtWord"), QString());
+        });
+        m_command->expectMsgBox(Imported.arg(0));
+        m_command->importList({QStringLiteral("WORD 5")});
+        QCOMPARE(main.look(), EditorModes::idle());
+        QCOMPARE(main.markedRows(), QList<int>());
+        QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
+        // The page starts at the entry that was picked.
+        QCOMPARE(main.row(1), EditorModes::filledRow(3));
+    }
+
+    void aWordBeingTypedStays()
+    {
+        MainWindow &main = m_command->main;
+        main.click("cmdNewWord");
+        main.typeEntry(QStringLiteral("ox"), QStringLiteral("a bull"));
+        m_command->expectMsgBox(Imported.arg(1));
+        m_command->importList({QStringLiteral("cat")});
+        QCOMPARE(main.look(), EditorModes::newWord());
+        QCOMPARE(main.text("txtWord"), QStringLiteral("ox"));
+        main.click("cmdAdd");
+        QCOMPARE(ImportTools::openEntries(),
+                 (QStringList{QStringLiteral("cat"), QStringLiteral("ox|a bull")}));
+    }
+
+    void saveIsOfferedAfterAWordListOnly_data()
+    {
+        QTest::addColumn<bool>("isDif");
+        QTest::newRow("word list") << false;
+        QTest::newRow("DIF file") << true;
+    }
+
+    void saveIsOfferedAfterAWordListOnly()
+    {
+        QFETCH(bool, isDif);
+        MainWindow &main = m_command->main;
+        QVERIFY(!main.action("mnuSave").isEnabled());
+        m_command->expectMsgBox((isDif ? Added : Imported).arg(1), [&](QMessageBox &) {
+            QCOMPARE(main.action("mnuSave").isEnabled(), !isDif); // before the message
+        });
+        if (isDif)
+            m_command->importDif(difLinesOf({QStringLiteral("cat|1")}));
+        else
+            m_command->importList({QStringLiteral("cat")});
+        QVERIFY(gChanged);
+        QCOMPARE(main.action("mnuSave").isEnabled(), !isDif);
+    }
+
+    void saveIsNotOfferedWhereNothingCameIn()
+    {
+        m_command->expectMsgBox(Imported.arg(0));
+        m_command->importList({});
+        QVERIFY(!m_command->main.action("mnuSave").isEnabled());
+    }
+
+    void theOpenListKeepsItsFile()
+    {
+        MainWindow &main = m_command->main;
+        const QString own = main.path(QStringLiteral("own.lwx"));
+        writeFile(own, listFile({QStringLiteral("dog")}));
+        openList(main, own);
+        const QString imported = main.path(QStringLiteral("words.lwx"));
+        m_command->expectMsgBox(Imported.arg(1), [&imported](QMessageBox &) {
+            QCOMPARE(gFileName, imported); // while the command runs
+        });
+        m_command->importList({QStringLiteral("cat")});
+        QCOMPARE(gFileName, own);
+        QCOMPARE(gFileTitle, QStringLiteral("own.lwx"));
+        QCOMPARE(gOpenedFile, own);
+        QCOMPARE(main.window().windowTitle(), CaptionStart + QStringLiteral("own.lwx"));
+
+        main.answers.expectMsgBox(own + QStringLiteral(" has been saved."));
+        main.choose("mnuSave");
+        QCOMPARE(readFile(own), listFile({QStringLiteral("dog"), QStringLiteral("cat")}));
+        QCOMPARE(readFile(imported), listFile({QStringLiteral("cat")}));
+    }
+
+    // The page shows what came in before the question, or does not yet.
+    void theWindowIsBroughtUpToDateAfterAllAnswersButNo_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QStringList>("words");
+        const QStringList fresh{QStringLiteral("old"), QStringLiteral("edited"),
+                                QStringLiteral("new")};
+        const QStringList stale{QStringLiteral("old"), QStringLiteral("other")};
+        for (const char *answer : {"cmdYes", "cmdYesToAll", "cmdNoToAll", "cmdAbort"})
+            QTest::newRow(answer) << QString::fromLatin1(answer) << fresh;
+        for (const char *answer : {"cmdNo", ImportTools::Close})
+            QTest::newRow(answer) << QString::fromLatin1(answer) << stale;
+    }
+
+    void theWindowIsBroughtUpToDateAfterAllAnswersButNo()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QStringList, words);
+        m_command->main.fill({QStringLiteral("old"), QStringLiteral("other")});
+        m_command->expectQuestion(answer, [](QDialog &) {
+            gVocabList().CurrentWord(2);
+            gVocabList().Edit(QStringLiteral("edited"), {}, {});
+        });
+        const int cameIn =
+            answer == QLatin1String("cmdYes") || answer == QLatin1String("cmdYesToAll");
+        m_command->expectMsgBox(Imported.arg(1 + cameIn),
+                                [&](QMessageBox &) { QCOMPARE(m_command->words(), words); });
+        m_command->importList({QStringLiteral("new"), QStringLiteral("OLD")});
+    }
+
+private:
+    std::unique_ptr<ImportCommand> m_command;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmMain_Import_test>(argc, argv);
+}
+
+#include "frmMain_Import_test.moc"

@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How a card looks: the size of its type, and its turning.
+#include "flash/FlashCard.h"
+
+#include "flash/CardTurn.h"
+#include "flash/FlashForm.h"
+#include "support/FormTest.h"
+
+#include <QProxyStyle>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the system shows of motion: none, or as long as the style takes.
+class MotionStyle final : public QProxyStyle
+{
+public:
+    explicit MotionStyle(int duration) : m_duration(duration) {}
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override
+    {
+        return hint == SH_Widget_Animation_Duration
+                   ? m_duration
+                   : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+
+private:
+    int m_duration;
+};
+
+// Words as in a definition, cut off after so many characters.
+QString prose(int length)
+{
+    QString text;
+    while (text.size() < length)
+        text +=
+            u"a small animal with soft fur that people keep as a companion and that hunts mice "_s;
+    return text.left(length - 1) + u'.';
+}
+
+int typeSize(const FlashCard &card)
+{
+    return card.document()->defaultFont().pointSize();
+}
+
+// Whether the whole text is in sight.
+bool fits(const FlashCard &card)
+{
+    const QScrollBar &bar = *card.verticalScrollBar();
+    return bar.minimum() == bar.maximum();
+}
+
+} // namespace
+
+class FlashCard_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { start(u"a small animal"_s); }
+
+    void cleanup()
+    {
+        QVERIFY(m_form->answers.allSeen());
+        m_form.reset();
+    }
+
+    void aShortTextIsShownInTheLargestType()
+    {
+        QCOMPARE(typeSize(card()), 32);
+        QCOMPARE(typeSize(m_form->card("txtWord")), 32);
+        m_form->clickCard();
+        QCOMPARE(card().toPlainText(), u"a small animal"_s);
+        QVERIFY(typeSize(card()) >= 28);
+        QVERIFY(fits(card()));
+    }
+
+    void theLongerTheTextTheSmallerItsType()
+    {
+        int last = 100;
+        for (const int length : {5, 40, 80, 163, 300, 600}) {
+            card().setText(prose(length), FlashCard::Side::Front);
+            QVERIFY(typeSize(card()) <= last);
+            last = typeSize(card());
+        }
+        QVERIFY(last < 32);
+        card().setText(u"cat"_s, FlashCard::Side::Front);
+        QCOMPARE(typeSize(card()), 32);
+    }
+
+    void aDefinitionOf163CharactersFits()
+    {
+        start(prose(163));
+        m_form->clickCard();
+        QCOMPARE(card().toPlainText(), prose(163));
+        QVERIFY(fits(card()));
+        QVERIFY(typeSize(card()) >= 12);
+    }
+
+    void aDefinitionOf2000CharactersScrollsInTheSmallestType()
+    {
+        start(prose(2000));
+        m_form->clickCard();
+        QCOMPARE(card().toPlainText(), prose(2000));
+        QCOMPARE(typeSize(card()), 12);
+        QScrollBar &bar = *card().verticalScrollBar();
+        QVERIFY(!fits(card()));
+        QVERIFY(bar.isVisible());
+        QCOMPARE(bar.value(), 0);
+        // To its end, by the keyboard.
+        card().setFocus();
+        for (int i = 0; i < 20; ++i)
+            Controls::press(Qt::Key_PageDown);
+        QCOMPARE(bar.value(), bar.maximum());
+        // The next card begins at its top again.
+        m_form->click("cmdNext");
+        QVERIFY(fits(card()));
+        m_form->clickCard();
+        QCOMPARE(bar.value(), 0);
+    }
+
+    void aWordWithoutABlankIsBrokenRatherThanCut()
+    {
+        card().setText(QString(100, u'm'), FlashCard::Side::Front);
+        QCOMPARE(card().horizontalScrollBar()->maximum(), 0);
+        QVERIFY(fits(card()));
+    }
+
+    void theTypeFollowsTheSizeOfTheCard()
+    {
+        card().setText(prose(163), FlashCard::Side::Front);
+        const int size = typeSize(card());
+        m_form->dialog().resize(1000, 700);
+        QTRY_VERIFY(typeSize(card()) > size);
+        QVERIFY(fits(card()));
+    }
+
+    void aLineBreakInADefinitionIsOneOnTheCard()
+    {
+        start(u"a small\r\nanimal"_s);
+        m_form->clickCard();
+        QCOMPARE(card().toPlainText(), u"a small\nanimal"_s);
+        QCOMPARE(card().text(), u"a small\r\nanimal"_s);
+    }
+
+    void theCardTakesNoTyping()
+    {
+        card().setFocus();
+        QTest::keyClicks(&card(), u"cat"_s);
+        QCOMPARE(card().toPlainText(), u"Click on card"_s);
+    }
+
+    void onlyTheLeftButtonOverTheCardIsAClick()
+    {
+        QSignalSpy clicks(&card(), &FlashCard::Click);
+        QWidget *viewport = card().viewport();
+        QTest::mouseClick(viewport, Qt::RightButton);
+        QTest::mousePress(viewport, Qt::LeftButton);
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, QPoint(-50, -50));
+        QCOMPARE(clicks.count(), 0);
+        QTest::mouseClick(viewport, Qt::LeftButton);
+        QCOMPARE(clicks.count(), 1);
+    }
+
+    void theWholeCardIsThereForTheMouse()
+    {
+        FlashCard &card = m_form->card("txtDef");
+        QSignalSpy clicks(&card, &FlashCard::Click);
+        const QPoint aboveTheText(card.width() / 2, 10);
+        QVERIFY(!card.viewport()->geometry().contains(aboveTheText));
+        QTest::mouseClick(&card, Qt::LeftButton, {}, aboveTheText);
+        QCOMPARE(clicks.count(), 1);
+    }
+
+    void theCardIsSeenToTurnWhenItOpens()
+    {
+        setMotion(50);
+        m_form->clickCard();
+        QCOMPARE(turns(), 1);
+        // What it says counts at once, and the motion goes away by itself.
+        QCOMPARE(m_form->definition(), u"a small animal"_s);
+        QTRY_COMPARE(turns(), 0);
+    }
+
+    void withoutMotionTheCardIsOpenAtOnce()
+    {
+        setMotion(0);
+        m_form->clickCard();
+        QCOMPARE(turns(), 0);
+        QCOMPARE(m_form->definition(), u"a small animal"_s);
+    }
+
+    void clickingAnOpenCardTurnsNothing()
+    {
+        setMotion(0);
+        m_form->clickCard();
+        setMotion(10'000);
+        m_form->clickCard();
+        QCOMPARE(turns(), 0);
+    }
+
+    void theNextCardDoesNotWaitForAMotion()
+    {
+        setMotion(10'000);
+        m_form->clickCard();
+        QCOMPARE(turns(), 1);
+        m_form->click("cmdNext");
+        QTRY_COMPARE_WITH_TIMEOUT(turns(), 0, 1000);
+        QCOMPARE(m_form->definition(), u"Click on card"_s);
+    }
+
+private:
+    void start(const QString &definition)
+    {
+        m_form.reset();
+        m_form = std::make_unique<FlashForm>(definition);
+    }
+
+    [[nodiscard]] FlashCard &card() { return m_form->card("txtDef"); }
+
+    void setMotion(int duration)
+    {
+        auto *style = new MotionStyle(duration);
+        style->setParent(&m_form->dialog());
+        card().setStyle(style);
+    }
+
+    [[nodiscard]] int turns()
+    {
+        int shown = 0;
+        for (const CardTurn *turn : card().findChildren<CardTurn *>())
+            shown += turn->isVisible() ? 1 : 0;
+        return shown;
+    }
+
+    std::unique_ptr<FlashForm> m_form;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<FlashCard_test>(argc, argv);
+}
+
+#include "FlashCard_test.moc"

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The flash cards over a list of their own, as their tests use them.
+#pragma once
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "flash/FlashCard.h"
+#include "flash/dlgQuickFlash.h"
+#include "support/Controls.h"
+#include "support/DialogAnswers.h"
+#include "support/FreshState.h"
+
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+class FlashForm final
+{
+    FreshState m_state;
+
+public:
+    DialogAnswers answers;
+
+    // "word 1" with "definition 1", …
+    explicit FlashForm(int entries = 5)
+    {
+        for (int i = 1; i <= entries; ++i)
+            Module1::gVocabList().AddVocab(QStringLiteral("word %1").arg(i),
+                                           QStringLiteral("definition %1").arg(i), {});
+        open();
+    }
+    // A single word with this definition.
+    explicit FlashForm(const QString &definition)
+    {
+        Module1::gVocabList().AddVocab(QStringLiteral("word 1"), definition, {});
+        open();
+    }
+
+    [[nodiscard]] dlgQuickFlash &dialog() { return *m_dialog; }
+    template <class Control> [[nodiscard]] Control &control(const char *name)
+    {
+        return Controls::find<Control>(*m_dialog, name);
+    }
+    [[nodiscard]] QPushButton &button(const char *name) { return control<QPushButton>(name); }
+    [[nodiscard]] QTimer &timer(const char *name) { return control<QTimer>(name); }
+    [[nodiscard]] FlashCard &card(const char *name) { return control<FlashCard>(name); }
+    [[nodiscard]] QString word() { return card("txtWord").text(); }
+    [[nodiscard]] QString definition() { return card("txtDef").text(); }
+
+    void click(const char *name) { Controls::click(button(name)); }
+    void clickCard() { QTest::mouseClick(card("txtDef").viewport(), Qt::LeftButton); }
+
+    // Lets a running timer's time be over now.
+    void passTime(const char *name)
+    {
+        QTimer &running = timer(name);
+        if (!running.isActive())
+            Controls::fail(QLatin1String(name) + QStringLiteral(" does not run"));
+        const int interval = running.interval();
+        QSignalSpy fired(&running, &QTimer::timeout);
+        running.setInterval(1);
+        if (!fired.wait())
+            Controls::fail(QLatin1String(name) + QStringLiteral(" does not fire"));
+        running.setInterval(interval);
+    }
+
+    // Word of the deck's card.
+    [[nodiscard]] static QString wordOfCard(int card)
+    {
+        return QStringLiteral("word %1").arg(Module1::gWordOrder(card).toInt());
+    }
+    [[nodiscard]] static QString definitionOfCard(int card)
+    {
+        return QStringLiteral("definition %1").arg(Module1::gWordOrder(card).toInt());
+    }
+
+    // Visible and enabled buttons, and timers that run.
+    [[nodiscard]] QStringList look()
+    {
+        QStringList look;
+        for (const char *name :
+             {"cmdNext", "cmdPrevious", "cmdAutoFlash", "cmdStop", "CancelButton"})
+            if (button(name).isVisible() && button(name).isEnabled())
+                look += QLatin1String(name);
+        for (const char *name : {"tmrWord", "tmrDef"})
+            if (timer(name).isActive())
+                look += QLatin1String(name);
+        return look;
+    }
+    [[nodiscard]] static QStringList byHand()
+    {
+        return {QStringLiteral("cmdNext"), QStringLiteral("cmdPrevious"),
+                QStringLiteral("cmdAutoFlash"), QStringLiteral("CancelButton")};
+    }
+    // Running, with the timer of the phase; empty = none runs.
+    [[nodiscard]] static QStringList automatic(const QString &timer)
+    {
+        QStringList look{QStringLiteral("cmdStop"), QStringLiteral("CancelButton")};
+        if (!timer.isEmpty())
+            look += timer;
+        return look;
+    }
+
+private:
+    void open()
+    {
+        m_dialog = std::make_unique<dlgQuickFlash>();
+        m_dialog->show();
+        if (!QTest::qWaitForWindowActive(m_dialog.get()))
+            Controls::fail(QStringLiteral("the dialog does not become active"));
+    }
+
+    std::unique_ptr<dlgQuickFlash> m_dialog;
+};

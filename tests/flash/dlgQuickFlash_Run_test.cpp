@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The automatic run.
+#include "flash/dlgQuickFlash.h"
+
+#include "flash/FlashForm.h"
+#include "support/FormTest.h"
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+class dlgQuickFlash_Run_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_form = std::make_unique<FlashForm>(); }
+
+    void cleanup()
+    {
+        QVERIFY(m_form->answers.allSeen());
+        m_form.reset();
+    }
+
+    void theRunBeginsWithTheNextWordAndAnEmptyCard()
+    {
+        m_form->click("cmdAutoFlash");
+        verifyWordPhase(2);
+        QCOMPARE(m_form->timer("tmrWord").interval(), 3000);
+        QVERIFY(!m_form->button("cmdNext").isEnabled());
+        QVERIFY(!m_form->button("cmdPrevious").isEnabled());
+        QVERIFY(m_form->button("cmdNext").isVisible());
+        QVERIFY(!m_form->button("cmdAutoFlash").isVisible());
+    }
+
+    void stopTakesThePlaceOfAutoFlash()
+    {
+        const QRect place = m_form->button("cmdAutoFlash").geometry();
+        m_form->click("cmdAutoFlash");
+        QCOMPARE(m_form->button("cmdStop").geometry(), place);
+        m_form->click("cmdStop");
+        QCOMPARE(m_form->button("cmdAutoFlash").geometry(), place);
+    }
+
+    void theKeyboardStaysInTheirPlace()
+    {
+        m_form->button("cmdAutoFlash").setFocus();
+        m_form->click("cmdAutoFlash");
+        QVERIFY(m_form->button("cmdStop").hasFocus());
+        m_form->click("cmdStop");
+        QVERIFY(m_form->button("cmdAutoFlash").hasFocus());
+    }
+
+    void thePhasesAlternateAndTheDeckBeginsAgain()
+    {
+        m_form->click("cmdAutoFlash");
+        for (const int card : {2, 3, 4, 5, 1, 2}) {
+            verifyWordPhase(card);
+            m_form->passTime("tmrWord");
+            verifyDefinitionPhase(card);
+            QCOMPARE(m_form->timer("tmrWord").interval(), 3000);
+            m_form->passTime("tmrDef");
+        }
+        verifyWordPhase(3);
+    }
+
+    void aDefinitionStaysTheLongerTheMoreThereIsToRead_data()
+    {
+        QTest::addColumn<int>("characters");
+        QTest::addColumn<int>("milliseconds");
+        QTest::newRow("none") << 0 << 3000;
+        QTest::newRow("10") << 10 << 3000;
+        QTest::newRow("16") << 16 << 3200;
+        QTest::newRow("40") << 40 << 8000;
+        QTest::newRow("60") << 60 << 10000;
+        QTest::newRow("163") << 163 << 10000;
+    }
+
+    void aDefinitionStaysTheLongerTheMoreThereIsToRead()
+    {
+        QFETCH(int, characters);
+        QFETCH(int, milliseconds);
+        start(QString(characters, u'x'));
+        m_form->click("cmdAutoFlash");
+        m_form->passTime("tmrWord");
+        QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrDef"_s));
+        QCOMPARE(m_form->timer("tmrDef").interval(), milliseconds);
+        QCOMPARE(m_form->definition(), QString(characters, u'x'));
+    }
+
+    void aLineBreakCountsAsTwoCharacters()
+    {
+        start(u"0123456789012345678\r\n9"_s);
+        m_form->click("cmdAutoFlash");
+        m_form->passTime("tmrWord");
+        QCOMPARE(m_form->timer("tmrDef").interval(), 22 * 200);
+    }
+
+    void eachDefinitionGetsATimeOfItsOwn()
+    {
+        m_form->click("cmdAutoFlash");
+        gVocabList().Edit(m_form->word(), QString(40, u'x'), {});
+        m_form->passTime("tmrWord");
+        QCOMPARE(m_form->timer("tmrDef").interval(), 8000);
+        m_form->passTime("tmrDef");
+        m_form->passTime("tmrWord");
+        QCOMPARE(m_form->timer("tmrDef").interval(), 3000);
+    }
+
+    void stopInTheWordPhaseLeavesTheCardsAsTheyAre()
+    {
+        m_form->click("cmdAutoFlash");
+        m_form->click("cmdStop");
+        QCOMPARE(m_form->look(), FlashForm::byHand());
+        QVERIFY(!m_form->button("cmdStop").isVisible());
+        QCOMPARE(m_form->word(), FlashForm::wordOfCard(2));
+        QCOMPARE(m_form->definition(), QString());
+        m_form->clickCard();
+        QCOMPARE(m_form->definition(), FlashForm::definitionOfCard(2));
+    }
+
+    void stopInTheDefinitionPhaseLeavesTheDefinitionUntilNext()
+    {
+        m_form->click("cmdAutoFlash");
+        m_form->passTime("tmrWord");
+        m_form->click("cmdStop");
+        QCOMPARE(m_form->look(), FlashForm::byHand());
+        QCOMPARE(m_form->word(), FlashForm::wordOfCard(2));
+        QCOMPARE(m_form->definition(), FlashForm::definitionOfCard(2));
+        m_form->click("cmdNext");
+        QCOMPARE(m_form->word(), FlashForm::wordOfCard(3));
+        QCOMPARE(m_form->definition(), u"Click on card"_s);
+    }
+
+    void aRunAfterAStopGoesOnWithTheNextWord()
+    {
+        m_form->click("cmdAutoFlash");
+        m_form->passTime("tmrWord");
+        m_form->click("cmdStop");
+        m_form->click("cmdAutoFlash");
+        verifyWordPhase(3);
+        m_form->passTime("tmrWord");
+        verifyDefinitionPhase(3);
+    }
+
+    void aClickInTheWordPhaseShowsTheDefinitionEarly()
+    {
+        m_form->click("cmdAutoFlash");
+        const int remaining = m_form->timer("tmrWord").remainingTime();
+        m_form->clickCard();
+        QCOMPARE(m_form->definition(), FlashForm::definitionOfCard(2));
+        QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrWord"_s));
+        QCOMPARE(m_form->timer("tmrWord").interval(), 3000);
+        QVERIFY(m_form->timer("tmrWord").remainingTime() <= remaining);
+        m_form->passTime("tmrWord");
+        verifyDefinitionPhase(2);
+    }
+
+    void aClickInTheDefinitionPhaseChangesNothing()
+    {
+        m_form->click("cmdAutoFlash");
+        m_form->passTime("tmrWord");
+        m_form->clickCard();
+        verifyDefinitionPhase(2);
+    }
+
+    void spaceOpensTheCardDuringTheRunAndArrowsDoNotStep()
+    {
+        m_form->click("cmdAutoFlash");
+        m_form->button("cmdStop").setFocus();
+        Controls::press(Qt::Key_Right);
+        Controls::press(Qt::Key_Left);
+        Controls::press(Qt::Key_Left);
+        verifyWordPhase(2);
+        Controls::press(Qt::Key_Space);
+        QCOMPARE(m_form->definition(), FlashForm::definitionOfCard(2));
+        QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrWord"_s));
+    }
+
+    void aDefinitionTooLongForATimeIsReportedAndStopWorks_data()
+    {
+        QTest::addColumn<int>("characters");
+        QTest::newRow("164") << 164;
+        QTest::newRow("1000") << 1000;
+        QTest::newRow("32767") << 32767;
+    }
+
+    void aDefinitionTooLongForATimeIsReportedAndStopWorks()
+    {
+        QFETCH(int, characters);
+        const QString definition(characters, u'x');
+        start(definition);
+        m_form->click("cmdAutoFlash");
+        m_form->answers.expectMsgBox(u"Run-time error '6':\n\nOverflow"_s);
+        m_form->passTime("tmrWord");
+        QVERIFY(m_form->answers.allSeen());
+        QCOMPARE(m_form->definition(), definition);
+        QCOMPARE(m_form->look(), FlashForm::automatic({}));
+        m_form->click("cmdStop");
+        QCOMPARE(m_form->look(), FlashForm::byHand());
+        QCOMPARE(m_form->definition(), definition);
+        m_form->click("cmdNext");
+        QCOMPARE(m_form->definition(), u"Click on card"_s);
+        m_form->click("cmdAutoFlash");
+        QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrWord"_s));
+    }
+
+    void closingTheCardsEndsTheRun_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::addColumn<bool>("withDefinition");
+        QTest::newRow("Cancel in the word phase") << false << false;
+        QTest::newRow("Cancel in the definition phase") << false << true;
+        QTest::newRow("Esc in the word phase") << true << false;
+        QTest::newRow("Esc in the definition phase") << true << true;
+    }
+
+    void closingTheCardsEndsTheRun()
+    {
+        QFETCH(bool, byKey);
+        QFETCH(bool, withDefinition);
+        m_form->click("cmdAutoFlash");
+        if (withDefinition)
+            m_form->passTime("tmrWord");
+        if (byKey)
+            Controls::press(Qt::Key_Escape);
+        else
+            m_form->click("CancelButton");
+        QVERIFY(!m_form->dialog().isVisible());
+        QVERIFY(!m_form->timer("tmrWord").isActive());
+        QVERIFY(!m_form->timer("tmrDef").isActive());
+    }
+
+private:
+    void start(const QString &definition)
+    {
+        m_form.reset();
+        m_form = std::make_unique<FlashForm>(definition);
+    }
+
+    void verifyWordPhase(int card)
+    {
+        QCOMPARE(gOrderIndex, Integer(card));
+        QCOMPARE(m_form->word(), FlashForm::wordOfCard(card));
+        QCOMPARE(m_form->definition(), QString());
+        QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrWord"_s));
+    }
+
+    void verifyDefinitionPhase(int card)
+    {
+        QCOMPARE(gOrderIndex, Integer(card));
+        QCOMPARE(m_form->word(), FlashForm::wordOfCard(card));
+        QCOMPARE(m_form->definition(), FlashForm::definitionOfCard(card));
+        QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrDef"_s));
+    }
+
+    std::unique_ptr<FlashForm> m_form;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<dlgQuickFlash_Run_test>(argc, argv);
+}
+
+#include "dlgQuickFlash_Run_test.moc"

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "runtime/TextToNumber.h"
+
+#include "runtime/ErrorNumber.h"
+
+#include <QLocale>
+#include <QTest>
+
+class TextToNumber_test : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aTextIsRoundedToTheNearestWholeNumber_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("number");
+        const auto row = [](const char *text, int number) {
+            QTest::newRow(text) << QString::fromUtf8(text) << number;
+        };
+        row("0", 0);
+        row("1", 1);
+        row("-1", -1);
+        row("+7", 7);
+        row("007", 7);
+        row("12", 12);
+        row(" 12", 12);
+        row("12  ", 12);
+        row("   12 ", 12);
+        row("2.0", 2);
+        row("2.", 2);
+        row(".4", 0);
+        row("2.49", 2);
+        row("2.51", 3);
+        row("-2.49", -2);
+        row("-2.51", -3);
+        row("1e3", 1000);
+        row("1E3", 1000);
+        row("2.5e1", 25);
+        row("32767", 32767);
+        row("-32768", -32768);
+    }
+
+    void aTextIsRoundedToTheNearestWholeNumber()
+    {
+        QFETCH(QString, text);
+        QTEST(toInteger(text).toInt(), "number");
+    }
+
+    void halvesGoToTheEvenNumber_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("number");
+        for (int whole = -5; whole <= 5; ++whole) {
+            const double half = whole + 0.5;
+            const int even = whole % 2 == 0 ? whole : whole + 1;
+            const QString text = QString::number(half, 'f', 1);
+            QTest::newRow(qPrintable(text)) << text << even;
+        }
+        QTest::newRow("32766.5") << QStringLiteral("32766.5") << 32766;
+        QTest::newRow("-32768.5") << QStringLiteral("-32768.5") << -32768;
+        QTest::newRow("-32767.5") << QStringLiteral("-32767.5") << -32768;
+    }
+
+    void halvesGoToTheEvenNumber()
+    {
+        QFETCH(QString, text);
+        QTEST(toInteger(text).toInt(), "number");
+    }
+
+    void whatDoesNotFitOverflows_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char *text : {"32767.5", "32768", "-32768.51", "-32769", "65536", "1e10",
+                                 "-1e300", "99999999999999999999"})
+            QTest::newRow(text) << QString::fromLatin1(text);
+    }
+
+    void whatDoesNotFitOverflows()
+    {
+        QFETCH(QString, text);
+        QCOMPARE(errorNumberOf([&] { return toInteger(text); }), RunTimeError::Overflow);
+        // As a number without the 16 bits it is good.
+        QCOMPARE(errorNumberOf([&] { return toNumber(text); }), NoRunTimeError);
+    }
+
+    void whatFitsNoNumberAtAllOverflows_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("1e400") << QStringLiteral("1e400");
+        QTest::newRow("-1e400") << QStringLiteral("-1e400");
+        QTest::newRow("400 digits") << QString(400, QLatin1Char('9'));
+    }
+
+    void whatFitsNoNumberAtAllOverflows()
+    {
+        QFETCH(QString, text);
+        QCOMPARE(errorNumberOf([&] { return toInteger(text); }), RunTimeError::Overflow);
+        QCOMPARE(errorNumberOf([&] { return toNumber(text); }), RunTimeError::Overflow);
+    }
+
+    void whatIsNoNumberIsATypeMismatch_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("nothing") << QString();
+        QTest::newRow("a blank") << QStringLiteral(" ");
+        for (const char *text : {"V", "one", "12a", "a12", "1 2", "--1", "+-1", "1-", "-", ".",
+                                 "1.2.3", "e5", "1e", "\"2\"", "inf", "-inf", "nan"})
+            QTest::newRow(text) << QString::fromLatin1(text);
+    }
+
+    void whatIsNoNumberIsATypeMismatch()
+    {
+        QFETCH(QString, text);
+        QCOMPARE(errorNumberOf([&] { return toInteger(text); }), RunTimeError::TypeMismatch);
+        QCOMPARE(errorNumberOf([&] { return toNumber(text); }), RunTimeError::TypeMismatch);
+    }
+
+    void fractionsAndLargeNumbersStayAsTheyAre()
+    {
+        QCOMPARE(toNumber(QStringLiteral(" 0.25 ")), 0.25);
+        QCOMPARE(toNumber(QStringLiteral("-1.75")), -1.75);
+        QCOMPARE(toNumber(QStringLiteral("1234567")), 1234567.0);
+    }
+
+    void thePersonsLanguageDoesNotMatter()
+    {
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German));
+        const double number = toNumber(QStringLiteral("1.5"));
+        const auto error = errorNumberOf([] { return toNumber(QStringLiteral("1,5")); });
+        QLocale::setDefault(before);
+        QCOMPARE(number, 1.5);
+        QCOMPARE(error, RunTimeError::TypeMismatch);
+    }
+};
+
+QTEST_APPLESS_MAIN(TextToNumber_test)
+
+#include "TextToNumber_test.moc"

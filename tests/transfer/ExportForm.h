@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The export dialog over a list of "w1", "w2", … as its tests use it.
+#pragma once
+
+#include "core/ListTools.h"
+#include "support/Controls.h"
+#include "support/DialogAnswers.h"
+#include "support/FreshState.h"
+#include "transfer/dlgExport.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+#include <memory>
+
+class ExportForm final
+{
+    FreshState m_state;
+
+public:
+    DialogAnswers answers;
+
+    explicit ExportForm(int entries = 10)
+    {
+        QStringList words;
+        for (int i = 1; i <= entries; ++i)
+            words += word(i);
+        addWords(Module1::gVocabList(), words);
+        open();
+    }
+
+    ~ExportForm() { closeDialog(); }
+    Q_DISABLE_COPY_MOVE(ExportForm)
+
+    // Shows a new dialog in place of the one before.
+    void open()
+    {
+        closeDialog();
+        m_dialog = std::make_unique<dlgExport>(m_state.home());
+        m_dialog->show();
+        activate();
+    }
+
+    // As a window manager does when what was open over the dialog is gone.
+    void activate()
+    {
+        m_dialog->activateWindow();
+        if (!QTest::qWaitForWindowActive(m_dialog.get()))
+            Controls::fail(QStringLiteral("the dialog does not become active"));
+    }
+
+    [[nodiscard]] dlgExport &dialog() { return *m_dialog; }
+    [[nodiscard]] QString path(const QString &name) const { return m_state.path(name); }
+
+    template <class Control> [[nodiscard]] Control &control(const char *name)
+    {
+        return Controls::find<Control>(*m_dialog, name);
+    }
+    [[nodiscard]] QString text(const char *box) { return control<QLineEdit>(box).text(); }
+    void type(const char *box, const QString &text)
+    {
+        activate();
+        Controls::type(control<QLineEdit>(box), text);
+    }
+    void click(const char *button) { Controls::click(control<QPushButton>(button)); }
+
+    // Types a number and goes on to the next control.
+    void typeAndLeave(const char *box, const QString &text)
+    {
+        type(box, text);
+        Controls::press(Qt::Key_Tab);
+    }
+    void chooseRange(int start, int end)
+    {
+        typeAndLeave("txtStart", QString::number(start));
+        typeAndLeave("txtEnd", QString::number(end));
+    }
+    void typeTarget(const QString &path) { control<QLineEdit>("txtFilename").setText(path); }
+
+    [[nodiscard]] QStringList preview()
+    {
+        const auto &list = control<QListWidget>("lstExportWords");
+        QStringList words;
+        for (int row = 0; row < list.count(); ++row)
+            words += list.item(row)->text();
+        return words;
+    }
+
+    [[nodiscard]] static QString word(int position) { return QStringLiteral("w%1").arg(position); }
+
+    // The words from one position to another, upwards or downwards.
+    [[nodiscard]] static QStringList words(int start, int end)
+    {
+        const int step = end >= start ? 1 : -1;
+        QStringList words;
+        for (int i = start; i != end + step; i += step)
+            words += word(i);
+        return words;
+    }
+
+    // The records of these words in a list file.
+    [[nodiscard]] static QByteArray records(const QStringList &words)
+    {
+        QByteArray bytes;
+        for (const QString &word : words)
+            bytes += fileRecord(word.toLatin1());
+        return bytes;
+    }
+
+private:
+    // The boxes must not complain of what was typed in them when they are left by this.
+    void closeDialog()
+    {
+        if (!m_dialog)
+            return;
+        for (const char *box : {"txtStart", "txtEnd"})
+            control<QLineEdit>(box).setText(QStringLiteral("1"));
+        m_dialog->close();
+    }
+
+    std::unique_ptr<dlgExport> m_dialog;
+};

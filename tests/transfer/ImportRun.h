@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// An import by itself, without the main window: its file, the person, what it signalled.
+#pragma once
+
+#include "runtime/RunTimeError.h"
+#include "support/FormTest.h"
+#include "support/FreshState.h"
+#include "transfer/Import.h"
+#include "transfer/ImportTools.h"
+
+#include <QSignalSpy>
+
+class ImportRun final
+{
+    FreshState m_state;
+
+public:
+    DialogAnswers answers;
+    Import import;
+    QSignalSpy refreshed{&import, &Import::refresh};
+    QSignalSpy changed{&import, &Import::changed};
+    QSignalSpy progress{&import, &Import::progress};
+
+    [[nodiscard]] QString path(const QString &name) const { return m_state.path(name); }
+
+    void wordList(const QByteArray &bytes)
+    {
+        use(QStringLiteral("words.lwx"), bytes);
+        import.ImportWordList();
+    }
+
+    void dif(const QByteArray &bytes)
+    {
+        use(QStringLiteral("words.dif"), bytes);
+        import.ImportDif();
+    }
+
+    // The number of the error that ends it, or 0.
+    int difError(const QByteArray &bytes)
+    {
+        try {
+            dif(bytes);
+        } catch (const RunTimeError &error) {
+            return error.number();
+        }
+        return 0;
+    }
+
+    void expectImported(int words)
+    {
+        answers.expectMsgBox(QStringLiteral("%1 words imported").arg(words), QMessageBox::Ok,
+                             okOnly);
+    }
+
+    void expectAdded(int words)
+    {
+        answers.expectMsgBox(QStringLiteral("%1 words added").arg(words), QMessageBox::Ok, okOnly);
+    }
+
+private:
+    static void okOnly(QMessageBox &box)
+    {
+        QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+    }
+
+    void use(const QString &name, const QByteArray &bytes)
+    {
+        Module1::gFileName = path(name);
+        ImportTools::writeFile(Module1::gFileName, bytes);
+    }
+};

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Files to import, made byte by byte without the program's own code, the entries of the open list,
+// and the person who is asked about words that exist already.
+#pragma once
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "support/Controls.h"
+#include "support/DialogAnswers.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QPushButton>
+#include <QTest>
+
+// An entry is written "word|definition|sentence"; what is missing at the end is empty.
+namespace ImportTools {
+
+inline QStringList parts(const QString &entry)
+{
+    QStringList texts = entry.split(QLatin1Char('|'));
+    while (texts.size() < 3)
+        texts += QString();
+    return texts;
+}
+
+inline void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        Controls::fail(QStringLiteral("cannot write ") + path);
+}
+
+inline QByteArray listFile(const QStringList &entries)
+{
+    const auto number = [](qsizetype value) {
+        const char bytes[] = {static_cast<char>(value & 0xFF),
+                              static_cast<char>(value >> 8 & 0xFF)};
+        return QByteArray(bytes, 2);
+    };
+    QByteArray bytes = number(entries.size());
+    for (const QString &entry : entries)
+        for (const QString &text : parts(entry))
+            bytes += number(text.size()) + text.toLatin1();
+    return bytes;
+}
+
+// The lines of a DIF file whose rows have the values given, apart by '|'.
+inline QByteArrayList difLinesOf(const QStringList &rows, const QByteArray &tuples = "0,2",
+                                 const QByteArray &vectors = "0,1")
+{
+    QByteArrayList lines{"TABLE", "0,1",  "\"\"", "VECTORS", vectors, "\"\"", "TUPLES",
+                         tuples,  "\"\"", "DATA", "0,0",     "\"\"",  "-1,0"};
+    for (const QString &row : rows) {
+        lines += "BOT";
+        const QStringList values = row.split(QLatin1Char('|'));
+        for (const QString &value : values)
+            lines += {"1,0", '"' + value.toLatin1() + '"'};
+        lines += "-1,0";
+    }
+    return lines << "EOD";
+}
+
+inline QByteArray joined(const QByteArrayList &lines, const QByteArray &lineEnd = "\r\n")
+{
+    return lines.isEmpty() ? QByteArray() : lines.join(lineEnd) + lineEnd;
+}
+
+// The open list's entries, without the separators of texts that are empty at the end.
+inline QStringList openEntries()
+{
+    cVocabList &list = Module1::gVocabList();
+    const Integer current = list.CurrentWord();
+    QStringList entries;
+    for (Integer i = 1; i <= list.NumWords(); ++i) {
+        list.CurrentWord(i);
+        QString entry =
+            QStringList{list.Word(), list.Definition(), list.Sentence()}.join(QLatin1Char('|'));
+        while (entry.endsWith(QLatin1Char('|')))
+            entry.chop(1);
+        entries += entry;
+    }
+    list.CurrentWord(current);
+    return entries;
+}
+
+inline void setOpenEntries(const QStringList &entries)
+{
+    cVocabList &list = Module1::gVocabList();
+    list.ClearList();
+    for (const QString &entry : entries) {
+        const QStringList texts = parts(entry);
+        list.AddVocab(texts[0], texts[1], texts[2]);
+    }
+}
+
+// The answers to a word that exists already, by their button; closing is none of them.
+inline const char *const Close = "close";
+
+inline void giveAnswer(QDialog &form, const QString &answer)
+{
+    if (answer == QLatin1String(Close))
+        form.close();
+    else
+        Controls::click(Controls::find<QPushButton>(form, qPrintable(answer)));
+}
+
+// The next dialog is that question; `look` comes before the answer.
+inline void expectQuestion(DialogAnswers &answers, const QString &answer,
+                           std::function<void(QDialog &)> look = {})
+{
+    answers.useForm("dlgWordExist", [answer, look = std::move(look)](QDialog &form) {
+        if (look)
+            look(form);
+        giveAnswer(form, answer);
+    });
+}
+
+// The four flags as letters: T(his), A(ll), S(kip all), E(nd); small where they are not set.
+inline QString flags()
+{
+    const auto letter = [](bool set, char name) {
+        return QLatin1Char(set ? name : static_cast<char>(name - 'A' + 'a'));
+    };
+    return QString(letter(Module1::gAddThis, 'T')) + letter(Module1::gAddAll, 'A') +
+           letter(Module1::gSkipAll, 'S') + letter(Module1::gStopImport, 'E');
+}
+
+} // namespace ImportTools

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The existing-word dialog over an open list, as an import opens it.
+#pragma once
+
+#include "platform/EntryTextBox.h"
+#include "support/FormTest.h"
+#include "support/FreshState.h"
+#include "transfer/ImportTools.h"
+#include "transfer/dlgWordExist.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+
+// Found by a look into the open dialog.
+struct WordExistForm
+{
+    explicit WordExistForm(QDialog &dialog) : form(dialog) {}
+
+    [[nodiscard]] QPushButton &button(const char *name) const
+    {
+        return Controls::find<QPushButton>(form, name);
+    }
+    void click(const char *name) const { Controls::click(button(name)); }
+    void close() const { form.close(); }
+
+    // The existing entry's boxes: word, definition, sentence.
+    [[nodiscard]] QStringList existing() const { return texts("txtCur"); }
+    [[nodiscard]] QStringList incoming() const { return texts("txtImport"); }
+    [[nodiscard]] QString frame() const
+    {
+        return Controls::find<QGroupBox>(form, "frmCurWord").title();
+    }
+    [[nodiscard]] QString question() const
+    {
+        return Controls::find<QLabel>(form, "lblWordExist").text();
+    }
+
+    // Of the three boxes: "locked" or "unlocked"; then of the editing buttons, "Allow Modify",
+    // "Update changes", "Delete", those that can be pressed.
+    [[nodiscard]] QStringList state() const
+    {
+        const bool word = Controls::find<QLineEdit>(form, "txtCurWord").isReadOnly();
+        const bool definition = Controls::find<EntryTextBox>(form, "txtCurDef").isReadOnly();
+        const bool sentence = Controls::find<EntryTextBox>(form, "txtCurSen").isReadOnly();
+        if (word != definition || word != sentence)
+            Controls::fail(QStringLiteral("the boxes are locked in part"));
+        QStringList state{word ? QStringLiteral("locked") : QStringLiteral("unlocked")};
+        for (const char *name : {"cmdAllowModify", "cmdUpdate", "cmdDelete"})
+            if (button(name).isEnabled())
+                state += button(name).text();
+        return state;
+    }
+
+    void type(const char *box, const QString &text) const
+    {
+        Controls::type(Controls::find<QWidget>(form, box), text);
+    }
+
+    QDialog &form;
+
+private:
+    [[nodiscard]] QStringList texts(const char *prefix) const
+    {
+        const auto name = [prefix](const char *end) { return QByteArray(prefix) + end; };
+        return {Controls::find<QLineEdit>(form, name("Word")).text(),
+                Controls::find<EntryTextBox>(form, name("Def")).text(),
+                Controls::find<EntryTextBox>(form, name("Sen")).text()};
+    }
+};
+
+// What state() says of an entry that is on show, locked or not, and of one that nobody has seen.
+inline QStringList shownLocked()
+{
+    return {QStringLiteral("locked"), QStringLiteral("Allow Modify"), QStringLiteral("Delete")};
+}
+inline QStringList shownUnlocked()
+{
+    return {QStringLiteral("unlocked"), QStringLiteral("Update changes"), QStringLiteral("Delete")};
+}
+
+class WordExistQuestion final
+{
+public:
+    // The incoming entry; where the open list does not hold its word, the test ends.
+    explicit WordExistQuestion(const QString &incoming)
+    {
+        const QStringList texts = ImportTools::parts(incoming);
+        Module1::gImportWord = texts[0];
+        Module1::gImportDef = texts[1];
+        Module1::gImportSen = texts[2];
+    }
+
+    // Shows the dialog about the first entry with the word, as an import does. `use` must close
+    // it. Returns how often the main window was asked to be brought up to date.
+    int ask(DialogAnswers &answers, const std::function<void(const WordExistForm &)> &use)
+    {
+        if (!Module1::gVocabList().Exist(Module1::gImportWord, 1))
+            Controls::fail(QStringLiteral("no conflict"));
+        answers.useForm("dlgWordExist", [use](QDialog &dialog) { use(WordExistForm(dialog)); });
+        dlgWordExist dialog;
+        int refreshed = 0;
+        QObject::connect(&dialog, &dlgWordExist::refresh, &dialog, [&] {
+            ++refreshed;
+            if (dialog.isVisible())
+                Controls::fail(QStringLiteral("refreshed before the dialog is gone"));
+        });
+        dialog.exec();
+        return refreshed;
+    }
+};

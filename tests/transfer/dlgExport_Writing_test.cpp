@@ -1,0 +1,422 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What OK does to the target file and to the open list's name and mark.
+#include "transfer/dlgExport.h"
+
+#include "support/FormTest.h"
+#include "transfer/ExportForm.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString OpenList = u"/lists/animals.lwx"_s;
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "(cannot be read)";
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        Controls::fail(u"cannot write "_s + path);
+}
+
+} // namespace
+
+class dlgExport_Writing_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { start(10); }
+
+    void cleanup()
+    {
+        QVERIFY(m_form->answers.allSeen());
+        m_form.reset();
+    }
+
+    void theRangeGoesOutInItsOrder_data()
+    {
+        QTest::addColumn<int>("start");
+        QTest::addColumn<int>("end");
+        QTest::newRow("3 to 5") << 3 << 5;
+        QTest::newRow("5 to 3") << 5 << 3;
+        QTest::newRow("one word") << 4 << 4;
+        QTest::newRow("the first") << 1 << 1;
+        QTest::newRow("the last") << 10 << 10;
+        QTest::newRow("the whole list") << 1 << 10;
+        QTest::newRow("the whole list downwards") << 10 << 1;
+    }
+
+    void theRangeGoesOutInItsOrder()
+    {
+        QFETCH(int, start);
+        QFETCH(int, end);
+        m_form->chooseRange(start, end);
+        const QStringList words = ExportForm::words(start, end);
+        expectAdded(int(words.size()));
+        ok();
+        QCOMPARE(bytesOf(m_target), fileCount(int(words.size())) + ExportForm::records(words));
+        QCOMPARE(gVocabList().CurrentWord(), Integer(end));
+        QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
+    }
+
+    void afterwardsTheTargetIsTheNamedFileAndNothingCountsAsChanged()
+    {
+        expectAdded(10);
+        ok();
+        QVERIFY(!m_form->dialog().isVisible());
+        QCOMPARE(gFileName, m_target);
+        QVERIFY(!gChanged);
+        QCOMPARE(gOpenedFile, OpenList);
+    }
+
+    void theMessageComesWhenTheDialogIsGone()
+    {
+        m_form->answers.expectMsgBox(
+            u"10 words has been added to "_s + m_target, QMessageBox::Ok, [this](QMessageBox &box) {
+                QVERIFY(!m_form->dialog().isVisible());
+                QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+            });
+        ok();
+    }
+
+    void theOnlyWordGoesOutThoughThePreviewIsEmpty()
+    {
+        start(1);
+        QCOMPARE(m_form->preview(), QStringList());
+        expectAdded(1);
+        ok();
+        QCOMPARE(bytesOf(m_target), fileCount(1) + ExportForm::records({u"w1"_s}));
+    }
+
+    void wordsAreAppendedToThoseOfTheTargetWhetherItHasThemOrNot()
+    {
+        write(m_target, fileCount(2) + fileRecord("old", "a", "b") + fileRecord("w4"));
+        m_form->chooseRange(3, 5);
+        expectAdded(3);
+        ok();
+        QCOMPARE(bytesOf(m_target), fileCount(5) + fileRecord("old", "a", "b") + fileRecord("w4") +
+                                        ExportForm::records(ExportForm::words(3, 5)));
+    }
+
+    void exportingTwiceAppendsTheRangeTwice()
+    {
+        m_form->chooseRange(3, 5);
+        expectAdded(3);
+        ok();
+        m_form->open();
+        m_form->chooseRange(3, 5);
+        expectAdded(3);
+        ok();
+        const QByteArray once = ExportForm::records(ExportForm::words(3, 5));
+        QCOMPARE(bytesOf(m_target), fileCount(6) + once + once);
+    }
+
+    void anEmptyTargetTakesTheWords()
+    {
+        write(m_target, {});
+        expectAdded(10);
+        ok();
+        QCOMPARE(bytesOf(m_target), fileCount(10) + ExportForm::records(ExportForm::words(1, 10)));
+    }
+
+    void bytesBehindTheNewEndOfTheTargetStay()
+    {
+        const QByteArray tail(100, 't');
+        write(m_target, fileCount(1) + fileRecord("old") + tail);
+        m_form->chooseRange(2, 3);
+        expectAdded(2);
+        ok();
+        const QByteArray added = fileRecord("w2") + fileRecord("w3");
+        QCOMPARE(bytesOf(m_target),
+                 fileCount(3) + fileRecord("old") + added + tail.mid(added.size()));
+    }
+
+    void theTypedNameCountsWithoutOuterBlanks()
+    {
+        expectAdded(10);
+        ok(u"  "_s + m_target + u" "_s);
+        QCOMPARE(gFileName, m_target);
+        QVERIFY(QFile::exists(m_target));
+    }
+
+    void theOpenListsOwnFileMayBeTyped()
+    {
+        write(m_target, fileCount(1) + fileRecord("w1"));
+        gOpenedFile = gFileName = m_target;
+        m_form->chooseRange(2, 2);
+        expectAdded(1);
+        ok();
+        QCOMPARE(bytesOf(m_target), fileCount(2) + fileRecord("w1") + fileRecord("w2"));
+        QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
+    }
+
+    void textsAreWrittenInTheCodePage()
+    {
+        start(1);
+        gVocabList().Edit(u"d\u00E9j\u00E0 vu"_s, u"\u20AC \u4E2D"_s, u"two\r\nlines"_s);
+        expectAdded(1);
+        ok();
+        QCOMPARE(bytesOf(m_target),
+                 fileCount(1) + fileRecord("d\xE9j\xE0 vu", "\x80 ?", "two\r\nlines"));
+    }
+
+    void withoutAFileNameOkDoesNothing()
+    {
+        ok(QString());
+        QVERIFY(m_form->dialog().isVisible());
+        QCOMPARE(m_form->answers.seen(), 0);
+        QCOMPARE(gFileName, OpenList);
+        QVERIFY(gChanged);
+    }
+
+    void aBlankFileNameIsInvalid()
+    {
+        m_form->answers.expectMsgBox(u"Invalid file name."_s);
+        ok(u"   "_s);
+        QVERIFY(m_form->dialog().isVisible());
+        QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
+        // Another name then does.
+        expectAdded(10);
+        ok();
+        QVERIFY(!m_form->dialog().isVisible());
+    }
+
+    void aFullTargetTellsOfEachWordThatItRefuses()
+    {
+        QByteArray records;
+        for (int i = 0; i < 31'999; ++i)
+            records += fileRecord("old");
+        write(m_target, fileCount(31'999) + records);
+        m_form->chooseRange(3, 5);
+        const QString full = u"Cannot add any more words. Maximum number of words= 32000"_s;
+        m_form->answers.expectMsgBox(full);
+        m_form->answers.expectMsgBox(full);
+        expectAdded(3);
+        ok();
+        QCOMPARE(bytesOf(m_target), fileCount(32'000) + records + fileRecord("w3"));
+    }
+
+    void enterInARangeBoxTakesWhatIsTypedThere_data()
+    {
+        QTest::addColumn<QByteArray>("box");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("start") << QByteArray("txtStart") << u"8"_s << ExportForm::words(8, 10);
+        QTest::newRow("end") << QByteArray("txtEnd") << u"2"_s << ExportForm::words(1, 2);
+        QTest::newRow("start corrected")
+            << QByteArray("txtStart") << u"99"_s << ExportForm::words(10, 10);
+        QTest::newRow("end corrected") << QByteArray("txtEnd") << u"0"_s << ExportForm::words(1, 1);
+    }
+
+    void enterInARangeBoxTakesWhatIsTypedThere()
+    {
+        QFETCH(QByteArray, box);
+        QFETCH(QString, typed);
+        QFETCH(QStringList, words);
+        m_form->typeTarget(m_target);
+        m_form->type(box, typed);
+        expectAdded(int(words.size()));
+        Controls::press(Qt::Key_Return);
+        QVERIFY(!m_form->dialog().isVisible());
+        QCOMPARE(bytesOf(m_target), fileCount(int(words.size())) + ExportForm::records(words));
+    }
+
+    void aRangeThatIsReportedIsNotExported_data()
+    {
+        QTest::addColumn<QByteArray>("box");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("byKey");
+        QTest::addColumn<QString>("report");
+        const QString mismatch = u"Run-time error '13':\n\nType mismatch"_s;
+        const QString overflow = u"Run-time error '6':\n\nOverflow"_s;
+        for (const char *box : {"txtStart", "txtEnd"}) {
+            for (const bool byKey : {true, false}) {
+                const char *how = byKey ? "Enter" : "click";
+                QTest::addRow("%s: no number, %s", box, how)
+                    << QByteArray(box) << u"three"_s << byKey << mismatch;
+                QTest::addRow("%s: too large, %s", box, how)
+                    << QByteArray(box) << u"40000"_s << byKey << overflow;
+            }
+        }
+    }
+
+    void aRangeThatIsReportedIsNotExported()
+    {
+        QFETCH(QByteArray, box);
+        QFETCH(QString, typed);
+        QFETCH(bool, byKey);
+        QFETCH(QString, report);
+        m_form->typeTarget(m_target);
+        m_form->type(box, typed);
+        m_form->answers.expectMsgBox(report);
+        if (byKey) {
+            Controls::press(Qt::Key_Return);
+        } else {
+            // The report takes the mouse away from the button.
+            auto &button = m_form->control<QPushButton>("cmdOk");
+            QTest::mousePress(&button, Qt::LeftButton);
+            QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(-20, -20));
+        }
+        verifyNothingHappened();
+        QVERIFY(!QFile::exists(m_target));
+    }
+
+    void okReportsARangeBoxThatStillIsNoNumber_data()
+    {
+        QTest::addColumn<QByteArray>("box");
+        QTest::newRow("start") << QByteArray("txtStart");
+        QTest::newRow("end") << QByteArray("txtEnd");
+    }
+
+    void okReportsARangeBoxThatStillIsNoNumber()
+    {
+        QFETCH(QByteArray, box);
+        const QString mismatch = u"Run-time error '13':\n\nType mismatch"_s;
+        m_form->answers.expectMsgBox(mismatch);
+        m_form->typeAndLeave(box, u"three"_s);
+        m_form->answers.expectMsgBox(mismatch);
+        m_form->activate();
+        ok();
+        verifyNothingHappened();
+        QVERIFY(!QFile::exists(m_target));
+    }
+
+    void aDamagedTargetIsReportedAndLeftAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("count -1") << fileCount(-1);
+        QTest::newRow("the smallest count") << fileCount(-32768);
+        QTest::newRow("a negative count before good entries")
+            << fileCount(-2) + fileRecord("a") + fileRecord("b");
+        QTest::newRow("one more than a list holds") << fileCount(32'001);
+        QTest::newRow("the largest count") << fileCount(32'767);
+    }
+
+    void aDamagedTargetIsReportedAndLeftAsItIs()
+    {
+        QFETCH(QByteArray, bytes);
+        write(m_target, bytes);
+        expectReport(u"Run-time error '9':\n\nSubscript out of range"_s);
+        ok();
+        verifyNothingHappened();
+        QCOMPARE(bytesOf(m_target), bytes);
+    }
+
+    void aTargetThatCannotBeOpenedIsReported_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("report");
+        QTest::newRow("no such folder")
+            << u"lost/other.lwx"_s << u"Run-time error '76':\n\nPath not found\n"_s;
+        QTest::newRow("a folder") << u"folder"_s
+                                  << u"Run-time error '75':\n\nPath/File access error\n"_s;
+        QTest::newRow("a pipe") << u"pipe"_s
+                                << u"Run-time error '75':\n\nPath/File access error\n"_s;
+    }
+
+    void aTargetThatCannotBeOpenedIsReported()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, report);
+        QVERIFY(QDir().mkdir(m_form->path(u"folder"_s)));
+        QCOMPARE(mkfifo(QFile::encodeName(m_form->path(u"pipe"_s)).constData(), 0600), 0);
+        const QString target = m_form->path(name);
+        expectReport(report + target);
+        ok(target);
+        verifyNothingHappened();
+    }
+
+    void aTargetThatTheDiskDoesNotTakeStaysWhole()
+    {
+        const QByteArray old = fileCount(1) + fileRecord("old");
+        write(m_target, old);
+        gVocabList().CurrentWord(7);
+        gVocabList().Edit(u"w7"_s, QString(60'000, u'x'), u"w7 sen"_s);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit before{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        rlimit small = before;
+        small.rlim_cur = 16 * 1024;
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        expectReport(u"Run-time error '"_s);
+        ok();
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+        verifyNothingHappened();
+        QCOMPARE(bytesOf(m_target), old);
+    }
+
+    void aTextTooLongForTheFileIsReportedBeforeTheFileIsTouched()
+    {
+        const QByteArray old = fileCount(1) + fileRecord("old");
+        write(m_target, old);
+        gVocabList().CurrentWord(7);
+        gVocabList().Edit(u"w7"_s, u"w7 def"_s, QString(65'536, u'x'));
+        expectReport(u"Run-time error '6':\n\nOverflow\n"_s);
+        ok();
+        verifyNothingHappened();
+        QCOMPARE(bytesOf(m_target), old);
+    }
+
+private:
+    void start(int entries)
+    {
+        m_form.reset();
+        m_form = std::make_unique<ExportForm>(entries);
+        m_target = m_form->path(u"other.lwx"_s);
+        gFileName = gOpenedFile = OpenList;
+        gChanged = true;
+    }
+
+    void ok() { ok(m_target); }
+    void ok(const QString &target)
+    {
+        m_form->typeTarget(target);
+        m_form->click("cmdOk");
+    }
+
+    void expectAdded(int count)
+    {
+        m_form->answers.expectMsgBox(u"%1 words has been added to %2"_s.arg(count).arg(m_target));
+    }
+
+    void expectReport(const QString &start)
+    {
+        m_form->answers.expectAnyMsgBox(QMessageBox::Ok, [start](QMessageBox &box) {
+            QVERIFY2(box.text().startsWith(start), qPrintable(box.text()));
+        });
+    }
+
+    // The dialog is still there and the open list is as it was.
+    void verifyNothingHappened()
+    {
+        QVERIFY(m_form->answers.allSeen());
+        QVERIFY(m_form->dialog().isVisible());
+        QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
+        QCOMPARE(gFileName, OpenList);
+        QVERIFY(gChanged);
+    }
+
+    QString m_target;
+    std::unique_ptr<ExportForm> m_form;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<dlgExport_Writing_test>(argc, argv);
+}
+
+#include "dlgExport_Writing_test.moc"
