@@ -27,7 +27,7 @@ namespace ListFile {
 [[nodiscard]] constexpr qint64 longestFile(Integer maxCount)
 {
     constexpr qint64 longestText = 2 + 65535;
-    return 2 + maxCount.toInt() * 3 * longestText;
+    return 2 + 3 * longestText * maxCount.toInt();
 }
 
 // The count, then every record given. Throws RunTimeError Overflow, naming the record, where a

@@ -7,8 +7,6 @@
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 
-#include <QTimer>
-
 using namespace Module1;
 
 namespace {
@@ -144,6 +142,6 @@ void frmMain::openFile()
     EnableEntryBoxes();
     gChanged = false;
     m_ui->mnuSave->setEnabled(false);
-    // When the page is painted, so that the first search answers as fast as the others.
-    QTimer::singleShot(0, this, [] { gVocabList().prepareLookup(); });
+    // Here, so that the first search answers as fast as the others.
+    gVocabList().prepareLookup();
 }

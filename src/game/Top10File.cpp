@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qint64 longestFile = 10 * (8 + 2 + 65535 + 2);
+constexpr qint64 longestFile = qint64(10) * (8 + 2 + 65535 + 2);
 
 QDate dateOfDayCount(double days)
 {

@@ -52,7 +52,7 @@ void checkPlace(const QString &path)
 // The file that a chain of symbolic links ends at, existing or not.
 QString withoutLinks(const QString &path)
 {
-    const QString existing = QFileInfo(path).canonicalFilePath();
+    QString existing = QFileInfo(path).canonicalFilePath();
     if (!existing.isEmpty())
         return existing;
     QString target = path;
