@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Word lists read independently of the program."""
+"""Word lists read and written independently of the program."""
 import struct
 
 
@@ -21,6 +21,13 @@ def entries(file):
         return data[at - length:at].decode("cp1252")
 
     return [(text(), text(), text()) for _ in range(number("<h"))]
+
+
+def writes(file, listed):
+    """Makes a list file of the entries."""
+    texts = [text.encode("cp1252") for entry in listed for text in entry]
+    file.write_bytes(struct.pack("<h", len(listed))
+                     + b"".join(struct.pack("<H", len(text)) + text for text in texts))
 
 
 def written(file):

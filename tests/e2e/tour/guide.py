@@ -40,6 +40,6 @@ class Guide:
 
     def _empty_pictures(self):
         self._pictures.mkdir(parents=True, exist_ok=True)
-        for pattern in ("*.png", "*.lwx"):
+        for pattern in ("*.png", "*.lwx", "*.txt"):
             for old in self._pictures.glob(pattern):
                 old.unlink()

@@ -19,14 +19,20 @@ def opens(guide, name, picture=None):
     if picture:
         guide.picture("question-end-lesson")
     person.answers("End current lesson?", "OK")
-    dialog = person.window("Open File")
+    picks(guide, "Open File", name, picture)
+    return person.window(f"LexiBrook- The Tanglewit: {name}.lwx")
+
+
+def picks(guide, title, name, picture=None):
+    """The list in the file dialog of that title."""
+    person = guide.person
+    dialog = person.window(title)
     file = until(f"{name} offered", lambda: dialog.find("table cell", f"{name}.lwx"))
     person.clicks(file)
     until("the name taken", lambda: dialog.find("text", "File name:").text, f"{name}.lwx")
     if picture:
         guide.picture(picture)
     person.clicks(dialog.find("push button", "Open"))
-    return person.window(f"LexiBrook- The Tanglewit: {name}.lwx")
 
 
 def take(guide):
