@@ -69,6 +69,7 @@ void dlgQuickFlash::Form_Load()
     m_ui->txtWord->setText(gVocabList().Word(), FlashCard::Side::Front);
     m_ui->txtDef->setText(ClosedCard + QStringLiteral("\r\n"), FlashCard::Side::Back);
     showRun(Run::ByHand);
+    m_ui->cmdNext->setFocus();
 }
 
 void dlgQuickFlash::Form_Terminate()

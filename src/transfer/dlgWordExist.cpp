@@ -44,6 +44,7 @@ void dlgWordExist::Form_Load()
     m_ui->txtImportDef->setText(gImportDef);
     m_ui->txtImportSen->setText(gImportSen);
     gAddThis = gAddAll = false;
+    m_ui->cmdYes->setFocus();
 }
 
 void dlgWordExist::cmdYes_Click()
