@@ -363,8 +363,8 @@ int main(int argc, char **argv)
     };
     besidePlain("open", "plainRead", 4);
     besidePlain("open", "plainReadTexts");
-    besidePlain("save", "plainWrite", 3);
-    besidePlain("save", "plainWriteNew");
+    besidePlain("save", "plainWrite");
+    besidePlain("save", "plainWriteNew", 3);
     for (const std::string what : {"existHit", "existMiss", "searchHit", "searchMiss"}) {
         besidePlain(what, what.ends_with("Hit") ? "plainScanHit" : "plainScanMiss");
         ratios.push_back({what + "/32000", what + "/100", 3});

@@ -11,21 +11,16 @@ namespace {
 
 using Length = quint16;
 
-template <class Number> void appendNumber(QByteArray &bytes, Number number)
+// Returns where the next text goes.
+char *putText(char *out, const QString &text, std::size_t recordNumber)
 {
-    const Number littleEndian = qToLittleEndian(number);
-    bytes.append(reinterpret_cast<const char *>(&littleEndian), sizeof littleEndian);
-}
-
-void appendText(QByteArray &bytes, const QString &text, std::size_t recordNumber)
-{
-    const QByteArray encoded = toWindows1252(text);
-    if (encoded.size() > std::numeric_limits<Length>::max())
+    const qsizetype length = toWindows1252(text, out + sizeof(Length));
+    if (length > std::numeric_limits<Length>::max())
         throw RunTimeError(
             RunTimeError::Overflow,
             QStringLiteral("A text of word %1 is longer than 65535 characters").arg(recordNumber));
-    appendNumber(bytes, static_cast<Length>(encoded.size()));
-    bytes.append(encoded);
+    qToLittleEndian(static_cast<Length>(length), out);
+    return out + sizeof(Length) + length;
 }
 
 } // namespace
@@ -36,15 +31,16 @@ QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records)
     for (const VocabRecord &record : records)
         size += qsizetype(3 * sizeof(Length)) + record.Word.size() + record.Definition.size() +
                 record.Sentence.size();
-    QByteArray bytes;
-    bytes.reserve(size);
-    appendNumber(bytes, static_cast<qint16>(count.toInt()));
+    QByteArray bytes(size, Qt::Uninitialized);
+    qToLittleEndian(static_cast<qint16>(count.toInt()), bytes.data());
+    char *out = bytes.data() + sizeof(qint16);
     std::size_t recordNumber = 0;
     for (const VocabRecord &record : records) {
         ++recordNumber;
         for (const QString *text : {&record.Word, &record.Definition, &record.Sentence})
-            appendText(bytes, *text, recordNumber);
+            out = putText(out, *text, recordNumber);
     }
+    bytes.truncate(out - bytes.constData()); // a surrogate pair takes less than its two units
     return bytes;
 }
 

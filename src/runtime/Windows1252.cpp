@@ -48,17 +48,22 @@ const Tables &tables()
 
 QByteArray toWindows1252(QStringView text)
 {
-    const auto &map = tables().fromUnicode;
     QByteArray bytes(text.size(), Qt::Uninitialized);
-    char *out = bytes.data();
+    bytes.truncate(toWindows1252(text, bytes.data()));
+    return bytes;
+}
+
+qsizetype toWindows1252(QStringView text, char *buffer)
+{
+    const auto &map = tables().fromUnicode;
+    char *out = buffer;
     for (qsizetype i = 0; i < text.size(); ++i) {
         *out++ = map[text[i].unicode()];
         // A surrogate pair is one character and so one "?".
         if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
     }
-    bytes.truncate(out - bytes.constData());
-    return bytes;
+    return out - buffer;
 }
 
 // Latin-1 but for the 32 bytes from 80 on, which most stretches of a text have none of.

@@ -10,4 +10,6 @@
 #include <QString>
 
 [[nodiscard]] QByteArray toWindows1252(QStringView text);
+// Into a buffer with room for text.size() bytes; returns how many were written.
+[[nodiscard]] qsizetype toWindows1252(QStringView text, char *buffer);
 [[nodiscard]] QString fromWindows1252(QByteArrayView bytes);
