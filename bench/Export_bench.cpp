@@ -148,7 +148,7 @@ void wordOrder(benchmark::State &state)
 // A shuffle of the whole list with one seeding.
 void plainShuffle(benchmark::State &state)
 {
-    std::mt19937 random(4); // NOLINT: the same orders at every run
+    std::mt19937 random(4); // the same orders at every run
     std::vector<int> order(static_cast<std::size_t>(size(state)));
     for (auto _ : state) {
         std::iota(order.begin(), order.end(), 1);

@@ -53,7 +53,7 @@ QString text(const char16_t *characters)
 
 std::vector<VocabRecord> SampleList::entries(int count)
 {
-    std::mt19937 random(1); // NOLINT: the same lists at every run
+    std::mt19937 random(1); // the same lists at every run
     const auto oneOf = [&random](const auto &texts) { return text(texts[random() % 8]); };
     std::vector<VocabRecord> entries;
     entries.reserve(static_cast<std::size_t>(count));

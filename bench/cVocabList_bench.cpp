@@ -39,7 +39,7 @@ cVocabList openedList(int count)
 QStringList wordsInList(int count)
 {
     const std::vector<VocabRecord> entries = SampleList::entries(count);
-    std::mt19937 random(2); // NOLINT: the same words at every run
+    std::mt19937 random(2); // the same words at every run
     QStringList words;
     for (int i = 0; i < 50 * Batch; ++i)
         words += entries[random() % entries.size()].Word.toUpper();

@@ -72,7 +72,7 @@ private:
 // Whole pages from all over the list.
 std::vector<int> pages(int count)
 {
-    std::mt19937 random(3); // NOLINT: the same pages at every run
+    std::mt19937 random(3); // the same pages at every run
     std::uniform_int_distribution first(1, count - RowsOnPage);
     std::vector<int> pages(1'000);
     for (int &page : pages)

@@ -120,7 +120,7 @@ void SaveKilled_test::removeLeftovers() const
 
 void SaveKilled_test::aSaveKilledAtAnyMomentLeavesTheOldFileOrTheNewOneWhole()
 {
-    std::mt19937 random(20'240); // NOLINT: the same moments at every run
+    std::mt19937 random(20'240); // the same moments at every run
     // As a part of a save's duration; beyond one for the save's end and for slower ones.
     std::uniform_real_distribution moment(0.0, 1.5);
     QByteArray before = m_long;

@@ -74,7 +74,7 @@ private Q_SLOTS:
     void aDamagedFileEndsInItsCountOrInAnErrorOfItsKind_data()
     {
         QTest::addColumn<QByteArray>("bytes");
-        Random random(20'040'917); // NOLINT: the same files at every run
+        Random random(20'040'917); // the same files at every run
         const QByteArrayList whole = difLinesOf(Rows);
         const QByteArrayList ends{"\r\n", "\r", "\n"};
         for (int i = 0; i < 90; ++i) {
