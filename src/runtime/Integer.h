@@ -36,7 +36,6 @@ public:
     friend constexpr Integer operator+(Integer a, Integer b) { return a.toInt() + b.toInt(); }
     friend constexpr Integer operator-(Integer a, Integer b) { return a.toInt() - b.toInt(); }
     friend constexpr Integer operator*(Integer a, Integer b) { return a.toInt() * b.toInt(); }
-    friend constexpr Integer operator-(Integer a) { return -a.toInt(); }
     friend constexpr bool operator==(Integer a, Integer b) { return a.m_value == b.m_value; }
     friend constexpr std::strong_ordering operator<=>(Integer a, Integer b)
     {

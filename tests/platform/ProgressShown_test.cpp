@@ -90,6 +90,18 @@ private Q_SLOTS:
         QVERIFY(!bar());
     }
 
+    // While the person thinks, no bar stands behind the question, and the time does not count.
+    void aPauseTakesTheBarAwayAndStartsTheClockAgain()
+    {
+        ProgressShown progress(m_window.get());
+        showUntilBar(progress);
+        progress.pause();
+        QVERIFY(!bar());
+        progress.show(600, Total);
+        QVERIFY(!bar());
+        showUntilBar(progress);
+    }
+
     void theWindowIsPaintedMeanwhile()
     {
         ProgressShown progress(m_window.get());

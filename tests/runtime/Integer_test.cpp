@@ -109,13 +109,6 @@ private Q_SLOTS:
                            [](qint64 a, qint64 b) { return a - b; });
     }
 
-    void negationOfTheLowestNumberOverflows()
-    {
-        QCOMPARE((-Integer(32767)).toInt(), -32767);
-        QCOMPARE((-Integer(-32767)).toInt(), 32767);
-        QCOMPARE(errorNumberOf([] { return -Integer(-32768); }), RunTimeError::Overflow);
-    }
-
     void steppingBeyondABoundOverflowsAndChangesNothing()
     {
         Integer high = 32766;

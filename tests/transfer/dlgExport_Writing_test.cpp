@@ -189,6 +189,9 @@ private Q_SLOTS:
         ok(u"   "_s);
         QVERIFY(m_form->dialog().isVisible());
         QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
+        // The open list keeps its name, and its changes are still unsaved.
+        QCOMPARE(gFileName, OpenList);
+        QVERIFY(gChanged);
         // Another name then does.
         expectAdded(10);
         ok();

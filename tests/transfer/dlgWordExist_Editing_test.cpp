@@ -54,6 +54,39 @@ private Q_SLOTS:
         QVERIFY(!gChanged);
     }
 
+    void theKeyboardBeginsAtTheAnswers()
+    {
+        ask([](const WordExistForm &form) {
+            QCOMPARE(QApplication::focusWidget(), &form.button("cmdYes"));
+            form.close();
+        });
+    }
+
+    void enterPressesTheButtonThatHasTheKeyboard()
+    {
+        gAddThis = true;
+        ask([](const WordExistForm &form) {
+            form.button("cmdNo").setFocus();
+            Controls::press(Qt::Key_Return);
+            QVERIFY(!form.form.isVisible());
+        });
+        QVERIFY(!gAddThis);
+    }
+
+    // Not Yes, which would drop what is being typed and add the word.
+    void enterInAnUnlockedBoxUpdates()
+    {
+        ask([this](const WordExistForm &form) {
+            form.click("cmdAllowModify");
+            form.type("txtCurDef", QStringLiteral("a pet"));
+            m_answers->expectMsgBox(SureToChange, QMessageBox::Cancel);
+            Controls::press(Qt::Key_Return);
+            QVERIFY(form.form.isVisible());
+            form.close();
+        });
+        QCOMPARE(openEntries(), m_entries);
+    }
+
     void updateStoresTheBoxesWithoutOuterBlanks()
     {
         ask([this](const WordExistForm &form) {
