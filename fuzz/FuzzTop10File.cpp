@@ -18,10 +18,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
 {
     constexpr qsizetype emptyRow = 12;
     const QDate day(2000, 1, 1);
-    Top10File::Table defaults = Top10File::emptyTable(day);
+    Top10Table defaults = emptyTop10(day);
     for (Top10Entry &entry : defaults)
         entry.PlayerName = QStringLiteral("default");
-    const Top10File::Table table =
+    const Top10Table table =
         Top10File::decode(QByteArrayView(data, qsizetype(size)), defaults);
 
     auto rest = qsizetype(size); // of the bytes, when each row is taken off them

@@ -58,10 +58,15 @@ inline Array<Integer> gWordOrder; // list positions in the order in which they a
 inline Integer gOrderIndex;       // position in gWordOrder of the word on show
 inline Integer gOrderSize;        // positions of gWordOrder in use
 
+inline Integer gScore;                    // points of the game
 inline std::array<Top10Entry, 10> gTop10; // best first
+inline bool gViewTop10Only = false;       // the Top 10 dialog is only looked at
 
 inline bool gUpbeatMusic = false; // the chosen set is the upbeat one
 inline bool gMusicOff = false;    // no music is to be played
+// Wave files of levels 1 to 10; empty until a game opens with music chosen.
+inline Array<QString> gFastBeatTracks;
+inline Array<QString> gSoftBeatTracks;
 
 inline bool PrintItemNumber = false;
 inline QString PrintOrientation; // "Portrait" or "Landscape"

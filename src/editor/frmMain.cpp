@@ -130,7 +130,7 @@ void frmMain::Form_Load()
 
 void frmMain::loadTop10()
 {
-    Module1::gTop10 = Top10File::emptyTable(QDate::currentDate());
+    Module1::gTop10 = emptyTop10(QDate::currentDate());
     // Without the table the editor works as well.
     runGuarded([] { Module1::gTop10 = Top10File::read(pathOf(Place::Top10), Module1::gTop10); });
 }
@@ -248,44 +248,28 @@ void frmMain::showMode(Mode mode)
     switch (mode) {
     case Mode::Idle:
         DisableEntryBoxes();
-        setDefaultButton(m_ui->cmdNewWord);
+        m_defaultButton.set(m_ui->cmdNewWord);
         break;
     case Mode::NewList:
         EnableEntryBoxes();
-        setDefaultButton(nullptr); // New Word would empty what is typed
+        m_defaultButton.set(nullptr); // New Word would empty what is typed
         break;
     case Mode::NewWord:
     case Mode::Editing:
         EnableEntryBoxes();
-        setDefaultButton(m_ui->cmdAdd);
+        m_defaultButton.set(m_ui->cmdAdd);
         break;
     case Mode::Search:
         m_ui->txtWord->setEnabled(true);
-        setDefaultButton(m_ui->cmdSearch);
+        m_defaultButton.set(m_ui->cmdSearch);
         break;
     }
-}
-
-void frmMain::setDefaultButton(QPushButton *button)
-{
-    if (m_defaultButton)
-        m_defaultButton->setDefault(false);
-    m_defaultButton = button;
-    if (button)
-        button->setDefault(true);
 }
 
 void frmMain::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    if (!m_defaultButton.press(*event, focusWidget()))
         QMainWindow::keyPressEvent(event);
-        return;
-    }
-    auto *button = qobject_cast<QPushButton *>(focusWidget());
-    if (!button)
-        button = m_defaultButton;
-    if (button)
-        button->click();
 }
 
 void frmMain::showCaption()

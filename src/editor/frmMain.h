@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/CommonDialog.h"
+#include "platform/DefaultButton.h"
 #include "platform/Form.h"
 #include "runtime/Integer.h"
 
@@ -11,7 +12,6 @@
 
 #include <memory>
 
-class QPushButton;
 enum class MsgBoxButtons;
 struct MainLayout;
 
@@ -45,7 +45,6 @@ private:
     void place(const MainLayout &layout, int entryHeight);
     void placeEntryArea(const MainLayout &layout, int height);
     void showMode(Mode mode);
-    void setDefaultButton(QPushButton *button);
     void showCaption();
     void mnuExit_Click();
 
@@ -98,7 +97,7 @@ private:
     [[nodiscard]] bool mayEndLesson(MsgBoxButtons saveAnswers);
 
     std::unique_ptr<Ui::frmMain> m_ui;
-    QPushButton *m_defaultButton = nullptr; // what Enter presses
+    DefaultButton m_defaultButton;
     CommonDialog m_fileDialog;
 
     Integer m_shownEntry;     // position of the entry in the boxes, picked or found; 0 = none

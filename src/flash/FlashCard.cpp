@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flash/FlashCard.h"
 
-#include "flash/CardTurn.h"
+#include "platform/CardTurn.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -4,9 +4,15 @@
 #include "runtime/BinaryFile.h"
 #include "runtime/ByteReader.h"
 
+#include <QtEndian>
+
+#include <limits>
+
 namespace {
 
 constexpr qint64 longestFile = qint64(10) * (8 + 2 + 65535 + 2);
+
+const QDate DayZero(1899, 12, 30);
 
 QDate dateOfDayCount(double days)
 {
@@ -15,21 +21,27 @@ QDate dateOfDayCount(double days)
     // The day is the whole part, on both sides of zero.
     if (!(days > earliest - 1 && days < latest + 1))
         return {};
-    return QDate(1899, 12, 30).addDays(static_cast<qint64>(days));
+    return DayZero.addDays(static_cast<qint64>(days));
+}
+
+double dayCountOf(QDate date)
+{
+    return date.isValid() ? static_cast<double>(DayZero.daysTo(date))
+                          : std::numeric_limits<double>::quiet_NaN();
+}
+
+template <class Number> void putNumber(QByteArray &bytes, Number number)
+{
+    const qsizetype end = bytes.size();
+    bytes.resize(end + qsizetype(sizeof number));
+    qToLittleEndian(number, bytes.data() + end);
 }
 
 } // namespace
 
-Top10File::Table Top10File::emptyTable(QDate day)
+Top10Table Top10File::decode(QByteArrayView bytes, const Top10Table &defaults)
 {
-    Table table;
-    table.fill({day, {}, 0});
-    return table;
-}
-
-Top10File::Table Top10File::decode(QByteArrayView bytes, const Table &defaults)
-{
-    Table table = defaults;
+    Top10Table table = defaults;
     ByteReader reader(bytes);
     for (Top10Entry &entry : table) {
         if (reader.atEnd())
@@ -41,7 +53,28 @@ Top10File::Table Top10File::decode(QByteArrayView bytes, const Table &defaults)
     return table;
 }
 
-Top10File::Table Top10File::read(const QString &path, const Table &defaults)
+Top10Table Top10File::read(const QString &path, const Top10Table &defaults)
 {
     return decode(BinaryFile::read(path, longestFile), defaults);
+}
+
+QByteArray Top10File::encode(const Top10Table &table)
+{
+    QByteArray bytes;
+    for (const Top10Entry &entry : table) {
+        const QByteArray name = toWindows1252(entry.PlayerName);
+        if (name.size() > std::numeric_limits<quint16>::max())
+            throw RunTimeError(RunTimeError::Overflow,
+                               QStringLiteral("A player's name is longer than 65535 characters"));
+        putNumber(bytes, dayCountOf(entry.EntryDate));
+        putNumber(bytes, static_cast<quint16>(name.size()));
+        bytes += name;
+        putNumber(bytes, static_cast<qint16>(entry.Points.toInt()));
+    }
+    return bytes;
+}
+
+void Top10File::write(const QString &path, const Top10Table &table)
+{
+    BinaryFile::overwrite(path, encode(table));
 }

@@ -12,24 +12,26 @@
 // Numbers are little-endian.
 #pragma once
 
-#include "core/Module1.h"
+#include "game/Top10Table.h"
 
 #include <QByteArray>
 
 namespace Top10File {
 
-using Table = std::array<Top10Entry, 10>;
-
-// Ten unused rows of that day.
-[[nodiscard]] Table emptyTable(QDate day);
-
 // The rows that the bytes hold over those of `defaults`: a row that begins beyond the end stays
 // as it is there, a field that is cut off is zero or what is left of the text. A day count that
 // is no date gives an invalid date.
-[[nodiscard]] Table decode(QByteArrayView bytes, const Table &defaults);
+[[nodiscard]] Top10Table decode(QByteArrayView bytes, const Top10Table &defaults);
 
 // The table of the file at `path`, which is made empty where it is missing. Throws what
 // BinaryFile::read throws.
-[[nodiscard]] Table read(const QString &path, const Table &defaults);
+[[nodiscard]] Top10Table read(const QString &path, const Top10Table &defaults);
+
+// A date that is none becomes a day count that is no number. Throws RunTimeError Overflow for a
+// name of more than 65535 characters.
+[[nodiscard]] QByteArray encode(const Top10Table &table);
+
+// Writes over the file from its first byte. Throws what encode and BinaryFile::overwrite throw.
+void write(const QString &path, const Top10Table &table);
 
 } // namespace Top10File

@@ -14,6 +14,8 @@ public:
     Array() = default;
     explicit Array(std::vector<T> elements) : m_elements(std::move(elements)) {}
 
+    // Keeps what fits; new elements are empty.
+    void resize(int size) { m_elements.resize(static_cast<std::size_t>(size)); }
     [[nodiscard]] int size() const { return static_cast<int>(m_elements.size()); }
 
     [[nodiscard]] const T &operator()(int subscript) const

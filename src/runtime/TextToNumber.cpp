@@ -2,22 +2,11 @@
 #include "runtime/TextToNumber.h"
 
 #include "runtime/Blanks.h"
+#include "runtime/Rounding.h"
 
 #include <QLocale>
 
 #include <cmath>
-
-namespace {
-
-double roundedHalfToEven(double number)
-{
-    const double floor = std::floor(number);
-    const double rest = number - floor;
-    const bool floorIsEven = std::fmod(floor, 2) == 0;
-    return rest < 0.5 || (rest == 0.5 && floorIsEven) ? floor : floor + 1;
-}
-
-} // namespace
 
 double toNumber(const QString &text)
 {
@@ -32,8 +21,5 @@ double toNumber(const QString &text)
 
 Integer toInteger(const QString &text)
 {
-    const double whole = roundedHalfToEven(toNumber(text));
-    if (whole < Integer::Min || whole > Integer::Max)
-        throw RunTimeError(RunTimeError::Overflow);
-    return static_cast<int>(whole);
+    return roundedHalfToEven(toNumber(text));
 }

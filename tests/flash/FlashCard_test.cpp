@@ -2,7 +2,7 @@
 // How a card looks: the size of its type, and its turning.
 #include "flash/FlashCard.h"
 
-#include "flash/CardTurn.h"
+#include "platform/CardTurn.h"
 #include "flash/FlashForm.h"
 #include "support/FormTest.h"
 

@@ -33,9 +33,9 @@ QByteArray fileRow(double days, const QByteArray &name, int points)
 }
 
 // Rows whose defaults cannot be mistaken for what a file holds.
-Top10File::Table defaults()
+Top10Table defaults()
 {
-    Top10File::Table table = Top10File::emptyTable(Day);
+    Top10Table table = emptyTop10(Day);
     for (std::size_t i = 0; i < table.size(); ++i)
         table[i].PlayerName = u"default %1"_s.arg(i);
     return table;
@@ -56,7 +56,7 @@ QString rowText(const Top10Entry &entry)
         .join(u'|');
 }
 
-QStringList rowTexts(const Top10File::Table &table)
+QStringList rowTexts(const Top10Table &table)
 {
     QStringList texts;
     for (const Top10Entry &entry : table)
@@ -65,7 +65,7 @@ QStringList rowTexts(const Top10File::Table &table)
 }
 
 // The layout read in another way, field by field off a stream.
-QStringList readByStream(const QByteArray &bytes, const Top10File::Table &missing)
+QStringList readByStream(const QByteArray &bytes, const Top10Table &missing)
 {
     QDataStream stream(bytes);
     stream.setByteOrder(QDataStream::LittleEndian);
@@ -108,7 +108,7 @@ class Top10File_test : public QObject
 private Q_SLOTS:
     void anEmptyTableHasTenUnusedRowsOfTheDay()
     {
-        const Top10File::Table table = Top10File::emptyTable(Day);
+        const Top10Table table = emptyTop10(Day);
         QCOMPARE(table.size(), std::size_t(10));
         for (const Top10Entry &entry : table)
             QCOMPARE(rowText(entry), u"2024-02-29||0"_s);
@@ -130,7 +130,7 @@ private Q_SLOTS:
 
     void allTenRowsAreReadInOrderAndNothingBehind()
     {
-        const Top10File::Table table =
+        const Top10Table table =
             Top10File::decode(tenRows() + fileRow(1, "eleventh", 1), defaults());
         for (int i = 1; i <= 10; ++i)
             QCOMPARE(rowText(table[std::size_t(i - 1)]),
@@ -149,7 +149,7 @@ private Q_SLOTS:
     void pointsAreSigned()
     {
         QFETCH(int, points);
-        const Top10File::Table table = Top10File::decode(fileRow(1, "A", points), defaults());
+        const Top10Table table = Top10File::decode(fileRow(1, "A", points), defaults());
         QCOMPARE(table[0].Points.toInt(), points);
     }
 
@@ -167,7 +167,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, name);
-        const Top10File::Table table =
+        const Top10Table table =
             Top10File::decode(fileRow(1, bytes, 5) + fileRow(2, "next", 6), defaults());
         QCOMPARE(table[0].PlayerName, name);
         QCOMPARE(rowText(table[1]), u"1900-01-01|next|6"_s);
@@ -200,7 +200,7 @@ private Q_SLOTS:
     {
         QFETCH(double, days);
         QFETCH(QDate, date);
-        const Top10File::Table table = Top10File::decode(fileRow(days, "A", 5), defaults());
+        const Top10Table table = Top10File::decode(fileRow(days, "A", 5), defaults());
         QCOMPARE(table[0].EntryDate, date);
         QCOMPARE(table[0].PlayerName, u"A"_s);
         QCOMPARE(table[0].Points.toInt(), 5);
@@ -208,7 +208,7 @@ private Q_SLOTS:
 
     void rowsThatAShortFileLacksKeepTheirDefaults()
     {
-        const Top10File::Table missing = defaults();
+        const Top10Table missing = defaults();
         const QByteArray whole = tenRows();
         QByteArray bytes;
         for (std::size_t rows = 0; rows <= 10; ++rows) {

@@ -29,8 +29,10 @@ void resetGlobals()
     gDifLines = {};
     gWordOrder = {};
     gOrderIndex = gOrderSize = 0;
+    gScore = 0;
     gTop10 = {};
-    gUpbeatMusic = gMusicOff = PrintItemNumber = false;
+    gViewTop10Only = gUpbeatMusic = gMusicOff = PrintItemNumber = false;
+    gFastBeatTracks = gSoftBeatTracks = {};
     PrintOrientation.clear();
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "flash/CardTurn.h"
+#include "platform/CardTurn.h"
 
 #include <QPainter>
 #include <QStyle>

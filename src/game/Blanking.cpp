@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/Blanking.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr QLatin1String Blank("_____");
+constexpr QLatin1String Delimiters(" .,;!?");
+constexpr int LettersLeftOff = 2; // of the word in the last attempt
+
+// What counts at the start of a word, in the order in which it is tried.
+using Forms = std::array<QString, 3>;
+
+// Letter by letter, so that no text changes its length.
+QString upperCase(QString text)
+{
+    for (QChar &character : text)
+        character = character.toUpper();
+    return text;
+}
+
+bool isDelimiter(QChar character)
+{
+    return Delimiters.contains(character);
+}
+
+// The length of the form that the sentence has at the position; 0 = none.
+qsizetype formAt(const QString &sentence, qsizetype position, const Forms &forms)
+{
+    const QStringView rest = QStringView(sentence).sliced(position);
+    for (const QString &form : forms)
+        if (rest.startsWith(form))
+            return form.size();
+    return 0;
+}
+
+// Nothing where none of the forms begins a word of the sentence.
+std::optional<QString> blanked(const QString &sentence, const Forms &forms)
+{
+    std::optional<QString> result;
+    QString shown;
+    qsizetype scanned = 0; // what is before it is blanked or kept for good
+    for (qsizetype i = 0; i < sentence.size();) {
+        const bool wordStart = i == scanned || isDelimiter(sentence[i - 1]);
+        const qsizetype length = wordStart ? formAt(sentence, i, forms) : 0;
+        if (length == 0) {
+            ++i;
+            continue;
+        }
+        shown += QStringView(sentence).sliced(scanned, i - scanned);
+        shown += Blank;
+        scanned = std::find_if(sentence.cbegin() + i + length, sentence.cend(), isDelimiter) -
+                  sentence.cbegin();
+        i = scanned;
+        result = shown;
+    }
+    if (result)
+        *result += QStringView(sentence).sliced(scanned);
+    return result;
+}
+
+} // namespace
+
+QString blankedSentence(const QString &sentence, const QString &word)
+{
+    const QString capitalised = upperCase(word.left(1)) + word.mid(1);
+    const qsizetype shortestStem = std::max<qsizetype>(1, word.size() - LettersLeftOff);
+    for (qsizetype length = word.size(); length >= shortestStem; --length) {
+        const QString stem = word.left(length);
+        if (const auto result = blanked(sentence, {capitalised, stem, upperCase(stem)}))
+            return *result;
+    }
+    return sentence;
+}

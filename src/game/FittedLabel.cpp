@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/FittedLabel.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+void FittedLabel::paintEvent(QPaintEvent * /*event*/)
+{
+    constexpr double smallestType = 9; // points
+    const QRect room = contentsRect();
+    QFont type = font();
+    const QSizeF needed = QFontMetricsF(type).size(Qt::TextSingleLine, text());
+    const double share =
+        std::min(room.width() / needed.width(), room.height() / needed.height());
+    if (share < 1)
+        type.setPointSizeF(std::max(type.pointSizeF() * share, smallestType));
+    QPainter painter(this);
+    painter.setFont(type);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(room, Qt::AlignCenter,
+                     QFontMetrics(type).elidedText(text(), Qt::ElideRight, room.width()));
+}

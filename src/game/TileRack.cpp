@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/TileRack.h"
+
+#include "game/LetterTile.h"
+#include "game/LetterTiles.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+// Pixels.
+constexpr int LargestTile = 52;
+constexpr int Rim = 6; // of the rack, round the tiles
+constexpr int Gap = 2; // between two tiles
+
+} // namespace
+
+TileRack::TileRack(QWidget *parent) : QWidget(parent)
+{
+    setFixedHeight(LargestTile + 2 * Rim);
+    for (int i = 1; i <= LetterTiles; ++i) {
+        auto *tile = new LetterTile(this);
+        tile->setObjectName(QStringLiteral("cmdLetters_%1").arg(i));
+        m_cmdLetters.push_back(tile);
+    }
+}
+
+void TileRack::prepare(Integer letters)
+{
+    coverAll();
+    m_letters = std::clamp(letters.toInt(), 1, LetterTiles);
+    place();
+}
+
+void TileRack::uncover(Integer position, const QString &word)
+{
+    const Integer tile = position + tileOffset(word.size());
+    if (tile <= LetterTiles)
+        m_cmdLetters[static_cast<std::size_t>(tile.toInt() - 1)]->turnUp(
+            word.mid(position.toInt() - 1, 1));
+}
+
+void TileRack::coverAll()
+{
+    for (LetterTile *tile : m_cmdLetters)
+        tile->hide();
+}
+
+void TileRack::resizeEvent(QResizeEvent * /*event*/)
+{
+    place();
+}
+
+// The row of 30 is centred in the rack; a word can lie half a tile beside its middle. Tiles that
+// the word does not use may lie outside.
+void TileRack::place()
+{
+    const int pitch =
+        std::min((width() - 2 * Rim) / (m_letters.toInt() + 1), LargestTile + Gap);
+    const int side = std::max(pitch - Gap, 1);
+    int left = width() / 2 - LetterTiles / 2 * pitch + Gap / 2;
+    for (LetterTile *tile : m_cmdLetters) {
+        tile->setGeometry(left, (height() - side) / 2, side, side);
+        left += pitch;
+    }
+}
+
+void TileRack::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().mid());
+    painter.drawRoundedRect(rect(), 8, 8);
+}

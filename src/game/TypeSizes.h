@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The sizes of type in which the game shows a word, chosen by the lengths of its texts.
+#pragma once
+
+#include <QtGlobal>
+
+struct TypeSize
+{
+    int points;
+    bool bold;
+
+    bool operator==(const TypeSize &) const = default;
+};
+
+[[nodiscard]] constexpr TypeSize wordTypeSize(qsizetype characters)
+{
+    if (characters <= 16)
+        return {34, true};
+    if (characters <= 25)
+        return {18, false};
+    return {characters <= 30 ? 16 : 14, false};
+}
+
+[[nodiscard]] constexpr TypeSize definitionTypeSize(qsizetype characters)
+{
+    if (characters <= 100)
+        return {18, false};
+    return {characters <= 150 ? 14 : 12, false};
+}
+
+[[nodiscard]] constexpr TypeSize sentenceTypeSize(qsizetype characters)
+{
+    return {characters <= 150 ? 14 : 12, false};
+}

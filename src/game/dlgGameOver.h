@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Top 10 table: takes the name of a new score in it, or only shows it.
+#pragma once
+
+#include "platform/DialogForm.h"
+#include "runtime/Integer.h"
+
+#include <array>
+#include <memory>
+
+class Music;
+class QLabel;
+
+namespace Ui {
+class dlgGameOver;
+}
+
+class dlgGameOver final : public DialogForm
+{
+    Q_OBJECT
+
+public:
+    // music: ends when the dialog closes.
+    dlgGameOver(Music &music, QWidget *parent);
+    ~dlgGameOver() override;
+
+    void setTitle(const QString &title);
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload() override;
+
+private:
+    void cmdEnter_Click();
+    void cmdReset_Click();
+    void cmdClose_Click();
+
+    void makeRows();
+    void enterScoreInto(Integer row);
+    void showRows();
+    void showNaming(bool naming);
+
+    std::unique_ptr<Ui::dlgGameOver> m_ui;
+    std::array<QLabel *, 10> m_lblTop10{};
+    Integer m_newRow; // whose name is being typed; 0 = none
+    Music &m_music;
+};

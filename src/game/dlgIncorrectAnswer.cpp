@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/dlgIncorrectAnswer.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "game/ui_dlgIncorrectAnswer.h"
+#include "platform/MsgBox.h"
+#include "runtime/Blanks.h"
+
+using Module1::gVocabList;
+
+dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
+    : DialogForm(parent), m_ui(std::make_unique<Ui::dlgIncorrectAnswer>())
+{
+    m_ui->setupUi(this);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this,
+            guarded(this, &dlgIncorrectAnswer::cmdOK_Click));
+    connect(m_ui->cmdUp, &QPushButton::clicked, this,
+            guarded(this, &dlgIncorrectAnswer::cmdUp_Click));
+    connect(m_ui->cmdDown, &QPushButton::clicked, this,
+            guarded(this, &dlgIncorrectAnswer::cmdDown_Click));
+}
+
+dlgIncorrectAnswer::~dlgIncorrectAnswer() = default;
+
+void dlgIncorrectAnswer::Form_Load()
+{
+    constexpr qsizetype longDefinition = 100;
+    showWord(true);
+    m_ui->lblAnswerIs->setText(QStringLiteral("The correct answer is: ") + gVocabList().Word());
+    const QString definition = gVocabList().Definition();
+    QFont type = m_ui->lblDefinition->font();
+    type.setPointSize(definition.size() > longDefinition ? 14 : 18);
+    m_ui->lblDefinition->setFont(type);
+    m_ui->lblDefinition->setText(definition);
+    m_ui->txtUserAnswer->setFocus();
+}
+
+// Enter is left to the default button, which there is only while the word is hidden, and to the
+// button that has the keyboard.
+void dlgIncorrectAnswer::keyPressEvent(QKeyEvent *event)
+{
+    if (!m_defaultButton.press(*event, focusWidget()))
+        DialogForm::keyPressEvent(event);
+}
+
+void dlgIncorrectAnswer::cmdDown_Click()
+{
+    showWord(false);
+    if (m_ui->txtUserAnswer->isEnabled())
+        m_ui->txtUserAnswer->setFocus();
+}
+
+void dlgIncorrectAnswer::cmdUp_Click()
+{
+    showWord(true);
+    m_ui->txtUserAnswer->setFocus();
+}
+
+void dlgIncorrectAnswer::cmdOK_Click()
+{
+    const QString word = gVocabList().Word();
+    m_isTyped = withoutOuterBlanks(m_ui->txtUserAnswer->text()) == withoutOuterBlanks(word);
+    if (m_isTyped) {
+        close();
+        return;
+    }
+    MsgBox(QStringLiteral("The correct word is: '") + word + QLatin1Char('\''));
+    m_ui->txtUserAnswer->setFocus();
+}
+
+void dlgIncorrectAnswer::showWord(bool shown)
+{
+    m_ui->lblAnswerIs->setVisible(shown);
+    m_ui->cmdUp->setVisible(!shown);
+    m_ui->cmdDown->setVisible(shown);
+    m_defaultButton.set(shown ? nullptr : m_ui->cmdOK);
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// After a miss: shows the right word and its definition, and closes only when the word has been
+// typed.
+#pragma once
+
+#include "platform/DefaultButton.h"
+#include "platform/DialogForm.h"
+
+#include <memory>
+
+namespace Ui {
+class dlgIncorrectAnswer;
+}
+
+class dlgIncorrectAnswer final : public DialogForm
+{
+    Q_OBJECT
+
+public:
+    explicit dlgIncorrectAnswer(QWidget *parent);
+    ~dlgIncorrectAnswer() override;
+
+protected:
+    void Form_Load() override;
+    bool Form_QueryUnload() override { return m_isTyped; }
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void cmdOK_Click();
+    void cmdUp_Click();
+    void cmdDown_Click();
+    void showWord(bool shown);
+
+    std::unique_ptr<Ui::dlgIncorrectAnswer> m_ui;
+    DefaultButton m_defaultButton;
+    bool m_isTyped = false; // the right word
+};

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/frmTanglewit.h"
+
+#include "core/Module1.h"
+#include "core/WordOrder.h"
+#include "core/cVocabList.h"
+#include "game/dlgGameOver.h"
+#include "game/ui_frmTanglewit.h"
+#include "platform/Screen.h"
+
+#include <QKeyEvent>
+#include <QScreen>
+
+#include <algorithm>
+
+using namespace Module1;
+
+namespace {
+
+constexpr int NarrowScreen = 12000; // twips
+constexpr QSize LargestWindow(1200, 900);
+
+const QString StartPrompt = QStringLiteral("Please click Start to begin.");
+
+} // namespace
+
+frmTanglewit::frmTanglewit(MusicMenu menu, QWidget *mainWindow)
+    : m_ui(std::make_unique<Ui::frmTanglewit>()), m_music(menu), m_mainWindow(mainWindow)
+{
+    m_ui->setupUi(this);
+    m_Timer1.setParent(this);
+    m_Timer1.setObjectName(QStringLiteral("Timer1"));
+    connectHandlers();
+}
+
+frmTanglewit::~frmTanglewit() = default;
+
+void frmTanglewit::connectHandlers()
+{
+    const auto onClick = [this](QPushButton *button, void (frmTanglewit::*handler)()) {
+        connect(button, &QPushButton::clicked, this, guarded(this, handler));
+    };
+    onClick(m_ui->cmdStart, &frmTanglewit::cmdStart_Click);
+    onClick(m_ui->cmdEnter, &frmTanglewit::cmdEnter_Click);
+    onClick(m_ui->cmdRestart, &frmTanglewit::cmdRestart_Click);
+    onClick(m_ui->cmdQuit, &frmTanglewit::cmdQuit_Click);
+    onClick(m_ui->cmdShow, &frmTanglewit::cmdShow_Click);
+    onClick(m_ui->cmdHide, &frmTanglewit::cmdHide_Click);
+    onClick(m_ui->cmdViewTop10, &frmTanglewit::cmdViewTop10_Click);
+    connect(m_ui->VScroll1, &QScrollBar::valueChanged, this,
+            guarded(this, &frmTanglewit::VScroll1_Change));
+    connect(&m_Timer1, &QTimer::timeout, this, guarded(this, &frmTanglewit::Timer1_Timer));
+    // A long text can be scrolled by keyboard.
+    for (QScrollArea *area : {m_ui->clueArea, m_ui->sentenceArea})
+        connect(area->verticalScrollBar(), &QScrollBar::rangeChanged, area,
+                [area](int, int maximum) {
+                    area->setFocusPolicy(maximum > 0 ? Qt::TabFocus : Qt::NoFocus);
+                });
+}
+
+void frmTanglewit::Form_Load()
+{
+    takeSize();
+    m_Timer1.stop();
+    m_Timer1.setInterval(1000);
+    m_game = {};
+    m_ui->lstHits->clear();
+    m_ui->lstMisses->clear();
+    m_ui->frmHits->setTitle(QStringLiteral("Hits"));
+    m_ui->tileRack->coverAll();
+    ResetBoard();
+    gOrderIndex = 1;
+    gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
+    gWordOrder.resize(gVocabList().NumWords().toInt());
+    showWordSwitch(true);
+    m_music.fillTracks();
+}
+
+// On a narrow screen all of it; else three quarters of the screen's height, 4 to 3.
+void frmTanglewit::takeSize()
+{
+    const QSize wholeScreen = screenInTwips(*this);
+    if (wholeScreen.width() <= NarrowScreen) {
+        resize(pixels(wholeScreen.width()), height());
+        setWindowState(windowState() | Qt::WindowMaximized);
+        return;
+    }
+    const QRect room = screen()->availableGeometry();
+    const QSize proportion = QSize(4, 3).scaled(room.size() * 0.9, Qt::KeepAspectRatio);
+    resize(proportion.boundedTo(LargestWindow).expandedTo(minimumSize()));
+    move(room.center() - rect().center());
+}
+
+void frmTanglewit::Form_Unload()
+{
+    m_Timer1.stop();
+    if (!m_isQuitting)
+        m_music.stop();
+    Q_EMIT left();
+}
+
+void frmTanglewit::Form_Terminate()
+{
+    Q_EMIT left();
+}
+
+void frmTanglewit::keyPressEvent(QKeyEvent *event)
+{
+    if (!m_defaultButton.press(*event, focusWidget()))
+        Form::keyPressEvent(event);
+}
+
+// A value of 1 is the lower arrow, -1 the upper one; the bar goes back to 0 each time.
+void frmTanglewit::VScroll1_Change()
+{
+    const int value = m_ui->VScroll1->value();
+    m_game.changeStartLevel(value == 0 ? 0 : value > 0 ? -1 : 1);
+    m_ui->VScroll1->setValue(0);
+    showGame();
+}
+
+void frmTanglewit::cmdStart_Click()
+{
+    showPlaying();
+    if (!ShowFirstWord())
+        return;
+    m_ui->txtUserAnswer->setEnabled(true);
+    m_Timer1.start();
+    gScore = 0;
+    showGame();
+    m_ui->txtUserAnswer->setFocus();
+    m_ui->VScroll1->setEnabled(false);
+    m_music.startGame();
+}
+
+void frmTanglewit::cmdRestart_Click()
+{
+    gOrderIndex = 1;
+    Shuffle();
+    m_Timer1.stop();
+    m_game = {};
+    m_ui->frmHits->setTitle(QStringLiteral("Hits"));
+    m_ui->lstMisses->clear();
+    m_ui->lstHits->clear();
+    m_ui->tileRack->coverAll();
+    gScore = 0;
+    showReady(QStringLiteral("Word List has been shuffled. ") + StartPrompt);
+    m_ui->VScroll1->setEnabled(true);
+}
+
+void frmTanglewit::cmdQuit_Click()
+{
+    m_Timer1.stop();
+    m_isQuitting = true;
+    close();
+    m_isQuitting = false;
+    dlgGameOver dialog(m_music, m_mainWindow);
+    dialog.setTitle(QStringLiteral("Good bye. Thank you for playing The Tanglewit!!!"));
+    dialog.exec();
+    Q_EMIT left();
+}
+
+void frmTanglewit::cmdShow_Click()
+{
+    showWordSwitch(true);
+    focusAnswer();
+}
+
+void frmTanglewit::cmdHide_Click()
+{
+    showWordSwitch(false);
+    focusAnswer();
+}
+
+void frmTanglewit::cmdViewTop10_Click()
+{
+    gViewTop10Only = true;
+    dlgGameOver(m_music, this).exec();
+    gViewTop10Only = false;
+}
+
+// Leaves lives, level and lists as they are.
+void frmTanglewit::ResetBoard()
+{
+    m_Timer1.stop();
+    gScore = 0;
+    showReady(StartPrompt);
+}
+
+void frmTanglewit::showReady(const QString &prompt)
+{
+    showGame();
+    m_ui->lblScrambledWord->clear();
+    m_ui->lblClue->setText(prompt);
+    m_ui->lblSentence->clear();
+    m_ui->txtUserAnswer->clear();
+    m_ui->txtUserAnswer->setEnabled(false);
+    m_ui->cmdEnter->hide();
+    m_ui->cmdEnter->setEnabled(false);
+    m_ui->cmdStart->show();
+    m_ui->cmdStart->setEnabled(true);
+    m_defaultButton.set(m_ui->cmdStart);
+    m_ui->cmdStart->setFocus();
+}
+
+// The answer box follows when there is a word to answer.
+void frmTanglewit::showPlaying()
+{
+    m_ui->cmdEnter->setEnabled(true);
+    m_ui->cmdEnter->show();
+    m_defaultButton.set(m_ui->cmdEnter);
+    m_ui->cmdStart->hide();
+    m_ui->cmdStart->setEnabled(false);
+}
+
+void frmTanglewit::showOver()
+{
+    m_ui->lblScrambledWord->clear();
+    m_ui->lblClue->setText(QStringLiteral("Please click Restart to shuffle."));
+    m_ui->txtUserAnswer->clear();
+    m_ui->txtUserAnswer->setEnabled(false);
+    m_ui->cmdStart->setEnabled(false);
+    m_ui->cmdEnter->setEnabled(false);
+    m_defaultButton.set(nullptr);
+    m_ui->cmdRestart->setFocus();
+}
+
+void frmTanglewit::showWordSwitch(bool wordIsShown)
+{
+    m_ui->cmdShow->setVisible(!wordIsShown);
+    m_ui->cmdHide->setVisible(wordIsShown);
+    m_ui->lblScrambledWord->setVisible(wordIsShown);
+}
+
+void frmTanglewit::showGame()
+{
+    m_ui->lblScore->setText(gScore.toText());
+    m_ui->lblLevel->setText(m_game.Level.toText());
+    m_ui->lblNumLifes->setText(m_game.NumLifes.toText());
+    m_ui->lifeHearts->setLives(m_game.NumLifes);
+    showCountDown();
+}
+
+void frmTanglewit::showCountDown()
+{
+    m_ui->lblCountDown->setSeconds(m_game.CountDown, m_game.TimeLimit);
+}
+
+void frmTanglewit::focusAnswer()
+{
+    if (m_ui->txtUserAnswer->isEnabled())
+        m_ui->txtUserAnswer->setFocus();
+}

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The game: a scrambled word of the list with its clue and its blanked sentence, against the
+// clock, over ten levels and five lives.
+#pragma once
+
+#include "game/GameState.h"
+#include "game/Music.h"
+#include "platform/DefaultButton.h"
+#include "platform/Form.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class frmTanglewit;
+}
+
+class frmTanglewit final : public Form<QWidget>
+{
+    Q_OBJECT
+
+public:
+    // mainWindow: what the good-bye dialog stands over.
+    frmTanglewit(MusicMenu menu, QWidget *mainWindow);
+    ~frmTanglewit() override;
+
+    // A new order of the list's words.
+    void Shuffle();
+
+Q_SIGNALS:
+    // The game is left; the main window should be shown.
+    void left();
+
+protected:
+    void Form_Load() override;
+    void Form_Unload() override;
+    void Form_Terminate() override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    // frmTanglewit.cpp: the window and its buttons
+    void connectHandlers();
+    void takeSize();
+    void cmdStart_Click();
+    void cmdRestart_Click();
+    void cmdQuit_Click();
+    void cmdShow_Click();
+    void cmdHide_Click();
+    void cmdViewTop10_Click();
+    void VScroll1_Change();
+    void ResetBoard();
+    void showReady(const QString &prompt);
+    void showPlaying();
+    void showOver();
+    void showWordSwitch(bool wordIsShown);
+    void showGame();
+    void showCountDown();
+    void focusAnswer();
+
+    // frmTanglewit_Round.cpp: the countdown and the answers
+    void Timer1_Timer();
+    void cmdEnter_Click();
+    void hit();
+    void miss(const QString &answer);
+    void raiseLevel();
+    void timeOut();
+    void gameOver();
+    void addLine(class QListWidget &list, const QString &line);
+
+    // frmTanglewit_Word.cpp: the word on show. Where one of the three answers false, the word
+    // cannot be scrambled, and the handler goes no further.
+    [[nodiscard]] bool ShowFirstWord();
+    [[nodiscard]] bool showWord();
+    [[nodiscard]] bool showNextWord(bool maskSentence);
+    void MaskSentence();
+    void setTypeSizes();
+    void uncoverNextLetter();
+
+    std::unique_ptr<Ui::frmTanglewit> m_ui;
+    QTimer m_Timer1;
+    DefaultButton m_defaultButton;
+    GameState m_game;
+    Music m_music;
+    QWidget *m_mainWindow;
+    bool m_isQuitting = false; // the good-bye dialog is still to come, and ends the music
+};
