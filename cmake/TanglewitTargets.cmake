@@ -23,6 +23,10 @@ endif()
 # Each folder below src/ is one library and includes are written "folder/File.h".
 target_include_directories(tanglewit_options INTERFACE "${PROJECT_SOURCE_DIR}/src")
 
+# Where the installation puts what comes with the program.
+set(TANGLEWIT_INSTALL_DATA "${CMAKE_INSTALL_DATADIR}/tanglewit")
+set(TANGLEWIT_INSTALL_PLUGINS "${CMAKE_INSTALL_LIBDIR}/tanglewit")
+
 # tanglewit_library(<folder> SOURCES <files...> LINKS <targets...>)
 function(tanglewit_library folder)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Paths.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
@@ -24,6 +25,26 @@ QString userData()
 #endif
 }
 
+// A folder that comes with the program: where the installation puts it; in a build beside the
+// program, and two folders above its tests.
+QString ownFolder(const QString &installed, const QString &name)
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const QString &folder : {installed, name, QStringLiteral("../../") + name})
+        if (program.exists(folder))
+            return QDir::cleanPath(program.filePath(folder));
+    return QDir::cleanPath(program.filePath(installed));
+}
+
+QString audio()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("C:/Program Files/Lexibrook/Audio");
+#else
+    return ownFolder(QStringLiteral(TANGLEWIT_DATA_FROM_PROGRAM "/Audio"), QStringLiteral("Audio"));
+#endif
+}
+
 } // namespace
 
 QString pathOf(Place place)
@@ -39,6 +60,10 @@ QString pathOf(Place place)
     case Place::WordLists:
         return madeFolder(QStandardPaths::DocumentsLocation, QStringLiteral("Lexibrook")) +
                QStringLiteral("/MyLists");
+    case Place::Audio:
+        return audio();
+    case Place::Plugins:
+        return ownFolder(QStringLiteral(TANGLEWIT_PLUGINS_FROM_PROGRAM), QStringLiteral("plugins"));
     }
     return {};
 }

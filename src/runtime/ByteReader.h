@@ -15,6 +15,14 @@ public:
 
     [[nodiscard]] bool atEnd() const { return m_rest.isEmpty(); }
 
+    // As many bytes as there are, up to the size.
+    QByteArrayView take(qsizetype size)
+    {
+        const QByteArrayView taken = m_rest.first(qMin(size, m_rest.size()));
+        m_rest = m_rest.sliced(taken.size());
+        return taken;
+    }
+
     template <class Number> Number number()
     {
         const QByteArrayView bytes = take(sizeof(Number));
@@ -27,12 +35,5 @@ public:
     QString text() { return fromWindows1252(textBytes()); }
 
 private:
-    QByteArrayView take(qsizetype size)
-    {
-        const QByteArrayView taken = m_rest.first(qMin(size, m_rest.size()));
-        m_rest = m_rest.sliced(taken.size());
-        return taken;
-    }
-
     QByteArrayView m_rest;
 };

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The thread that plays sounds and all that it needs, there from the first sound on. A sound
+// server may keep its callers waiting, and music is not to stop while a window is busy.
+#pragma once
+
+#include <QThread>
+
+class SoundThread final : public QThread
+{
+    Q_OBJECT
+
+public:
+    // In the place of what is playing. Both return at once.
+    static void loop(const QString &path);
+    static void silence();
+
+    ~SoundThread() override;
+
+private:
+    SoundThread();
+
+    static void end();
+    void request(const QString &path);
+
+    QObject *m_worker; // deletes itself when the thread ends
+};
