@@ -6,6 +6,7 @@
 #include "editor/MainLayout.h"
 #include "editor/ui_frmMain.h"
 #include "game/Top10File.h"
+#include "game/frmTanglewit.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 #include "platform/Screen.h"
@@ -52,6 +53,7 @@ void frmMain::connectHandlers()
     onClick(m_ui->cmdDelete, &frmMain::cmdDelete_Click);
     onClick(m_ui->cmdSearch, &frmMain::cmdSearch_Click);
     onClick(m_ui->cmdQuickFlash, &frmMain::cmdQuickFlash_Click);
+    onClick(m_ui->cmdPlayScramble, &frmMain::cmdPlayScramble_Click);
 
     const auto onChoice = [this](QAction *item, void (frmMain::*handler)()) {
         connect(item, &QAction::triggered, this, guarded(this, handler));
@@ -63,7 +65,11 @@ void frmMain::connectHandlers()
     onChoice(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
     onChoice(m_ui->mnuExport, &frmMain::mnuExport_Click);
     onChoice(m_ui->mnuImport, &frmMain::mnuImport_Click);
+    onChoice(m_ui->mnuPlayScramble, &frmMain::cmdPlayScramble_Click);
     onChoice(m_ui->mnuQuickFlash, &frmMain::cmdQuickFlash_Click);
+    onChoice(m_ui->mnuUpbeat, &frmMain::mnuUpbeat_Click);
+    onChoice(m_ui->mnuSoothing, &frmMain::mnuSoothing_Click);
+    onChoice(m_ui->mnuMusicOff, &frmMain::mnuMusicOff_Click);
     onChoice(m_ui->mnuExit, &frmMain::mnuExit_Click);
     onChoice(m_ui->mnuDeleteWord, &frmMain::mnuDeleteWord_Click);
 
@@ -152,6 +158,7 @@ void frmMain::Form_Terminate()
         else
             mnuSaveAs_Click();
     }
+    unloadGame();
 }
 
 void frmMain::mnuExit_Click()

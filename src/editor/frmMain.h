@@ -12,6 +12,8 @@
 
 #include <memory>
 
+class QAction;
+class frmTanglewit;
 enum class MsgBoxButtons;
 struct MainLayout;
 
@@ -88,6 +90,14 @@ private:
     void importWords(const QString &path);
     void refresh();
 
+    // frmMain_Game.cpp: the game and its music
+    void cmdPlayScramble_Click();
+    void mnuUpbeat_Click();
+    void mnuSoothing_Click();
+    void mnuMusicOff_Click();
+    void checkMusic(const QAction *chosen);
+    void unloadGame();
+
     // frmMain_File.cpp: file commands
     void mnuNew_Click();
     void mnuOpen_Click();
@@ -97,6 +107,7 @@ private:
     [[nodiscard]] bool mayEndLesson(MsgBoxButtons saveAnswers);
 
     std::unique_ptr<Ui::frmMain> m_ui;
+    std::unique_ptr<frmTanglewit> m_frmTanglewit; // made for the first game
     DefaultButton m_defaultButton;
     CommonDialog m_fileDialog;
 

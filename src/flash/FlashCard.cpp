@@ -52,7 +52,7 @@ void FlashCard::turnTo(const QString &text, Side side)
     CardTurn::end(*this);
     const QPixmap oldSide = grab();
     setText(text, side);
-    CardTurn::play(*this, oldSide, grab());
+    CardTurn::play(*this, oldSide, grab(), parentWidget()->palette().window());
 }
 
 void FlashCard::keyPressEvent(QKeyEvent *event)

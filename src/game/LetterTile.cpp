@@ -28,7 +28,7 @@ void LetterTile::turnUp(const QString &letter)
     show();
     const QPixmap back = grab();
     setText(letter);
-    CardTurn::play(*this, back, grab());
+    CardTurn::play(*this, back, grab(), parentWidget()->palette().midlight());
 }
 
 void LetterTile::paintEvent(QPaintEvent * /*event*/)

@@ -30,8 +30,9 @@ TileRack::TileRack(QWidget *parent) : QWidget(parent)
 void TileRack::prepare(Integer letters)
 {
     coverAll();
-    m_letters = std::clamp(letters.toInt(), 1, LetterTiles);
+    m_letters = std::min(letters, Integer(LetterTiles));
     place();
+    update();
 }
 
 void TileRack::uncover(Integer position, const QString &word)
@@ -72,6 +73,13 @@ void TileRack::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().mid());
-    painter.drawRoundedRect(rect(), 8, 8);
+    painter.setBrush(palette().midlight());
+    painter.drawRoundedRect(rect(), 10, 10);
+    painter.setPen(QPen(palette().mid(), 1));
+    painter.setBrush(Qt::NoBrush);
+    const int first = tileOffset(m_letters).toInt();
+    for (int i = first; i < first + m_letters.toInt(); ++i) {
+        const QRectF place(m_cmdLetters[static_cast<std::size_t>(i)]->geometry());
+        painter.drawRoundedRect(place.adjusted(1.5, 1.5, -1.5, -1.5), 6, 6);
+    }
 }

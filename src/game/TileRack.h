@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The rack of the letter tiles, made for the word on show: tiles as large as its letters allow,
-// so that all of them fit.
+// The rack of the letter tiles, made for the word on show: as many places as it has letters, and
+// tiles as large as that allows.
 #pragma once
 
 #include "runtime/Integer.h"
@@ -18,7 +18,7 @@ class TileRack final : public QWidget
 public:
     explicit TileRack(QWidget *parent = nullptr);
 
-    // Covers all tiles and makes room for a word of so many letters.
+    // Covers all tiles and makes room for a word of so many letters; for 0 the rack is empty.
     void prepare(Integer letters);
     // Uncovers letter `position` of the word; one that has no tile is left out.
     void uncover(Integer position, const QString &word);
@@ -32,5 +32,5 @@ private:
     void place();
 
     std::vector<LetterTile *> m_cmdLetters; // 1 to 30
-    Integer m_letters = 1;
+    Integer m_letters; // of the word; 0 = no word yet
 };

@@ -67,7 +67,6 @@ void frmTanglewit::Form_Load()
     m_ui->lstHits->clear();
     m_ui->lstMisses->clear();
     m_ui->frmHits->setTitle(QStringLiteral("Hits"));
-    m_ui->tileRack->coverAll();
     ResetBoard();
     gOrderIndex = 1;
     gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
@@ -142,7 +141,6 @@ void frmTanglewit::cmdRestart_Click()
     m_ui->frmHits->setTitle(QStringLiteral("Hits"));
     m_ui->lstMisses->clear();
     m_ui->lstHits->clear();
-    m_ui->tileRack->coverAll();
     gScore = 0;
     showReady(QStringLiteral("Word List has been shuffled. ") + StartPrompt);
     m_ui->VScroll1->setEnabled(true);
@@ -191,8 +189,9 @@ void frmTanglewit::showReady(const QString &prompt)
 {
     showGame();
     m_ui->lblScrambledWord->clear();
-    m_ui->lblClue->setText(prompt);
+    showPrompt(prompt);
     m_ui->lblSentence->clear();
+    m_ui->tileRack->prepare(0);
     m_ui->txtUserAnswer->clear();
     m_ui->txtUserAnswer->setEnabled(false);
     m_ui->cmdEnter->hide();
@@ -216,7 +215,7 @@ void frmTanglewit::showPlaying()
 void frmTanglewit::showOver()
 {
     m_ui->lblScrambledWord->clear();
-    m_ui->lblClue->setText(QStringLiteral("Please click Restart to shuffle."));
+    showPrompt(QStringLiteral("Please click Restart to shuffle."));
     m_ui->txtUserAnswer->clear();
     m_ui->txtUserAnswer->setEnabled(false);
     m_ui->cmdStart->setEnabled(false);

@@ -76,6 +76,7 @@ private:
     [[nodiscard]] bool showNextWord(bool maskSentence);
     void MaskSentence();
     void setTypeSizes();
+    void showPrompt(const QString &prompt);
     void uncoverNextLetter();
 
     std::unique_ptr<Ui::frmTanglewit> m_ui;

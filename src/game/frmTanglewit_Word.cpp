@@ -95,6 +95,13 @@ void frmTanglewit::setTypeSizes()
     setType(*m_ui->lblSentence, sentenceTypeSize(list.Sentence().size()));
 }
 
+// In the place of a clue.
+void frmTanglewit::showPrompt(const QString &prompt)
+{
+    setType(*m_ui->lblClue, definitionTypeSize(prompt.size()));
+    m_ui->lblClue->setText(prompt);
+}
+
 // A letter beyond the last tile counts, too, though nothing shows it.
 void frmTanglewit::uncoverNextLetter()
 {

@@ -43,6 +43,21 @@ QPushButton:disabled { background: palette(window); color: @disabled; border-col
 FlashCard { border-radius: 14px; border: 1px solid @line; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
 FlashCard:focus { border: 2px solid @focus; }
+#wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
+#clueArea, #sentenceArea, #definitionArea { background: transparent; }
+#clueArea > QWidget > QWidget, #sentenceArea > QWidget > QWidget,
+#definitionArea > QWidget > QWidget { background: transparent; }
+#clueArea:focus, #sentenceArea:focus, #definitionArea:focus { border: 2px solid @focus; }
+#scoreCaption, #levelCaption, #livesCaption, #clueCaption, #sentenceCaption { color: @quiet; }
+#lblScore, #lblLevel, #lblNumLifes { font-size: 28px; font-weight: bold; }
+#txtUserAnswer { font-size: 20px; }
+#lblTitle { font-size: 22px; font-weight: bold; }
+#lblAnswerIs { font-size: 20px; font-weight: bold; }
+#rowPanel QLabel { font-size: 15px; padding: 5px; }
+#rowPanel QLabel[rank] { color: @quiet; min-width: 24px; }
+#rowPanel QLabel[rank="1"] { color: @accent; font-weight: bold; }
+#lstHits, #lstMisses { background: transparent; border: none; }
+#lstHits:focus, #lstMisses:focus { border: 2px solid @focus; border-radius: 4px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
 MSFlexGrid:focus { border-bottom: 2px solid @accent; }

@@ -14,20 +14,22 @@ void CardTurn::end(QWidget &card)
         turn->close();
 }
 
-void CardTurn::play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide)
+void CardTurn::play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide,
+                    const QBrush &behind)
 {
     const int duration =
         card.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &card);
     if (duration <= 0 || !card.isVisible())
         return;
-    auto *turn = new CardTurn(card, oldSide, newSide);
+    auto *turn = new CardTurn(card, oldSide, newSide, behind);
     turn->m_turn.setDuration(duration);
     turn->show();
     turn->m_turn.start();
 }
 
-CardTurn::CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide)
-    : QWidget(&card), m_oldSide(std::move(oldSide)), m_newSide(std::move(newSide))
+CardTurn::CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide, QBrush behind)
+    : QWidget(&card), m_oldSide(std::move(oldSide)), m_newSide(std::move(newSide)),
+      m_behind(std::move(behind))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -43,7 +45,7 @@ void CardTurn::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.fillRect(rect(), parentWidget()->parentWidget()->palette().window());
+    painter.fillRect(rect(), m_behind);
     const double turned = m_turn.currentValue().toDouble();
     const double shown = std::abs(1 - 2 * turned);
     const double left = width() * (1 - shown) / 2;
