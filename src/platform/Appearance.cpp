@@ -56,7 +56,7 @@ FlashCard:focus { border: 2px solid @focus; }
 #rowPanel QLabel { font-size: 15px; padding: 5px; }
 #rowPanel QLabel[rank] { color: @quiet; min-width: 24px; }
 #rowPanel QLabel[rank="1"] { color: @accent; font-weight: bold; }
-#lstHits, #lstMisses { background: transparent; border: none; }
+#lstHits, #lstMisses { background: transparent; border: none; font-size: 14px; }
 #lstHits:focus, #lstMisses:focus { border: 2px solid @focus; border-radius: 4px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
