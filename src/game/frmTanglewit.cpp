@@ -215,6 +215,7 @@ void frmTanglewit::showPlaying()
 void frmTanglewit::showOver()
 {
     m_ui->lblScrambledWord->clear();
+    m_ui->tileRack->prepare(0);
     showPrompt(QStringLiteral("Please click Restart to shuffle."));
     m_ui->txtUserAnswer->clear();
     m_ui->txtUserAnswer->setEnabled(false);
