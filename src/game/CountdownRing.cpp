@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int Side = 84; // pixels, as the measures below
+constexpr int RingSide = 84; // pixels, as the measures below
 constexpr int RingWidth = 8;
 constexpr int NumberHeight = 30;
 constexpr int LastNumberHeight = 42;
@@ -21,7 +21,7 @@ constexpr QColor Alarm(0xC6, 0x28, 0x28); // white on it reads 5.6 to 1
 
 CountdownRing::CountdownRing(QWidget *parent) : QLabel(parent)
 {
-    setFixedSize(Side, Side);
+    setFixedSize(RingSide, RingSide);
 }
 
 void CountdownRing::setSeconds(Integer left, Integer limit)

@@ -9,8 +9,8 @@
 namespace {
 
 // Pixels.
-constexpr int Side = 24;
-constexpr int Pitch = 28;
+constexpr int HeartSide = 24;
+constexpr int HeartPitch = 28;
 
 QPainterPath heart()
 {
@@ -26,7 +26,7 @@ QPainterPath heart()
 
 LifeHearts::LifeHearts(QWidget *parent) : QWidget(parent)
 {
-    setFixedSize(GameState().NumLifes.toInt() * Pitch, Side);
+    setFixedSize(GameState().NumLifes.toInt() * HeartPitch, HeartSide);
 }
 
 void LifeHearts::setLives(Integer lives)
@@ -42,11 +42,11 @@ void LifeHearts::paintEvent(QPaintEvent * /*event*/)
     const QColor lost = palette().color(QPalette::PlaceholderText);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (int life = 1; life * Pitch <= width(); ++life) {
+    for (int life = 1; life * HeartPitch <= width(); ++life) {
         const bool isLeft = life <= m_lives.toInt();
         painter.setPen(QPen(isLeft ? full : lost, 1.5));
         painter.setBrush(isLeft ? QBrush(full) : QBrush(Qt::NoBrush));
         painter.drawPath(Heart);
-        painter.translate(Pitch, 0);
+        painter.translate(HeartPitch, 0);
     }
 }

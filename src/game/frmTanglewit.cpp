@@ -143,7 +143,6 @@ void frmTanglewit::cmdRestart_Click()
     m_ui->lstHits->clear();
     gScore = 0;
     showReady(QStringLiteral("Word List has been shuffled. ") + StartPrompt);
-    m_ui->VScroll1->setEnabled(true);
 }
 
 void frmTanglewit::cmdQuit_Click()
@@ -198,6 +197,7 @@ void frmTanglewit::showReady(const QString &prompt)
     m_ui->cmdEnter->setEnabled(false);
     m_ui->cmdStart->show();
     m_ui->cmdStart->setEnabled(true);
+    m_ui->VScroll1->setEnabled(true);
     m_defaultButton.set(m_ui->cmdStart);
     m_ui->cmdStart->setFocus();
 }
