@@ -15,9 +15,14 @@ void FittedLabel::paintEvent(QPaintEvent * /*event*/)
         std::min(room.width() / needed.width(), room.height() / needed.height());
     if (share < 1)
         type.setPointSizeF(std::max(type.pointSizeF() * share, smallestType));
+    // Letters do not shrink quite as their type does.
+    const auto shown = [&] {
+        return QFontMetrics(type).elidedText(text(), Qt::ElideRight, room.width());
+    };
+    while (type.pointSizeF() > smallestType && shown() != text())
+        type.setPointSizeF(std::max(type.pointSizeF() - 0.5, smallestType));
     QPainter painter(this);
     painter.setFont(type);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(room, Qt::AlignCenter,
-                     QFontMetrics(type).elidedText(text(), Qt::ElideRight, room.width()));
+    painter.drawText(room, Qt::AlignCenter, shown());
 }

@@ -8,6 +8,7 @@
 #include "game/ui_frmTanglewit.h"
 
 #include <QScopeGuard>
+#include <QScrollBar>
 
 using namespace Module1;
 
@@ -18,8 +19,7 @@ namespace {
 QString scrambledWord()
 {
     constexpr int mostAttempts = 10000;
-    gVocabList().setScrambleHook(
-        [attempts = 0]() mutable { return ++attempts < mostAttempts; });
+    gVocabList().setScrambleHook([attempts = 0]() mutable { return ++attempts < mostAttempts; });
     const auto noHook = qScopeGuard([] { gVocabList().setScrambleHook({}); });
     return gVocabList().ScrambledWord();
 }
@@ -61,6 +61,9 @@ bool frmTanglewit::showWord()
     m_ui->tileRack->prepare(gVocabList().Word().size());
     m_ui->lblScrambledWord->setText(scrambled);
     m_ui->lblClue->setText(gVocabList().Definition());
+    // Whatever was scrolled before, a text is read from its beginning.
+    for (QScrollArea *area : {m_ui->clueArea, m_ui->sentenceArea})
+        area->verticalScrollBar()->setValue(0);
     return true;
 }
 

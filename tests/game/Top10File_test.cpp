@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/Top10File.h"
 
+#include "game/Top10Rows.h"
 #include "runtime/ErrorNumber.h"
 #include "runtime/TestFiles.h"
 #include "runtime/Windows1252.h"
@@ -17,20 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QDate Day(2024, 2, 29);
-
-QByteArray fileRow(double days, const QByteArray &name, int points)
-{
-    QByteArray bytes;
-    const auto append = [&](quint64 number, int size) {
-        for (int i = 0; i < size; ++i)
-            bytes.append(char((number >> (8 * i)) & 0xFF));
-    };
-    append(std::bit_cast<quint64>(days), 8);
-    append(quint64(name.size()), 2);
-    bytes.append(name);
-    append(quint64(points & 0xFFFF), 2);
-    return bytes;
-}
 
 // Rows whose defaults cannot be mistaken for what a file holds.
 Top10Table defaults()
@@ -49,21 +36,6 @@ QByteArray tenRows()
     return bytes;
 }
 
-QString rowText(const Top10Entry &entry)
-{
-    return QStringList{entry.EntryDate.toString(Qt::ISODate), entry.PlayerName,
-                       entry.Points.toText()}
-        .join(u'|');
-}
-
-QStringList rowTexts(const Top10Table &table)
-{
-    QStringList texts;
-    for (const Top10Entry &entry : table)
-        texts << rowText(entry);
-    return texts;
-}
-
 // The layout read in another way, field by field off a stream.
 QStringList readByStream(const QByteArray &bytes, const Top10Table &missing)
 {
@@ -72,7 +44,7 @@ QStringList readByStream(const QByteArray &bytes, const Top10Table &missing)
     QStringList texts;
     for (const Top10Entry &row : missing) {
         if (stream.atEnd()) {
-            texts << rowText(row);
+            texts << fieldsOf(row);
             continue;
         }
         quint64 bits = 0;
@@ -111,7 +83,7 @@ private Q_SLOTS:
         const Top10Table table = emptyTop10(Day);
         QCOMPARE(table.size(), std::size_t(10));
         for (const Top10Entry &entry : table)
-            QCOMPARE(rowText(entry), u"2024-02-29||0"_s);
+            QCOMPARE(fieldsOf(entry), u"2024-02-29||0"_s);
     }
 
     void rowsHaveTheseBytes()
@@ -125,7 +97,7 @@ private Q_SLOTS:
         QStringList expected{u"1900-01-02|Ann|7"_s};
         for (int i = 2; i <= 10; ++i)
             expected << u"2022-06-06||0"_s;
-        QCOMPARE(rowTexts(Top10File::decode(bytes, defaults())), expected);
+        QCOMPARE(fieldsOf(Top10File::decode(bytes, defaults())), expected);
     }
 
     void allTenRowsAreReadInOrderAndNothingBehind()
@@ -133,7 +105,7 @@ private Q_SLOTS:
         const Top10Table table =
             Top10File::decode(tenRows() + fileRow(1, "eleventh", 1), defaults());
         for (int i = 1; i <= 10; ++i)
-            QCOMPARE(rowText(table[std::size_t(i - 1)]),
+            QCOMPARE(fieldsOf(table[std::size_t(i - 1)]),
                      QStringList({QDate(2023, 3, 15).addDays(i).toString(Qt::ISODate),
                                   u"Player %1"_s.arg(i), QString::number(1000 - i)})
                          .join(u'|'));
@@ -170,7 +142,7 @@ private Q_SLOTS:
         const Top10Table table =
             Top10File::decode(fileRow(1, bytes, 5) + fileRow(2, "next", 6), defaults());
         QCOMPARE(table[0].PlayerName, name);
-        QCOMPARE(rowText(table[1]), u"1900-01-01|next|6"_s);
+        QCOMPARE(fieldsOf(table[1]), u"1900-01-01|next|6"_s);
     }
 
     void dayCountsAreDates_data()
@@ -212,12 +184,12 @@ private Q_SLOTS:
         const QByteArray whole = tenRows();
         QByteArray bytes;
         for (std::size_t rows = 0; rows <= 10; ++rows) {
-            const QStringList texts = rowTexts(Top10File::decode(bytes, missing));
+            const QStringList texts = fieldsOf(Top10File::decode(bytes, missing));
             for (std::size_t i = 0; i < 10; ++i)
                 if (i < rows)
                     QVERIFY(texts[qsizetype(i)].contains(u"|Player %1|"_s.arg(i + 1)));
                 else
-                    QCOMPARE(texts[qsizetype(i)], rowText(missing[i]));
+                    QCOMPARE(texts[qsizetype(i)], fieldsOf(missing[i]));
             bytes = whole.first(std::min(whole.size(), bytes.size() + (rows == 9 ? 21 : 20)));
         }
     }
@@ -227,11 +199,11 @@ private Q_SLOTS:
         const QByteArray whole = tenRows();
         for (qsizetype size = 0; size <= whole.size(); ++size) {
             const QByteArray cut = whole.first(size);
-            QCOMPARE(rowTexts(Top10File::decode(cut, defaults())), readByStream(cut, defaults()));
+            QCOMPARE(fieldsOf(Top10File::decode(cut, defaults())), readByStream(cut, defaults()));
         }
         // The same in plain words at four places of the first row.
         const auto firstRow = [&](int size) {
-            return rowText(Top10File::decode(whole.first(size), defaults())[0]);
+            return fieldsOf(Top10File::decode(whole.first(size), defaults())[0]);
         };
         QCOMPARE(firstRow(7), u"1899-12-30||0"_s);
         QCOMPARE(firstRow(9), u"2023-03-16||0"_s);
@@ -257,7 +229,7 @@ private Q_SLOTS:
                     bytes.remove(at, 1);
                 }
             }
-            QCOMPARE(rowTexts(Top10File::decode(bytes, defaults())),
+            QCOMPARE(fieldsOf(Top10File::decode(bytes, defaults())),
                      readByStream(bytes, defaults()));
         }
     }
@@ -266,7 +238,7 @@ private Q_SLOTS:
     {
         for (unsigned i = 0; i < 2000; ++i) {
             const QByteArray bytes = randomBytes(qsizetype(i % 500), i);
-            QCOMPARE(rowTexts(Top10File::decode(bytes, defaults())),
+            QCOMPARE(fieldsOf(Top10File::decode(bytes, defaults())),
                      readByStream(bytes, defaults()));
         }
     }
@@ -274,8 +246,8 @@ private Q_SLOTS:
     void aMissingFileIsCreatedEmptyAndGivesTheDefaults()
     {
         const TestFolder folder;
-        QCOMPARE(rowTexts(Top10File::read(folder.path(u"top10.bin"_s), defaults())),
-                 rowTexts(defaults()));
+        QCOMPARE(fieldsOf(Top10File::read(folder.path(u"top10.bin"_s), defaults())),
+                 fieldsOf(defaults()));
         QCOMPARE(folder.names(), QStringList{u"top10.bin"_s});
         QCOMPARE(folder.bytes(u"top10.bin"_s), QByteArray());
     }
@@ -284,7 +256,7 @@ private Q_SLOTS:
     {
         const TestFolder folder;
         const QString path = folder.write(u"top10.bin"_s, tenRows() + "old tail");
-        QCOMPARE(rowTexts(Top10File::read(path, defaults())), readByStream(tenRows(), defaults()));
+        QCOMPARE(fieldsOf(Top10File::read(path, defaults())), readByStream(tenRows(), defaults()));
         QCOMPARE(folder.bytes(u"top10.bin"_s), tenRows() + "old tail");
     }
 
