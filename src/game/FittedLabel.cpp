@@ -11,8 +11,7 @@ void FittedLabel::paintEvent(QPaintEvent * /*event*/)
     const QRect room = contentsRect();
     QFont type = font();
     const QSizeF needed = QFontMetricsF(type).size(Qt::TextSingleLine, text());
-    const double share =
-        std::min(room.width() / needed.width(), room.height() / needed.height());
+    const double share = std::min(room.width() / needed.width(), room.height() / needed.height());
     if (share < 1)
         type.setPointSizeF(std::max(type.pointSizeF() * share, smallestType));
     // Letters do not shrink quite as their type does.

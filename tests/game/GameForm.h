@@ -1,0 +1,323 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The game window over a list of its own, as its tests use it, with the Music menu and a main
+// window to come back to. No sound is heard; every request for one is noted.
+#pragma once
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "game/Top10Table.h"
+#include "game/frmTanglewit.h"
+#include "platform/sndPlaySoundA.h"
+#include "support/Controls.h"
+#include "support/DialogAnswers.h"
+#include "support/FreshState.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyleOptionSlider>
+#include <QTest>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <utility>
+
+class GameForm final
+{
+    FreshState m_state;
+
+public:
+    DialogAnswers answers;
+
+    explicit GameForm(const QStringList &words = fiveWords())
+    {
+        Module1::gTop10 = emptyTop10(QDate::currentDate());
+        Module1::gUpbeatMusic = true;
+        Module1::gMusicOff = true;
+        fill(words);
+        for (QAction *item : {&m_mnuUpbeat, &m_mnuSoothing, &m_mnuMusicOff})
+            item->setCheckable(true);
+        m_mnuMusicOff.setChecked(true);
+        setSoundPlayer([this](const QString &file, unsigned flags) {
+            m_sounds += QStringLiteral("%1 %2").arg(soundName(file)).arg(flags);
+        });
+        m_window = std::make_unique<frmTanglewit>(
+            MusicMenu{m_mnuUpbeat, m_mnuSoothing, m_mnuMusicOff}, &m_mainWindow);
+        QObject::connect(m_window.get(), &frmTanglewit::left, &m_mainWindow, &QWidget::show);
+    }
+    ~GameForm() { setSoundPlayer({}); }
+    Q_DISABLE_COPY_MOVE(GameForm)
+
+    [[nodiscard]] static QStringList fiveWords()
+    {
+        return {QStringLiteral("apple"), QStringLiteral("bread"), QStringLiteral("cream"),
+                QStringLiteral("dough"), QStringLiteral("flour")};
+    }
+    // Replaces the list's entries by these words, each with a definition and a sentence.
+    static void fill(const QStringList &words)
+    {
+        cVocabList &list = Module1::gVocabList();
+        list.ClearList();
+        for (const QString &word : words)
+            list.AddVocab(word, definitionOf(word), sentenceOf(word));
+    }
+    [[nodiscard]] static QString definitionOf(const QString &word)
+    {
+        return QStringLiteral("definition of ") + word;
+    }
+    [[nodiscard]] static QString sentenceOf(const QString &word)
+    {
+        return QStringLiteral("Here is ") + word + QStringLiteral(".");
+    }
+    [[nodiscard]] static QString blankedSentence() { return QStringLiteral("Here is _____."); }
+    // The word that is asked.
+    [[nodiscard]] static QString word() { return Module1::gVocabList().Word(); }
+
+    [[nodiscard]] frmTanglewit &window() { return *m_window; }
+    [[nodiscard]] QWidget &mainWindow() { return m_mainWindow; }
+    template <class Control> [[nodiscard]] Control &control(const char *name)
+    {
+        return Controls::find<Control>(*m_window, name);
+    }
+    [[nodiscard]] QPushButton &button(const char *name) { return control<QPushButton>(name); }
+    [[nodiscard]] QTimer &timer() { return control<QTimer>("Timer1"); }
+    [[nodiscard]] QLineEdit &answerBox() { return control<QLineEdit>("txtUserAnswer"); }
+    [[nodiscard]] QScrollBar &levelSwitch() { return control<QScrollBar>("VScroll1"); }
+    [[nodiscard]] QString text(const char *label) { return control<QLabel>(label).text(); }
+    [[nodiscard]] QString hitsTitle() { return control<QGroupBox>("frmHits").title(); }
+    [[nodiscard]] QStringList lines(const char *list)
+    {
+        QStringList lines;
+        const auto &box = control<QListWidget>(list);
+        for (int i = 0; i < box.count(); ++i)
+            lines += box.item(i)->text();
+        return lines;
+    }
+
+    void click(const char *name) { Controls::click(button(name)); }
+
+    // From here on only passTime lets time pass.
+    void open()
+    {
+        m_mainWindow.hide();
+        m_window->show();
+        timer().setInterval(std::chrono::hours(1));
+        waitForWindow();
+    }
+    void start()
+    {
+        open();
+        click("cmdStart");
+    }
+    void waitForWindow()
+    {
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            Controls::fail(QStringLiteral("the game window does not become active"));
+    }
+    // The arrow, so many times.
+    void raiseStartLevel(int times)
+    {
+        for (; times > 0; --times)
+            clickArrow(QStyle::SC_ScrollBarSubLine);
+    }
+    void lowerStartLevel(int times)
+    {
+        for (; times > 0; --times)
+            clickArrow(QStyle::SC_ScrollBarAddLine);
+    }
+
+    // Seconds that pass now. The countdown must run.
+    void passTime(int seconds = 1)
+    {
+        for (; seconds > 0; --seconds) {
+            if (!timer().isActive())
+                Controls::fail(QStringLiteral("Timer1 does not run"));
+            QMetaObject::invokeMethod(&timer(), "timeout", Qt::DirectConnection);
+        }
+    }
+    // All that are left; the dialog of the time-out is answered.
+    void timeOut()
+    {
+        expectMiss();
+        passTime(text("lblCountDown").toInt());
+    }
+
+    // Types the text and presses Enter.
+    void answer(const QString &text)
+    {
+        waitForWindow();
+        Controls::type(answerBox(), text);
+        Controls::press(Qt::Key_Return);
+    }
+    void answerRight(int times = 1)
+    {
+        for (; times > 0; --times)
+            answer(word());
+    }
+    // The wrong word; the dialog that follows is answered.
+    void answerWrong(const QString &wrong = QStringLiteral("wrong"))
+    {
+        expectMiss();
+        answer(wrong);
+    }
+
+    // The dialog in which the right word must be typed, and a look at it before that is done.
+    void expectMiss(const std::function<void(QDialog &)> &inspect = {})
+    {
+        answers.useForm("dlgIncorrectAnswer", [inspect](QDialog &dialog) {
+            if (inspect)
+                inspect(dialog);
+            Controls::type(Controls::find<QLineEdit>(dialog, "txtUserAnswer"), word());
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdOK"));
+        });
+    }
+    // The Top 10 dialog, closed by its button.
+    void expectTop10(const std::function<void(QDialog &)> &inspect = {})
+    {
+        answers.useForm("dlgGameOver", [inspect](QDialog &dialog) {
+            if (inspect)
+                inspect(dialog);
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
+        });
+    }
+    // The same with a score that enters the table.
+    void expectTop10Entry(const QString &name, const std::function<void(QDialog &)> &inspect = {})
+    {
+        answers.useForm("dlgGameOver", [name, inspect](QDialog &dialog) {
+            if (inspect)
+                inspect(dialog);
+            Controls::type(Controls::find<QLineEdit>(dialog, "txtName"), name);
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdEnter"));
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
+        });
+    }
+    void expectLevel(int level) { answers.expectMsgBox(QStringLiteral("Level %1").arg(level)); }
+
+    // Wrong answers until the game is over. A score must not enter the table, or the name is for
+    // it.
+    void loseAllLives(const QString &name = {})
+    {
+        while (text("lblNumLifes").toInt() > 1)
+            answerWrong();
+        expectMiss();
+        if (name.isNull())
+            expectTop10();
+        else
+            expectTop10Entry(name);
+        answer(QStringLiteral("wrong"));
+        waitForWindow();
+    }
+
+    void choose(const char *music)
+    {
+        for (QAction *item : {&m_mnuUpbeat, &m_mnuSoothing, &m_mnuMusicOff})
+            item->setChecked(false);
+        const QLatin1String chosen(music);
+        (chosen == QLatin1String("mnuUpbeat")     ? m_mnuUpbeat
+         : chosen == QLatin1String("mnuSoothing") ? m_mnuSoothing
+                                                  : m_mnuMusicOff)
+            .setChecked(true);
+        Module1::gUpbeatMusic = m_mnuUpbeat.isChecked();
+        Module1::gMusicOff = m_mnuMusicOff.isChecked();
+    }
+    // The requests for sound since the last call: set, file and flags, or the name and flags.
+    QStringList sounds() { return std::exchange(m_sounds, {}); }
+
+    // Score, level, countdown and lives as the window shows them.
+    [[nodiscard]] QString numbers()
+    {
+        return QStringList{text("lblScore"), text("lblLevel"), text("lblCountDown"),
+                           text("lblNumLifes")}
+            .join(QLatin1Char(' '));
+    }
+    // The letter tiles in sight, each with its number.
+    [[nodiscard]] QStringList tiles()
+    {
+        QStringList tiles;
+        for (int i = 1; i <= 30; ++i) {
+            const auto &tile = button(QStringLiteral("cmdLetters_%1").arg(i).toLatin1());
+            if (tile.isVisible())
+                tiles += QStringLiteral("%1 %2").arg(i).arg(tile.text());
+        }
+        return tiles;
+    }
+    // Controls in sight that can be used, and the timer where it runs.
+    [[nodiscard]] QStringList look()
+    {
+        QStringList look;
+        for (const char *name : {"txtUserAnswer", "cmdStart", "cmdEnter", "VScroll1", "cmdShow",
+                                 "cmdHide", "cmdRestart", "cmdViewTop10", "cmdQuit"}) {
+            const auto &widget = control<QWidget>(name);
+            if (widget.isVisible() && widget.isEnabled())
+                look += QLatin1String(name);
+        }
+        if (timer().isActive())
+            look += QStringLiteral("Timer1");
+        return look;
+    }
+    [[nodiscard]] static QStringList ready()
+    {
+        return names({"cmdStart", "VScroll1", "cmdHide", "cmdRestart", "cmdViewTop10", "cmdQuit"});
+    }
+    [[nodiscard]] static QStringList playing()
+    {
+        return names({"txtUserAnswer", "cmdEnter", "cmdHide", "cmdRestart", "cmdViewTop10",
+                      "cmdQuit", "Timer1"});
+    }
+    [[nodiscard]] static QStringList over()
+    {
+        return names({"cmdHide", "cmdRestart", "cmdViewTop10", "cmdQuit"});
+    }
+
+private:
+    [[nodiscard]] static QStringList names(std::initializer_list<const char *> list)
+    {
+        QStringList names;
+        for (const char *name : list)
+            names += QLatin1String(name);
+        return names;
+    }
+
+    [[nodiscard]] static QString soundName(const QString &file)
+    {
+        const QFileInfo track(file);
+        return file.contains(QLatin1Char('/'))
+                   ? track.dir().dirName() + QLatin1Char('/') + track.fileName()
+                   : file;
+    }
+
+    void clickArrow(QStyle::SubControl arrow)
+    {
+        QScrollBar &bar = levelSwitch();
+        QStyleOptionSlider option;
+        option.initFrom(&bar);
+        option.subControls = QStyle::SC_All;
+        option.orientation = bar.orientation();
+        option.minimum = bar.minimum();
+        option.maximum = bar.maximum();
+        option.sliderPosition = bar.sliderPosition();
+        option.sliderValue = bar.value();
+        option.singleStep = bar.singleStep();
+        option.pageStep = bar.pageStep();
+        const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, arrow, &bar);
+        if (place.isEmpty() || !bar.rect().contains(place.center()))
+            Controls::fail(QStringLiteral("the level switch has no such arrow"));
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, place.center());
+    }
+
+    QAction m_mnuUpbeat;
+    QAction m_mnuSoothing;
+    QAction m_mnuMusicOff;
+    QStringList m_sounds;
+    QWidget m_mainWindow;
+    std::unique_ptr<frmTanglewit> m_window;
+};

@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/TileRack.h"
+
+#include "game/LetterTile.h"
+#include "platform/CardTurn.h"
+#include "support/Controls.h"
+#include "support/MotionStyle.h"
+
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Different characters throughout, beginning with "abc".
+QString wordOf(int letters)
+{
+    QString word;
+    for (int i = 0; i < letters; ++i)
+        word += QChar(char16_t(u'a' + i));
+    return word;
+}
+
+LetterTile &tile(const TileRack &rack, int number)
+{
+    return Controls::find<LetterTile>(rack, QByteArray("cmdLetters_") + QByteArray::number(number));
+}
+
+// The letters on the tiles that are turned up, with the tiles' numbers: "14a 15b".
+QString turnedUp(const TileRack &rack)
+{
+    QStringList tiles;
+    for (int number = 1; number <= 30; ++number)
+        if (!tile(rack, number).isHidden())
+            tiles << QString::number(number) + tile(rack, number).text();
+    return tiles.join(u' ');
+}
+
+void uncoverAll(TileRack &rack, const QString &word)
+{
+    for (int position = 1; position <= word.size(); ++position)
+        rack.uncover(position, word);
+}
+
+int turnsOf(const QWidget &widget)
+{
+    int shown = 0;
+    for (const CardTurn *turn : widget.findChildren<CardTurn *>())
+        shown += turn->isVisible() ? 1 : 0;
+    return shown;
+}
+
+} // namespace
+
+class TileRack_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void thereAreThirtyCoveredTiles()
+    {
+        const TileRack rack;
+        QCOMPARE(rack.findChildren<LetterTile *>().size(), 30);
+        QCOMPARE(turnedUp(rack), QString());
+    }
+
+    void lettersLieInTheMiddleOfTheRow_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("tiles");
+        QTest::newRow("one letter") << u"a"_s << u"15a"_s;
+        QTest::newRow("three letters") << u"cat"_s << u"15c 16a 17t"_s;
+        QTest::newRow("four letters") << u"ball"_s << u"14b 15a 16l 17l"_s;
+        QTest::newRow("accent and blank") << u"é ß"_s << u"15é 16  17ß"_s;
+        QTest::newRow("five free")
+            << wordOf(25)
+            << u"3a 4b 5c 6d 7e 8f 9g 10h 11i 12j 13k 14l 15m 16n 17o 18p 19q 20r 21s 22t 23u 24v 25w 26x 27y"_s;
+    }
+
+    void lettersLieInTheMiddleOfTheRow()
+    {
+        QFETCH(QString, word);
+        TileRack rack;
+        rack.resize(900, rack.height());
+        rack.prepare(word.size());
+        QCOMPARE(turnedUp(rack), QString());
+        uncoverAll(rack, word);
+        QTEST(turnedUp(rack), "tiles");
+    }
+
+    void lettersAreTurnedUpOneByOne()
+    {
+        TileRack rack;
+        rack.prepare(3);
+        rack.uncover(1, u"cat"_s);
+        QCOMPARE(turnedUp(rack), u"15c"_s);
+        rack.uncover(2, u"cat"_s);
+        QCOMPARE(turnedUp(rack), u"15c 16a"_s);
+        rack.coverAll();
+        QCOMPARE(turnedUp(rack), QString());
+        rack.uncover(3, u"cat"_s);
+        QCOMPARE(turnedUp(rack), u"17t"_s);
+        rack.prepare(4);
+        QCOMPARE(turnedUp(rack), QString());
+    }
+
+    void lettersBeyondTheLastTileAreLeftOut()
+    {
+        for (int letters = 31; letters <= 40; ++letters) {
+            const QString word = wordOf(letters);
+            TileRack rack;
+            rack.prepare(letters);
+            uncoverAll(rack, word);
+            for (int number = 1; number <= 30; ++number)
+                QCOMPARE(tile(rack, number).text(), word.mid(number - 1, 1));
+        }
+    }
+
+    void tilesLieInsideTheRackSideBySide_data()
+    {
+        QTest::addColumn<int>("width");
+        for (int width = 700; width <= 1200; width += 50)
+            QTest::addRow("%d pixels", width) << width;
+    }
+
+    void tilesLieInsideTheRackSideBySide()
+    {
+        QFETCH(int, width);
+        TileRack rack;
+        rack.resize(width, rack.height());
+        for (int letters = 1; letters <= 40; ++letters) {
+            rack.prepare(letters);
+            uncoverAll(rack, wordOf(letters));
+            verifyTiles(rack, std::min(letters, 30));
+        }
+    }
+
+    void openTilesFollowTheWidthOfTheRack()
+    {
+        TileRack rack;
+        rack.show();
+        rack.resize(1200, rack.height());
+        rack.prepare(30);
+        uncoverAll(rack, wordOf(30));
+        for (const int width : {700, 1000, 500, 1200}) {
+            rack.resize(width, rack.height());
+            verifyTiles(rack, 30);
+        }
+    }
+
+    void shortWordsHaveLargerTiles()
+    {
+        TileRack rack;
+        rack.resize(700, rack.height());
+        int last = 52; // the largest
+        for (int letters = 1; letters <= 30; ++letters) {
+            rack.prepare(letters);
+            rack.uncover(1, wordOf(letters));
+            const int side = turnedUpTiles(rack).front()->width();
+            QVERIFY(letters > 5 || side == 52);
+            QVERIFY(side <= last);
+            last = side;
+        }
+        QVERIFY(last >= 18);
+    }
+
+    void theRackShowsAPlaceForEachLetter()
+    {
+        TileRack rack;
+        rack.resize(900, rack.height());
+        std::vector<QImage> looks;
+        for (int letters = 0; letters <= 30; ++letters) {
+            rack.prepare(letters);
+            looks.push_back(rack.grab().toImage());
+            QVERIFY(letters == 0 || looks.back() != looks[std::size_t(letters - 1)]);
+        }
+        rack.prepare(40);
+        QVERIFY(rack.grab().toImage() == looks[30]);
+        rack.prepare(0);
+        QVERIFY(rack.grab().toImage() == looks[0]);
+    }
+
+    void tilesLookLikeTheirLetters()
+    {
+        TileRack rack;
+        rack.prepare(3);
+        uncoverAll(rack, u"cac"_s);
+        QVERIFY(tile(rack, 15).grab().toImage() == tile(rack, 17).grab().toImage());
+        QVERIFY(tile(rack, 15).grab().toImage() != tile(rack, 16).grab().toImage());
+        LetterTile &accented = tile(rack, 16);
+        accented.setText(u"á"_s);
+        QVERIFY(tile(rack, 15).grab().toImage() != accented.grab().toImage());
+    }
+
+    void tilesTakeNeitherKeyboardNorMouse()
+    {
+        TileRack rack;
+        rack.prepare(3);
+        rack.show();
+        uncoverAll(rack, u"cat"_s);
+        const LetterTile &open = tile(rack, 15);
+        QCOMPARE(open.focusPolicy(), Qt::NoFocus);
+        QCOMPARE(rack.childAt(open.geometry().center()), nullptr);
+    }
+
+    void aTileIsSeenToTurn()
+    {
+        const auto rack = shownRack(50);
+        rack->uncover(1, u"cat"_s);
+        QCOMPARE(turnsOf(tile(*rack, 15)), 1);
+        QCOMPARE(turnsOf(*rack), 1);
+        // Its letter counts at once, and the motion goes away by itself.
+        QCOMPARE(turnedUp(*rack), u"15c"_s);
+        QTRY_COMPARE(turnsOf(*rack), 0);
+        QCOMPARE(turnedUp(*rack), u"15c"_s);
+    }
+
+    void withoutMotionATileLiesThereAtOnce()
+    {
+        const auto rack = shownRack(0);
+        uncoverAll(*rack, u"cat"_s);
+        QCOMPARE(turnsOf(*rack), 0);
+        QCOMPARE(turnedUp(*rack), u"15c 16a 17t"_s);
+    }
+
+    void coveredTilesAreNotSeenTurning()
+    {
+        const auto rack = shownRack(10'000);
+        rack->uncover(1, u"cat"_s);
+        rack->coverAll();
+        QCOMPARE(turnsOf(*rack), 0);
+        QCOMPARE(turnedUp(*rack), QString());
+    }
+
+private:
+    static std::vector<LetterTile *> turnedUpTiles(const TileRack &rack)
+    {
+        std::vector<LetterTile *> tiles;
+        for (int number = 1; number <= 30; ++number)
+            if (!tile(rack, number).isHidden())
+                tiles.push_back(&tile(rack, number));
+        return tiles;
+    }
+
+    // As many tiles as said, in a row, alike, inside the rack and in its middle.
+    static void verifyTiles(const TileRack &rack, int count)
+    {
+        const std::vector<LetterTile *> tiles = turnedUpTiles(rack);
+        QCOMPARE(int(tiles.size()), count);
+        int left = 0;
+        for (const LetterTile *each : tiles) {
+            const QRect place = each->geometry();
+            QVERIFY(rack.rect().contains(place));
+            QVERIFY(place.left() >= left);
+            QCOMPARE(place.size(), tiles.front()->size());
+            QCOMPARE(place.width(), place.height());
+            left = place.right() + 1;
+        }
+        const int middle =
+            (tiles.front()->geometry().left() + tiles.back()->geometry().right()) / 2;
+        QVERIFY(std::abs(middle - rack.width() / 2) <= tiles.front()->width());
+    }
+
+    static std::unique_ptr<TileRack> shownRack(int motion)
+    {
+        auto rack = std::make_unique<TileRack>();
+        auto *style = new MotionStyle(motion);
+        style->setParent(rack.get());
+        for (LetterTile *each : rack->findChildren<LetterTile *>())
+            each->setStyle(style);
+        rack->prepare(3);
+        rack->show();
+        return rack;
+    }
+};
+
+QTEST_MAIN(TileRack_test)
+
+#include "TileRack_test.moc"

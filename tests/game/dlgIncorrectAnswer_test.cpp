@@ -1,0 +1,449 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/dlgIncorrectAnswer.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "support/Controls.h"
+#include "support/DialogAnswers.h"
+#include "support/FormTest.h"
+#include "support/FreshState.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <memory>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The open dialog, found by a look into it.
+struct AnswerForm
+{
+    explicit AnswerForm(QDialog &dialog) : form(dialog) {}
+
+    [[nodiscard]] QLabel &label(const char *name) const
+    {
+        return Controls::find<QLabel>(form, name);
+    }
+    [[nodiscard]] QPushButton &button(const char *name) const
+    {
+        return Controls::find<QPushButton>(form, name);
+    }
+    [[nodiscard]] QLineEdit &box() const
+    {
+        return Controls::find<QLineEdit>(form, "txtUserAnswer");
+    }
+
+    void click(const char *name) const { Controls::click(button(name)); }
+    void type(const QString &text) const
+    {
+        box().setFocus();
+        box().selectAll();
+        box().insert(text);
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(modifiers == Qt::NoModifier ? form.focusWidget() : &form, key, modifiers);
+    }
+    void answer(const QString &word) const
+    {
+        type(word);
+        click("cmdOK");
+    }
+
+    // Of the two display states: what is in sight, and whether OK is the default.
+    [[nodiscard]] QStringList state() const
+    {
+        QStringList state;
+        for (const char *name :
+             {"lblAnswerIs", "lblDefinition", "txtUserAnswer", "cmdOK", "cmdUp", "cmdDown"})
+            if (Controls::find<QWidget>(form, name).isVisible())
+                state += QLatin1String(name);
+        for (const char *name : {"cmdOK", "cmdUp", "cmdDown"})
+            if (button(name).isDefault())
+                state += QLatin1String(name) + u" default"_s;
+        return state;
+    }
+
+    QDialog &form;
+};
+
+const QStringList WordShown{u"lblAnswerIs"_s, u"lblDefinition"_s, u"txtUserAnswer"_s, u"cmdOK"_s,
+                            u"cmdDown"_s};
+const QStringList WordHidden{u"lblDefinition"_s, u"txtUserAnswer"_s, u"cmdOK"_s, u"cmdUp"_s,
+                             u"cmdOK default"_s};
+
+} // namespace
+
+class dlgIncorrectAnswer_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_state = std::make_unique<FreshState>();
+        m_answers = std::make_unique<DialogAnswers>();
+        setEntry(u"cat"_s, u"a small animal"_s);
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_answers->allSeen());
+        m_answers.reset();
+        m_state.reset();
+    }
+
+    void itOpensWithTheWordInSight()
+    {
+        ask([](const AnswerForm &form) {
+            QCOMPARE(form.state(), WordShown);
+            QCOMPARE(form.label("lblAnswerIs").text(), u"The correct answer is: cat"_s);
+            QCOMPARE(form.label("lblDefinition").text(), u"a small animal"_s);
+            QCOMPARE(form.box().text(), QString());
+            QCOMPARE(form.form.focusWidget(), &form.box());
+            QVERIFY(form.form.isModal());
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void itIsTheCurrentEntrysWord()
+    {
+        gVocabList().AddVocab(u"dog"_s, u"another one"_s, {});
+        gVocabList().CurrentWord(2);
+        ask([](const AnswerForm &form) {
+            QCOMPARE(form.label("lblAnswerIs").text(), u"The correct answer is: dog"_s);
+            QCOMPARE(form.label("lblDefinition").text(), u"another one"_s);
+            form.answer(u"dog"_s);
+        });
+        QCOMPARE(gVocabList().CurrentWord(), Integer(2));
+        QCOMPARE(gVocabList().Word(), u"dog"_s);
+    }
+
+    void aLongDefinitionHasSmallerType_data()
+    {
+        QTest::addColumn<int>("characters");
+        QTest::addColumn<int>("points");
+        QTest::newRow("none") << 0 << 18;
+        QTest::newRow("1") << 1 << 18;
+        QTest::newRow("100") << 100 << 18;
+        QTest::newRow("101") << 101 << 14;
+        QTest::newRow("5000") << 5000 << 14;
+    }
+
+    void aLongDefinitionHasSmallerType()
+    {
+        QFETCH(int, characters);
+        QFETCH(int, points);
+        setEntry(u"cat"_s, QString(characters, u'x'));
+        ask([&](const AnswerForm &form) {
+            QCOMPARE(form.label("lblDefinition").text().size(), characters);
+            QCOMPARE(form.label("lblDefinition").font().pointSize(), points);
+            QCOMPARE(form.label("lblDefinition").fontInfo().pointSize(), points);
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void theWordCanBeHiddenAndShownAgain()
+    {
+        ask([](const AnswerForm &form) {
+            for (int times = 1; times <= 2; ++times) {
+                form.click("cmdDown");
+                QCOMPARE(form.state(), WordHidden);
+                QCOMPARE(form.form.focusWidget(), &form.box());
+                form.click("cmdUp");
+                QCOMPARE(form.state(), WordShown);
+                QCOMPARE(form.label("lblAnswerIs").text(), u"The correct answer is: cat"_s);
+            }
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void hidingTheWordKeepsWhatIsTyped()
+    {
+        ask([](const AnswerForm &form) {
+            form.type(u"ca"_s);
+            form.click("cmdDown");
+            QCOMPARE(form.box().text(), u"ca"_s);
+            form.box().end(false);
+            QTest::keyClicks(&form.box(), u"t"_s);
+            form.press(Qt::Key_Return);
+            QVERIFY(!form.form.isVisible());
+        });
+    }
+
+    void theRightWordClosesIt_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("exactly") << u"cat"_s << u"cat"_s;
+        QTest::newRow("blanks round it") << u"cat"_s << u"  cat "_s;
+        QTest::newRow("blanks round the stored word") << u" cat  "_s << u"cat"_s;
+        QTest::newRow("blanks round both") << u" cat"_s << u"cat  "_s;
+        QTest::newRow("phrase") << u"ice cream"_s << u"ice cream"_s;
+        QTest::newRow("accents") << u"été"_s << u"été"_s;
+        QTest::newRow("one letter") << u"a"_s << u"a"_s;
+        QTest::newRow("no letters") << u""_s << u" "_s;
+    }
+
+    void theRightWordClosesIt()
+    {
+        QFETCH(QString, word);
+        QFETCH(QString, typed);
+        setEntry(word, {});
+        ask([&](const AnswerForm &form) {
+            form.type(typed);
+            QCOMPARE(form.box().text(), typed);
+            form.click("cmdOK");
+            QVERIFY(!form.form.isVisible());
+        });
+    }
+
+    void aWrongWordIsToldAndTheDialogStays_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("other letter case") << u"Cat"_s;
+        QTest::newRow("capitals") << u"CAT"_s;
+        QTest::newRow("nothing") << u""_s;
+        QTest::newRow("blanks") << u"  "_s;
+        QTest::newRow("part") << u"ca"_s;
+        QTest::newRow("longer") << u"cats"_s;
+        QTest::newRow("blank inside") << u"c at"_s;
+        QTest::newRow("fixed blank behind") << u"cat\u00A0"_s;
+        QTest::newRow("accent") << u"cát"_s;
+    }
+
+    void aWrongWordIsToldAndTheDialogStays()
+    {
+        QFETCH(QString, typed);
+        for (const bool hidden : {false, true})
+            ask([&](const AnswerForm &form) {
+                if (hidden)
+                    form.click("cmdDown");
+                m_answers->expectMsgBox(
+                    u"The correct word is: 'cat'"_s, QMessageBox::Ok,
+                    [](QMessageBox &box) { QCOMPARE(box.standardButtons(), QMessageBox::Ok); });
+                form.type(typed);
+                form.button("cmdOK").setFocus();
+                form.click("cmdOK");
+                QVERIFY(form.form.isVisible());
+                QCOMPARE(form.state(), hidden ? WordHidden : WordShown);
+                QCOMPARE(form.box().text(), typed);
+                QCOMPARE(form.form.focusWidget(), &form.box());
+                form.answer(u"cat"_s);
+            });
+    }
+
+    void theMessageShowsTheWordAsItIsStored()
+    {
+        setEntry(u" it's "_s, {});
+        ask([this](const AnswerForm &form) {
+            m_answers->expectMsgBox(u"The correct word is: ' it's '"_s);
+            form.answer(u"its"_s);
+            form.answer(u"it's"_s);
+        });
+    }
+
+    void enterChecksTheWordWhileItIsHidden_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("Return") << Qt::Key_Return;
+        QTest::newRow("Enter") << Qt::Key_Enter;
+    }
+
+    void enterChecksTheWordWhileItIsHidden()
+    {
+        QFETCH(Qt::Key, key);
+        ask([&](const AnswerForm &form) {
+            form.click("cmdDown");
+            m_answers->expectMsgBox(u"The correct word is: 'cat'"_s);
+            form.type(u"dog"_s);
+            form.press(key);
+            QVERIFY(form.form.isVisible());
+            form.type(u"cat"_s);
+            form.press(key);
+            QVERIFY(!form.form.isVisible());
+        });
+    }
+
+    void enterDoesNothingWhileTheWordIsInSight_data() { enterChecksTheWordWhileItIsHidden_data(); }
+
+    void enterDoesNothingWhileTheWordIsInSight()
+    {
+        QFETCH(Qt::Key, key);
+        ask([&](const AnswerForm &form) {
+            for (const QString &typed : {u"cat"_s, u"dog"_s, QString()}) {
+                form.type(typed);
+                form.press(key);
+                QVERIFY(form.form.isVisible());
+                QCOMPARE(form.state(), WordShown);
+            }
+            // Hidden and shown again, it is as before.
+            form.click("cmdDown");
+            form.click("cmdUp");
+            form.type(u"cat"_s);
+            form.press(key);
+            QVERIFY(form.form.isVisible());
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void enterPressesTheButtonThatHasTheKeyboard()
+    {
+        ask([](const AnswerForm &form) {
+            form.type(u"cat"_s);
+            form.button("cmdDown").setFocus();
+            form.press(Qt::Key_Return);
+            QCOMPARE(form.state(), WordHidden);
+            form.button("cmdUp").setFocus();
+            form.press(Qt::Key_Return);
+            QCOMPARE(form.state(), WordShown);
+            form.button("cmdOK").setFocus();
+            form.press(Qt::Key_Return);
+            QVERIFY(!form.form.isVisible());
+        });
+    }
+
+    void escAndTheCloseBoxDoNothing_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::addColumn<bool>("hidden");
+        QTest::newRow("Esc, word in sight") << true << false;
+        QTest::newRow("Esc, word hidden") << true << true;
+        QTest::newRow("close box, word in sight") << false << false;
+        QTest::newRow("close box, word hidden") << false << true;
+    }
+
+    void escAndTheCloseBoxDoNothing()
+    {
+        QFETCH(bool, byKey);
+        QFETCH(bool, hidden);
+        ask([&](const AnswerForm &form) {
+            const auto leave = [&] {
+                if (byKey)
+                    form.press(Qt::Key_Escape);
+                else
+                    form.form.close();
+            };
+            if (hidden)
+                form.click("cmdDown");
+            leave();
+            QVERIFY(form.form.isVisible());
+            // The right word counts when it is checked, not when it is typed.
+            form.type(u"cat"_s);
+            leave();
+            QVERIFY(form.form.isVisible());
+            m_answers->expectMsgBox(u"The correct word is: 'cat'"_s);
+            form.answer(u"dog"_s);
+            leave();
+            QVERIFY(form.form.isVisible());
+            QCOMPARE(form.state(), hidden ? WordHidden : WordShown);
+            QCOMPARE(form.box().text(), u"dog"_s);
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void itWorksByKeyboardAlone()
+    {
+        ask([](const AnswerForm &form) {
+            QStringList reached;
+            for (int i = 0; i < 3; ++i) {
+                reached << form.form.focusWidget()->objectName();
+                form.press(Qt::Key_Tab);
+            }
+            QCOMPARE(reached, (QStringList{u"txtUserAnswer"_s, u"cmdOK"_s, u"cmdDown"_s}));
+            QCOMPARE(form.form.focusWidget(), &form.box());
+            form.press(Qt::Key_H, Qt::AltModifier);
+            QTRY_COMPARE(form.state(), WordHidden);
+            form.press(Qt::Key_S, Qt::AltModifier);
+            QTRY_COMPARE(form.state(), WordShown);
+            form.type(u"cat"_s);
+            form.press(Qt::Key_O, Qt::AltModifier);
+            QTRY_VERIFY(!form.form.isVisible());
+        });
+    }
+
+    void textsAreShownAsTheyAre()
+    {
+        setEntry(u"<b>R&D</b>"_s, u"<i>a</i> & b\r\nc"_s);
+        ask([](const AnswerForm &form) {
+            QCOMPARE(form.label("lblAnswerIs").text(), u"The correct answer is: <b>R&D</b>"_s);
+            QCOMPARE(form.label("lblAnswerIs").textFormat(), Qt::PlainText);
+            QCOMPARE(form.label("lblDefinition").text(), u"<i>a</i> & b\r\nc"_s);
+            form.answer(u"<b>R&D</b>"_s);
+        });
+    }
+
+    void longTextsLeaveTheControlsInSight_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("definition");
+        QTest::newRow("long definition") << u"cat"_s << u"a small animal "_s.repeated(400);
+        QTest::newRow("endless definition") << u"cat"_s << QString(5000, u'm');
+        QTest::newRow("45 letters")
+            << u"pneumonoultramicroscopicsilicovolcanoconiosis"_s << u"a disease"_s;
+        QTest::newRow("long phrase")
+            << u"a rather long phrase "_s.repeated(10).trimmed() << u"x"_s.repeated(300);
+        QTest::newRow("endless word") << QString(200, u'm') << u"long"_s;
+        QTest::newRow("2000 letters") << QString(2000, u'm') << QString(5000, u'm');
+    }
+
+    void longTextsLeaveTheControlsInSight()
+    {
+        QFETCH(QString, word);
+        QFETCH(QString, definition);
+        setEntry(word, definition);
+        ask([&](const AnswerForm &form) {
+            const QRect inside = form.form.rect();
+            QVERIFY(form.form.width() <= form.form.screen()->availableSize().width());
+            QVERIFY(form.form.height() <= form.form.screen()->availableSize().height());
+            for (const char *name : {"lblAnswerIs", "txtUserAnswer", "cmdOK", "cmdDown"}) {
+                const QWidget &control = Controls::find<QWidget>(form.form, name);
+                const QRect place(control.mapTo(&form.form, QPoint()), control.size());
+                QVERIFY2(inside.contains(place), name);
+            }
+            // A definition that is longer than its place can be scrolled to its end.
+            QScrollArea &area = Controls::find<QScrollArea>(form.form, "definitionArea");
+            const QWidget &label = *area.widget();
+            QVERIFY(label.width() <= area.viewport()->width());
+            QVERIFY(area.verticalScrollBar()->maximum() + area.viewport()->height() >=
+                    label.heightForWidth(label.width()));
+            form.box().setText(word);
+            form.click("cmdOK");
+        });
+    }
+
+private:
+    static void setEntry(const QString &word, const QString &definition)
+    {
+        gVocabList().ClearList();
+        gVocabList().AddVocab(word, definition, u"A sentence."_s);
+        gVocabList().CurrentWord(1);
+    }
+
+    // Opens the dialog as the game does; `use` has to type the word.
+    void ask(const std::function<void(const AnswerForm &)> &use)
+    {
+        m_answers->useForm("dlgIncorrectAnswer", [use](QDialog &dialog) {
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            use(AnswerForm(dialog));
+        });
+        dlgIncorrectAnswer(nullptr).exec();
+    }
+
+    std::unique_ptr<FreshState> m_state;
+    std::unique_ptr<DialogAnswers> m_answers;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<dlgIncorrectAnswer_test>(argc, argv);
+}
+
+#include "dlgIncorrectAnswer_test.moc"

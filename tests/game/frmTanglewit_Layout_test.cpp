@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Where the controls of the game's windows lie. CTest runs this on screens of several sizes.
+#include "game/frmTanglewit.h"
+
+#include "game/GameForm.h"
+#include "support/FormTest.h"
+
+#include <QScreen>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QRect placeIn(const QWidget &window, const QWidget &control)
+{
+    return {control.mapTo(&window, QPoint()), control.size()};
+}
+
+// The controls themselves, not the parts that Qt builds them of, nor what scrolls.
+QList<QWidget *> visibleControls(const QWidget &window)
+{
+    QList<QWidget *> controls;
+    const QList<QWidget *> all = window.findChildren<QWidget *>();
+    for (QWidget *control : all) {
+        const QString name = control->objectName();
+        const bool scrolls = control->parentWidget()->objectName() == u"qt_scrollarea_viewport"_s;
+        if (control->window() == &window && control->isVisible() && !name.isEmpty() &&
+            !name.startsWith(u"qt_"_s) && !scrolls)
+            controls += control;
+    }
+    return controls;
+}
+
+void checkNothingIsCut(QWidget &window)
+{
+    // A window that grows with its texts lays itself out again.
+    for (int i = 0; i < 5; ++i)
+        QApplication::processEvents();
+    const QByteArray size = QStringLiteral("%1 %2x%3")
+                                .arg(window.objectName())
+                                .arg(window.width())
+                                .arg(window.height())
+                                .toUtf8();
+    QVERIFY2(window.screen()->geometry().contains(window.geometry()), size);
+    const QList<QWidget *> controls = visibleControls(window);
+    QVERIFY(controls.size() > 4);
+    for (const QWidget *control : controls) {
+        const QByteArray name = control->objectName().toUtf8();
+        QVERIFY2(!control->size().isEmpty(), name);
+        QVERIFY2(window.rect().contains(placeIn(window, *control)), name);
+        QVERIFY2(control->parentWidget()->rect().contains(control->geometry()), name);
+        if (qobject_cast<const QPushButton *>(control) || qobject_cast<const QLineEdit *>(control))
+            if (!name.startsWith("cmdLetters")) {
+                QVERIFY2(control->width() >= control->minimumSizeHint().width(), name);
+                QVERIFY2(control->height() >= control->minimumSizeHint().height(), name);
+            }
+        for (const QWidget *other : controls)
+            if (other != control && other->parentWidget() == control->parentWidget())
+                QVERIFY2(!other->geometry().intersects(control->geometry()),
+                         name + " and " + other->objectName().toUtf8());
+    }
+}
+
+// Room for a line of the text at least.
+void checkTextsCanBeRead(GameForm &form)
+{
+    for (const char *name : {"clueArea", "sentenceArea"}) {
+        const auto &area = form.control<QAbstractScrollArea>(name);
+        const QFontMetrics type(
+            form.control<QLabel>(name == QByteArray("clueArea") ? "lblClue" : "lblSentence")
+                .font());
+        QVERIFY2(area.viewport()->height() >= type.height(), name);
+        QVERIFY2(area.viewport()->width() > form.window().width() / 3, name);
+    }
+}
+
+} // namespace
+
+class frmTanglewit_Layout_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { m_type = QApplication::font(); }
+
+    void cleanup()
+    {
+        if (m_form)
+            QVERIFY(m_form->answers.allSeen());
+        m_form.reset();
+        QApplication::setFont(m_type);
+    }
+
+    void theWindowFitsItsScreen()
+    {
+        m_form = std::make_unique<GameForm>();
+        m_form->open();
+        const QRect room = m_form->window().screen()->availableGeometry();
+        const QSize size = m_form->window().size();
+        if (room.width() <= 800) {
+            QVERIFY(m_form->window().isMaximized());
+            QCOMPARE(m_form->window().geometry(), room);
+            return;
+        }
+        QVERIFY(!m_form->window().isMaximized());
+        QVERIFY(room.contains(m_form->window().frameGeometry()));
+        QVERIFY(size.width() > 800 && size.height() > 600);
+        QVERIFY(size.width() <= 1200 && size.height() <= 900);
+        QVERIFY(qAbs(double(size.width()) / size.height() - 4.0 / 3) < 0.02);
+        const QPoint off = m_form->window().geometry().center() - room.center();
+        QVERIFY(qAbs(off.x()) <= 1 && qAbs(off.y()) <= 1);
+    }
+
+    void theWindowIsAsLargeWhenItComesBack()
+    {
+        m_form = std::make_unique<GameForm>();
+        m_form->open();
+        const QRect place = m_form->window().geometry();
+        m_form->window().close();
+        m_form->open();
+        QCOMPARE(m_form->window().geometry(), place);
+    }
+
+    void nothingIsCut_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("definition");
+        QTest::addColumn<QString>("sentence");
+        QTest::addColumn<double>("scale");
+        const QString endless(600, u'w');
+        const QString clue = u"a fruit of a tree "_s.repeated(17).left(300);
+        const QString sentence = u"He ate an apple at noon. "_s.repeated(24);
+        for (const double scale : {1.0, 1.5}) {
+            const QByteArray type = scale > 1 ? ", large type" : "";
+            QTest::newRow("short" + type) << u"apple"_s << u"fruit"_s << u"An apple."_s << scale;
+            QTest::newRow("no texts" + type) << u"apple"_s << QString() << QString() << scale;
+            QTest::newRow("long clue" + type) << u"apple"_s << clue << QString() << scale;
+            QTest::newRow("long sentence" + type) << u"apple"_s << QString() << sentence << scale;
+            QTest::newRow("both" + type) << u"apple"_s << clue << sentence << scale;
+            QTest::newRow("endless words" + type) << u"apple"_s << endless << endless << scale;
+            QTest::newRow("wide word" + type)
+                << QString(16, u'W') + u"abc"_s << clue << sentence << scale;
+            QTest::newRow("30 letters" + type)
+                << QString(29, u'W') + u"M"_s << clue << sentence << scale;
+            if (scale == 1)
+                QTest::newRow("endless" + type) << endless + u"ab"_s << endless << endless << scale;
+        }
+    }
+
+    void nothingIsCut()
+    {
+        QFETCH(QString, word);
+        QFETCH(QString, definition);
+        QFETCH(QString, sentence);
+        QFETCH(double, scale);
+        QFont type = m_type;
+        type.setPointSizeF(type.pointSizeF() * scale);
+        QApplication::setFont(type);
+        m_form = std::make_unique<GameForm>();
+        gVocabList().ClearList();
+        gVocabList().AddVocab(word, definition, sentence);
+        m_form->open();
+        const QRect place = m_form->window().geometry();
+        checkNothingIsCut(m_form->window());
+
+        m_form->click("cmdStart");
+        checkNothingIsCut(m_form->window());
+        checkTextsCanBeRead(*m_form);
+        m_form->click("cmdHide");
+        checkNothingIsCut(m_form->window());
+        m_form->click("cmdShow");
+        m_form->answerRight();
+        m_form->expectMiss([](QDialog &dialog) {
+            checkNothingIsCut(dialog);
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdDown"));
+            checkNothingIsCut(dialog);
+        });
+        m_form->passTime(30);
+        m_form->waitForWindow();
+        m_form->expectMiss();
+        m_form->answer(QString(300, u'x'));
+        checkNothingIsCut(m_form->window());
+
+        m_form->loseAllLives(QString(60, u'W'));
+        checkNothingIsCut(m_form->window());
+        m_form->expectTop10([](QDialog &dialog) { checkNothingIsCut(dialog); });
+        m_form->click("cmdViewTop10");
+        QCOMPARE(m_form->window().geometry(), place);
+    }
+
+    void everyOpenTileLiesOnTheRack_data()
+    {
+        QTest::addColumn<int>("letters");
+        for (const int letters : {3, 4, 5, 15, 16, 29, 30, 40})
+            QTest::addRow("%d", letters) << letters;
+    }
+
+    void everyOpenTileLiesOnTheRack()
+    {
+        QFETCH(int, letters);
+        QString word;
+        for (int i = 0; i < letters; ++i)
+            word += QChar(u'a' + i % 26);
+        m_form = std::make_unique<GameForm>(QStringList{word});
+        m_form->start();
+        m_form->expectMiss([this, letters](QDialog &) {
+            QCOMPARE(m_form->tiles().size(), std::min(letters, 30));
+            checkNothingIsCut(m_form->window());
+        });
+        m_form->passTime(30);
+    }
+
+    void theTop10WithANameBeingTypedIsWhole_data()
+    {
+        QTest::addColumn<double>("scale");
+        QTest::newRow("usual type") << 1.0;
+        QTest::newRow("large type") << 1.5;
+    }
+
+    void theTop10WithANameBeingTypedIsWhole()
+    {
+        QFETCH(double, scale);
+        QFont type = m_type;
+        type.setPointSizeF(type.pointSizeF() * scale);
+        QApplication::setFont(type);
+        m_form = std::make_unique<GameForm>();
+        for (std::size_t i = 0; i < gTop10.size(); ++i)
+            gTop10[i] = {QDate(2024, 12, 30), QString(60, u'W'), 30000};
+        gTop10[9].Points = 1;
+        m_form->start();
+        m_form->answerRight();
+        m_form->expectTop10Entry(QString(60, u'W'),
+                                 [](QDialog &dialog) { checkNothingIsCut(dialog); });
+        m_form->click("cmdQuit");
+        QCOMPARE(gTop10[9].Points, Integer(4));
+    }
+
+private:
+    QFont m_type;
+    std::unique_ptr<GameForm> m_form;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmTanglewit_Layout_test>(argc, argv);
+}
+
+#include "frmTanglewit_Layout_test.moc"
