@@ -86,6 +86,16 @@ private Q_SLOTS:
         QCOMPARE(file.readAll(), QByteArray("scores"));
     }
 
+    void whatComesWithTheProgramIsFoundFromItsFolderAndNeverMade()
+    {
+        const QDir program(QCoreApplication::applicationDirPath());
+        QCOMPARE(pathOf(Place::Plugins),
+                 QDir::cleanPath(program.filePath(QStringLiteral("../../plugins"))));
+        QVERIFY(QDir(pathOf(Place::Plugins)).exists());
+        QVERIFY(QDir(pathOf(Place::Audio)).isAbsolute());
+        QCOMPARE(QDir(pathOf(Place::Audio)).dirName(), QStringLiteral("Audio"));
+    }
+
 private:
     std::unique_ptr<QTemporaryDir> m_home;
 };

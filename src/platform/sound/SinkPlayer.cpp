@@ -10,6 +10,9 @@
 
 namespace {
 
+// Enough to get over a machine that is busy for a moment; a request does not wait for it to empty.
+constexpr int BufferedMilliseconds = 500;
+
 QAudioFormat formatOf(const WaveFile &wave)
 {
     QAudioFormat format;
@@ -28,13 +31,17 @@ SinkPlayer::~SinkPlayer() = default;
 void SinkPlayer::loop(const QString &path)
 {
     stop();
+    if (path.isEmpty())
+        return;
     std::optional<WaveFile> wave = readWaveFile(path);
     if (!wave)
         return;
     const QAudioDevice device = QMediaDevices::defaultAudioOutput();
     if (device.isNull())
         return;
-    m_sink = std::make_unique<QAudioSink>(device, formatOf(*wave));
+    const QAudioFormat format = formatOf(*wave);
+    m_sink = std::make_unique<QAudioSink>(device, format);
+    m_sink->setBufferSize(format.bytesForDuration(BufferedMilliseconds * 1000LL));
     m_sink->start(new LoopingSound(std::move(wave->samples), m_sink.get()));
 }
 

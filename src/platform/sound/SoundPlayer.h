@@ -8,8 +8,8 @@ class QString;
 class SoundPlayer
 {
 public:
-    static constexpr char LibraryName[] = "tanglewit_sound"; // without what the system adds
-    static constexpr char MakeName[] = "tanglewitMakeSoundPlayer";
+    static constexpr const char *LibraryName = "tanglewit_sound"; // without what the system adds
+    static constexpr const char *MakeName = "tanglewitMakeSoundPlayer";
     using MakeFunction = SoundPlayer *(); // the caller owns the player
 
     SoundPlayer() = default;

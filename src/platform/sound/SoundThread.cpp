@@ -67,11 +67,13 @@ private:
 
 } // namespace
 
-SoundThread::SoundThread() : m_worker(new Worker(pathOf(Place::Plugins)))
+SoundThread::SoundThread()
 {
-    m_worker->moveToThread(this);
+    auto *worker = new Worker(pathOf(Place::Plugins));
+    worker->moveToThread(this);
+    connect(this, &SoundThread::requested, worker, &Worker::loop);
     // Sound streams end in the thread that made them.
-    connect(this, &QThread::finished, m_worker, &QObject::deleteLater);
+    connect(this, &QThread::finished, worker, &QObject::deleteLater);
     g_windowsThread = QThread::currentThreadId();
     if (!g_otherMessages)
         g_otherMessages = qInstallMessageHandler(withoutMessagesOfSound);
@@ -85,20 +87,14 @@ void SoundThread::loop(const QString &path)
 {
     if (!g_thread)
         g_thread.reset(new SoundThread);
-    g_thread->request(path);
+    Q_EMIT g_thread->requested(path);
 }
 
 void SoundThread::silence()
 {
     // Without the thread nothing plays.
     if (g_thread)
-        g_thread->request(QString());
-}
-
-void SoundThread::request(const QString &path)
-{
-    auto *worker = static_cast<Worker *>(m_worker);
-    QMetaObject::invokeMethod(worker, [worker, path] { worker->loop(path); });
+        Q_EMIT g_thread->requested(QString());
 }
 
 void SoundThread::end()

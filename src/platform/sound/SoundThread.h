@@ -16,11 +16,11 @@ public:
 
     ~SoundThread() override;
 
+Q_SIGNALS:
+    void requested(const QString &path);
+
 private:
     SoundThread();
 
     static void end();
-    void request(const QString &path);
-
-    QObject *m_worker; // deletes itself when the thread ends
 };

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// playing_child WAVE: plays the file, and ends when a line comes in.
+#include "platform/sndPlaySoundA.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cstdio>
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (argc != 2)
+        return 1;
+    sndPlaySoundA(QFile::decodeName(argv[1]), SoundFlags::Asynchronous | SoundFlags::Loop);
+    std::getchar();
+    return 0;
+}

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/sndPlaySoundA.h"
+
+#include "platform/WaveBytes.h"
+
+#include <QFile>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+constexpr unsigned Play = SoundFlags::Asynchronous | SoundFlags::Loop;
+
+bool libraryIsLoaded(const QByteArray &name)
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(name);
+}
+
+} // namespace
+
+class sndPlaySoundA_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_folder.isValid());
+        m_wave = path("sound.wav");
+        QFile file(m_wave);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(waveBytes(22050, 1, 16, QByteArray(44100, '\x10')));
+        file.close();
+        // Neither this machine's server nor a new one.
+        qputenv("HOME", QFile::encodeName(m_folder.path()));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.path()));
+        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(path("no-server")));
+    }
+
+    void aPlayerInItsPlaceGetsEveryRequestAsItIs()
+    {
+        QStringList requests;
+        setSoundPlayer([&requests](const QString &fileName, unsigned flags) {
+            requests += QStringLiteral("%1 %2").arg(fileName).arg(flags);
+        });
+        sndPlaySoundA(QStringLiteral("C:\\Track01.wav"), 9);
+        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        setSoundPlayer({});
+        QCOMPARE(requests,
+                 QStringList({QStringLiteral("C:\\Track01.wav 9"), QStringLiteral("NULL 0")}));
+    }
+
+    void playingIsTheSumOfItsTwoFlags() { QCOMPARE(Play, 9U); }
+
+    void beforeTheFirstSoundNothingOfItIsLoaded()
+    {
+        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        QVERIFY(!libraryIsLoaded("tanglewit_sound"));
+        QVERIFY(!libraryIsLoaded("Qt6Multimedia"));
+        QVERIFY(!libraryIsLoaded("libpulse"));
+        QVERIFY(!libraryIsLoaded("gstreamer"));
+    }
+
+    void withoutAServerNothingIsHeardAndNothingBreaks()
+    {
+        sndPlaySoundA(m_wave, Play);
+        QTRY_VERIFY(libraryIsLoaded("Qt6Multimedia"));
+        sndPlaySoundA(m_wave, Play);
+        sndPlaySoundA(path("missing.wav"), Play);
+        sndPlaySoundA(QString(), Play);
+        sndPlaySoundA(QStringLiteral("NULL"), 0);
+    }
+
+    void aServerThatHangsUpIsNotTalkedAbout()
+    {
+        QLocalServer server;
+        QVERIFY(server.listen(path("rude-server")));
+        int calls = 0;
+        connect(&server, &QLocalServer::newConnection, this, [&server, &calls] {
+            ++calls;
+            server.nextPendingConnection()->abort();
+        });
+        QProcess *program = startedProgram(server);
+        // A second call is made when the first has come to nothing.
+        QTRY_VERIFY_WITH_TIMEOUT(calls >= 2, 20'000);
+        endsInPeace(program);
+    }
+
+    void aProgramEndsThoughItsServerNeverAnswers()
+    {
+        QLocalServer server;
+        QVERIFY(server.listen(path("deaf-server")));
+        QProcess *program = startedProgram(server);
+        QTRY_VERIFY(server.hasPendingConnections());
+        // By itself the call would last half a minute.
+        endsInPeace(program);
+    }
+
+private:
+    [[nodiscard]] QString path(const char *name) const
+    {
+        return m_folder.filePath(QLatin1String(name));
+    }
+
+    QProcess *startedProgram(const QLocalServer &server)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("PULSE_SERVER"),
+                           QStringLiteral("unix:") + server.fullServerName());
+        auto *program = new QProcess(this);
+        program->setProcessEnvironment(environment);
+        program->start(QStringLiteral(PLAYING_CHILD), {m_wave});
+        return program;
+    }
+
+    static void endsInPeace(QProcess *program)
+    {
+        program->write("\n");
+        QVERIFY(program->waitForFinished(20'000));
+        QCOMPARE(program->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program->exitCode(), 0);
+        QCOMPARE(program->readAllStandardError(), QByteArray());
+    }
+
+    QTemporaryDir m_folder;
+    QString m_wave;
+};
+
+QTEST_GUILESS_MAIN(sndPlaySoundA_test)
+#include "sndPlaySoundA_test.moc"
