@@ -10,9 +10,9 @@ struct GameState
     static constexpr int HitsPerLevel = 20;
 
     Integer NumLifes = 5;
-    Integer HitCount = 0;  // correct answers in this game
-    Integer Level = 1;     // 1 to LastLevel
-    Integer LevelHits = 0; // correct answers since the level began
+    Integer HitCount = 0;   // correct answers in this game
+    Integer Level = 1;      // 1 to LastLevel
+    Integer LevelHits = 0;  // correct answers since the level began
     Integer TimeLimit = 30; // seconds for each word at this level
     Integer CountDown = 30; // seconds left for this word
     Integer NextLetter = 1; // position in the word of the letter to uncover next

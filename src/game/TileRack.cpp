@@ -58,8 +58,7 @@ void TileRack::resizeEvent(QResizeEvent * /*event*/)
 // the word does not use may lie outside.
 void TileRack::place()
 {
-    const int pitch =
-        std::min((width() - 2 * Rim) / (m_letters.toInt() + 1), LargestTile + Gap);
+    const int pitch = std::min((width() - 2 * Rim) / (m_letters.toInt() + 1), LargestTile + Gap);
     const int side = std::max(pitch - Gap, 1);
     int left = width() / 2 - LetterTiles / 2 * pitch + Gap / 2;
     for (LetterTile *tile : m_cmdLetters) {

@@ -32,5 +32,5 @@ private:
     void place();
 
     std::vector<LetterTile *> m_cmdLetters; // 1 to 30
-    Integer m_letters; // of the word; 0 = no word yet
+    Integer m_letters;                      // of the word; 0 = no word yet
 };

@@ -31,6 +31,12 @@ frmTanglewit::frmTanglewit(MusicMenu menu, QWidget *mainWindow)
     m_Timer1.setParent(this);
     m_Timer1.setObjectName(QStringLiteral("Timer1"));
     connectHandlers();
+    // The two share one place and size.
+    for (QPushButton *button : {m_ui->cmdShow, m_ui->cmdHide}) {
+        QSizePolicy policy = button->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(policy);
+    }
 }
 
 frmTanglewit::~frmTanglewit() = default;
@@ -50,12 +56,6 @@ void frmTanglewit::connectHandlers()
     connect(m_ui->VScroll1, &QScrollBar::valueChanged, this,
             guarded(this, &frmTanglewit::VScroll1_Change));
     connect(&m_Timer1, &QTimer::timeout, this, guarded(this, &frmTanglewit::Timer1_Timer));
-    // A long text can be scrolled by keyboard.
-    for (QScrollArea *area : {m_ui->clueArea, m_ui->sentenceArea})
-        connect(area->verticalScrollBar(), &QScrollBar::rangeChanged, area,
-                [area](int, int maximum) {
-                    area->setFocusPolicy(maximum > 0 ? Qt::TabFocus : Qt::NoFocus);
-                });
 }
 
 void frmTanglewit::Form_Load()
@@ -174,6 +174,7 @@ void frmTanglewit::cmdViewTop10_Click()
     gViewTop10Only = true;
     dlgGameOver(m_music, this).exec();
     gViewTop10Only = false;
+    showGame(); // Close ends the score
 }
 
 // Leaves lives, level and lists as they are.

@@ -44,10 +44,8 @@ FlashCard { border-radius: 14px; border: 1px solid @line; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
 FlashCard:focus { border: 2px solid @focus; }
 #wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
-#clueArea, #sentenceArea, #definitionArea { background: transparent; }
-#clueArea > QWidget > QWidget, #sentenceArea > QWidget > QWidget,
-#definitionArea > QWidget > QWidget { background: transparent; }
-#clueArea:focus, #sentenceArea:focus, #definitionArea:focus { border: 2px solid @focus; }
+ScrolledArea, ScrolledArea > QWidget > QWidget { background: transparent; }
+ScrolledArea:focus { border: 2px solid @focus; }
 #scoreCaption, #levelCaption, #livesCaption, #clueCaption, #sentenceCaption { color: @quiet; }
 #lblScore, #lblLevel, #lblNumLifes { font-size: 28px; font-weight: bold; }
 #txtUserAnswer { font-size: 20px; }

@@ -238,6 +238,7 @@ private Q_SLOTS:
             m_form->answers.useForm("dlgGameOver", [](QDialog &dialog) { dialog.close(); });
         m_form->click("cmdViewTop10");
         QCOMPARE(gScore, Integer(score));
+        QCOMPARE(m_form->text("lblScore"), QString::number(score));
         m_form->answerRight();
         QCOMPARE(m_form->text("lblScore"), QString::number(score + 4));
     }
