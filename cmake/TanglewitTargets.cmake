@@ -45,6 +45,11 @@ function(tanglewit_test name)
   set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${name} PRIVATE Qt6::Test ${arg_LINKS})
+  target_compile_definitions(${name} PRIVATE TANGLEWIT_TESTS_FOLDER="${PROJECT_SOURCE_DIR}/tests")
+  # Only what is compiled in the same way can share the precompiled headers.
+  if("tanglewit_test_support" IN_LIST arg_LINKS AND NOT "${arg_LINKS}" MATCHES "Qt6::")
+    target_precompile_headers(${name} REUSE_FROM tanglewit_test_headers)
+  endif()
   add_test(NAME ${folder}/${name} COMMAND ${name})
   set_tests_properties(
     ${folder}/${name}

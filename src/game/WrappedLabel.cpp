@@ -35,6 +35,7 @@ double breakLines(QTextLayout &layout, double width)
 
 WrappedLabel::WrappedLabel(QWidget *parent) : QLabel(parent)
 {
+    setTextFormat(Qt::PlainText);
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);

@@ -64,8 +64,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, file);
         QFETCH(QStringList, entries);
-        const QString source =
-            QFINDTESTDATA(qPrintable(QStringLiteral("../transfer/data/") + file));
+        const QString source = QStringLiteral(TANGLEWIT_TESTS_FOLDER "/transfer/data/") + file;
         QVERIFY2(QFile::exists(source), qPrintable(file));
         const QString chosen = m_command->main.path(QStringLiteral("table.dif"));
         QVERIFY(QFile::copy(source, chosen));

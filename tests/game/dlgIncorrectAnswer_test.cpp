@@ -403,17 +403,20 @@ private Q_SLOTS:
             const QRect inside = form.form.rect();
             QVERIFY(form.form.width() <= form.form.screen()->availableSize().width());
             QVERIFY(form.form.height() <= form.form.screen()->availableSize().height());
-            for (const char *name : {"lblAnswerIs", "txtUserAnswer", "cmdOK", "cmdDown"}) {
+            for (const char *name : {"answerArea", "txtUserAnswer", "cmdOK", "cmdDown"}) {
                 const QWidget &control = Controls::find<QWidget>(form.form, name);
                 const QRect place(control.mapTo(&form.form, QPoint()), control.size());
                 QVERIFY2(inside.contains(place), name);
             }
-            // A definition that is longer than its place can be scrolled to its end.
-            QScrollArea &area = Controls::find<QScrollArea>(form.form, "definitionArea");
-            const QWidget &label = *area.widget();
-            QVERIFY(label.width() <= area.viewport()->width());
-            QVERIFY(area.verticalScrollBar()->maximum() + area.viewport()->height() >=
-                    label.heightForWidth(label.width()));
+            // A text that is longer than its place can be scrolled to its end, by keyboard too.
+            for (const char *name : {"answerArea", "definitionArea"}) {
+                const QScrollArea &area = Controls::find<QScrollArea>(form.form, name);
+                const QWidget &label = *area.widget();
+                QVERIFY(label.width() <= area.viewport()->width());
+                const int hidden = area.verticalScrollBar()->maximum();
+                QVERIFY(hidden + area.viewport()->height() >= label.heightForWidth(label.width()));
+                QCOMPARE(area.focusPolicy(), hidden > 0 ? Qt::TabFocus : Qt::NoFocus);
+            }
             form.box().setText(word);
             form.click("cmdOK");
         });
