@@ -296,13 +296,16 @@ void frmMain_Keyboard_test::tabWalksWordDefinitionSentenceButtons_data()
             strings += QLatin1String(name);
         return strings;
     };
-    QTest::newRow("idle") << names({"MSFlexGrid1", "cmdNewWord", "cmdSearch", "cmdQuickFlash"});
+    QTest::newRow("idle") << names(
+        {"MSFlexGrid1", "cmdNewWord", "cmdSearch", "cmdQuickFlash", "cmdPlayScramble"});
     QTest::newRow("new word") << names({"txtWord", "txtDefinition", "txtSentence", "cmdAdd",
-                                        "cmdAbort", "cmdQuickFlash", "MSFlexGrid1"});
+                                        "cmdAbort", "cmdQuickFlash", "cmdPlayScramble",
+                                        "MSFlexGrid1"});
     QTest::newRow("editing") << names({"txtWord", "txtDefinition", "txtSentence", "cmdAdd",
-                                       "cmdAbort", "cmdDelete", "cmdQuickFlash", "MSFlexGrid1"});
+                                       "cmdAbort", "cmdDelete", "cmdQuickFlash", "cmdPlayScramble",
+                                       "MSFlexGrid1"});
     QTest::newRow("search") << names(
-        {"txtWord", "cmdAbort", "cmdSearch", "cmdQuickFlash", "MSFlexGrid1"});
+        {"txtWord", "cmdAbort", "cmdSearch", "cmdQuickFlash", "cmdPlayScramble", "MSFlexGrid1"});
 }
 
 void frmMain_Keyboard_test::tabWalksWordDefinitionSentenceButtons()
