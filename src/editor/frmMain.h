@@ -5,6 +5,7 @@
 
 #include "platform/CommonDialog.h"
 #include "platform/Form.h"
+#include "platform/PrinterDialog.h"
 #include "runtime/Integer.h"
 
 #include <QMainWindow>
@@ -89,6 +90,13 @@ private:
     void importWords(const QString &path);
     void refresh();
 
+    // frmMain_Print.cpp: printing
+    void mnuPrint_Click();
+    void mnuPrinterSetup_Click();
+    void mnuPageSetup_Click();
+    void mnuPrintWholeList_Click();
+    [[nodiscard]] SystemPrinter &printer();
+
     // frmMain_File.cpp: file commands
     void mnuNew_Click();
     void mnuOpen_Click();
@@ -100,6 +108,8 @@ private:
     std::unique_ptr<Ui::frmMain> m_ui;
     QPushButton *m_defaultButton = nullptr; // what Enter presses
     CommonDialog m_fileDialog;
+    PrinterDialog m_printerDialog;
+    std::unique_ptr<SystemPrinter> m_printer;
 
     Integer m_shownEntry;     // position of the entry in the boxes, picked or found; 0 = none
     bool m_searching = false; // the next page fill is a search's, which marks its own row

@@ -153,6 +153,7 @@ void frmMain_Start_test::eachControlIsThere_data()
                     "mnuPageSetup",
                     "mnuPrinterSetup",
                     "mnuPrint",
+                    "mnuPrintWholeList",
                     "mnuExport",
                     "mnuImport",
                     "mnuExit",
@@ -180,20 +181,10 @@ void frmMain_Start_test::eachControlIsThere()
 void frmMain_Start_test::menusHoldTheirItemsInOrder_data()
 {
     QTest::addColumn<QList<QByteArray>>("items");
-    QTest::newRow("mnuFile") << QList<QByteArray>{"mnuNew",
-                                                  "mnuOpen",
-                                                  "mnuSave",
-                                                  "mnuSaveAs",
-                                                  "mnuCreateTextFile",
-                                                  "sep1",
-                                                  "mnuPageSetup",
-                                                  "mnuPrinterSetup",
-                                                  "mnuPrint",
-                                                  "sep2",
-                                                  "mnuExport",
-                                                  "mnuImport",
-                                                  "sep",
-                                                  "mnuExit"};
+    QTest::newRow("mnuFile") << QList<QByteArray>{
+        "mnuNew", "mnuOpen",      "mnuSave",         "mnuSaveAs", "mnuCreateTextFile",
+        "sep1",   "mnuPageSetup", "mnuPrinterSetup", "mnuPrint",  "mnuPrintWholeList",
+        "sep2",   "mnuExport",    "mnuImport",       "sep",       "mnuExit"};
     QTest::newRow("mnuEdit") << QList<QByteArray>{"mnuDeleteWord"};
     QTest::newRow("mnuGame") << QList<QByteArray>{"mnuPlayScramble", "mnuQuickFlash", "mnuMusic"};
     QTest::newRow("mnuMusic") << QList<QByteArray>{"mnuUpbeat", "mnuSoothing", "mnuMusicOff"};
@@ -226,8 +217,7 @@ void frmMain_Start_test::onlySaveIsDisabledAmongTheCommands()
 void frmMain_Start_test::whatIsNotBuiltYetIsDisabled_data()
 {
     QTest::addColumn<bool>("isAction");
-    for (const char *item : {"mnuPageSetup", "mnuPrinterSetup", "mnuPrint", "mnuPlayScramble"})
-        QTest::newRow(item) << true;
+    QTest::newRow("mnuPlayScramble") << true;
     for (const char *control : {"mnuMusic", "cmdPlayScramble"})
         QTest::newRow(control) << false;
 }

@@ -32,6 +32,8 @@ void resetGlobals()
     gTop10 = {};
     gUpbeatMusic = gMusicOff = PrintItemNumber = false;
     PrintOrientation.clear();
+    TopMargin = BottomMargin = LeftMargin = RightMargin = 0;
+    FromWord = ToWord = 0;
 }
 
 } // namespace
