@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "platform/Printer.h"
+#include "print/PrintNumbers.h"
 
 #include <cstdlib>
 
@@ -35,8 +36,9 @@ WordListPrint WordListPrint::chosen()
     WordListPrint job;
     job.frame = {TopMargin.toDouble(), BottomMargin.toDouble(), LeftMargin.toDouble(),
                  RightMargin.toDouble(), PageFrame::Break::ToMargins};
-    job.first = FromWord;
-    job.last = ToWord;
+    // The range may be that of a longer list.
+    job.first = positionInList(FromWord, gVocabList().NumWords());
+    job.last = positionInList(ToWord, gVocabList().NumWords());
     if (FromWord <= ToWord)
         job.header = PrintItemNumber ? Header::NumberApart : Header::WordOnly;
     return job;
