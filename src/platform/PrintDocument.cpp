@@ -11,6 +11,8 @@
 #include <QSaveFile>
 #include <QTemporaryFile>
 
+#include <algorithm>
+
 namespace {
 
 void setUp(QPagedPaintDevice &device, const QPageLayout &layout)
@@ -172,7 +174,14 @@ QRectF printableArea(const QPageLayout &layout)
 {
     QPageLayout inches = layout;
     inches.setUnits(QPageLayout::Inch);
-    return inches.fullRect().marginsRemoved(inches.minimumMargins());
+    QMarginsF borders = inches.minimumMargins();
+    // The toolkit gives the borders of the upright sheet, which a queue may turn either way.
+    if (layout.orientation() == QPageLayout::Landscape && PrintQueue::takesFiles()) {
+        const double sides = std::max(borders.top(), borders.bottom());
+        const double ends = std::max(borders.left(), borders.right());
+        borders = QMarginsF(sides, ends, sides, ends);
+    }
+    return inches.fullRect().marginsRemoved(borders);
 }
 
 std::unique_ptr<PrintDocument> pdfDocument(const QString &path, const PrintedPaper &paper)

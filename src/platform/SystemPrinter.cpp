@@ -8,13 +8,34 @@
 
 #include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QTemporaryDir>
 
+#include <initializer_list>
 #include <utility>
+
+namespace {
+
+// The dialog wants a new file for a PDF document. Which file, is asked when there is something to
+// print.
+void hideFile(QPrintDialog &dialog, const QString &newFile)
+{
+    if (auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("filename")))
+        box->setText(newFile);
+    // The dialog shows its controls anew, but none in what is hidden.
+    auto *hidden = new QWidget(&dialog);
+    hidden->hide();
+    for (const char *name : {"lOutput", "filename", "fileBrowser"})
+        if (auto *control = dialog.findChild<QWidget *>(QLatin1String(name)))
+            control->setParent(hidden);
+}
+
+} // namespace
 
 SystemPrinter::SystemPrinter()
     : m_device(std::make_unique<QPrinter>(QPrinter::HighResolution)),
@@ -92,10 +113,11 @@ bool SystemPrinter::showSetup(QWidget *parent, const QString &title)
     // The dialog takes it that printing comes next.
     if (auto *buttons = dialog.findChild<QDialogButtonBox *>())
         buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&OK"));
+    const QTemporaryDir folder;
+    hideFile(dialog, folder.filePath(QStringLiteral("print.pdf")));
     if (dialog.exec() != QDialog::Accepted)
         return false;
     Copies = m_device->copyCount();
-    // Which file, is asked when there is something to print.
     select(m_device->outputFormat() == QPrinter::PdfFormat ? printToPdf()
                                                            : m_device->printerName());
     return true;

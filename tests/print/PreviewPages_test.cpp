@@ -145,8 +145,9 @@ private Q_SLOTS:
 
     void aRangeBeyondTheListTellsWhatPrintingItWould()
     {
-        ToWord = 100;
-        PreviewPages preview(metrics(), gVocabList(), WordListPrint::chosen(), 1);
+        WordListPrint job = WordListPrint::chosen();
+        job.last = 100;
+        PreviewPages preview(metrics(), gVocabList(), job, 1);
         complete(preview);
         QVERIFY(preview.failure().contains(u"Subscript out of range"_s));
         QCOMPARE(preview.count(), 0);

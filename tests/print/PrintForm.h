@@ -18,7 +18,7 @@
 
 #include <memory>
 
-class PrintForm final
+class PrintForm
 {
     FreshState m_state;
 

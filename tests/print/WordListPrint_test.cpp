@@ -168,9 +168,10 @@ private Q_SLOTS:
     void aPositionBeyondTheListDropsTheDocument()
     {
         RecordingPrinter printer;
-        ToWord = 100;
-        QCOMPARE(errorNumberOf(
-                     [&] { return WordListPrint::chosen().print(printer, gVocabList(), goOn); }),
+        WordListPrint job;
+        job.first = 1;
+        job.last = 100;
+        QCOMPARE(errorNumberOf([&] { return job.print(printer, gVocabList(), goOn); }),
                  RunTimeError::SubscriptOutOfRange);
         QCOMPARE(printer.ended, 0);
         QCOMPARE(printer.dropped, 1);
