@@ -3,6 +3,7 @@
 #pragma once
 
 #include "runtime/Array.h"
+#include "runtime/Currency.h"
 #include "runtime/Integer.h"
 
 #include <QDate>
@@ -68,6 +69,14 @@ inline bool gMusicOff = false;    // no music is to be played
 inline Array<QString> gFastBeatTracks;
 inline Array<QString> gSoftBeatTracks;
 
+// The margins of printed pages in inches, 0 to 3, and the range of entries; 0 in either of these
+// means that none has been set yet.
+inline Currency TopMargin;
+inline Currency BottomMargin;
+inline Currency LeftMargin;
+inline Currency RightMargin;
+inline Integer FromWord;
+inline Integer ToWord; // below FromWord, the range runs downwards
 inline bool PrintItemNumber = false;
 inline QString PrintOrientation; // "Portrait" or "Landscape"
 

@@ -62,6 +62,8 @@ public:
     [[nodiscard]] QString Word() const;
     [[nodiscard]] QString Definition() const;
     [[nodiscard]] QString Sentence() const;
+    // Reads an entry without making it current. Its texts end with the list's next change.
+    [[nodiscard]] const VocabRecord &entry(Integer position) const { return slot(position); }
     // The number of characters of the current word, as text.
     [[nodiscard]] QString length() const;
 

@@ -63,6 +63,10 @@ void frmMain::connectHandlers()
     onChoice(m_ui->mnuSave, &frmMain::mnuSave_Click);
     onChoice(m_ui->mnuSaveAs, &frmMain::mnuSaveAs_Click);
     onChoice(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
+    onChoice(m_ui->mnuPageSetup, &frmMain::mnuPageSetup_Click);
+    onChoice(m_ui->mnuPrinterSetup, &frmMain::mnuPrinterSetup_Click);
+    onChoice(m_ui->mnuPrint, &frmMain::mnuPrint_Click);
+    onChoice(m_ui->mnuPrintWholeList, &frmMain::mnuPrintWholeList_Click);
     onChoice(m_ui->mnuExport, &frmMain::mnuExport_Click);
     onChoice(m_ui->mnuImport, &frmMain::mnuImport_Click);
     onChoice(m_ui->mnuPlayScramble, &frmMain::cmdPlayScramble_Click);

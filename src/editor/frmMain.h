@@ -6,6 +6,7 @@
 #include "platform/CommonDialog.h"
 #include "platform/DefaultButton.h"
 #include "platform/Form.h"
+#include "platform/PrinterDialog.h"
 #include "runtime/Integer.h"
 
 #include <QMainWindow>
@@ -98,6 +99,13 @@ private:
     void checkMusic(const QAction *chosen);
     void unloadGame();
 
+    // frmMain_Print.cpp: printing
+    void mnuPrint_Click();
+    void mnuPrinterSetup_Click();
+    void mnuPageSetup_Click();
+    void mnuPrintWholeList_Click();
+    [[nodiscard]] SystemPrinter &printer();
+
     // frmMain_File.cpp: file commands
     void mnuNew_Click();
     void mnuOpen_Click();
@@ -110,6 +118,8 @@ private:
     std::unique_ptr<frmTanglewit> m_frmTanglewit; // made for the first game
     DefaultButton m_defaultButton;
     CommonDialog m_fileDialog;
+    PrinterDialog m_printerDialog;
+    std::unique_ptr<SystemPrinter> m_printer;
 
     Integer m_shownEntry;     // position of the entry in the boxes, picked or found; 0 = none
     bool m_searching = false; // the next page fill is a search's, which marks its own row

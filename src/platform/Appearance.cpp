@@ -38,7 +38,7 @@ QPushButton {
 QPushButton:hover { border-color: @accent; }
 QPushButton:pressed { background: @line; }
 QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
-QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; }
+QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; outline: none; }
 QPushButton:disabled { background: palette(window); color: @disabled; border-color: @line; }
 FlashCard { border-radius: 14px; border: 1px solid @line; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }

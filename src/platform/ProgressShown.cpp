@@ -26,7 +26,7 @@ protected:
 
 } // namespace
 
-ProgressShown::ProgressShown(QWidget *window) : m_window(*window)
+ProgressShown::ProgressShown(QWidget *window, Cancel cancel) : m_window(*window), m_cancel(cancel)
 {
     m_window.setCursor(Qt::WaitCursor);
     m_sinceShown.start();
@@ -42,8 +42,12 @@ void ProgressShown::show(int done, int total)
     if (m_sinceShown.elapsed() < (m_dialog ? Interval : FirstShown))
         return;
     if (!m_dialog) {
-        m_dialog =
-            std::make_unique<StayingProgressDialog>(QString(), QString(), 0, total, &m_window);
+        if (m_cancel == Cancel::Offered)
+            m_dialog = std::make_unique<QProgressDialog>(QString(), QStringLiteral("&Cancel"), 0,
+                                                         total, &m_window);
+        else
+            m_dialog =
+                std::make_unique<StayingProgressDialog>(QString(), QString(), 0, total, &m_window);
         m_dialog->setWindowTitle(Application::Title());
         m_dialog->setWindowModality(Qt::WindowModal);
         m_dialog->setAutoReset(false);
@@ -60,4 +64,9 @@ void ProgressShown::pause()
 {
     m_dialog.reset();
     m_sinceShown.restart();
+}
+
+bool ProgressShown::wasCancelled() const
+{
+    return m_dialog && m_dialog->wasCanceled();
 }

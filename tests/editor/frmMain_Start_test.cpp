@@ -30,8 +30,6 @@ private Q_SLOTS:
     void menusHoldTheirItemsInOrder_data();
     void menusHoldTheirItemsInOrder();
     void onlySaveIsDisabledAmongTheCommands();
-    void whatIsNotBuiltYetIsDisabled_data();
-    void whatIsNotBuiltYetIsDisabled();
     void theTop10TableHasTenUnusedRowsOfToday();
     void theTop10FileIsReadOverThem();
     void aTop10FileThatCannotBeReadIsReportedAndLeavesTheDefaults();
@@ -153,6 +151,7 @@ void frmMain_Start_test::eachControlIsThere_data()
                     "mnuPageSetup",
                     "mnuPrinterSetup",
                     "mnuPrint",
+                    "mnuPrintWholeList",
                     "mnuExport",
                     "mnuImport",
                     "mnuExit",
@@ -180,20 +179,10 @@ void frmMain_Start_test::eachControlIsThere()
 void frmMain_Start_test::menusHoldTheirItemsInOrder_data()
 {
     QTest::addColumn<QList<QByteArray>>("items");
-    QTest::newRow("mnuFile") << QList<QByteArray>{"mnuNew",
-                                                  "mnuOpen",
-                                                  "mnuSave",
-                                                  "mnuSaveAs",
-                                                  "mnuCreateTextFile",
-                                                  "sep1",
-                                                  "mnuPageSetup",
-                                                  "mnuPrinterSetup",
-                                                  "mnuPrint",
-                                                  "sep2",
-                                                  "mnuExport",
-                                                  "mnuImport",
-                                                  "sep",
-                                                  "mnuExit"};
+    QTest::newRow("mnuFile") << QList<QByteArray>{
+        "mnuNew", "mnuOpen",      "mnuSave",         "mnuSaveAs", "mnuCreateTextFile",
+        "sep1",   "mnuPageSetup", "mnuPrinterSetup", "mnuPrint",  "mnuPrintWholeList",
+        "sep2",   "mnuExport",    "mnuImport",       "sep",       "mnuExit"};
     QTest::newRow("mnuEdit") << QList<QByteArray>{"mnuDeleteWord"};
     QTest::newRow("mnuGame") << QList<QByteArray>{"mnuPlayScramble", "mnuQuickFlash", "mnuMusic"};
     QTest::newRow("mnuMusic") << QList<QByteArray>{"mnuUpbeat", "mnuSoothing", "mnuMusicOff"};
@@ -219,22 +208,10 @@ void frmMain_Start_test::onlySaveIsDisabledAmongTheCommands()
     MainWindow main;
     QVERIFY(!main.action("mnuSave").isEnabled());
     for (const char *item : {"mnuNew", "mnuOpen", "mnuSaveAs", "mnuCreateTextFile", "mnuExport",
-                             "mnuImport", "mnuExit", "mnuDeleteWord", "mnuQuickFlash"})
+                             "mnuImport", "mnuPageSetup", "mnuPrinterSetup", "mnuPrint",
+                             "mnuPrintWholeList", "mnuExit", "mnuDeleteWord", "mnuPlayScramble",
+                             "mnuQuickFlash", "mnuUpbeat", "mnuSoothing", "mnuMusicOff"})
         QVERIFY2(main.action(item).isEnabled(), item);
-}
-
-void frmMain_Start_test::whatIsNotBuiltYetIsDisabled_data()
-{
-    QTest::addColumn<QByteArray>("item");
-    for (const char *item : {"mnuPageSetup", "mnuPrinterSetup", "mnuPrint"})
-        QTest::newRow(item) << QByteArray(item);
-}
-
-void frmMain_Start_test::whatIsNotBuiltYetIsDisabled()
-{
-    QFETCH(QByteArray, item);
-    MainWindow main;
-    QVERIFY(!main.action(item).isEnabled());
 }
 
 void frmMain_Start_test::theTop10TableHasTenUnusedRowsOfToday()

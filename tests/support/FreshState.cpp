@@ -34,6 +34,8 @@ void resetGlobals()
     gViewTop10Only = gUpbeatMusic = gMusicOff = PrintItemNumber = false;
     gFastBeatTracks = gSoftBeatTracks = {};
     PrintOrientation.clear();
+    TopMargin = BottomMargin = LeftMargin = RightMargin = 0;
+    FromWord = ToWord = 0;
 }
 
 } // namespace

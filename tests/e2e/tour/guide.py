@@ -2,6 +2,7 @@
 """What the chapters of the tour have in common: numbered pictures, told steps."""
 import contextlib
 import shutil
+import subprocess
 
 from stage.person import Person
 
@@ -30,16 +31,26 @@ class Guide:
         print(f"seen      {what}", flush=True)
 
     def picture(self, name, window=None):
-        self._taken += 1
-        file = self._pictures / f"{self._taken:02}-{name}.png"
-        self.person.desktop.picture(file, window.box if window else None)
+        self.person.desktop.picture(self._next_picture(name), window.box if window else None)
+
+    def picture_of_page(self, file, page, name):
+        """Of a page of a PDF file."""
+        subprocess.run(
+            ["pdftoppm", "-png", "-singlefile", "-r", "72", "-f", str(page), file,
+             self._next_picture(name).with_suffix("")],
+            check=True,
+        )
 
     def keeps(self, file):
         """A file that the program made goes beside the pictures."""
         shutil.copy(file, self._pictures)
 
+    def _next_picture(self, name):
+        self._taken += 1
+        return self._pictures / f"{self._taken:02}-{name}.png"
+
     def _empty_pictures(self):
         self._pictures.mkdir(parents=True, exist_ok=True)
-        for pattern in ("*.png", "*.lwx", "*.txt"):
+        for pattern in ("*.png", "*.lwx", "*.pdf", "*.txt"):
             for old in self._pictures.glob(pattern):
                 old.unlink()

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/SystemPrinter.h"
+
+#include "platform/Paths.h"
+#include "platform/PrintDocument.h"
+#include "platform/PrintMetrics.h"
+#include "runtime/RunTimeError.h"
+
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include <initializer_list>
+#include <utility>
+
+namespace {
+
+// The dialog wants a new file for a PDF document. Which file, is asked when there is something to
+// print.
+void hideFile(QPrintDialog &dialog, const QString &newFile)
+{
+    if (auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("filename")))
+        box->setText(newFile);
+    // The dialog shows its controls anew, but none in what is hidden.
+    auto *hidden = new QWidget(&dialog);
+    hidden->hide();
+    for (const char *name : {"lOutput", "filename", "fileBrowser"})
+        if (auto *control = dialog.findChild<QWidget *>(QLatin1String(name)))
+            control->setParent(hidden);
+}
+
+} // namespace
+
+SystemPrinter::SystemPrinter()
+    : m_device(std::make_unique<QPrinter>(QPrinter::HighResolution)),
+      m_fileDialog(pathOf(Place::WordLists))
+{
+    const QString preferred = QPrinterInfo::defaultPrinterName();
+    select(preferred.isEmpty() ? installed().constFirst() : preferred);
+}
+
+SystemPrinter::~SystemPrinter() = default;
+
+QString SystemPrinter::printToPdf()
+{
+    return QStringLiteral("Print to PDF");
+}
+
+QStringList SystemPrinter::installed()
+{
+    return QPrinterInfo::availablePrinterNames() + QStringList(printToPdf());
+}
+
+void SystemPrinter::select(const QString &deviceName)
+{
+    const QPageLayout paper = m_device->pageLayout();
+    m_deviceName = deviceName;
+    if (printsToFile()) {
+        m_device->setOutputFormat(QPrinter::PdfFormat);
+    } else {
+        m_device->setOutputFormat(QPrinter::NativeFormat);
+        m_device->setPrinterName(deviceName);
+    }
+    m_device->setPageSize(paper.pageSize());
+    m_device->setPageOrientation(paper.orientation());
+    measure();
+}
+
+SystemPrinter::Orientation SystemPrinter::orientation() const
+{
+    return m_device->pageLayout().orientation() == QPageLayout::Landscape ? Orientation::Landscape
+                                                                          : Orientation::Portrait;
+}
+
+void SystemPrinter::setOrientation(Orientation orientation)
+{
+    m_device->setPageOrientation(orientation == Orientation::Landscape ? QPageLayout::Landscape
+                                                                       : QPageLayout::Portrait);
+    // What the printer cannot reach of the sheet turns with it.
+    m_device->setPageSize(m_device->pageLayout().pageSize());
+    measure();
+}
+
+void SystemPrinter::measure()
+{
+    const QPageLayout paper = m_device->pageLayout();
+    m_metrics = std::make_shared<PrintMetrics>(sheetSize(paper), printableArea(paper),
+                                               m_device->resolution());
+}
+
+double SystemPrinter::ScaleWidth() const
+{
+    return m_metrics->area().width();
+}
+
+double SystemPrinter::ScaleHeight() const
+{
+    return m_metrics->area().height();
+}
+
+bool SystemPrinter::showSetup(QWidget *parent, const QString &title)
+{
+    m_device->setCopyCount(Copies.toInt());
+    QPrintDialog dialog(m_device.get(), parent);
+    dialog.setWindowTitle(title);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    // The dialog takes it that printing comes next.
+    if (auto *buttons = dialog.findChild<QDialogButtonBox *>())
+        buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&OK"));
+    const QTemporaryDir folder;
+    hideFile(dialog, folder.filePath(QStringLiteral("print.pdf")));
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    Copies = m_device->copyCount();
+    select(m_device->outputFormat() == QPrinter::PdfFormat ? printToPdf()
+                                                           : m_device->printerName());
+    return true;
+}
+
+bool SystemPrinter::showPageSetup(QWidget *parent)
+{
+    QPageSetupDialog dialog(m_device.get(), parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    measure();
+    return true;
+}
+
+bool SystemPrinter::StartDoc(QWidget *parent, const QString &title)
+{
+    const PrintedPaper paper{m_device->pageLayout(), m_device->resolution(), title};
+    if (!printsToFile()) {
+        const QPrinterInfo printer = QPrinterInfo::printerInfo(m_deviceName);
+        if (printer.isNull() || printer.state() == QPrinter::Error)
+            throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
+        m_device->setCopyCount(Copies.toInt());
+        m_document = printerDocument(*m_device, paper);
+        return true;
+    }
+    m_fileDialog.DialogTitle = printToPdf();
+    m_fileDialog.Filter = QStringLiteral("PDF (*.pdf)|*.pdf|All files (*.*)|*.*");
+    m_fileDialog.DefaultExt = QStringLiteral("pdf");
+    m_fileDialog.OverwritePrompt = true;
+    m_fileDialog.FileName = QFileInfo(title).completeBaseName() + QStringLiteral(".pdf");
+    if (!m_fileDialog.ShowSave(parent))
+        return false;
+    m_document = pdfDocument(m_fileDialog.FileName, paper);
+    return true;
+}
+
+double SystemPrinter::widthOf(QStringView text, const PrintStyle &style) const
+{
+    return m_metrics->widthOf(text, style);
+}
+
+double SystemPrinter::lineHeight(const PrintStyle &style) const
+{
+    return m_metrics->lineHeight(style);
+}
+
+void SystemPrinter::beginSheet()
+{
+    m_sheet = m_document ? m_document->nextSheet() : nullptr;
+    if (!m_sheet)
+        throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
+}
+
+void SystemPrinter::drawText(QPointF topLeft, const QString &text, const PrintStyle &style)
+{
+    m_metrics->draw(*m_sheet, topLeft, text, style);
+}
+
+void SystemPrinter::endDocument()
+{
+    const std::unique_ptr<PrintDocument> document = std::exchange(m_document, nullptr);
+    m_sheet = nullptr;
+    if (document && document->hasSheets())
+        document->finish();
+}
+
+void SystemPrinter::dropDocument()
+{
+    m_document.reset();
+    m_sheet = nullptr;
+}

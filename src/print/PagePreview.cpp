@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "print/PagePreview.h"
+
+#include "platform/PrintMetrics.h"
+
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr int LongestWait = 20; // milliseconds for the page that is to be shown
+constexpr int IdleSlice = 8;
+constexpr int Border = 16; // pixels around the sheet
+constexpr int Step = 40;   // pixels of one step of a scroll bar
+
+QColor groundColour(const QPalette &palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    return window.lightness() < 128 ? window.darker(140) : window.darker(118);
+}
+
+} // namespace
+
+PagePreview::PagePreview(QWidget *parent) : QAbstractScrollArea(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setZoom(Zoom::WholePage);
+    m_idle.setParent(this);
+    connect(&m_idle, &QTimer::timeout, this, &PagePreview::layOutMore);
+}
+
+void PagePreview::setPages(std::unique_ptr<PreviewPages> pages)
+{
+    m_pages = std::move(pages);
+    m_page = std::max(1, m_page);
+    m_texts.clear();
+    m_textsKnown = false;
+    QElapsedTimer clock;
+    clock.start();
+    while (!m_pages->knows(m_page) && !m_pages->isComplete() && !clock.hasExpired(LongestWait))
+        m_pages->layOut(1);
+    m_idle.start();
+    placeSheet();
+    afterLayout();
+}
+
+void PagePreview::dropPages()
+{
+    m_idle.stop();
+    m_pages.reset();
+    m_texts.clear();
+}
+
+void PagePreview::layOutMore()
+{
+    m_pages->layOut(IdleSlice);
+    afterLayout();
+}
+
+void PagePreview::afterLayout()
+{
+    if (m_pages->isComplete()) {
+        m_idle.stop();
+        const int last = m_pages->count();
+        m_page = m_toLast ? last : std::clamp(m_page, std::min(1, last), last);
+        m_toLast = false;
+    }
+    if (!m_textsKnown)
+        showTexts();
+    Q_EMIT changed();
+}
+
+void PagePreview::showTexts()
+{
+    m_textsKnown = m_pages->knows(m_page);
+    m_texts = m_textsKnown ? m_pages->texts(m_page) : std::vector<PreviewPages::Text>();
+    viewport()->update();
+}
+
+bool PagePreview::isLast() const
+{
+    return !m_pages || (m_pages->isComplete() && m_page >= m_pages->count());
+}
+
+QString PagePreview::pageText() const
+{
+    if (!m_pages || (m_pages->isComplete() && m_page == 0))
+        return QStringLiteral("No pages");
+    const int count = std::max(m_page, m_pages->count());
+    return (m_pages->isComplete() ? QStringLiteral("Page %1 of %2")
+                                  : QStringLiteral("Page %1 of about %2"))
+        .arg(m_page)
+        .arg(count);
+}
+
+void PagePreview::goTo(int page)
+{
+    const int last = m_pages ? std::max(m_page, m_pages->count()) : 0;
+    const int shown = std::clamp(page, std::min(1, last), last);
+    m_toLast = false;
+    if (shown == m_page)
+        return;
+    m_page = shown;
+    verticalScrollBar()->setValue(0);
+    showTexts();
+    Q_EMIT changed();
+}
+
+void PagePreview::goToLast()
+{
+    if (!m_pages)
+        return;
+    goTo(m_pages->count());
+    m_toLast = !m_pages->isComplete();
+}
+
+void PagePreview::setZoom(Zoom zoom)
+{
+    m_zoom = zoom;
+    // A bar that comes or goes changes the room of the other one.
+    const auto policy = zoom == Zoom::WholePage ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn;
+    setHorizontalScrollBarPolicy(policy);
+    setVerticalScrollBarPolicy(policy);
+    placeSheet();
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
+    Q_EMIT changed();
+}
+
+void PagePreview::placeSheet()
+{
+    if (!m_pages)
+        return;
+    const QSize view = viewport()->size();
+    const QSizeF paper = m_pages->metrics().sheet();
+    QSizeF shown(paper.width() * logicalDpiX(), paper.height() * logicalDpiY());
+    if (m_zoom == Zoom::WholePage)
+        shown = paper.scaled(view - QSize(2 * Border, 2 * Border), Qt::KeepAspectRatio);
+    const auto place = [](QScrollBar *bar, double size, int room) {
+        const double hidden = std::max(0.0, size + 2 * Border - room);
+        bar->setRange(0, static_cast<int>(std::ceil(hidden)));
+        bar->setPageStep(room);
+        bar->setSingleStep(Step);
+        return hidden > 0 ? Border : (room - size) / 2;
+    };
+    const double left = place(horizontalScrollBar(), shown.width(), view.width());
+    const double top = place(verticalScrollBar(), shown.height(), view.height());
+    m_sheet = QRectF({left, top}, shown);
+    viewport()->update();
+}
+
+void PagePreview::resizeEvent(QResizeEvent *event)
+{
+    QAbstractScrollArea::resizeEvent(event);
+    placeSheet();
+}
+
+void PagePreview::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), groundColour(palette()));
+    if (!m_pages)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
+    constexpr int ShadowSteps = 6;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 14));
+    for (int i = 1; i <= ShadowSteps; ++i)
+        painter.drawRoundedRect(m_sheet.adjusted(1 - i, 2 - i, i, 1 + i), i, i);
+    painter.fillRect(m_sheet, Qt::white);
+    if (m_pages->failure().isEmpty())
+        paintTexts(painter);
+    else
+        paintFailure(painter);
+}
+
+void PagePreview::paintTexts(QPainter &painter) const
+{
+    const PrintMetrics &metrics = m_pages->metrics();
+    const double pixelsPerInch = m_sheet.width() / metrics.sheet().width();
+    painter.setClipRect(m_sheet);
+    painter.translate(m_sheet.topLeft() + metrics.area().topLeft() * pixelsPerInch);
+    painter.scale(pixelsPerInch / metrics.resolution(), pixelsPerInch / metrics.resolution());
+    painter.setPen(Qt::black);
+    for (const PreviewPages::Text &text : m_texts)
+        metrics.draw(painter, text.topLeft, text.text, text.style);
+}
+
+void PagePreview::paintFailure(QPainter &painter) const
+{
+    painter.setPen(Qt::black);
+    painter.drawText(m_sheet.adjusted(Border, Border, -Border, -Border),
+                     int(Qt::AlignCenter) | int(Qt::TextWordWrap), m_pages->failure());
+}
+
+void PagePreview::keyPressEvent(QKeyEvent *event)
+{
+    const bool whole = m_zoom == Zoom::WholePage;
+    switch (event->key()) {
+    case Qt::Key_PageDown:
+        goTo(m_page + 1);
+        return;
+    case Qt::Key_PageUp:
+        goTo(m_page - 1);
+        return;
+    case Qt::Key_Home:
+        goTo(1);
+        return;
+    case Qt::Key_End:
+        goToLast();
+        return;
+    case Qt::Key_Right:
+        if (whole) {
+            goTo(m_page + 1);
+            return;
+        }
+        break;
+    case Qt::Key_Left:
+        if (whole) {
+            goTo(m_page - 1);
+            return;
+        }
+        break;
+    case Qt::Key_Plus:
+    case Qt::Key_Minus:
+        setZoom(event->key() == Qt::Key_Plus ? Zoom::ActualSize : Zoom::WholePage);
+        return;
+    default:
+        break;
+    }
+    QAbstractScrollArea::keyPressEvent(event); // the arrows scroll
+}
+
+// Turns the page where there is nothing left to scroll.
+void PagePreview::wheelEvent(QWheelEvent *event)
+{
+    const QScrollBar &bar = *verticalScrollBar();
+    const int turned = event->angleDelta().y();
+    if (turned < 0 && bar.value() == bar.maximum())
+        goTo(m_page + 1);
+    else if (turned > 0 && bar.value() == bar.minimum())
+        goTo(m_page - 1);
+    else
+        QAbstractScrollArea::wheelEvent(event);
+    event->accept();
+}
+
+void PagePreview::mouseDoubleClickEvent(QMouseEvent * /*event*/)
+{
+    setZoom(m_zoom == Zoom::WholePage ? Zoom::ActualSize : Zoom::WholePage);
+}

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The pages that a print job would give, laid out bit by bit by the code that prints them. What is
+// kept of a page is only where it begins.
+#pragma once
+
+#include "platform/PrintFont.h"
+#include "print/WordListPrint.h"
+
+#include <QPointF>
+
+#include <memory>
+#include <vector>
+
+class PrintMetrics;
+
+class PreviewPages
+{
+public:
+    struct Text
+    {
+        QPointF topLeft; // inches from the corner of the printable area
+        QString text;
+        PrintStyle style;
+    };
+
+    // The list must outlive the object and may not change meanwhile; its current entry stays.
+    PreviewPages(std::shared_ptr<const PrintMetrics> metrics, const cVocabList &list,
+                 const WordListPrint &job, Integer copies);
+    ~PreviewPages();
+    Q_DISABLE_COPY_MOVE(PreviewPages)
+
+    // Lays out further pages for about that time.
+    void layOut(int milliseconds);
+    [[nodiscard]] bool isComplete() const;
+    // Why the job would fail; empty where it would not, as far as it is laid out.
+    [[nodiscard]] QString failure() const { return m_failure; }
+
+    // All pages of the job; an estimate until the layout is complete.
+    [[nodiscard]] int count() const;
+    // Whether the page's texts can be had already. Pages count from 1.
+    [[nodiscard]] bool knows(int page) const;
+    [[nodiscard]] std::vector<Text> texts(int page) const;
+    [[nodiscard]] const PrintMetrics &metrics() const { return *m_metrics; }
+
+private:
+    class Recorder;
+    struct Position; // of the print position between two entries
+
+    [[nodiscard]] int pageOfPass(int page) const;
+    void layOutEntry();
+
+    std::shared_ptr<const PrintMetrics> m_metrics;
+    const cVocabList &m_list;
+    WordListPrint m_job;
+    int m_copies;
+    std::unique_ptr<Recorder> m_layout;
+    int m_laidOut = 0;                 // entries of the first pass
+    std::vector<Position> m_pageStart; // before the entry in which each page of a pass begins
+    QString m_failure;
+};

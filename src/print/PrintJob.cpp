@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "print/PrintJob.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "platform/MsgBox.h"
+#include "platform/ProgressShown.h"
+#include "platform/SystemPrinter.h"
+#include "print/WordListPrint.h"
+#include "runtime/RunTimeError.h"
+
+using namespace Module1;
+
+void printWordList(QWidget *window, SystemPrinter &printer, const WordListPrint &job)
+{
+    if (gVocabList().NumWords() < 1) {
+        MsgBox(QStringLiteral("Not printed: Your current wordlist is empty."));
+        return;
+    }
+    const QString title = gFileTitle.isEmpty() ? QStringLiteral("Untitled") : gFileTitle;
+    if (!printer.StartDoc(window, title))
+        return;
+    ProgressShown progress(window, ProgressShown::Cancel::Offered);
+    job.print(printer, gVocabList(), [&progress](int done, int total) {
+        progress.show(done, total);
+        return !progress.wasCancelled();
+    });
+}
+
+void tellPrinterError(const SystemPrinter &printer, const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const RunTimeError &error) {
+        if (error.number() != RunTimeError::PrinterFault)
+            throw;
+        MsgBox(printer.DeviceName() + QStringLiteral(" has encountered an error"));
+    }
+}

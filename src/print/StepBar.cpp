@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "print/StepBar.h"
+
+#include <QWheelEvent>
+
+#include <algorithm>
+
+StepBar::StepBar(QWidget *parent) : QScrollBar(Qt::Vertical, parent)
+{
+    setInvertedAppearance(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setFixedSize(22, 34); // beside a text box there is room for the arrows alone
+    connect(this, &QAbstractSlider::actionTriggered, this, &StepBar::raiseUpwards);
+}
+
+// A scroll bar's upper arrow goes to smaller numbers even where the largest is at the top.
+void StepBar::raiseUpwards(int action)
+{
+    switch (action) {
+    case SliderSingleStepSub:
+        setSliderPosition(std::min(maximum(), value() + singleStep()));
+        break;
+    case SliderSingleStepAdd:
+        setSliderPosition(std::max(minimum(), value() - singleStep()));
+        break;
+    case SliderPageStepSub:
+        setSliderPosition(std::min(maximum(), value() + pageStep()));
+        break;
+    case SliderPageStepAdd:
+        setSliderPosition(std::max(minimum(), value() - pageStep()));
+        break;
+    case SliderToMinimum:
+        setSliderPosition(maximum());
+        break;
+    case SliderToMaximum:
+        setSliderPosition(minimum());
+        break;
+    default:
+        break;
+    }
+}
+
+void StepBar::wheelEvent(QWheelEvent *event)
+{
+    const int turned = event->angleDelta().y();
+    if (turned != 0)
+        triggerAction(turned > 0 ? SliderSingleStepSub : SliderSingleStepAdd);
+    event->accept();
+}

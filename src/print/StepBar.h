@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A vertical scroll bar for a number: the largest is at the top, and whatever points upwards, an
+// arrow, a key or the wheel, raises it.
+#pragma once
+
+#include <QScrollBar>
+
+class StepBar final : public QScrollBar
+{
+    Q_OBJECT
+
+public:
+    explicit StepBar(QWidget *parent = nullptr);
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    void raiseUpwards(int action);
+};

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The print settings, which take effect as they are made, and beside them the pages that Print
+// would give.
+#pragma once
+
+#include "platform/DialogForm.h"
+#include "runtime/Currency.h"
+
+#include <memory>
+
+class QLineEdit;
+class StepBar;
+class SystemPrinter;
+
+namespace Ui {
+class frmPrint;
+}
+
+class frmPrint final : public DialogForm
+{
+    Q_OBJECT
+
+public:
+    // The printer must outlive the form.
+    explicit frmPrint(SystemPrinter &printer, QWidget *parent = nullptr);
+    ~frmPrint() override;
+
+protected:
+    void Form_Load() override;
+    void Form_Terminate() override;
+
+private:
+    void lstPrinter_Click();
+    void optPortrait_Click();
+    void optLandscape_Click();
+    void optPrintAllWords_Click();
+    void optSubset_Click();
+    void chkPrintItemNumber_Click();
+    void txtFromWord_LostFocus();
+    void txtToWord_LostFocus();
+    void txtTopMargin_LostFocus();
+    void txtBottomMargin_LostFocus();
+    void txtLeftMargin_LostFocus();
+    void txtRightMargin_LostFocus();
+    void vsc_TopMargin_Change();
+    void vsc_BottomMargin_Change();
+    void vsc_BottomMargin_LostFocus();
+    void vsc_LeftMargin_Change();
+    void vsc_RightMargin_Change();
+    void vsc_Copies_Change();
+    void cmdPrint_Click();
+    void cmdCancel_Click();
+    void cmdFirstPage_Click();
+    void cmdPreviousPage_Click();
+    void cmdNextPage_Click();
+    void cmdLastPage_Click();
+    void cmdZoom_Click();
+
+    void connectHandlers();
+    void fillPrinters();
+    void enableRange(bool enabled);
+    void takePosition(QLineEdit &box, Integer &position);
+    void takeMargin(QLineEdit &box, StepBar &bar, Currency &margin);
+    void takeStep(QLineEdit &box, const StepBar &bar, Currency &margin);
+    void takeTypedText();
+    void showPreview();
+    void showPage();
+
+    std::unique_ptr<Ui::frmPrint> m_ui;
+    SystemPrinter &m_printer;
+};

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "print/PrintServer.h"
+
+#include "support/Controls.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <csignal>
+#include <sys/prctl.h>
+
+namespace {
+
+constexpr int LongestWait = 30000; // ms
+
+void write(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        Controls::fail(file.errorString());
+}
+
+constexpr const char *Places = R"(ServerRoot FOLDER/root
+StateDir FOLDER/state
+CacheDir FOLDER/cache
+RequestRoot FOLDER/spool
+TempDir FOLDER/spool/tmp
+AccessLog FOLDER/access
+ErrorLog FOLDER/errors
+PageLog FOLDER/pages
+Printcap
+FileDevice Yes
+)";
+
+// Whoever reaches the socket may do everything.
+constexpr const char *Rights = R"(Listen FOLDER/socket
+Browsing No
+WebInterface No
+DefaultAuthType None
+<Location />
+  Order allow,deny
+  Allow all
+</Location>
+<Policy default>
+  JobPrivateAccess all
+  JobPrivateValues none
+  SubscriptionPrivateAccess all
+  SubscriptionPrivateValues none
+  <Limit All>
+    Order deny,allow
+  </Limit>
+</Policy>
+)";
+
+} // namespace
+
+PrintServer::PrintServer()
+{
+    // Its filters run as a user who has no rights of their own here.
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                               QFile::ExeGroup | QFile::ExeOther);
+    configure();
+    qputenv("CUPS_SERVER", QFile::encodeName(path(QStringLiteral("socket"))));
+    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    m_process.start(QStringLiteral("/usr/sbin/cupsd"),
+                    {QStringLiteral("-f"), QStringLiteral("-c"), path(QStringLiteral("cupsd.conf")),
+                     QStringLiteral("-s"), path(QStringLiteral("cups-files.conf"))});
+    const QString socket = path(QStringLiteral("socket"));
+    if (!m_process.waitForStarted() ||
+        !QTest::qWaitFor([&] { return QFile::exists(socket); }, LongestWait))
+        Controls::fail(QStringLiteral("no print server: ") + m_process.errorString());
+}
+
+PrintServer::~PrintServer()
+{
+    stop();
+}
+
+void PrintServer::configure() const
+{
+    for (const char *name : {"root", "state", "cache", "spool/tmp", "printed"})
+        QDir().mkpath(path(QLatin1String(name)));
+    const auto writeHere = [this](const QString &name, QByteArray text) {
+        write(path(name), text.replace("FOLDER", QFile::encodeName(m_folder.path())));
+    };
+    writeHere(QStringLiteral("cups-files.conf"), Places);
+    writeHere(QStringLiteral("cupsd.conf"), Rights);
+}
+
+void PrintServer::stop()
+{
+    m_process.terminate();
+    if (!m_process.waitForFinished(LongestWait))
+        m_process.kill();
+    m_process.waitForFinished();
+}
+
+void PrintServer::addQueue(const QString &queue, const QString &driver)
+{
+    static_cast<void>(outputOf(
+        QStringLiteral("/usr/sbin/lpadmin"),
+        {QStringLiteral("-p"), queue, QStringLiteral("-E"), QStringLiteral("-P"), driver,
+         QStringLiteral("-v"), QStringLiteral("file://") + path(QStringLiteral("printed/")) + queue,
+         QStringLiteral("-o"), QStringLiteral("PageSize=A4")}));
+}
+
+void PrintServer::removeQueue(const QString &queue)
+{
+    static_cast<void>(outputOf(QStringLiteral("/usr/sbin/lpadmin"), {QStringLiteral("-x"), queue}));
+}
+
+void PrintServer::tell(const QString &command, const QString &queue)
+{
+    static_cast<void>(outputOf(QStringLiteral("/usr/sbin/") + command, {queue}));
+}
+
+QStringList PrintServer::listed(const QString &queue, const QString &which) const
+{
+    const QByteArray lines = outputOf(QStringLiteral("lpstat"),
+                                      {QStringLiteral("-W"), which, QStringLiteral("-o"), queue});
+    return QString::fromUtf8(lines).split(u'\n', Qt::SkipEmptyParts);
+}
+
+qsizetype PrintServer::jobs(const QString &queue) const
+{
+    return listed(queue, QStringLiteral("all")).size();
+}
+
+QString PrintServer::printed(const QString &queue) const
+{
+    const auto isDone = [&] {
+        return listed(queue, QStringLiteral("not-completed")).isEmpty() &&
+               !listed(queue, QStringLiteral("completed")).isEmpty();
+    };
+    if (!QTest::qWaitFor(isDone, LongestWait))
+        Controls::fail(QStringLiteral("the queue %1 does not print its jobs").arg(queue));
+    return path(QStringLiteral("printed/")) + queue;
+}
+
+QByteArray outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(LongestWait) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0)
+        Controls::fail(program + QStringLiteral(": ") + process.errorString() + u' ' +
+                       QString::fromLocal8Bit(process.readAllStandardError()));
+    return process.readAllStandardOutput();
+}

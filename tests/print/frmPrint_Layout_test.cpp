@@ -1,0 +1,339 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the print dialog looks like, and its use by keyboard.
+#include "platform/Appearance.h"
+#include "print/PrintForm.h"
+#include "support/FormTest.h"
+
+#include <QGroupBox>
+#include <QLabel>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <set>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// All controls but the frames around them and the parts that they consist of.
+QList<QWidget *> controlsOf(const QWidget &dialog)
+{
+    QList<QWidget *> controls;
+    for (QWidget *control : dialog.findChildren<QWidget *>()) {
+        const bool isPart = control->objectName().isEmpty() ||
+                            control->objectName().startsWith(u"qt_") ||
+                            qobject_cast<QGroupBox *>(control);
+        if (!isPart && control->isVisible())
+            controls += control;
+    }
+    return controls;
+}
+
+QRect placeOf(const QWidget &control)
+{
+    return {control.mapTo(control.window(), QPoint()), control.size()};
+}
+
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto [dark, light] = std::minmax(luminance(a), luminance(b));
+    return (light + 0.05) / (dark + 0.05);
+}
+
+// Of the colour that covers most of the picture and the one that differs most from it.
+double contrastIn(const QImage &picture)
+{
+    std::map<QRgb, int> pixels;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            ++pixels[picture.pixel(x, y)];
+    const auto ground = std::max_element(pixels.begin(), pixels.end(),
+                                         [](auto &a, auto &b) { return a.second < b.second; });
+    double most = 1;
+    for (const auto &[colour, count] : pixels)
+        most = std::max(most, contrast(QColor(colour), QColor(ground->first)));
+    return most;
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x31, 0x36, 0x3B), QColor(0x2A, 0x2E, 0x32));
+    palette.setColor(QPalette::Base, QColor(0x1B, 0x1E, 0x20));
+    palette.setColor(QPalette::Text, QColor(0xFC, 0xFC, 0xFC));
+    palette.setColor(QPalette::ButtonText, QColor(0xFC, 0xFC, 0xFC));
+    palette.setColor(QPalette::WindowText, QColor(0xFC, 0xFC, 0xFC));
+    return palette;
+}
+
+// The application's font and palette while it lives.
+class Looks final
+{
+public:
+    explicit Looks(double fontScale, const QPalette &palette = QApplication::palette())
+    {
+        QFont font = m_font;
+        font.setPointSizeF(font.pointSizeF() * fontScale);
+        QApplication::setFont(font);
+        QApplication::setPalette(palette);
+        applyAppearance(*qApp);
+    }
+    Q_DISABLE_COPY_MOVE(Looks)
+    ~Looks()
+    {
+        QApplication::setFont(m_font);
+        QApplication::setPalette(m_palette);
+        applyAppearance(*qApp);
+    }
+
+private:
+    QFont m_font = QApplication::font();
+    QPalette m_palette = QApplication::palette();
+};
+
+QString focusedControl()
+{
+    const QWidget *focus = QApplication::focusWidget();
+    return focus ? focus->objectName() : QString();
+}
+
+} // namespace
+
+class frmPrint_Layout_test : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingHasItsPlace_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<double>("fontScale");
+        QTest::newRow("800x600") << QSize(800, 600) << 1.0;
+        QTest::newRow("1024x768") << QSize(1024, 768) << 1.0;
+        QTest::newRow("1920x1080") << QSize(1920, 1080) << 1.0;
+        QTest::newRow("1024x768, large font") << QSize(1024, 768) << 1.5;
+        QTest::newRow("1920x1080, large font") << QSize(1920, 1080) << 1.5;
+    }
+
+    void everythingHasItsPlace()
+    {
+        QFETCH(QSize, size);
+        QFETCH(double, fontScale);
+        const Looks looks(fontScale);
+        PrintForm form;
+        frmPrint &dialog = form.dialog();
+        const QSize least = dialog.minimumSizeHint();
+        QVERIFY2(least.width() <= size.width() && least.height() <= size.height(),
+                 qPrintable(u"%1x%2"_s.arg(least.width()).arg(least.height())));
+        dialog.resize(size);
+        QCoreApplication::processEvents();
+        QCOMPARE(dialog.size(), size);
+        const QList<QWidget *> controls = controlsOf(dialog);
+        QVERIFY(controls.size() > 30);
+        for (const QWidget *control : controls) {
+            const QByteArray name = control->objectName().toUtf8();
+            QVERIFY2(dialog.rect().contains(placeOf(*control)), name);
+            QVERIFY2(control->parentWidget()->rect().contains(control->geometry()), name);
+            if (qobject_cast<const QLabel *>(control) ||
+                qobject_cast<const QAbstractButton *>(control)) {
+                const QSize needed = control->minimumSizeHint();
+                QVERIFY2(control->width() >= needed.width() && control->height() >= needed.height(),
+                         name);
+            }
+            for (const QWidget *other : controls)
+                QVERIFY2(other == control || !placeOf(*other).intersects(placeOf(*control)),
+                         name + " and " + other->objectName().toUtf8());
+        }
+        for (const char *box : {"txtTopMargin", "txtFromWord", "txtCopies"}) {
+            const auto &line = form.control<QLineEdit>(box);
+            QVERIFY2(line.width() >= line.fontMetrics().horizontalAdvance(u"32767"_s) + 12, box);
+            QVERIFY2(line.height() >= line.fontMetrics().height() + 4, box);
+        }
+    }
+
+    void itOpensInsideASmallScreen()
+    {
+        PrintForm form;
+        QVERIFY(form.dialog().width() <= 1024 && form.dialog().height() <= 768 - 40);
+    }
+
+    void allTextsCanBeRead_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QTest::newRow("light") << QApplication::palette();
+        QTest::newRow("dark") << darkPalette();
+    }
+
+    void allTextsCanBeRead()
+    {
+        QFETCH(QPalette, palette);
+        const Looks looks(1, palette);
+        PrintForm form(500);
+        form.click("optSubset");
+        form.typeAndLeave("txtFromWord", u"1"_s);
+        form.typeAndLeave("txtToWord", u"500"_s);
+        QTRY_VERIFY(form.isEnabled("cmdNextPage"));
+        const QImage picture = form.dialog().grab().toImage();
+        for (const QWidget *control : controlsOf(form.dialog())) {
+            const bool hasText = qobject_cast<const QLabel *>(control) ||
+                                 qobject_cast<const QAbstractButton *>(control) ||
+                                 qobject_cast<const QLineEdit *>(control) ||
+                                 qobject_cast<const QListWidget *>(control);
+            if (!hasText)
+                continue;
+            // Inside the border of a button or a box.
+            const QRect inside = placeOf(*control).adjusted(3, 3, -3, -3);
+            const double read = contrastIn(picture.copy(inside));
+            QVERIFY2(read >= (control->isEnabled() ? 4.5 : 2.5),
+                     control->objectName().toUtf8() + ' ' + QByteArray::number(read));
+        }
+    }
+
+    void tabGoesThroughTheControlsInTheirOrder()
+    {
+        PrintForm form;
+        form.click("optSubset");
+        form.control<QWidget>("lstPrinter").setFocus();
+        QStringList order{focusedControl()};
+        while (order.size() < 40) {
+            Controls::press(Qt::Key_Tab);
+            if (focusedControl() == order.constFirst())
+                break;
+            order += focusedControl();
+        }
+        // Of the option buttons only the chosen one; of the page buttons those that lead on.
+        QCOMPARE(order,
+                 QStringList({u"lstPrinter"_s,      u"optPortrait"_s,        u"txtCopies"_s,
+                              u"vsc_Copies"_s,      u"optSubset"_s,          u"txtFromWord"_s,
+                              u"txtToWord"_s,       u"chkPrintItemNumber"_s, u"txtTopMargin"_s,
+                              u"vsc_TopMargin"_s,   u"txtBottomMargin"_s,    u"vsc_BottomMargin"_s,
+                              u"txtLeftMargin"_s,   u"vsc_LeftMargin"_s,     u"txtRightMargin"_s,
+                              u"vsc_RightMargin"_s, u"cmdPrint"_s,           u"cmdCancel"_s,
+                              u"preview"_s,         u"cmdNextPage"_s,        u"cmdLastPage"_s,
+                              u"cmdZoom"_s}));
+    }
+
+    void theKeyboardIsInThePrintersAtFirst()
+    {
+        PrintForm form;
+        QCOMPARE(focusedControl(), u"lstPrinter"_s);
+    }
+
+    void theKeysOfTheButtonsDiffer()
+    {
+        PrintForm form;
+        std::set<QChar> keys;
+        for (const auto *button : form.dialog().findChildren<QAbstractButton *>()) {
+            const qsizetype mark = button->text().indexOf(u'&');
+            if (mark >= 0)
+                QVERIFY2(keys.insert(button->text().at(mark + 1).toLower()).second,
+                         qPrintable(button->text()));
+        }
+        QCOMPARE(keys.size(), std::size_t(2));
+    }
+
+    void eachControlHasANameForAssistiveTools()
+    {
+        PrintForm form;
+        std::set<QString> names;
+        for (const QWidget *control : controlsOf(form.dialog())) {
+            if (control->focusPolicy() == Qt::NoFocus)
+                continue;
+            const auto *button = qobject_cast<const QAbstractButton *>(control);
+            QString name = control->accessibleName();
+            if (name.isEmpty() && button)
+                name = button->text();
+            QVERIFY2(!name.isEmpty(), qPrintable(control->objectName()));
+            if (!control->objectName().endsWith(u"Copies"))
+                QVERIFY2(names.insert(name).second, qPrintable(name));
+        }
+    }
+
+    void keysTurnThePages()
+    {
+        PrintForm form(500);
+        QTRY_VERIFY(!form.control<QLabel>("lblPage").text().contains(u"about"_s));
+        const QString count = form.control<QLabel>("lblPage").text().section(QLatin1Char(' '), -1);
+        const auto page = [&form](const QString &number) {
+            return u"Page "_s + number + u" of "_s;
+        };
+        const auto shows = [&form, &page](const QString &number) {
+            return form.control<QLabel>("lblPage").text().startsWith(page(number));
+        };
+        QVERIFY(count.toInt() > 3);
+        QVERIFY(shows(u"1"_s));
+        QVERIFY(!form.isEnabled("cmdFirstPage") && !form.isEnabled("cmdPreviousPage"));
+        Controls::press(Qt::Key_PageDown, Qt::ControlModifier);
+        QVERIFY(shows(u"2"_s));
+        QVERIFY(form.isEnabled("cmdFirstPage") && form.isEnabled("cmdPreviousPage"));
+        Controls::press(Qt::Key_PageUp, Qt::ControlModifier);
+        QVERIFY(shows(u"1"_s));
+        form.click("cmdNextPage");
+        form.click("cmdNextPage");
+        QVERIFY(shows(u"3"_s));
+        form.click("cmdPreviousPage");
+        QVERIFY(shows(u"2"_s));
+        form.click("cmdLastPage");
+        QVERIFY(shows(count));
+        QVERIFY(!form.isEnabled("cmdLastPage") && !form.isEnabled("cmdNextPage"));
+        form.click("cmdFirstPage");
+        QVERIFY(shows(u"1"_s));
+        QCOMPARE(form.control<QWidget>("preview").accessibleDescription(),
+                 form.control<QLabel>("lblPage").text());
+    }
+
+    void thePreviewFollowsEachSetting()
+    {
+        PrintForm form(500);
+        const auto pages = [&form] {
+            const auto &label = form.control<QLabel>("lblPage");
+            if (!QTest::qWaitFor([&label] { return !label.text().contains(u"about"_s); }))
+                Controls::fail(u"the pages are not counted"_s);
+            return label.text().section(QLatin1Char(' '), -1).toInt();
+        };
+        const int all = pages();
+        form.typeAndLeave("txtTopMargin", u"3"_s);
+        const int shorter = pages();
+        QVERIFY(shorter > all);
+        form.click("optLandscape");
+        QVERIFY(pages() > shorter);
+        form.click("optPortrait");
+        QCOMPARE(pages(), shorter);
+        form.control<StepBar>("vsc_TopMargin").setValue(0);
+        QCOMPARE(pages(), all);
+        form.control<StepBar>("vsc_Copies").setValue(2);
+        QCOMPARE(pages(), 2 * all);
+        form.control<StepBar>("vsc_Copies").setValue(1);
+        form.click("optSubset");
+        form.typeAndLeave("txtToWord", u"2"_s);
+        QCOMPARE(pages(), 1);
+        QCOMPARE(gVocabList().CurrentWord(), Integer(500));
+    }
+
+    void theZoomButtonSaysWhatItDoes()
+    {
+        PrintForm form;
+        QCOMPARE(form.control<QPushButton>("cmdZoom").text(), u"Actual size"_s);
+        form.click("cmdZoom");
+        QCOMPARE(form.control<QPushButton>("cmdZoom").text(), u"Whole page"_s);
+        form.click("cmdZoom");
+        QCOMPARE(form.control<QPushButton>("cmdZoom").text(), u"Actual size"_s);
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmPrint_Layout_test>(argc, argv);
+}
+
+#include "frmPrint_Layout_test.moc"

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "print/frmPrint.h"
+
+#include "print/PrintForm.h"
+#include "support/FormTest.h"
+
+#include <QFile>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Currency inches(const QString &text)
+{
+    return Currency::fromText(text);
+}
+
+} // namespace
+
+class frmPrint_test : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutARangeAllWordsAreThatRange()
+    {
+        PrintForm form;
+        QCOMPARE(FromWord, Integer(1));
+        QCOMPARE(ToWord, Integer(20));
+        for (const char *name : {"txtFromWord", "txtToWord", "lblFrom", "lblTo"})
+            QVERIFY(!form.isEnabled(name));
+        QCOMPARE(form.text("txtFromWord"), QString());
+        QVERIFY(form.isChecked("optPrintAllWords"));
+    }
+
+    void theRangeIsCarriedOverToTheNextOpening()
+    {
+        PrintForm form;
+        form.click("optPrintAllWords");
+        form.click("cmdCancel");
+        form.open();
+        for (const char *name : {"txtFromWord", "txtToWord", "lblFrom", "lblTo"})
+            QVERIFY(form.isEnabled(name));
+        QCOMPARE(form.text("txtFromWord"), u"1"_s);
+        QCOMPARE(form.text("txtToWord"), u"20"_s);
+        QVERIFY(form.isChecked("optPrintAllWords"));
+    }
+
+    void aPositionIsBroughtIntoTheList_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("inside") << u" 7 "_s << 7 << u"7"_s;
+        QTest::newRow("beyond") << u"500"_s << 20 << u"20"_s;
+        QTest::newRow("0") << u"0"_s << 1 << u"1"_s;
+        QTest::newRow("below") << u"-3"_s << 1 << u"1"_s;
+        QTest::newRow("beyond 16 bits") << u"40000"_s << 20 << u"20"_s;
+        QTest::newRow("below 16 bits") << u"-1e9"_s << 1 << u"1"_s;
+        QTest::newRow("no number") << u"x"_s << 1 << u"1"_s;
+        QTest::newRow("nothing") << QString() << 1 << QString();
+    }
+
+    void aPositionIsBroughtIntoTheList()
+    {
+        QFETCH(QString, typed);
+        PrintForm form;
+        form.click("optSubset");
+        form.typeAndLeave("txtFromWord", typed);
+        QTEST(FromWord.toInt(), "position");
+        QTEST(form.text("txtFromWord"), "shown");
+    }
+
+    void aMarginIsTakenWhenItsBoxIsLeft_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("margin");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<int>("bar");
+        QTest::newRow("tenths") << u"0.5"_s << u"0.5"_s << u"0.50"_s << 5;
+        QTest::newRow("too large") << u"7"_s << u"3"_s << u"3.00"_s << 30;
+        QTest::newRow("below 0") << u"-1"_s << u"0"_s << u"0.00"_s << 0;
+        QTest::newRow("beyond the type") << u"1e40"_s << u"3"_s << u"3.00"_s << 30;
+        QTest::newRow("hundredths move the bar") << u"1.26"_s << u"1.3"_s << u"1.30"_s << 13;
+        QTest::newRow("hundredths do not move it") << u"1.04"_s << u"1.04"_s << u"1.04"_s << 10;
+        QTest::newRow("a half to even") << u"1.05"_s << u"1.05"_s << u"1.05"_s << 10;
+        QTest::newRow("no number") << u"x"_s << u"1"_s << u"1.00"_s << 10;
+        QTest::newRow("nothing") << QString() << u"1"_s << u"1.00"_s << 10;
+    }
+
+    void aMarginIsTakenWhenItsBoxIsLeft()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, margin);
+        const std::pair<QByteArray, Currency *> margins[] = {{"TopMargin", &TopMargin},
+                                                             {"BottomMargin", &BottomMargin},
+                                                             {"LeftMargin", &LeftMargin},
+                                                             {"RightMargin", &RightMargin}};
+        for (const auto &[name, setting] : margins) {
+            PrintForm form;
+            form.control<StepBar>("vsc_" + name).setValue(10);
+            QCOMPARE(*setting, Currency(1));
+            form.typeAndLeave("txt" + name, typed);
+            QCOMPARE(*setting, inches(margin));
+            QTEST(form.text("txt" + name), "shown");
+            QTEST(form.value("vsc_" + name), "bar");
+        }
+    }
+
+    void theBottomBarAloneLooksAtItsBoxWhenItIsLeft()
+    {
+        PrintForm form;
+        for (const char *name : {"Bottom", "Top"}) {
+            const QByteArray side = name;
+            form.control<StepBar>("vsc_" + side + "Margin").setFocus();
+            form.control<QLineEdit>("txt" + side + "Margin").setText(u"2"_s);
+            Controls::press(Qt::Key_Tab);
+        }
+        QCOMPARE(BottomMargin, Currency(2));
+        QCOMPARE(TopMargin, Currency(0));
+    }
+
+    void aReopenedDialogShowsTheMarginsAndItsBarsFollowThem()
+    {
+        PrintForm form;
+        form.typeAndLeave("txtTopMargin", u"1.3"_s);
+        form.typeAndLeave("txtTopMargin", u"1.26"_s);
+        form.click("cmdCancel");
+        form.open();
+        QCOMPARE(TopMargin, inches(u"1.26"_s));
+        QCOMPARE(form.text("txtTopMargin"), u"1.26"_s);
+        QCOMPARE(form.value("vsc_TopMargin"), 13);
+    }
+
+    void copiesAreSetByTheBarAlone()
+    {
+        PrintForm form;
+        QCOMPARE(form.text("txtCopies"), u"1"_s);
+        form.control<StepBar>("vsc_Copies").setValue(3);
+        QCOMPARE(form.text("txtCopies"), u"3"_s);
+        QCOMPARE(form.printer.Copies, Integer(3));
+        form.typeAndLeave("txtCopies", u"9"_s);
+        QCOMPARE(form.printer.Copies, Integer(3));
+    }
+
+    void theOrientationIsThePrintersAtOnce()
+    {
+        PrintForm form;
+        const double width = form.printer.ScaleWidth();
+        form.click("optLandscape");
+        QCOMPARE(form.printer.orientation(), SystemPrinter::Orientation::Landscape);
+        QCOMPARE(PrintOrientation, u"Landscape"_s);
+        QCOMPARE(form.printer.ScaleHeight(), width);
+        form.click("cmdCancel");
+        form.open();
+        QVERIFY(form.isChecked("optLandscape"));
+        form.click("optPortrait");
+        QCOMPARE(form.printer.ScaleWidth(), width);
+    }
+
+    void thePreviewMovesNoEntry()
+    {
+        PrintForm form;
+        gVocabList().CurrentWord(7);
+        form.click("chkPrintItemNumber");
+        QVERIFY(!PrintItemNumber);
+        QCOMPARE(gVocabList().CurrentWord(), Integer(7));
+    }
+
+    void anEmptyListIsNotPrinted()
+    {
+        PrintForm form(0);
+        form.answers.expectMsgBox(u"Not printed: Your current wordlist is empty."_s);
+        form.click("cmdPrint");
+        QVERIFY(form.answers.allSeen());
+        QVERIFY(!form.dialog().isVisible());
+    }
+
+    void theListIsPrintedIntoAPdfFile()
+    {
+        PrintForm form;
+        const QString path = form.path(u"list.pdf"_s);
+        form.answers.chooseFile(form.path(u"list"_s));
+        form.click("cmdPrint");
+        QVERIFY(form.answers.allSeen());
+        QVERIFY(!form.dialog().isVisible());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        QVERIFY(content.startsWith("%PDF-"));
+        QVERIFY(content.trimmed().endsWith("%%EOF"));
+        QCOMPARE(gVocabList().CurrentWord(), Integer(20));
+    }
+
+    void withoutAFileNothingIsPrinted()
+    {
+        PrintForm form;
+        gVocabList().CurrentWord(3);
+        form.answers.cancelFileDialog();
+        form.click("cmdPrint");
+        QVERIFY(form.answers.allSeen());
+        QCOMPARE(gVocabList().CurrentWord(), Integer(3));
+    }
+
+    void enterTakesWhatIsTypedInABox()
+    {
+        PrintForm form;
+        form.answers.cancelFileDialog();
+        form.type("txtLeftMargin", u"2"_s);
+        Controls::press(Qt::Key_Return);
+        QVERIFY(form.answers.allSeen());
+        QCOMPARE(LeftMargin, Currency(2));
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmPrint_test>(argc, argv);
+}
+
+#include "frmPrint_test.moc"
