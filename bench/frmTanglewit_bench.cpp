@@ -98,8 +98,8 @@ void plainSearch(benchmark::State &state)
     const QString word = QStringLiteral("studying");
     for (auto _ : state)
         for (int length = 8; length >= 6; --length)
-            for (const QString &form : {QStringLiteral("Studying"), word.left(length),
-                                        word.left(length).toUpper()})
+            for (const QString &form :
+                 {QStringLiteral("Studying"), word.left(length), word.left(length).toUpper()})
                 benchmark::DoNotOptimize(sentence.indexOf(form));
 }
 
@@ -149,6 +149,7 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     int applicationArguments = 1;
     const Application application(applicationArguments, argv);
+    Module1::gMusicOff = true;
 
     const auto add = [](const char *name, void (*function)(benchmark::State &)) {
         benchmark::RegisterBenchmark(name, function)->Unit(benchmark::kMicrosecond);

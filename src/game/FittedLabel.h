@@ -10,7 +10,10 @@ class FittedLabel final : public QLabel
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    explicit FittedLabel(QWidget *parent = nullptr) : QLabel(parent)
+    {
+        setTextFormat(Qt::PlainText);
+    }
 
     [[nodiscard]] QSize minimumSizeHint() const override { return {1, 1}; }
 

@@ -64,7 +64,6 @@ void Music::stop()
     if (gMusicOff && !m_isPlaying)
         return;
     requestSilence();
-    m_isPlaying = false;
     gMusicOff = true;
 }
 
@@ -81,4 +80,5 @@ void Music::play(Integer level)
 void Music::requestSilence()
 {
     sndPlaySoundA(QStringLiteral("NULL"), 0);
+    m_isPlaying = false;
 }

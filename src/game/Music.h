@@ -33,7 +33,7 @@ public:
 
 private:
     void play(Integer level);
-    static void requestSilence();
+    void requestSilence();
 
     MusicMenu m_menu;
     bool m_isPlaying = false;

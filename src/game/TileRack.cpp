@@ -38,7 +38,7 @@ void TileRack::prepare(Integer letters)
 void TileRack::uncover(Integer position, const QString &word)
 {
     const Integer tile = position + tileOffset(word.size());
-    if (tile <= LetterTiles)
+    if (position <= word.size() && tile <= LetterTiles)
         m_cmdLetters[static_cast<std::size_t>(tile.toInt() - 1)]->turnUp(
             word.mid(position.toInt() - 1, 1));
 }

@@ -20,7 +20,7 @@ public:
 
     // Covers all tiles and makes room for a word of so many letters; for 0 the rack is empty.
     void prepare(Integer letters);
-    // Uncovers letter `position` of the word; one that has no tile is left out.
+    // Uncovers letter `position` of the word; one that it lacks or that has no tile is left out.
     void uncover(Integer position, const QString &word);
     void coverAll();
 

@@ -126,7 +126,7 @@ void dlgGameOver::showRows()
         const Top10Entry &entry = gTop10[indexOf(row)];
         QLabel *label = m_lblTop10[indexOf(row)];
         label->setText(row == m_newRow ? unnamedRowText(entry) : rowText(entry));
-        label->setToolTip(label->text());
+        label->setToolTip(Qt::convertFromPlainText(label->text()));
     }
 }
 

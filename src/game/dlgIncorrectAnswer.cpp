@@ -3,9 +3,13 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "game/TypedWord.h"
 #include "game/ui_dlgIncorrectAnswer.h"
 #include "platform/MsgBox.h"
-#include "runtime/Blanks.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
 
 using Module1::gVocabList;
 
@@ -19,6 +23,13 @@ dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
             guarded(this, &dlgIncorrectAnswer::cmdUp_Click));
     connect(m_ui->cmdDown, &QPushButton::clicked, this,
             guarded(this, &dlgIncorrectAnswer::cmdDown_Click));
+    // For a word with letters that the keyboard lacks.
+    auto *copy = new QAction(QStringLiteral("&Copy Word"), m_ui->lblAnswerIs);
+    connect(copy, &QAction::triggered, this,
+            [] { QGuiApplication::clipboard()->setText(gVocabList().Word()); });
+    m_ui->lblAnswerIs->addAction(copy);
+    m_ui->lblAnswerIs->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_ui->lblAnswerIs->setToolTip(QStringLiteral("Right-click to copy the word"));
 }
 
 dlgIncorrectAnswer::~dlgIncorrectAnswer() = default;
@@ -60,7 +71,7 @@ void dlgIncorrectAnswer::cmdUp_Click()
 void dlgIncorrectAnswer::cmdOK_Click()
 {
     const QString word = gVocabList().Word();
-    m_isTyped = withoutOuterBlanks(m_ui->txtUserAnswer->text()) == withoutOuterBlanks(word);
+    m_isTyped = isWord(m_ui->txtUserAnswer->text(), word);
     if (m_isTyped) {
         close();
         return;

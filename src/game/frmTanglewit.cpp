@@ -63,10 +63,7 @@ void frmTanglewit::Form_Load()
     takeSize();
     m_Timer1.stop();
     m_Timer1.setInterval(1000);
-    m_game = {};
-    m_ui->lstHits->clear();
-    m_ui->lstMisses->clear();
-    m_ui->frmHits->setTitle(QStringLiteral("Hits"));
+    newGame();
     ResetBoard();
     gOrderIndex = 1;
     gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
@@ -75,7 +72,7 @@ void frmTanglewit::Form_Load()
     m_music.fillTracks();
 }
 
-// On a narrow screen all of it; else three quarters of the screen's height, 4 to 3.
+// On a narrow screen all of it; else most of it, 4 to 3.
 void frmTanglewit::takeSize()
 {
     const QSize wholeScreen = screenInTwips(*this);
@@ -88,6 +85,14 @@ void frmTanglewit::takeSize()
     const QSize proportion = QSize(4, 3).scaled(room.size() * 0.9, Qt::KeepAspectRatio);
     resize(proportion.boundedTo(LargestWindow).expandedTo(minimumSize()));
     move(room.center() - rect().center());
+}
+
+void frmTanglewit::newGame()
+{
+    m_game = {};
+    m_ui->frmHits->setTitle(QStringLiteral("Hits"));
+    m_ui->lstHits->clear();
+    m_ui->lstMisses->clear();
 }
 
 void frmTanglewit::Form_Unload()
@@ -137,10 +142,7 @@ void frmTanglewit::cmdRestart_Click()
     gOrderIndex = 1;
     Shuffle();
     m_Timer1.stop();
-    m_game = {};
-    m_ui->frmHits->setTitle(QStringLiteral("Hits"));
-    m_ui->lstMisses->clear();
-    m_ui->lstHits->clear();
+    newGame();
     gScore = 0;
     showReady(QStringLiteral("Word List has been shuffled. ") + StartPrompt);
 }

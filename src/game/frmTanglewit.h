@@ -43,6 +43,7 @@ private:
     // frmTanglewit.cpp: the window and its buttons
     void connectHandlers();
     void takeSize();
+    void newGame();
     void cmdStart_Click();
     void cmdRestart_Click();
     void cmdQuit_Click();
@@ -67,7 +68,6 @@ private:
     void raiseLevel();
     void timeOut();
     void gameOver();
-    void addLine(class QListWidget &list, const QString &line);
 
     // frmTanglewit_Word.cpp: the word on show. Where one of the three answers false, the word
     // cannot be scrambled, and the handler goes no further.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "game/TypedWord.h"
 #include "game/dlgGameOver.h"
 #include "game/dlgIncorrectAnswer.h"
 #include "game/frmTanglewit.h"
@@ -18,6 +19,12 @@ namespace {
 Integer lengthOfWord()
 {
     return toInteger(gVocabList().length());
+}
+
+void addLine(QListWidget &list, const QString &line)
+{
+    list.addItem(line);
+    list.scrollToBottom();
 }
 
 } // namespace
@@ -70,20 +77,22 @@ void frmTanglewit::cmdEnter_Click()
         return;
     }
     m_Timer1.stop();
-    const QString answer = withoutOuterBlanks(m_ui->txtUserAnswer->text());
-    if (answer == withoutOuterBlanks(gVocabList().Word()))
+    const QString answer = m_ui->txtUserAnswer->text();
+    if (isWord(answer, gVocabList().Word()))
         hit();
     else
-        miss(answer);
+        miss(withoutOuterBlanks(answer));
     m_game.CountDown = m_game.TimeLimit;
     showCountDown();
     m_Timer1.start();
-    if (!showNextWord(true))
-        return;
-    m_ui->txtUserAnswer->clear();
-    m_ui->txtUserAnswer->setEnabled(true);
-    m_ui->txtUserAnswer->setFocus();
-    if (m_game.NumLifes == 0)
+    const bool wordIsShown = showNextWord(true);
+    if (wordIsShown) {
+        m_ui->txtUserAnswer->clear();
+        m_ui->txtUserAnswer->setEnabled(true);
+        m_ui->txtUserAnswer->setFocus();
+    }
+    // Also before a word that cannot be scrambled the game ends with its last life.
+    if (m_game.NumLifes < 1)
         gameOver();
     m_ui->tileRack->coverAll();
     m_game.coverLetters();
@@ -123,10 +132,4 @@ void frmTanglewit::gameOver()
     m_Timer1.stop();
     dlgGameOver(m_music, this).exec();
     showOver();
-}
-
-void frmTanglewit::addLine(QListWidget &list, const QString &line)
-{
-    list.addItem(line);
-    list.scrollToBottom();
 }

@@ -292,6 +292,7 @@ private Q_SLOTS:
             form.click("cmdEnter");
             QCOMPARE(form.row(1).text(), dateText(QDate::currentDate()) + u"   7 :   "_s + name);
             QCOMPARE(form.row(1).textFormat(), Qt::PlainText);
+            QVERIFY(!form.row(1).toolTip().contains(u"<b>"_s));
             form.click("cmdClose");
         });
         QCOMPARE(gTop10[0].PlayerName, name);

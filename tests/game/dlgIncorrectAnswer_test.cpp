@@ -8,6 +8,9 @@
 #include "support/FormTest.h"
 #include "support/FreshState.h"
 
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -366,6 +369,20 @@ private Q_SLOTS:
             form.type(u"cat"_s);
             form.press(Qt::Key_O, Qt::AltModifier);
             QTRY_VERIFY(!form.form.isVisible());
+        });
+    }
+
+    void theWordCanBeCopied()
+    {
+        setEntry(u"na\u00EFve"_s, u"simple"_s);
+        ask([](const AnswerForm &form) {
+            const QLabel &word = form.label("lblAnswerIs");
+            QCOMPARE(word.contextMenuPolicy(), Qt::ActionsContextMenu);
+            QCOMPARE(word.actions().size(), 1);
+            word.actions().constFirst()->trigger();
+            QCOMPARE(QGuiApplication::clipboard()->text(), u"na\u00EFve"_s);
+            form.box().paste();
+            form.click("cmdOK");
         });
     }
 

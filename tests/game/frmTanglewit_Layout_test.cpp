@@ -143,8 +143,7 @@ private Q_SLOTS:
                 << QString(16, u'W') + u"abc"_s << clue << sentence << scale;
             QTest::newRow("30 letters" + type)
                 << QString(29, u'W') + u"M"_s << clue << sentence << scale;
-            QTest::newRow("endless" + type)
-                << endless + u"ab"_s << endless << endless << scale;
+            QTest::newRow("endless" + type) << endless + u"ab"_s << endless << endless << scale;
         }
     }
 

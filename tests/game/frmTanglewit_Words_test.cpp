@@ -153,7 +153,7 @@ private Q_SLOTS:
         m_form->passTime(21);
         QCOMPARE(m_form->tiles().constFirst(), u"13 <"_s);
         for (const char *label : {"lblScrambledWord", "lblClue", "lblSentence"})
-            QVERIFY(m_form->control<QLabel>(label).text().size() > 5);
+            QCOMPARE(m_form->control<QLabel>(label).textFormat(), Qt::PlainText);
         QCOMPARE(m_form->text("lblClue"), u"<i>not</i> &markup &amp;"_s);
         QCOMPARE(m_form->text("lblSentence"), u"<u>x</u> & y"_s);
         m_form->answerRight();
@@ -297,11 +297,14 @@ private Q_SLOTS:
         QFETCH(bool, byTimeOut);
         GameForm::fill({u"apple"_s, u"ab"_s});
         startInOrder();
-        if (byTimeOut)
+        if (byTimeOut) {
             m_form->timeOut();
-        else
+        } else {
+            m_form->passTime(8); // until a letter is uncovered
             m_form->answerRight();
+        }
         QCOMPARE(GameForm::word(), u"ab"_s);
+        QCOMPARE(m_form->tiles(), QStringList());
         QVERIFY(m_form->timer().isActive());
         QCOMPARE(m_form->look(), GameForm::playing());
         m_form->passTime();
@@ -314,6 +317,22 @@ private Q_SLOTS:
         m_form->click("cmdRestart");
         QCOMPARE(m_form->look(), GameForm::ready());
         QCOMPARE(m_form->numbers(), u"0 1 30 5"_s);
+    }
+
+    void theLastLifeEndsTheGameBeforeAShortWord()
+    {
+        GameForm::fill(GameForm::fiveWords() << u"ab"_s);
+        m_form->open();
+        // The words in their order, then a scramble.
+        constexpr std::array numbers{0.0F, 0.2F, 0.4F, 0.6F, 0.7F, 0.9F,
+                                     0.0F, 0.9F, 0.3F, 0.7F, 0.5F};
+        std::size_t drawn = 0;
+        RandomNumbers::setSource([&] { return numbers[drawn++ % numbers.size()]; });
+        m_form->click("cmdStart");
+        RandomNumbers::setSource({});
+        m_form->loseAllLives();
+        QCOMPARE(GameForm::word(), u"ab"_s);
+        QCOMPARE(m_form->look(), GameForm::over());
     }
 
     void anEmptyWordAfterAnotherIsReportedAndTheWindowLives()

@@ -70,8 +70,8 @@ private Q_SLOTS:
     void eachRequestIsHeardInThePlaceOfTheOneBefore_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {"fastbeat/Track01", "softbeat/Track02"})
-            QTest::newRow(name) << QString::fromLatin1(name);
+        for (const QString &name : allTracks())
+            QTest::newRow(qPrintable(name)) << name;
     }
     void eachRequestIsHeardInThePlaceOfTheOneBefore()
     {

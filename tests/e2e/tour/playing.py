@@ -50,6 +50,12 @@ def label(person, text):
     return until(f"'{text}'", lambda: person.front().find("label", text))
 
 
+def beside(person, caption):
+    """What the label behind a caption shows."""
+    shown = [part.name for part in person.front().below() if part.role == "label"]
+    return shown[shown.index(caption) + 1]
+
+
 def answers(person, words, last=None):
     """Types the word of the clue."""
     shown = until("another clue", lambda: (now := clue(person, words)) != last and now)
@@ -77,7 +83,7 @@ def gets_a_first_word(guide, words):
     with guide.step("The right word is a hit"):
         answers(person, words)
         until("one hit", lambda: game.find("panel", "Hits: 1"))
-        label(person, str(len(word) - 3))
+        until("its points", lambda: beside(person, "Score"), str(len(word) - 3))
         guide.picture("game-hit")
 
 
@@ -86,7 +92,7 @@ def misses(guide, words):
     with guide.step("A wrong word costs a life and asks for the right one"):
         word = words[clue(person, words)]
         loses_a_life(guide, word, "game-miss")
-        label(person, "4")
+        until("4 lives", lambda: beside(person, "Lives"), "4")
 
 
 def loses_a_life(guide, word, picture=None):
@@ -116,7 +122,7 @@ def reaches_level_2(guide, words):
         guide.picture("game-level")
         person.answers("Level 2", "OK")
         person.window(Game)
-        label(person, "2")
+        until("level 2", lambda: beside(person, "Level"), "2")
 
 
 def loses(guide, words):

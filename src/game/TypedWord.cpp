@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/TypedWord.h"
+
+#include "runtime/Blanks.h"
+
+#include <algorithm>
+
+namespace {
+
+QString typeable(QString text)
+{
+    const auto hasNoKey = [](QChar character) {
+        return character.category() == QChar::Other_Control || character == QChar::Nbsp;
+    };
+    std::replace_if(text.begin(), text.end(), hasNoKey, QChar(QLatin1Char(' ')));
+    return withoutOuterBlanks(text);
+}
+
+} // namespace
+
+bool isWord(const QString &typed, const QString &word)
+{
+    const QString given = withoutOuterBlanks(typed);
+    return given == withoutOuterBlanks(word) || given == typeable(word);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/TypedWord.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TypedWord_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theWordIsTakenCharacterForCharacter_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<bool>("right");
+        QTest::newRow("same") << u"cat"_s << u"cat"_s << true;
+        QTest::newRow("letter case") << u"Cat"_s << u"cat"_s << false;
+        QTest::newRow("part of it") << u"ca"_s << u"cat"_s << false;
+        QTest::newRow("blanks round the answer") << u"  cat "_s << u"cat"_s << true;
+        QTest::newRow("blanks round the word") << u"cat"_s << u" cat  "_s << true;
+        QTest::newRow("blanks inside") << u"ice  cream"_s << u"ice cream"_s << false;
+        QTest::newRow("blanks only") << u"   "_s << u"cat"_s << false;
+        QTest::newRow("empty word") << u""_s << u""_s << true;
+        QTest::newRow("accents") << u"ete"_s << u"\u00E9t\u00E9"_s << false;
+        QTest::newRow("tab inside") << u"ice cream"_s << u"ice\tcream"_s << true;
+        QTest::newRow("line break behind") << u"cat"_s << u"cat\r\n"_s << true;
+        QTest::newRow("hard blank behind") << u"cat"_s << u"cat\u00A0"_s << true;
+        QTest::newRow("hard blank inside") << u"ice cream"_s << u"ice\u00A0cream"_s << true;
+        QTest::newRow("hard blank typed") << u"cat\u00A0"_s << u"cat"_s << false;
+        QTest::newRow("pasted with its tab") << u"ice\tcream"_s << u"ice\tcream"_s << true;
+    }
+
+    void theWordIsTakenCharacterForCharacter()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, word);
+        QTEST(isWord(typed, word), "right");
+    }
+};
+
+QTEST_GUILESS_MAIN(TypedWord_test)
+#include "TypedWord_test.moc"
