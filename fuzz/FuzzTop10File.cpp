@@ -21,8 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     Top10Table defaults = emptyTop10(day);
     for (Top10Entry &entry : defaults)
         entry.PlayerName = QStringLiteral("default");
-    const Top10Table table =
-        Top10File::decode(QByteArrayView(data, qsizetype(size)), defaults);
+    const Top10Table table = Top10File::decode(QByteArrayView(data, qsizetype(size)), defaults);
 
     auto rest = qsizetype(size); // of the bytes, when each row is taken off them
     for (const Top10Entry &entry : table) {

@@ -26,9 +26,9 @@ Integer rowOfScore(const Top10Table &table, Integer score)
 {
     if (table.front().Points == 0)
         return 1;
-    const auto row = std::find_if(table.begin(), table.end(), [score](const Top10Entry &entry) {
-        return entry.Points < score;
-    });
+    const Top10Table::const_iterator row =
+        std::find_if(table.begin(), table.end(),
+                     [score](const Top10Entry &entry) { return entry.Points < score; });
     return row == table.end() ? Integer(0) : Integer(row - table.begin() + 1);
 }
 
@@ -36,7 +36,7 @@ void enterScore(Top10Table &table, Integer row, Integer score, QDate day)
 {
     if (table.front().Points == 0)
         table = emptyTop10(day);
-    const auto place = table.begin() + (row.toInt() - 1);
+    const Top10Table::iterator place = table.begin() + (row.toInt() - 1);
     std::move_backward(place, table.end() - 1, table.end());
     *place = {day, {}, score};
 }

@@ -27,9 +27,8 @@ void CardTurn::play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSid
     turn->m_turn.start();
 }
 
-CardTurn::CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide, QBrush behind)
-    : QWidget(&card), m_oldSide(std::move(oldSide)), m_newSide(std::move(newSide)),
-      m_behind(std::move(behind))
+CardTurn::CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide, const QBrush &behind)
+    : QWidget(&card), m_oldSide(std::move(oldSide)), m_newSide(std::move(newSide)), m_behind(behind)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -23,7 +23,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide, QBrush behind);
+    CardTurn(QWidget &card, QPixmap oldSide, QPixmap newSide, const QBrush &behind);
 
     QPixmap m_oldSide;
     QPixmap m_newSide;
