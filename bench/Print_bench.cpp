@@ -16,8 +16,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdio>
 #include <fstream>
+#include <set>
 #include <stdexcept>
 #include <string>
 
@@ -50,30 +53,48 @@ double residentMemory()
     return 0;
 }
 
+// The lines on which something is printed.
+double linesOf(const PreviewPages &pages)
+{
+    std::size_t lines = 0;
+    for (int page = 1; page <= pages.count(); ++page) {
+        std::set<double> places;
+        for (const PreviewPages::Text &text : pages.texts(page))
+            places.insert(text.topLeft.y());
+        lines += places.size();
+    }
+    return static_cast<double>(lines);
+}
+
 // The whole list on A4 paper.
 void layOut(benchmark::State &state)
 {
     open(static_cast<int>(state.range(0)));
     const auto metrics =
         std::make_shared<PrintMetrics>(QSizeF(8.27, 11.69), QRectF(0, 0, 8.27, 11.69), 1200);
+    double lines = 0;
     for (auto _ : state) {
         PreviewPages pages(metrics, Module1::gVocabList(), WordListPrint::chosen(), 1);
         while (!pages.isComplete())
             pages.layOut(1000);
+        state.PauseTiming();
         state.counters["pages"] = pages.count();
+        if (lines == 0)
+            lines = linesOf(pages);
+        state.ResumeTiming();
     }
+    state.counters["lines/s"] =
+        benchmark::Counter(lines, benchmark::Counter::kIsIterationInvariantRate);
     state.counters["entries/s"] = benchmark::Counter(static_cast<double>(state.range(0)),
                                                      benchmark::Counter::kIsIterationInvariantRate);
 }
 BENCHMARK(layOut)->Arg(Small)->Arg(Large)->Unit(benchmark::kMillisecond);
 
-// A click on a margin's arrow, up to the picture of the first page; with the further memory when
-// all pages are counted.
+// A click on a margin's arrow, up to the picture of the first page.
 void firstPage(benchmark::State &state)
 {
     open(static_cast<int>(state.range(0)));
     SystemPrinter printer;
-    const double before = residentMemory();
     frmPrint dialog(printer);
     dialog.show();
     auto &bar = *dialog.findChild<StepBar *>(QStringLiteral("vsc_TopMargin"));
@@ -82,14 +103,34 @@ void firstPage(benchmark::State &state)
         bar.setValue(bar.value() == 10 ? 11 : 10);
         benchmark::DoNotOptimize(preview.grab());
     }
-    // All pages are counted now.
-    while (!preview.isLast()) {
-        QCoreApplication::processEvents();
-        preview.goToLast();
-    }
-    state.counters["MB"] = residentMemory() - before;
 }
 BENCHMARK(firstPage)->Arg(Small)->Arg(Large)->Unit(benchmark::kMillisecond);
+
+// In megabytes, with all pages counted. What is freed stays with the process, so that only the
+// first dialog shows what one needs.
+double memoryOfFirstDialog()
+{
+    open(Large);
+    SystemPrinter printer;
+    const double before = residentMemory();
+    frmPrint dialog(printer);
+    dialog.show();
+    auto &bar = *dialog.findChild<StepBar *>(QStringLiteral("vsc_TopMargin"));
+    auto &preview = *dialog.findChild<PagePreview *>(QStringLiteral("preview"));
+    double most = 0;
+    for (const int margin : {11, 10}) {
+        bar.setValue(margin);
+        benchmark::DoNotOptimize(preview.grab());
+        preview.goToLast();
+        while (!preview.isLast()) {
+            QCoreApplication::processEvents();
+            most = std::max(most, residentMemory() - before);
+        }
+        benchmark::DoNotOptimize(preview.grab());
+        most = std::max(most, residentMemory() - before);
+    }
+    return most;
+}
 
 } // namespace
 
@@ -97,9 +138,15 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("CUPS_SERVER", "/nonexistent/printers"); // whatever printers the machine has
     Application application(argc, argv);
     const std::array<Ratio, 2> ratios = {Ratio{"layOut/32000", "layOut/3200", 11},
                                          Ratio{"firstPage/32000", "firstPage/3200", 1.2}};
     const std::array<Limit, 1> limits = {Limit{"firstPage/32000", 50}};
-    return runBenchmarks(argc, argv, ratios, limits);
+    constexpr double MostMemory = 30;
+    const double memory = memoryOfFirstDialog();
+    const int status = runBenchmarks(argc, argv, ratios, limits);
+    std::printf("%-28s %10.1f MB, goal %g MB: %s\n", "first dialog's memory", memory, MostMemory,
+                memory <= MostMemory ? "reached" : "MISSED");
+    return status;
 }

@@ -55,7 +55,6 @@ void frmMain::mnuPageSetup_Click()
 {
     if (!printer().showPageSetup(this))
         return;
-    m_printerDialog.Orientation = printer().orientation();
     Module1::PrintOrientation = printer().orientation() == SystemPrinter::Orientation::Landscape
                                     ? QStringLiteral("Landscape")
                                     : QStringLiteral("Portrait");

@@ -2,10 +2,9 @@
 #include "platform/PrintDocument.h"
 
 #include "platform/PrintQueue.h"
-#include "runtime/RunTimeError.h"
+#include "runtime/FileError.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSaveFile>
@@ -22,6 +21,51 @@ void setUp(QPagedPaintDevice &device, const QPageLayout &layout)
     device.setPageLayout(wholeSheet);
 }
 
+// A file of which nothing is left out unnoticed: after the first failure nothing more is written,
+// and what failed is not forgotten.
+class FaultlessFile final : public QIODevice
+{
+public:
+    explicit FaultlessFile(QFileDevice &file) : m_file(file) { open(QIODevice::WriteOnly); }
+
+    // What is still to be written goes to the file. False where not everything is there.
+    [[nodiscard]] bool complete()
+    {
+        if (!m_failed && !m_file.flush())
+            fail();
+        return !m_failed;
+    }
+    [[noreturn]] void throwError(const QString &path) const
+    {
+        throwFileError(m_error, path, m_reason);
+    }
+
+protected:
+    qint64 readData(char * /*data*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        if (!m_failed && m_file.write(data, size) != size)
+            fail();
+        return m_failed ? -1 : size;
+    }
+
+private:
+    void fail()
+    {
+        m_failed = true;
+        // A write that stops short gives no reason; the next one does.
+        if (m_file.error() != QFileDevice::ResourceError)
+            m_file.flush();
+        m_error = fileError(m_file);
+        m_reason = m_file.errorString();
+    }
+
+    QFileDevice &m_file;
+    bool m_failed = false;
+    RunTimeError::Number m_error = RunTimeError::PathFileAccess;
+    QString m_reason;
+};
+
 // What is written as a PDF file somewhere.
 class WrittenDocument : public PrintDocument
 {
@@ -34,7 +78,7 @@ public:
     }
 
 protected:
-    WrittenDocument(QIODevice &file, const PrintedPaper &paper) : m_writer(&file)
+    WrittenDocument(QFileDevice &file, const PrintedPaper &paper) : m_file(file), m_writer(&m_file)
     {
         m_writer.setResolution(paper.resolution);
         m_writer.setTitle(paper.title);
@@ -42,9 +86,13 @@ protected:
         setUp(m_writer, paper.layout);
     }
 
+    // Ends the document. False where not all of it is in the file.
+    [[nodiscard]] bool complete() { return endPainting() && m_file.complete(); }
+    [[nodiscard]] const FaultlessFile &output() const { return m_file; }
     [[nodiscard]] QPagedPaintDevice &device() override { return m_writer; }
 
 private:
+    FaultlessFile m_file;
     QPdfWriter m_writer;
 };
 
@@ -52,15 +100,9 @@ struct OpenSaveFile
 {
     explicit OpenSaveFile(const QString &path) : file(path)
     {
+        checkPlaceOfFile(path);
         if (!file.open(QIODevice::WriteOnly))
-            fail();
-    }
-
-    [[noreturn]] void fail() const
-    {
-        throw RunTimeError(RunTimeError::PathFileAccess, QDir::toNativeSeparators(file.fileName()) +
-                                                             QStringLiteral(": ") +
-                                                             file.errorString());
+            throwFileError(RunTimeError::PermissionDenied, path, file.errorString());
     }
 
     QSaveFile file;
@@ -76,8 +118,10 @@ public:
 
     void finish() override
     {
-        if (!endPainting() || !file.commit())
-            fail();
+        if (!complete())
+            output().throwError(file.fileName());
+        if (!file.commit())
+            throwFileError(file, file.fileName());
     }
 };
 
@@ -114,8 +158,7 @@ public:
 
     void finish() override
     {
-        const bool written = opened && endPainting() && file.flush();
-        if (!written || file.error() != QFileDevice::NoError || !PrintQueue::submit(m_job))
+        if (!opened || !complete() || !PrintQueue::submit(m_job))
             throw RunTimeError(RunTimeError::PrinterFault, m_job.queue);
     }
 

@@ -16,7 +16,9 @@ class QPainter;
 class PrintMetrics
 {
 public:
-    // A sheet and the printable area on it in inches, and dots per inch.
+    // A sheet and the printable area on it in inches, and dots per inch. The resolution has to be
+    // that of the device which is printed on: the widths of characters differ from one resolution
+    // to another, and lines would end elsewhere.
     PrintMetrics(QSizeF sheet, const QRectF &area, int resolution);
     ~PrintMetrics();
     Q_DISABLE_COPY_MOVE(PrintMetrics)

@@ -11,8 +11,8 @@ struct Job
     QString queue;
     QString title;
     QString file;     // a PDF document
-    QByteArray paper; // the queue's names for the size of the paper and for what is printed of it
-    QByteArray sides;
+    QByteArray paper; // the queue's name for the size of the paper
+    QByteArray sides; // its word for printing on one side of it or on both
     int copies = 1;
 };
 

@@ -12,13 +12,14 @@ public:
     Integer Copies = 1;
     SystemPrinter::Orientation Orientation = SystemPrinter::Orientation::Portrait;
 
-    // Lets the person set up the printer and choose another one. False where the person cancelled;
-    // the properties are as before then.
+    // Lets the person set up the printer and choose another one; the copies are kept here alone.
+    // False where the person cancelled; the properties are as before then.
     [[nodiscard]] bool ShowPrinter(QWidget *parent, SystemPrinter &printer)
     {
-        if (!printer.showSetup(parent, DialogTitle))
+        const auto copies = printer.showSetup(parent, DialogTitle, Copies);
+        if (!copies)
             return false;
-        Copies = printer.Copies;
+        Copies = *copies;
         Orientation = printer.orientation();
         return true;
     }

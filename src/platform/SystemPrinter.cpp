@@ -104,9 +104,10 @@ double SystemPrinter::ScaleHeight() const
     return m_metrics->area().height();
 }
 
-bool SystemPrinter::showSetup(QWidget *parent, const QString &title)
+std::optional<Integer> SystemPrinter::showSetup(QWidget *parent, const QString &title,
+                                                Integer copies)
 {
-    m_device->setCopyCount(Copies.toInt());
+    m_device->setCopyCount(copies.toInt());
     QPrintDialog dialog(m_device.get(), parent);
     dialog.setWindowTitle(title);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
@@ -116,11 +117,10 @@ bool SystemPrinter::showSetup(QWidget *parent, const QString &title)
     const QTemporaryDir folder;
     hideFile(dialog, folder.filePath(QStringLiteral("print.pdf")));
     if (dialog.exec() != QDialog::Accepted)
-        return false;
-    Copies = m_device->copyCount();
+        return std::nullopt;
     select(m_device->outputFormat() == QPrinter::PdfFormat ? printToPdf()
                                                            : m_device->printerName());
-    return true;
+    return m_device->copyCount();
 }
 
 bool SystemPrinter::showPageSetup(QWidget *parent)
@@ -134,13 +134,20 @@ bool SystemPrinter::showPageSetup(QWidget *parent)
 
 bool SystemPrinter::StartDoc(QWidget *parent, const QString &title)
 {
-    const PrintedPaper paper{m_device->pageLayout(), m_device->resolution(), title};
+    const auto paper = [this, &title] {
+        return PrintedPaper{m_device->pageLayout(), m_device->resolution(), title};
+    };
     if (!printsToFile()) {
         const QPrinterInfo printer = QPrinterInfo::printerInfo(m_deviceName);
         if (printer.isNull() || printer.state() == QPrinter::Error)
             throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
+        // The device kept its former printer if this one was gone when it was selected.
+        if (m_device->printerName() != m_deviceName)
+            select(m_deviceName);
+        if (m_device->printerName() != m_deviceName)
+            throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
         m_device->setCopyCount(Copies.toInt());
-        m_document = printerDocument(*m_device, paper);
+        m_document = printerDocument(*m_device, paper());
         return true;
     }
     m_fileDialog.DialogTitle = printToPdf();
@@ -150,7 +157,7 @@ bool SystemPrinter::StartDoc(QWidget *parent, const QString &title)
     m_fileDialog.FileName = QFileInfo(title).completeBaseName() + QStringLiteral(".pdf");
     if (!m_fileDialog.ShowSave(parent))
         return false;
-    m_document = pdfDocument(m_fileDialog.FileName, paper);
+    m_document = pdfDocument(m_fileDialog.FileName, paper());
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include "platform/Printer.h"
 
 #include <memory>
+#include <optional>
 
 class PrintDocument;
 class PrintMetrics;
@@ -40,9 +41,11 @@ public:
     // How texts come out on the current printer and paper; never null.
     [[nodiscard]] std::shared_ptr<const PrintMetrics> metrics() const { return m_metrics; }
 
-    // The system's dialogs for the current printer; false where the person cancelled. The first
-    // may choose another printer and the number of copies.
-    [[nodiscard]] bool showSetup(QWidget *parent, const QString &title);
+    // The system's dialogs for the current printer, which the first may change for another one.
+    // Nothing or false where the person cancelled. The copies are asked for and returned only: the
+    // printer's own stay.
+    [[nodiscard]] std::optional<Integer> showSetup(QWidget *parent, const QString &title,
+                                                   Integer copies);
     [[nodiscard]] bool showPageSetup(QWidget *parent);
 
     // To be called before a document's first text. False where the person did not say which file

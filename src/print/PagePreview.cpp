@@ -28,11 +28,22 @@ QColor groundColour(const QPalette &palette)
 
 } // namespace
 
+PagePreview::Pause::Pause(PagePreview &preview) : m_preview(preview)
+{
+    m_preview.m_paused = true;
+    m_preview.m_idle.stop();
+}
+
+PagePreview::Pause::~Pause()
+{
+    m_preview.m_paused = false;
+    m_preview.layOutWhenIdle();
+}
+
 PagePreview::PagePreview(QWidget *parent) : QAbstractScrollArea(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setZoom(Zoom::WholePage);
-    m_idle.setParent(this);
     connect(&m_idle, &QTimer::timeout, this, &PagePreview::layOutMore);
 }
 
@@ -46,7 +57,7 @@ void PagePreview::setPages(std::unique_ptr<PreviewPages> pages)
     clock.start();
     while (!m_pages->knows(m_page) && !m_pages->isComplete() && !clock.hasExpired(LongestWait))
         m_pages->layOut(1);
-    m_idle.start();
+    layOutWhenIdle();
     placeSheet();
     afterLayout();
 }
@@ -56,6 +67,12 @@ void PagePreview::dropPages()
     m_idle.stop();
     m_pages.reset();
     m_texts.clear();
+}
+
+void PagePreview::layOutWhenIdle()
+{
+    if (m_pages && !m_paused)
+        m_idle.start();
 }
 
 void PagePreview::layOutMore()
@@ -176,10 +193,12 @@ void PagePreview::paintEvent(QPaintEvent * /*event*/)
     for (int i = 1; i <= ShadowSteps; ++i)
         painter.drawRoundedRect(m_sheet.adjusted(1 - i, 2 - i, i, 1 + i), i, i);
     painter.fillRect(m_sheet, Qt::white);
-    if (m_pages->failure().isEmpty())
+    if (m_textsKnown || m_pages->isComplete()) {
         paintTexts(painter);
-    else
-        paintFailure(painter);
+    } else {
+        painter.setPen(Qt::black);
+        painter.drawText(m_sheet, Qt::AlignCenter, QStringLiteral("Laying out..."));
+    }
 }
 
 void PagePreview::paintTexts(QPainter &painter) const
@@ -192,13 +211,6 @@ void PagePreview::paintTexts(QPainter &painter) const
     painter.setPen(Qt::black);
     for (const PreviewPages::Text &text : m_texts)
         metrics.draw(painter, text.topLeft, text.text, text.style);
-}
-
-void PagePreview::paintFailure(QPainter &painter) const
-{
-    painter.setPen(Qt::black);
-    painter.drawText(m_sheet.adjusted(Border, Border, -Border, -Border),
-                     int(Qt::AlignCenter) | int(Qt::TextWordWrap), m_pages->failure());
 }
 
 void PagePreview::keyPressEvent(QKeyEvent *event)
@@ -244,10 +256,9 @@ void PagePreview::wheelEvent(QWheelEvent *event)
 {
     const QScrollBar &bar = *verticalScrollBar();
     const int turned = event->angleDelta().y();
-    if (turned < 0 && bar.value() == bar.maximum())
-        goTo(m_page + 1);
-    else if (turned > 0 && bar.value() == bar.minimum())
-        goTo(m_page - 1);
+    if ((turned < 0 && bar.value() == bar.maximum()) ||
+        (turned > 0 && bar.value() == bar.minimum()))
+        goTo(m_page - m_wheel.turned(turned));
     else
         QAbstractScrollArea::wheelEvent(event);
     event->accept();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "print/PreviewPages.h"
+#include "print/WheelSteps.h"
 
 #include <QAbstractScrollArea>
 #include <QTimer>
@@ -11,10 +12,21 @@
 class PagePreview final : public QAbstractScrollArea
 {
     Q_OBJECT
-    Q_PROPERTY(int page READ page)
 
 public:
     enum class Zoom { WholePage, ActualSize };
+
+    // Nothing is laid out in idle moments while there is one.
+    class Pause
+    {
+    public:
+        explicit Pause(PagePreview &preview);
+        ~Pause();
+        Q_DISABLE_COPY_MOVE(Pause)
+
+    private:
+        PagePreview &m_preview;
+    };
 
     explicit PagePreview(QWidget *parent = nullptr);
 
@@ -45,18 +57,20 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
+    void layOutWhenIdle();
     void layOutMore();
     void afterLayout();
     void placeSheet();
     void showTexts();
     void paintTexts(QPainter &painter) const;
-    void paintFailure(QPainter &painter) const;
 
     std::unique_ptr<PreviewPages> m_pages;
     int m_page = 0;
     bool m_toLast = false; // the last page is to be shown when it is known
     Zoom m_zoom = Zoom::WholePage;
     QTimer m_idle;
+    bool m_paused = false;
+    WheelSteps m_wheel;
     QRectF m_sheet; // on the viewport, not scrolled
     bool m_textsKnown = false;
     std::vector<PreviewPages::Text> m_texts; // of the page

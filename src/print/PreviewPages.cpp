@@ -4,12 +4,12 @@
 #include "core/cVocabList.h"
 #include "platform/PrintMetrics.h"
 #include "platform/Printer.h"
-#include "runtime/RunTimeError.h"
 
 #include <QElapsedTimer>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 struct PreviewPages::Position
@@ -79,7 +79,7 @@ PreviewPages::~PreviewPages() = default;
 
 bool PreviewPages::isComplete() const
 {
-    return m_list.NumWords() < 1 || m_laidOut == m_job.entries() || !m_failure.isEmpty();
+    return m_list.NumWords() < 1 || m_laidOut == m_job.entries();
 }
 
 void PreviewPages::layOut(int milliseconds)
@@ -87,14 +87,9 @@ void PreviewPages::layOut(int milliseconds)
     constexpr int EntriesAtATime = 16; // between two looks at the clock
     QElapsedTimer clock;
     clock.start();
-    try {
-        while (!isComplete() && !clock.hasExpired(milliseconds))
-            for (int i = 0; i < EntriesAtATime && !isComplete(); ++i)
-                layOutEntry();
-    } catch (const RunTimeError &error) {
-        m_failure = error.report();
-        m_pageStart.clear();
-    }
+    while (!isComplete() && !clock.hasExpired(milliseconds))
+        for (int i = 0; i < EntriesAtATime && !isComplete(); ++i)
+            layOutEntry();
 }
 
 void PreviewPages::layOutEntry()
@@ -110,7 +105,9 @@ int PreviewPages::count() const
 {
     const auto begun = static_cast<double>(m_pageStart.size());
     const double ofPass = isComplete() ? begun : begun * m_job.entries() / std::max(1, m_laidOut);
-    return static_cast<int>(std::ceil(ofPass)) * m_copies;
+    // Copies of a long list are more than can be counted; one more is still a number.
+    constexpr qint64 Most = std::numeric_limits<int>::max() - 1;
+    return static_cast<int>(std::min(static_cast<qint64>(std::ceil(ofPass)) * m_copies, Most));
 }
 
 // All passes look the same.

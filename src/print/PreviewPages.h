@@ -32,8 +32,6 @@ public:
     // Lays out further pages for about that time.
     void layOut(int milliseconds);
     [[nodiscard]] bool isComplete() const;
-    // Why the job would fail; empty where it would not, as far as it is laid out.
-    [[nodiscard]] QString failure() const { return m_failure; }
 
     // All pages of the job; an estimate until the layout is complete.
     [[nodiscard]] int count() const;
@@ -56,5 +54,4 @@ private:
     std::unique_ptr<Recorder> m_layout;
     int m_laidOut = 0;                 // entries of the first pass
     std::vector<Position> m_pageStart; // before the entry in which each page of a pass begins
-    QString m_failure;
 };

@@ -4,6 +4,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 StepBar::StepBar(QWidget *parent) : QScrollBar(Qt::Vertical, parent)
 {
@@ -42,8 +43,8 @@ void StepBar::raiseUpwards(int action)
 
 void StepBar::wheelEvent(QWheelEvent *event)
 {
-    const int turned = event->angleDelta().y();
-    if (turned != 0)
-        triggerAction(turned > 0 ? SliderSingleStepSub : SliderSingleStepAdd);
+    const int steps = m_wheel.turned(event->angleDelta().y());
+    for (int i = 0; i < std::abs(steps); ++i)
+        triggerAction(steps > 0 ? SliderSingleStepSub : SliderSingleStepAdd);
     event->accept();
 }

@@ -3,6 +3,8 @@
 // arrow, a key or the wheel, raises it.
 #pragma once
 
+#include "print/WheelSteps.h"
+
 #include <QScrollBar>
 
 class StepBar final : public QScrollBar
@@ -17,4 +19,6 @@ protected:
 
 private:
     void raiseUpwards(int action);
+
+    WheelSteps m_wheel;
 };

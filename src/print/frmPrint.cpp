@@ -111,6 +111,13 @@ void frmPrint::Form_Load()
     m_ui->lstPrinter->setFocus();
 }
 
+// Every change stays, whichever way the dialog is left.
+bool frmPrint::Form_QueryUnload()
+{
+    takeTypedText();
+    return true;
+}
+
 void frmPrint::Form_Terminate()
 {
     m_ui->preview->dropPages();
@@ -137,9 +144,14 @@ void frmPrint::enableRange(bool enabled)
 
 void frmPrint::lstPrinter_Click()
 {
-    const QListWidgetItem *chosen = m_ui->lstPrinter->currentItem();
+    QListWidgetItem *chosen = m_ui->lstPrinter->currentItem();
     if (!chosen)
         return;
+    {
+        // A click with Ctrl would take the mark away from the current printer.
+        const QSignalBlocker marking(m_ui->lstPrinter);
+        chosen->setSelected(true);
+    }
     for (const QString &name : SystemPrinter::installed())
         if (name == chosen->text())
             m_printer.select(name);
@@ -261,7 +273,7 @@ void frmPrint::vsc_RightMargin_Change()
 
 void frmPrint::takeStep(QLineEdit &box, const StepBar &bar, Currency &margin)
 {
-    margin = Currency(bar.value() * 0.1);
+    margin = Currency(static_cast<double>(bar.value()) / StepsPerInch);
     box.setText(margin.toText());
     showPreview();
 }
@@ -279,6 +291,7 @@ void frmPrint::cmdPrint_Click()
     takeTypedText();
     bool printed = false;
     tellPrinterError(m_printer, [this, &printed] {
+        const PagePreview::Pause pause(*m_ui->preview); // the job gets all the time
         printWordList(this, m_printer, WordListPrint::chosen());
         printed = true;
     });
@@ -286,7 +299,7 @@ void frmPrint::cmdPrint_Click()
         close();
 }
 
-// Enter presses Print without leaving the box.
+// Enter, Esc and the buttons' keys do not leave the box.
 void frmPrint::takeTypedText()
 {
     const QWidget *box = focusWidget();
@@ -345,8 +358,10 @@ void frmPrint::showPreview()
 void frmPrint::showPage()
 {
     const PagePreview &preview = *m_ui->preview;
-    m_ui->lblPage->setText(preview.pageText());
-    m_ui->preview->setAccessibleDescription(preview.pageText());
+    if (const QString text = preview.pageText(); text != m_ui->lblPage->text()) {
+        m_ui->lblPage->setText(text);
+        m_ui->preview->setAccessibleDescription(text); // is told to who does not see it, each time
+    }
     m_ui->cmdFirstPage->setEnabled(!preview.isFirst());
     m_ui->cmdPreviousPage->setEnabled(!preview.isFirst());
     m_ui->cmdNextPage->setEnabled(!preview.isLast());

@@ -27,6 +27,7 @@ public:
 
 protected:
     void Form_Load() override;
+    bool Form_QueryUnload() override;
     void Form_Terminate() override;
 
 private:

@@ -2,9 +2,8 @@
 #include "runtime/BinaryFile.h"
 
 #include "runtime/DiskFlush.h"
-#include "runtime/RunTimeError.h"
+#include "runtime/FileError.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -25,30 +24,6 @@ bool isDiskFull(int systemError)
     return systemError == ENOSPC;
 }
 
-[[noreturn]] void fail(RunTimeError::Number number, const QString &path, const QString &reason)
-{
-    throw RunTimeError(number, QDir::toNativeSeparators(path) + QStringLiteral(": ") + reason);
-}
-
-[[noreturn]] void fail(const QFileDevice &file, const QString &path)
-{
-    const bool diskFull = file.error() == QFileDevice::ResourceError;
-    fail(diskFull ? RunTimeError::DiskFull : RunTimeError::PathFileAccess, path,
-         file.errorString());
-}
-
-// Refuses what opening could not serve, or would hang on (a pipe) or replace (a device).
-void checkPlace(const QString &path)
-{
-    const QFileInfo file(path);
-    if (!file.dir().exists())
-        fail(RunTimeError::PathNotFound, path, QStringLiteral("There is no such folder"));
-    if (file.isDir())
-        fail(RunTimeError::PathFileAccess, path, QStringLiteral("This is a folder"));
-    if (file.exists() && !file.isFile())
-        fail(RunTimeError::PathFileAccess, path, QStringLiteral("This is not an ordinary file"));
-}
-
 // The file that a chain of symbolic links ends at, existing or not.
 QString withoutLinks(const QString &path)
 {
@@ -67,7 +42,7 @@ void write(QFileDevice &file, QByteArrayView content, const QString &path)
     while (!content.isEmpty()) {
         const qint64 written = file.write(content.data(), content.size());
         if (written <= 0)
-            fail(file, path);
+            throwFileError(file, path);
         content = content.sliced(written);
     }
 }
@@ -77,11 +52,11 @@ void copyRest(QFile &from, QFileDevice &to, qint64 position, const QString &path
     if (!from.isOpen() || from.size() <= position)
         return;
     if (!from.seek(position))
-        fail(from, path);
+        throwFileError(from, path);
     while (!from.atEnd()) {
         const QByteArray chunk = from.read(ChunkSize);
         if (from.error() != QFileDevice::NoError)
-            fail(from, path);
+            throwFileError(from, path);
         write(to, chunk, path);
     }
 }
@@ -91,10 +66,10 @@ void flush(QFileDevice &file, const QString &path)
     if (flushToDisk(file))
         return;
     const int reason = errno;
-    fail(isDiskFull(reason) || file.error() == QFileDevice::ResourceError
-             ? RunTimeError::DiskFull
-             : RunTimeError::PathFileAccess,
-         path, qt_error_string(reason));
+    throwFileError(isDiskFull(reason) || file.error() == QFileDevice::ResourceError
+                       ? RunTimeError::DiskFull
+                       : RunTimeError::PathFileAccess,
+                   path, qt_error_string(reason));
 }
 
 // For a folder that admits no second file: the old bytes are put back if the new ones do not fit.
@@ -104,12 +79,12 @@ void writeInPlace(const QString &target, QByteArrayView content, const QString &
     QFile file(target);
     const bool exists = file.exists();
     if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
-        fail(RunTimeError::PermissionDenied, path, file.errorString());
+        throwFileError(RunTimeError::PermissionDenied, path, file.errorString());
     const qint64 oldSize = file.size();
     const QByteArray oldStart = file.read(content.size());
     try {
         if (!file.seek(0))
-            fail(file, path);
+            throwFileError(file, path);
         write(file, content, path);
         flush(file, path);
     } catch (const RunTimeError &) {
@@ -128,32 +103,32 @@ void writeInPlace(const QString &target, QByteArrayView content, const QString &
 QByteArray BinaryFile::read(const QString &path, qint64 maxSize, Missing missing)
 {
     const QString target = withoutLinks(path);
-    checkPlace(target);
+    checkPlaceOfFile(target);
     QFile file(target);
     const bool exists = file.exists();
     if (!exists && missing == Missing::IsAnError)
-        fail(RunTimeError::FileNotFound, path, QStringLiteral("There is no such file"));
+        throwFileError(RunTimeError::FileNotFound, path, QStringLiteral("There is no such file"));
     if (!file.open(exists ? QIODevice::ReadOnly : QIODevice::ReadWrite))
-        fail(RunTimeError::PermissionDenied, path, file.errorString());
+        throwFileError(RunTimeError::PermissionDenied, path, file.errorString());
     QByteArray content = file.read(std::min(file.size(), maxSize));
     if (file.error() != QFileDevice::NoError)
-        fail(file, path);
+        throwFileError(file, path);
     return content;
 }
 
 void BinaryFile::overwrite(const QString &path, QByteArrayView content)
 {
     const QString target = withoutLinks(path);
-    checkPlace(target);
+    checkPlaceOfFile(target);
     QFile oldFile(target);
     const bool exists = oldFile.exists();
     if (exists && !oldFile.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        fail(RunTimeError::PermissionDenied, path, oldFile.errorString());
+        throwFileError(RunTimeError::PermissionDenied, path, oldFile.errorString());
 
     QSaveFile newFile(target);
     if (!newFile.open(QIODevice::WriteOnly)) {
         if (!exists)
-            fail(RunTimeError::PermissionDenied, path, newFile.errorString());
+            throwFileError(RunTimeError::PermissionDenied, path, newFile.errorString());
         oldFile.close();
         writeInPlace(target, content, path);
         return;

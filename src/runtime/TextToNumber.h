@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Texts that a person or a file gives for numbers.
 //
-// Outer blanks do not count. A text that is no number throws RunTimeError TypeMismatch, one beyond
-// all range Overflow.
+// A number is written with the digits 0 to 9, a point, a sign and an exponent, without groups.
+// Outer blanks (U+0020) do not count. A text that is no number throws RunTimeError TypeMismatch,
+// one beyond all range Overflow.
 #pragma once
 
 #include "runtime/Integer.h"

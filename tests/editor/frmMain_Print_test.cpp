@@ -142,6 +142,16 @@ private Q_SLOTS:
         }
     }
 
+    void printerSetupGivesItsCopiesToNothingElse()
+    {
+        setUpPrinter(
+            [](QDialog &dialog) { dialog.findChild<QSpinBox *>(u"copies"_s)->setValue(3); });
+        QCOMPARE(pagesOf(printedWholeList()).count(u"Page "_s), 1);
+        setUpPrinter([](QDialog &dialog) {
+            QCOMPARE(dialog.findChild<QSpinBox *>(u"copies"_s)->value(), 3);
+        });
+    }
+
     void aCancelledPrinterSetupChangesNothing()
     {
         m_main->answers.useForm(SystemDialog, [](QDialog &dialog) {

@@ -80,6 +80,47 @@ private Q_SLOTS:
         QCOMPARE(m_preview->page(), 1);
     }
 
+    void partsOfAStepOfTheWheelAddUp()
+    {
+        for (int i = 0; i < 14; ++i)
+            turn(-8);
+        QCOMPARE(m_preview->page(), 1);
+        turn(-8);
+        QCOMPARE(m_preview->page(), 2);
+        for (int i = 0; i < 15; ++i)
+            turn(8);
+        QCOMPARE(m_preview->page(), 1);
+    }
+
+    void aPageThatIsNotLaidOutYetSaysSo()
+    {
+        makeLongList();
+        const PagePreview::Pause pause(*m_preview);
+        setPages();
+        QVERIFY(!isCounted());
+        m_preview->goToLast();
+        QVERIFY(m_preview->page() > 1);
+        QVERIFY(darkPixelsInTheMiddle() > 0);
+        // The first page is known; its lines end above the middle.
+        m_preview->goTo(1);
+        QCOMPARE(darkPixelsInTheMiddle(), 0);
+    }
+
+    void nothingIsLaidOutWhilePaused()
+    {
+        makeLongList();
+        {
+            const PagePreview::Pause pause(*m_preview);
+            setPages();
+            const QString before = m_preview->pageText();
+            for (int i = 0; i < 200; ++i)
+                QCoreApplication::processEvents();
+            QCOMPARE(m_preview->pageText(), before);
+            QVERIFY(!isCounted());
+        }
+        QTRY_VERIFY(isCounted());
+    }
+
     void inItsActualSizeThePageScrollsBeforeItTurns()
     {
         QTest::keyClick(m_preview.get(), Qt::Key_Plus);
@@ -150,6 +191,24 @@ private:
             std::make_shared<PrintMetrics>(QSizeF(8, 11), QRectF(0, 0, 8, 11), 600);
         m_preview->setPages(
             std::make_unique<PreviewPages>(metrics, gVocabList(), WordListPrint::chosen(), 1));
+    }
+    // Its entries leave the middle of the sheet free.
+    void makeLongList()
+    {
+        for (int i = gVocabList().NumWords().toInt(); i < 30'000; ++i)
+            gVocabList().AddVocab(u"word"_s, u"definition"_s, {});
+        ToWord = gVocabList().NumWords();
+    }
+    [[nodiscard]] int darkPixelsInTheMiddle()
+    {
+        const QImage picture = m_preview->viewport()->grab().toImage();
+        QRect middle(0, 0, 120, 30);
+        middle.moveCenter(picture.rect().center());
+        int dark = 0;
+        for (int y = middle.top(); y <= middle.bottom(); ++y)
+            for (int x = middle.left(); x <= middle.right(); ++x)
+                dark += picture.pixelColor(x, y).lightness() < 128;
+        return dark;
     }
     [[nodiscard]] bool isCounted() const { return !m_preview->pageText().contains(u"about"_s); }
     [[nodiscard]] int count() const

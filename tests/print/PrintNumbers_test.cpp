@@ -26,7 +26,8 @@ private Q_SLOTS:
 
     void whatIsNoNumberIsNothing()
     {
-        for (const QString &text : {QString(), u" "_s, u"one"_s, u"1,5"_s, u"1 2"_s}) {
+        for (const QString &text : {QString(), u" "_s, u"one"_s, u"1,5"_s, u"1 2"_s, u"0,001"_s,
+                                    u"1,234"_s, u"1.5\u00A0"_s, u"\t2"_s}) {
             QVERIFY(!marginFromText(text));
             QVERIFY(!positionFromText(text));
         }

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lists printed through the dialog into real queues, and what comes out of them.
 #include "print/PrintForm.h"
+#include "print/PrintServer.h"
 #include "print/PrintedPages.h"
+#include "runtime/ErrorNumber.h"
 #include "support/FormTest.h"
 
 #include <QProgressDialog>
+
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
@@ -63,6 +68,24 @@ std::vector<VocabRecord> frenchWords()
             {u"Schiff"_s, LongWord, {}},
             {u"œuvre"_s, u"a work"_s, u"Ses œuvres coûtent 20 €."_s}};
 }
+
+// No file of this process can grow beyond a few bytes while there is one.
+class SmallFiles final
+{
+public:
+    SmallFiles()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{512, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallFiles() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(SmallFiles)
+
+private:
+    rlimit m_before{};
+};
 
 QString words(int count)
 {
@@ -285,6 +308,46 @@ private Q_SLOTS:
         form.click("cmdPrint");
         QCOMPARE(m_server->jobs(Paper), before + 1);
         static_cast<void>(m_server->printed(Paper));
+    }
+
+    void aQueueThatIsBackIsPrintedTo()
+    {
+        const QString driver = QStringLiteral(TANGLEWIT_TESTS_FOLDER "/print/Paper.ppd");
+        const QString queue = u"Returning"_s;
+        QueueForm form(Paper, frenchWords());
+        const qsizetype before = m_server->jobs(Paper);
+        form.printer.select(queue);
+        m_server->addQueue(queue, driver);
+        form.click("cmdPrint");
+        QVERIFY(form.answers.allSeen());
+        QCOMPARE(m_server->jobs(Paper), before);
+        QCOMPARE(m_server->jobs(queue), 1);
+        static_cast<void>(m_server->printed(queue));
+        m_server->removeQueue(queue);
+    }
+
+    // As when the disk for temporary files is full for a moment.
+    void aDocumentThatWasNotWrittenAsAWholeIsNotPrinted()
+    {
+        QueueForm form(Paper, frenchWords());
+        const qsizetype before = m_server->jobs(Paper);
+        SystemPrinter &printer = form.printer;
+        QVERIFY(printer.StartDoc(nullptr, u"list"_s));
+        const auto printSheets = [&printer](int count) {
+            for (int i = 0; i < count; ++i) {
+                printer.Print(words(100 + i));
+                printer.NewPage();
+            }
+        };
+        printer.Font = {u"Times New Roman"_s, 10};
+        printSheets(10);
+        {
+            const SmallFiles small;
+            printSheets(100);
+        }
+        printSheets(10);
+        QCOMPARE(errorNumberOf([&printer] { printer.EndDoc(); }), RunTimeError::PrinterFault);
+        QCOMPARE(m_server->jobs(Paper), before);
     }
 
     void ofACancelledJobNothingReachesTheQueue()

@@ -73,6 +73,28 @@ private Q_SLOTS:
         QCOMPARE(m_bar.value(), 9);
     }
 
+    void partsOfAStepOfTheWheelAddUp()
+    {
+        for (int i = 0; i < 14; ++i)
+            turn(8);
+        QCOMPARE(m_bar.value(), 10);
+        turn(8);
+        QCOMPARE(m_bar.value(), 11);
+        for (int i = 0; i < 30; ++i)
+            turn(-8);
+        QCOMPARE(m_bar.value(), 9);
+        turn(240);
+        QCOMPARE(m_bar.value(), 11);
+    }
+
+    void turnedBackTheWheelStartsAnew()
+    {
+        turn(112);
+        turn(-8);
+        turn(112);
+        QCOMPARE(m_bar.value(), 10);
+    }
+
 private:
     void clickAt(int y) { QTest::mouseClick(&m_bar, Qt::LeftButton, {}, {m_bar.width() / 2, y}); }
     void turn(int delta)

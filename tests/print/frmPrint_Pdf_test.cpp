@@ -275,7 +275,7 @@ private Q_SLOTS:
         const QString path = u"/proc/self/list.pdf"_s;
         form.answers.chooseFile(path);
         form.answers.expectAnyMsgBox(QMessageBox::Ok, [path](QMessageBox &box) {
-            QVERIFY2(box.text().startsWith(u"Run-time error '75':\n\nPath/File access error\n"),
+            QVERIFY2(box.text().startsWith(u"Run-time error '70':\n\nPermission denied\n"),
                      qPrintable(box.text()));
             QVERIFY2(box.text().contains(path + u": "_s), qPrintable(box.text()));
         });

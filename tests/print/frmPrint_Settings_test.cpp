@@ -117,6 +117,22 @@ private Q_SLOTS:
         QCOMPARE(list.currentRow(), list.count() - 1);
     }
 
+    void noPrinterOfTheMachineIsOffered()
+    {
+        QVERIFY(!qEnvironmentVariableIsEmpty("CUPS_SERVER"));
+        QCOMPARE(SystemPrinter::installed(), QStringList(u"Print to PDF"_s));
+    }
+
+    void aClickWithControlLeavesTheCurrentPrinterMarked()
+    {
+        PrintForm form;
+        auto &list = form.control<QListWidget>("lstPrinter");
+        const QRect marked = list.visualItemRect(list.currentItem());
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, marked.center());
+        QCOMPARE(list.selectedItems().size(), 1);
+        QCOMPARE(list.selectedItems().constFirst()->text(), form.printer.DeviceName());
+    }
+
     void aPrinterThatIsChosenBecomesTheCurrentOne()
     {
         PrintForm form;

@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <functional>
+
 using namespace Module1;
 using namespace Qt::StringLiterals;
 
@@ -201,6 +203,32 @@ private Q_SLOTS:
         form.click("cmdPrint");
         QVERIFY(form.answers.allSeen());
         QCOMPARE(gVocabList().CurrentWord(), Integer(3));
+    }
+
+    void cancelTakesWhatIsTypedInABox_data()
+    {
+        QTest::addColumn<std::function<void(frmPrint &)>>("leave");
+        using Leave = std::function<void(frmPrint &)>;
+        QTest::newRow("Esc") << Leave([](frmPrint &) { Controls::press(Qt::Key_Escape); });
+        QTest::newRow("Alt+C") << Leave(
+            [](frmPrint &dialog) { QTest::keyClick(&dialog, Qt::Key_C, Qt::AltModifier); });
+        QTest::newRow("the close box") << Leave([](frmPrint &dialog) { dialog.close(); });
+    }
+
+    void cancelTakesWhatIsTypedInABox()
+    {
+        QFETCH(std::function<void(frmPrint &)>, leave);
+        PrintForm form;
+        form.type("txtTopMargin", u"2"_s);
+        leave(form.dialog());
+        QTRY_VERIFY(!form.dialog().isVisible());
+        QCOMPARE(TopMargin, Currency(2));
+        form.open();
+        form.click("optSubset");
+        form.type("txtToWord", u"7"_s);
+        leave(form.dialog());
+        QTRY_VERIFY(!form.dialog().isVisible());
+        QCOMPARE(ToWord, Integer(7));
     }
 
     void enterTakesWhatIsTypedInABox()

@@ -3,39 +3,17 @@
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
+#include "runtime/SmallDisk.h"
 #include "runtime/TestFiles.h"
 
 #include <QTest>
-
-#include <sched.h>
-#include <sys/mount.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype DiskSize = 64 * 1024;
 constexpr int CannotMount = 254;
 const QString Name = u"list.lwx"_s;
-
-bool writeTo(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-           file.write(text) == text.size();
-}
-
-// Seen by this process alone and gone with it.
-bool mountSmallDisk(const QString &folder)
-{
-    const QByteArray user = QByteArray::number(getuid());
-    const QByteArray group = QByteArray::number(getgid());
-    return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 &&
-           writeTo(u"/proc/self/setgroups"_s, "deny") &&
-           writeTo(u"/proc/self/uid_map"_s, "0 " + user + " 1") &&
-           writeTo(u"/proc/self/gid_map"_s, "0 " + group + " 1") &&
-           mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, "size=64k") == 0;
-}
 
 // From now on the disk admits no new file.
 bool allowNoNewFile(const QString &folder)
@@ -111,7 +89,7 @@ private Q_SLOTS:
         const TestFolder outside;
         QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
         const QString disk = outside.path(u"disk/"_s);
-        const QByteArray content = randomBytes(DiskSize + 1, 1);
+        const QByteArray content = randomBytes(SmallDiskSize + 1, 1);
         const int error = inChildProcess([&] {
             if (!mountSmallDisk(disk))
                 return CannotMount;
@@ -128,7 +106,7 @@ private Q_SLOTS:
         const TestFolder outside;
         QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
         const QString disk = outside.path(u"disk/"_s);
-        const QByteArray content = randomBytes(DiskSize, 1);
+        const QByteArray content = randomBytes(SmallDiskSize, 1);
         const int error = inChildProcess([&] {
             if (!mountSmallDisk(disk) || !writeTo(disk + Name, "old") || !allowNoNewFile(disk))
                 return CannotMount;

@@ -66,8 +66,9 @@ private Q_SLOTS:
 
     void aTextThatIsNoNumberIsATypeMismatch()
     {
-        for (const char *text : {"", "one", "1,5", "--1", "."})
-            QCOMPARE(errorNumberOf([&] { return Currency::fromText(QString::fromLatin1(text)); }),
+        for (const char *text : {"", "one", "1,5", "--1", ".", "0,001", "1,234", "1.5\xC2\xA0",
+                                 "\t1", "1\n", "\u0661", "\uFF11"})
+            QCOMPARE(errorNumberOf([&] { return Currency::fromText(QString::fromUtf8(text)); }),
                      RunTimeError::TypeMismatch);
     }
 

@@ -107,6 +107,14 @@ private Q_SLOTS:
         for (const char *text : {"V", "one", "12a", "a12", "1 2", "--1", "+-1", "1-", "-", ".",
                                  "1.2.3", "e5", "1e", "\"2\"", "inf", "-inf", "nan"})
             QTest::newRow(text) << QString::fromLatin1(text);
+        QTest::newRow("groups") << QStringLiteral("1,234");
+        QTest::newRow("groups behind a zero") << QStringLiteral("0,001");
+        QTest::newRow("a no-break space") << QStringLiteral("1.5\u00A0");
+        QTest::newRow("a tab") << QStringLiteral("\t1");
+        QTest::newRow("a line break") << QStringLiteral("1\n");
+        QTest::newRow("Arabic digits") << QStringLiteral("\u0661\u0662");
+        QTest::newRow("wide digits") << QStringLiteral("\uFF11");
+        QTest::newRow("a minus of its own") << QStringLiteral("\u22121");
     }
 
     void whatIsNoNumberIsATypeMismatch()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main function of a test that opens windows: the real application object, Qt's own dialogs.
+// The main function of a test that opens windows: the real application object, Qt's own dialogs,
+// and none of the printers that the machine happens to have.
 #pragma once
 
 #include "platform/Application.h"
@@ -8,6 +9,7 @@
 
 template <class Test> int runFormTest(int argc, char *argv[])
 {
+    qputenv("CUPS_SERVER", "/nonexistent/printers");
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Application application(argc, argv);
     // Tests close windows in the middle.

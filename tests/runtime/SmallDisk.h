@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A file system of 64 KiB that a process mounts for itself alone.
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+inline constexpr qsizetype SmallDiskSize = 64 * 1024;
+
+inline bool writeTo(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+           file.write(text) == text.size();
+}
+
+// Seen by this process alone and gone with it.
+[[nodiscard]] inline bool mountSmallDisk(const QString &folder)
+{
+    const QByteArray user = QByteArray::number(getuid());
+    const QByteArray group = QByteArray::number(getgid());
+    return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 &&
+           writeTo(QStringLiteral("/proc/self/setgroups"), "deny") &&
+           writeTo(QStringLiteral("/proc/self/uid_map"), "0 " + user + " 1") &&
+           writeTo(QStringLiteral("/proc/self/gid_map"), "0 " + group + " 1") &&
+           mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, "size=64k") == 0;
+}
