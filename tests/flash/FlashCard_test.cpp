@@ -2,8 +2,8 @@
 // How a card looks: the size of its type, and its turning.
 #include "flash/FlashCard.h"
 
-#include "platform/CardTurn.h"
 #include "flash/FlashForm.h"
+#include "platform/CardTurn.h"
 #include "support/FormTest.h"
 
 #include <QProxyStyle>
