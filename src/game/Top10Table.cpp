@@ -26,19 +26,22 @@ Integer rowOfScore(const Top10Table &table, Integer score)
 {
     if (table.front().Points == 0)
         return 1;
-    const Top10Table::const_iterator row =
-        std::find_if(table.begin(), table.end(),
-                     [score](const Top10Entry &entry) { return entry.Points < score; });
-    return row == table.end() ? Integer(0) : Integer(row - table.begin() + 1);
+    Integer row = 1;
+    for (const Top10Entry &entry : table) {
+        if (entry.Points < score)
+            return row;
+        ++row;
+    }
+    return 0;
 }
 
 void enterScore(Top10Table &table, Integer row, Integer score, QDate day)
 {
     if (table.front().Points == 0)
         table = emptyTop10(day);
-    const Top10Table::iterator place = table.begin() + (row.toInt() - 1);
-    std::move_backward(place, table.end() - 1, table.end());
-    *place = {day, {}, score};
+    const int above = row.toInt() - 1;
+    std::move_backward(table.begin() + above, table.end() - 1, table.end());
+    table[static_cast<std::size_t>(above)] = {day, {}, score};
 }
 
 void resetScores(Top10Table &table)
