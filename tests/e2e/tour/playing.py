@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A game: tiles, a hit, a miss, the next level, and a name in the Top 10."""
-from stage.conditions import until
+from stage.conditions import Unseen, until
 
 Game = "The Tanglewit"
 Miss = "Incorrect Answer"
@@ -56,10 +56,26 @@ def beside(person, caption):
     return shown[shown.index(caption) + 1]
 
 
+def writes(person, name, text):
+    """Into the text box, which has the keyboard. A busy display can lose a letter with an accent:
+    then all is typed anew."""
+    box = person.control("text", name)
+    until(f"the cursor in '{name}'", lambda: box.focused)
+    for last_try in (False, False, True):
+        person.presses("ctrl+a")
+        person.types(text)
+        try:
+            until(f"the text in '{name}'", lambda: box.text, text, limit=5)
+            return
+        except Unseen:
+            if last_try:
+                raise
+
+
 def answers(person, words, last=None):
     """Types the word of the clue."""
     shown = until("another clue", lambda: (now := clue(person, words)) != last and now)
-    person.types(words[shown])
+    writes(person, "Your answer", words[shown])
     person.presses("Return")
     return shown
 
@@ -97,15 +113,13 @@ def misses(guide, words):
 
 def loses_a_life(guide, word, picture=None):
     person = guide.person
-    person.types("wrong")
+    writes(person, "Your answer", "wrong")
     person.presses("Return")
     person.window(Miss)
     label(person, f"The correct answer is: {word}")
     if picture:
         guide.picture(picture)
-    until("the cursor in the box",
-          lambda: person.front().find("text", "Type the word").focused)
-    person.types(word)
+    writes(person, "Type the word", word)
     person.pushes("OK")
     person.window(Game)
 
@@ -131,15 +145,13 @@ def loses(guide, words):
         for _ in range(3):
             loses_a_life(guide, words[clue(person, words)])
         word = words[clue(person, words)]
-        person.types("wrong")
+        writes(person, "Your answer", "wrong")
         person.presses("Return")
         person.window(Miss)
-        person.types(word)
+        writes(person, "Type the word", word)
         person.pushes("OK")
         person.window(Scores)
-        name = person.control("text", "Your name")
-        until("the cursor in the name", lambda: name.focused)
-        person.types(Player)
+        writes(person, "Your name", Player)
         guide.picture("top10-name")
         person.presses("Return")
         until("the row with the name", lambda: next(
