@@ -34,13 +34,12 @@ function(tanglewit_library folder)
   target_link_libraries(tanglewit_${folder} PUBLIC tanglewit_options ${arg_LINKS})
 endfunction()
 
-# tanglewit_test(<name> LINKS <targets...> [LABELS <labels...>]): builds <name>.cpp of this folder
-# and runs it without a display, as if on a screen of 1024x768 pixels. The name begins with the
-# folder's name in CTest.
+# tanglewit_test(<name> LINKS <targets...> [LABELS <labels...>] [SCREENS <screens...>]): builds
+# <name>.cpp of this folder and runs it without a display, as if on a screen of 1024x768 pixels, and
+# once more on each of the screens, of which there is a file in tests/support. The name begins with
+# the folder's name in CTest.
 function(tanglewit_test name)
-  cmake_parse_arguments(arg "" "" "LINKS;LABELS" ${ARGN})
-  get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
-  set(support "${PROJECT_SOURCE_DIR}/tests/support")
+  cmake_parse_arguments(arg "" "" "LINKS;LABELS;SCREENS" ${ARGN})
   add_executable(${name} ${name}.cpp)
   set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
@@ -50,9 +49,19 @@ function(tanglewit_test name)
   if("tanglewit_test_support" IN_LIST arg_LINKS AND NOT "${arg_LINKS}" MATCHES "Qt6::")
     target_precompile_headers(${name} REUSE_FROM tanglewit_test_headers)
   endif()
-  add_test(NAME ${folder}/${name} COMMAND ${name})
+  tanglewit_test_run(${name} "" 1024x768 "${arg_LABELS}")
+  foreach(screen IN LISTS arg_SCREENS)
+    tanglewit_test_run(${name} -${screen} ${screen} "${arg_LABELS}")
+  endforeach()
+endfunction()
+
+function(tanglewit_test_run name suffix screen labels)
+  get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+  set(support "${PROJECT_SOURCE_DIR}/tests/support")
+  set(run ${folder}/${name}${suffix})
+  add_test(NAME ${run} COMMAND ${name})
   set_tests_properties(
-    ${folder}/${name}
-    PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300
-               ENVIRONMENT "QT_QPA_PLATFORM=offscreen:configfile=${support}/screen-1024x768.json;LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0")
+    ${run}
+    PROPERTIES LABELS "${labels}" TIMEOUT 300
+               ENVIRONMENT "QT_QPA_PLATFORM=offscreen:configfile=${support}/screen-${screen}.json;LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0")
 endfunction()

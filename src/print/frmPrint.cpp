@@ -6,20 +6,16 @@
 #include "platform/LostFocus.h"
 #include "platform/SystemPrinter.h"
 #include "print/PrintJob.h"
-#include "print/PrintNumbers.h"
 #include "print/WordListPrint.h"
 #include "print/ui_frmPrint.h"
 
 #include <QShortcut>
 
-#include <algorithm>
 #include <initializer_list>
 
 using namespace Module1;
 
 namespace {
-
-constexpr int StepsPerInch = 10; // of a margin's scroll bar
 
 const QString Portrait = QStringLiteral("Portrait");
 const QString Landscape = QStringLiteral("Landscape");
@@ -83,16 +79,7 @@ void frmPrint::connectHandlers()
 void frmPrint::Form_Load()
 {
     fillPrinters();
-    const auto showMargin = [](QLineEdit *box, StepBar *bar, Currency margin) {
-        box->setText(margin.toText());
-        // The margin keeps its hundredths.
-        const QSignalBlocker unchanged(bar);
-        bar->setValue((margin * StepsPerInch).toInteger().toInt());
-    };
-    showMargin(m_ui->txtBottomMargin, m_ui->vsc_BottomMargin, BottomMargin);
-    showMargin(m_ui->txtLeftMargin, m_ui->vsc_LeftMargin, LeftMargin);
-    showMargin(m_ui->txtRightMargin, m_ui->vsc_RightMargin, RightMargin);
-    showMargin(m_ui->txtTopMargin, m_ui->vsc_TopMargin, TopMargin);
+    showMargins();
     if (FromWord == 0 || ToWord == 0) {
         FromWord = 1;
         ToWord = gVocabList().NumWords();
@@ -191,101 +178,6 @@ void frmPrint::chkPrintItemNumber_Click()
     showPreview();
 }
 
-void frmPrint::txtFromWord_LostFocus()
-{
-    takePosition(*m_ui->txtFromWord, FromWord);
-}
-
-void frmPrint::txtToWord_LostFocus()
-{
-    takePosition(*m_ui->txtToWord, ToWord);
-}
-
-void frmPrint::takePosition(QLineEdit &box, Integer &position)
-{
-    if (box.text().isEmpty())
-        return;
-    if (const auto typed = positionFromText(box.text()))
-        position = positionInList(*typed, gVocabList().NumWords());
-    box.setText(position.toText());
-    showPreview();
-}
-
-void frmPrint::txtTopMargin_LostFocus()
-{
-    takeMargin(*m_ui->txtTopMargin, *m_ui->vsc_TopMargin, TopMargin);
-}
-
-void frmPrint::txtBottomMargin_LostFocus()
-{
-    takeMargin(*m_ui->txtBottomMargin, *m_ui->vsc_BottomMargin, BottomMargin);
-}
-
-void frmPrint::txtLeftMargin_LostFocus()
-{
-    takeMargin(*m_ui->txtLeftMargin, *m_ui->vsc_LeftMargin, LeftMargin);
-}
-
-void frmPrint::txtRightMargin_LostFocus()
-{
-    takeMargin(*m_ui->txtRightMargin, *m_ui->vsc_RightMargin, RightMargin);
-}
-
-// A margin that the scroll bar does not follow keeps its hundredths, and the box what was typed.
-void frmPrint::takeMargin(QLineEdit &box, StepBar &bar, Currency &margin)
-{
-    const auto typed = marginFromText(box.text());
-    if (!typed) {
-        box.setText(margin.toText());
-        return;
-    }
-    margin = std::clamp(*typed, SmallestMargin, LargestMargin);
-    if (margin != *typed)
-        box.setText(margin.toText());
-    bar.setValue((margin * StepsPerInch).toInteger().toInt());
-    showPreview();
-}
-
-void frmPrint::vsc_TopMargin_Change()
-{
-    takeStep(*m_ui->txtTopMargin, *m_ui->vsc_TopMargin, TopMargin);
-}
-
-void frmPrint::vsc_BottomMargin_Change()
-{
-    takeStep(*m_ui->txtBottomMargin, *m_ui->vsc_BottomMargin, BottomMargin);
-}
-
-void frmPrint::vsc_BottomMargin_LostFocus()
-{
-    txtBottomMargin_LostFocus();
-}
-
-void frmPrint::vsc_LeftMargin_Change()
-{
-    takeStep(*m_ui->txtLeftMargin, *m_ui->vsc_LeftMargin, LeftMargin);
-}
-
-void frmPrint::vsc_RightMargin_Change()
-{
-    takeStep(*m_ui->txtRightMargin, *m_ui->vsc_RightMargin, RightMargin);
-}
-
-void frmPrint::takeStep(QLineEdit &box, const StepBar &bar, Currency &margin)
-{
-    margin = Currency(static_cast<double>(bar.value()) / StepsPerInch);
-    box.setText(margin.toText());
-    showPreview();
-}
-
-void frmPrint::vsc_Copies_Change()
-{
-    const Integer copies = m_ui->vsc_Copies->value();
-    m_ui->txtCopies->setText(copies.toText());
-    m_printer.Copies = copies;
-    showPreview();
-}
-
 void frmPrint::cmdPrint_Click()
 {
     takeTypedText();
@@ -299,74 +191,7 @@ void frmPrint::cmdPrint_Click()
         close();
 }
 
-// Enter, Esc and the buttons' keys do not leave the box.
-void frmPrint::takeTypedText()
-{
-    const QWidget *box = focusWidget();
-    if (box == m_ui->txtFromWord)
-        txtFromWord_LostFocus();
-    else if (box == m_ui->txtToWord)
-        txtToWord_LostFocus();
-    else if (box == m_ui->txtTopMargin)
-        txtTopMargin_LostFocus();
-    else if (box == m_ui->txtBottomMargin)
-        txtBottomMargin_LostFocus();
-    else if (box == m_ui->txtLeftMargin)
-        txtLeftMargin_LostFocus();
-    else if (box == m_ui->txtRightMargin)
-        txtRightMargin_LostFocus();
-}
-
 void frmPrint::cmdCancel_Click()
 {
     close();
-}
-
-void frmPrint::cmdFirstPage_Click()
-{
-    m_ui->preview->goTo(1);
-}
-
-void frmPrint::cmdPreviousPage_Click()
-{
-    m_ui->preview->goTo(m_ui->preview->page() - 1);
-}
-
-void frmPrint::cmdNextPage_Click()
-{
-    m_ui->preview->goTo(m_ui->preview->page() + 1);
-}
-
-void frmPrint::cmdLastPage_Click()
-{
-    m_ui->preview->goToLast();
-}
-
-void frmPrint::cmdZoom_Click()
-{
-    PagePreview &preview = *m_ui->preview;
-    preview.setZoom(preview.zoom() == PagePreview::Zoom::WholePage ? PagePreview::Zoom::ActualSize
-                                                                   : PagePreview::Zoom::WholePage);
-}
-
-void frmPrint::showPreview()
-{
-    m_ui->preview->setPages(std::make_unique<PreviewPages>(
-        m_printer.metrics(), gVocabList(), WordListPrint::chosen(), m_printer.Copies));
-}
-
-void frmPrint::showPage()
-{
-    const PagePreview &preview = *m_ui->preview;
-    if (const QString text = preview.pageText(); text != m_ui->lblPage->text()) {
-        m_ui->lblPage->setText(text);
-        m_ui->preview->setAccessibleDescription(text); // is told to who does not see it, each time
-    }
-    m_ui->cmdFirstPage->setEnabled(!preview.isFirst());
-    m_ui->cmdPreviousPage->setEnabled(!preview.isFirst());
-    m_ui->cmdNextPage->setEnabled(!preview.isLast());
-    m_ui->cmdLastPage->setEnabled(!preview.isLast());
-    m_ui->cmdZoom->setText(preview.zoom() == PagePreview::Zoom::WholePage
-                               ? QStringLiteral("Actual size")
-                               : QStringLiteral("Whole page"));
 }

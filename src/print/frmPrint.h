@@ -31,39 +31,44 @@ protected:
     void Form_Terminate() override;
 
 private:
+    // frmPrint.cpp: the dialog, and what is chosen by a click
+    void connectHandlers();
+    void fillPrinters();
     void lstPrinter_Click();
     void optPortrait_Click();
     void optLandscape_Click();
     void optPrintAllWords_Click();
     void optSubset_Click();
+    void enableRange(bool enabled);
     void chkPrintItemNumber_Click();
+    void cmdPrint_Click();
+    void cmdCancel_Click();
+
+    // frmPrint_Boxes.cpp: range, margins and copies
     void txtFromWord_LostFocus();
     void txtToWord_LostFocus();
+    void takePosition(QLineEdit &box, Integer &position);
+    void showMargins();
     void txtTopMargin_LostFocus();
     void txtBottomMargin_LostFocus();
     void txtLeftMargin_LostFocus();
     void txtRightMargin_LostFocus();
+    void takeMargin(QLineEdit &box, StepBar &bar, Currency &margin);
     void vsc_TopMargin_Change();
     void vsc_BottomMargin_Change();
     void vsc_BottomMargin_LostFocus();
     void vsc_LeftMargin_Change();
     void vsc_RightMargin_Change();
+    void takeStep(QLineEdit &box, const StepBar &bar, Currency &margin);
     void vsc_Copies_Change();
-    void cmdPrint_Click();
-    void cmdCancel_Click();
+    void takeTypedText();
+
+    // frmPrint_Preview.cpp: the pages beside the settings
     void cmdFirstPage_Click();
     void cmdPreviousPage_Click();
     void cmdNextPage_Click();
     void cmdLastPage_Click();
     void cmdZoom_Click();
-
-    void connectHandlers();
-    void fillPrinters();
-    void enableRange(bool enabled);
-    void takePosition(QLineEdit &box, Integer &position);
-    void takeMargin(QLineEdit &box, StepBar &bar, Currency &margin);
-    void takeStep(QLineEdit &box, const StepBar &bar, Currency &margin);
-    void takeTypedText();
     void showPreview();
     void showPage();
 

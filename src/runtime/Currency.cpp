@@ -2,6 +2,7 @@
 #include "runtime/Currency.h"
 
 #include "runtime/Blanks.h"
+#include "runtime/Rounding.h"
 #include "runtime/TextToNumber.h"
 
 #include <QLocale>
@@ -52,11 +53,7 @@ Currency::Currency(double value)
 {
     if (!std::isfinite(value))
         throw RunTimeError(RunTimeError::TypeMismatch);
-    const double scaled = value * Scale;
-    const double floor = std::floor(scaled);
-    const double rest = scaled - floor;
-    const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(floor, 2) != 0);
-    const double whole = up ? floor + 1 : floor;
+    const double whole = wholeHalfToEven(value * Scale);
     constexpr double Beyond = 9223372036854775808.0;
     if (whole < -Beyond || whole >= Beyond)
         throw RunTimeError(RunTimeError::Overflow);

@@ -16,25 +16,6 @@ namespace {
 
 const QString EndLesson = QStringLiteral("End current lesson?");
 
-QString focusedControl()
-{
-    const QWidget *focus = QApplication::focusWidget();
-    return focus ? focus->objectName() : QString();
-}
-
-// The controls that the key walks through until it comes to the first one again.
-QStringList tabRound(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    QStringList round{focusedControl()};
-    while (round.size() < 30) {
-        Controls::press(key, modifiers);
-        if (focusedControl() == round.constFirst())
-            return round;
-        round += focusedControl();
-    }
-    return round;
-}
-
 } // namespace
 
 class frmMain_Keyboard_test final : public QObject
@@ -321,11 +302,11 @@ void frmMain_Keyboard_test::tabWalksWordDefinitionSentenceButtons()
     else if (mode == "search")
         main.click("cmdSearch");
     main.control<QWidget>(round.constFirst().toLatin1()).setFocus();
-    QCOMPARE(tabRound(Qt::Key_Tab), round);
+    QCOMPARE(Controls::tabRound(Qt::Key_Tab), round);
     // Shift+Tab goes the other way.
     QStringList back = round;
     std::reverse(back.begin() + 1, back.end());
-    QCOMPARE(tabRound(Qt::Key_Backtab, Qt::ShiftModifier), back);
+    QCOMPARE(Controls::tabRound(Qt::Key_Backtab, Qt::ShiftModifier), back);
     for (const char *box : {"txtDefinition", "txtSentence"})
         QVERIFY(!main.text(box).contains(QLatin1Char('\t')));
 }

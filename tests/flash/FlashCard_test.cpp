@@ -5,31 +5,14 @@
 #include "flash/FlashForm.h"
 #include "platform/CardTurn.h"
 #include "support/FormTest.h"
+#include "support/MotionStyle.h"
 
-#include <QProxyStyle>
 #include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// What the system shows of motion: none, or as long as the style takes.
-class MotionStyle final : public QProxyStyle
-{
-public:
-    explicit MotionStyle(int duration) : m_duration(duration) {}
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *returnData) const override
-    {
-        return hint == SH_Widget_Animation_Duration
-                   ? m_duration
-                   : QProxyStyle::styleHint(hint, option, widget, returnData);
-    }
-
-private:
-    int m_duration;
-};
 
 // Words as in a definition, cut off after so many characters.
 QString prose(int length)

@@ -15,25 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString focusedControl()
-{
-    const QWidget *focus = QApplication::focusWidget();
-    return focus ? focus->objectName() : QString();
-}
-
-// The controls that the key walks through until it comes to the first one again.
-QStringList tabRound(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    QStringList round{focusedControl()};
-    while (round.size() < 30) {
-        Controls::press(key, modifiers);
-        if (focusedControl() == round.constFirst())
-            return round;
-        round += focusedControl();
-    }
-    return round;
-}
-
 void typeIntoFocus(const QString &text)
 {
     QTest::keyClicks(QApplication::focusWidget(), text);
@@ -104,7 +85,7 @@ private Q_SLOTS:
         Controls::press(Qt::Key_Up);
         Controls::press(Qt::Key_Return);
         QCOMPARE(m_form->numbers(), u"0 2 25 5"_s);
-        QCOMPARE(focusedControl(), u"txtUserAnswer"_s);
+        QCOMPARE(Controls::focusedControl(), u"txtUserAnswer"_s);
         typeIntoFocus(GameForm::word());
         Controls::press(Qt::Key_Enter);
         QCOMPARE(m_form->numbers(), u"4 2 25 5"_s);
@@ -113,19 +94,19 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_form->control<QWidget>("lblScrambledWord").isVisible());
         QTest::keyClick(&m_form->window(), Qt::Key_W, Qt::AltModifier);
         QTRY_VERIFY(m_form->control<QWidget>("lblScrambledWord").isVisible());
-        QCOMPARE(focusedControl(), u"txtUserAnswer"_s);
+        QCOMPARE(Controls::focusedControl(), u"txtUserAnswer"_s);
 
         for (int lives = 4; lives >= 0; --lives) {
             m_form->answers.useForm("dlgIncorrectAnswer", [](QDialog &dialog) {
                 QTest::keyClick(&dialog, Qt::Key_H, Qt::AltModifier); // hide the word
                 QTRY_VERIFY(!Controls::find<QLabel>(dialog, "lblAnswerIs").isVisible());
-                QCOMPARE(focusedControl(), u"txtUserAnswer"_s);
+                QCOMPARE(Controls::focusedControl(), u"txtUserAnswer"_s);
                 typeIntoFocus(GameForm::word());
                 Controls::press(Qt::Key_Return);
             });
             if (lives == 0)
                 m_form->answers.useForm("dlgGameOver", [](QDialog &) {
-                    QTRY_COMPARE(focusedControl(), u"txtName"_s);
+                    QTRY_COMPARE(Controls::focusedControl(), u"txtName"_s);
                     typeIntoFocus(u"Ann"_s);
                     Controls::press(Qt::Key_Return);
                     Controls::press(Qt::Key_Return);
@@ -135,7 +116,8 @@ private Q_SLOTS:
             QVERIFY(m_form->answers.allSeen());
             QCOMPARE(m_form->text("lblNumLifes"), QString::number(lives));
             m_form->waitForWindow();
-            QTRY_COMPARE(focusedControl(), lives > 0 ? u"txtUserAnswer"_s : u"cmdRestart"_s);
+            QTRY_COMPARE(Controls::focusedControl(),
+                         lives > 0 ? u"txtUserAnswer"_s : u"cmdRestart"_s);
         }
         QCOMPARE(gTop10[0].PlayerName, u"Ann"_s);
 
@@ -163,7 +145,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_form->text("lblScore"), u"4"_s);
         m_form->control<QWidget>("lstHits").setFocus();
         QTest::keyClick(&m_form->window(), Qt::Key_A, Qt::AltModifier);
-        QTRY_COMPARE(focusedControl(), u"txtUserAnswer"_s);
+        QTRY_COMPARE(Controls::focusedControl(), u"txtUserAnswer"_s);
     }
 
     void enterAnswersWhereverTheKeyboardIs_data()
@@ -230,9 +212,9 @@ private Q_SLOTS:
         if (state == u"over"_s)
             m_form->loseAllLives();
         QStringList names = round.split(u' ');
-        QCOMPARE(tabRound(Qt::Key_Tab), names);
+        QCOMPARE(Controls::tabRound(Qt::Key_Tab), names);
         std::reverse(names.begin() + 1, names.end());
-        QCOMPARE(tabRound(Qt::Key_Backtab, Qt::ShiftModifier), names);
+        QCOMPARE(Controls::tabRound(Qt::Key_Backtab, Qt::ShiftModifier), names);
     }
 
     void longTextsAreScrolledByKeyboard()
@@ -243,7 +225,7 @@ private Q_SLOTS:
         for (const char *name : {"clueArea", "sentenceArea"}) {
             auto &area = m_form->control<QAbstractScrollArea>(name);
             QTRY_VERIFY(area.verticalScrollBar()->maximum() > 0);
-            QVERIFY(tabRound(Qt::Key_Tab).contains(QLatin1String(name)));
+            QVERIFY(Controls::tabRound(Qt::Key_Tab).contains(QLatin1String(name)));
             area.setFocus();
             Controls::press(Qt::Key_Down);
             QVERIFY(area.verticalScrollBar()->value() > 0);

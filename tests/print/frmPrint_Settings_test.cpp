@@ -300,6 +300,7 @@ private Q_SLOTS:
         QTest::newRow("a half to even") << u"6.5"_s << 6 << u"6"_s;
         QTest::newRow("beyond 16 bits") << u"70000"_s << 20 << u"20"_s;
         QTest::newRow("far below 16 bits") << u"-70000"_s << 1 << u"1"_s;
+        QTest::newRow("with an exponent") << u"-1e9"_s << 1 << u"1"_s;
         QTest::newRow("no number") << u"6th"_s << 5 << u"5"_s;
         QTest::newRow("a blank") << u" "_s << 5 << u"5"_s;
         QTest::newRow("nothing") << QString() << 5 << QString();
@@ -414,7 +415,9 @@ private Q_SLOTS:
     void typingCopiesChangesNothing()
     {
         PrintForm form;
+        QCOMPARE(form.text("txtCopies"), u"1"_s);
         form.control<StepBar>("vsc_Copies").setValue(3);
+        QCOMPARE(form.text("txtCopies"), u"3"_s);
         for (const QString &typed : {u"9"_s, u"x"_s, QString()}) {
             form.typeAndLeave("txtCopies", typed);
             QCOMPARE(form.text("txtCopies"), typed);

@@ -49,31 +49,6 @@ private Q_SLOTS:
         QVERIFY(form.isChecked("optPrintAllWords"));
     }
 
-    void aPositionIsBroughtIntoTheList_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("position");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("inside") << u" 7 "_s << 7 << u"7"_s;
-        QTest::newRow("beyond") << u"500"_s << 20 << u"20"_s;
-        QTest::newRow("0") << u"0"_s << 1 << u"1"_s;
-        QTest::newRow("below") << u"-3"_s << 1 << u"1"_s;
-        QTest::newRow("beyond 16 bits") << u"40000"_s << 20 << u"20"_s;
-        QTest::newRow("below 16 bits") << u"-1e9"_s << 1 << u"1"_s;
-        QTest::newRow("no number") << u"x"_s << 1 << u"1"_s;
-        QTest::newRow("nothing") << QString() << 1 << QString();
-    }
-
-    void aPositionIsBroughtIntoTheList()
-    {
-        QFETCH(QString, typed);
-        PrintForm form;
-        form.click("optSubset");
-        form.typeAndLeave("txtFromWord", typed);
-        QTEST(FromWord.toInt(), "position");
-        QTEST(form.text("txtFromWord"), "shown");
-    }
-
     void aMarginIsTakenWhenItsBoxIsLeft_data()
     {
         QTest::addColumn<QString>("typed");
@@ -110,19 +85,6 @@ private Q_SLOTS:
         }
     }
 
-    void theBottomBarAloneLooksAtItsBoxWhenItIsLeft()
-    {
-        PrintForm form;
-        for (const char *name : {"Bottom", "Top"}) {
-            const QByteArray side = name;
-            form.control<StepBar>("vsc_" + side + "Margin").setFocus();
-            form.control<QLineEdit>("txt" + side + "Margin").setText(u"2"_s);
-            Controls::press(Qt::Key_Tab);
-        }
-        QCOMPARE(BottomMargin, Currency(2));
-        QCOMPARE(TopMargin, Currency(0));
-    }
-
     void aReopenedDialogShowsTheMarginsAndItsBarsFollowThem()
     {
         PrintForm form;
@@ -133,17 +95,6 @@ private Q_SLOTS:
         QCOMPARE(TopMargin, inches(u"1.26"_s));
         QCOMPARE(form.text("txtTopMargin"), u"1.26"_s);
         QCOMPARE(form.value("vsc_TopMargin"), 13);
-    }
-
-    void copiesAreSetByTheBarAlone()
-    {
-        PrintForm form;
-        QCOMPARE(form.text("txtCopies"), u"1"_s);
-        form.control<StepBar>("vsc_Copies").setValue(3);
-        QCOMPARE(form.text("txtCopies"), u"3"_s);
-        QCOMPARE(form.printer.Copies, Integer(3));
-        form.typeAndLeave("txtCopies", u"9"_s);
-        QCOMPARE(form.printer.Copies, Integer(3));
     }
 
     void theOrientationIsThePrintersAtOnce()
@@ -229,16 +180,6 @@ private Q_SLOTS:
         leave(form.dialog());
         QTRY_VERIFY(!form.dialog().isVisible());
         QCOMPARE(ToWord, Integer(7));
-    }
-
-    void enterTakesWhatIsTypedInABox()
-    {
-        PrintForm form;
-        form.answers.cancelFileDialog();
-        form.type("txtLeftMargin", u"2"_s);
-        Controls::press(Qt::Key_Return);
-        QVERIFY(form.answers.allSeen());
-        QCOMPARE(LeftMargin, Currency(2));
     }
 };
 

@@ -41,3 +41,22 @@ void Controls::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
         fail(QStringLiteral("nothing has the keyboard focus"));
     QTest::keyClick(focus, key, modifiers);
 }
+
+QString Controls::focusedControl()
+{
+    const QWidget *focus = QApplication::focusWidget();
+    return focus ? focus->objectName() : QString();
+}
+
+QStringList Controls::tabRound(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    constexpr int mostControls = 40; // of any window
+    QStringList round{focusedControl()};
+    while (round.size() < mostControls) {
+        press(key, modifiers);
+        if (focusedControl() == round.constFirst())
+            return round;
+        round += focusedControl();
+    }
+    return round;
+}

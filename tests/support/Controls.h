@@ -28,5 +28,9 @@ void choose(QAction &item);
 void type(QWidget &box, const QString &text);
 // Presses a key in the control that has the focus.
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+// Its name; empty where no control has the focus.
+[[nodiscard]] QString focusedControl();
+// The controls that the key walks through until it comes to the first one again.
+[[nodiscard]] QStringList tabRound(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 } // namespace Controls
