@@ -30,7 +30,7 @@ public:
     void Shuffle();
 
 Q_SIGNALS:
-    // The game is left; the main window should be shown.
+    // The game is left; the main window should be shown. Comes more than once.
     void left();
 
 protected:
