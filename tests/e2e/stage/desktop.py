@@ -57,8 +57,8 @@ class Desktop:
             self._start_bus()
             self._serve(["openbox", "--config-file", HERE / "openbox.xml"])
             until("a window manager", self._has_window_manager)
-            # A keyboard with accents on its keys: xdotool loses what it has to map first.
-            subprocess.run(["setxkbmap", "fr"], check=True, stderr=self._log)
+            subprocess.run(["xkbcomp", "-w0", HERE / "keyboard.xkb", os.environ["DISPLAY"]],
+                           check=True, stderr=self._log)
             self._see_accessibly()
         except BaseException:
             self.close()

@@ -84,7 +84,7 @@ class Person:
         self._hand("key", *keys)
 
     def types(self, text):
-        """Letters on the keys of a French keyboard: accents on capitals are not among them."""
+        """Letters on the keys of keyboard.xkb: é, è, à, ç as capitals are not among them."""
         self._hand("type", "--delay", 4, "--", text)
 
     def fills(self, name, text):

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A game: tiles, a hit, a miss, the next level, and a name in the Top 10."""
-from stage.conditions import Unseen, until
+from stage.conditions import until
 
 Game = "The Tanglewit"
 Miss = "Incorrect Answer"
@@ -57,19 +57,12 @@ def beside(person, caption):
 
 
 def writes(person, name, text):
-    """Into the text box, which has the keyboard. A busy display can lose a letter with an accent:
-    then all is typed anew."""
+    """Into the text box, which has the keyboard."""
     box = person.control("text", name)
     until(f"the cursor in '{name}'", lambda: box.focused)
-    for last_try in (False, False, True):
-        person.presses("ctrl+a")
-        person.types(text)
-        try:
-            until(f"the text in '{name}'", lambda: box.text, text, limit=5)
-            return
-        except Unseen:
-            if last_try:
-                raise
+    person.presses("ctrl+a")
+    person.types(text)
+    until(f"the text in '{name}'", lambda: box.text, text)
 
 
 def answers(person, words, last=None):
