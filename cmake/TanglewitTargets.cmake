@@ -34,20 +34,37 @@ function(tanglewit_library folder)
   target_link_libraries(tanglewit_${folder} PUBLIC tanglewit_options ${arg_LINKS})
 endfunction()
 
-# tanglewit_test(<name> LINKS <targets...> [LABELS <labels...>] [SCREENS <screens...>]): builds
-# <name>.cpp of this folder and runs it without a display, as if on a screen of 1024x768 pixels, and
-# once more on each of the screens, of which there is a file in tests/support. The name begins with
-# the folder's name in CTest.
+# Most tests take longer to compile than to run: optimising them would cost more than it saves.
+add_library(tanglewit_test_options INTERFACE)
+if(TANGLEWIT_SANITIZE)
+  target_compile_options(tanglewit_test_options INTERFACE -O0)
+endif()
+target_include_directories(tanglewit_test_options INTERFACE "${PROJECT_SOURCE_DIR}/tests")
+
+# tanglewit_test(<name> [OPTIMISED] LINKS <targets...> [LABELS <labels...>] [SCREENS <screens...>]):
+# builds <name>.cpp of this folder and runs it without a display, as if on a screen of 1024x768
+# pixels, and once more on each of the screens, of which there is a file in tests/support. The name
+# begins with the folder's name in CTest. OPTIMISED is for tests that reckon for seconds.
 function(tanglewit_test name)
-  cmake_parse_arguments(arg "" "" "LINKS;LABELS;SCREENS" ${ARGN})
-  add_executable(${name} ${name}.cpp)
+  cmake_parse_arguments(arg "OPTIMISED" "" "LINKS;LABELS;SCREENS" ${ARGN})
+  # One call of moc for the one file with a class for it: looking for more takes much longer.
+  add_executable(${name} ${name}.cpp ${name}.moc)
+  qt_generate_moc(${name}.cpp ${name}.moc TARGET ${name})
   set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
-  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-  target_link_libraries(${name} PRIVATE Qt6::Test ${arg_LINKS})
+  target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
+  target_link_libraries(${name} PRIVATE tanglewit_test_options Qt6::Test ${arg_LINKS})
   target_compile_definitions(${name} PRIVATE TANGLEWIT_TESTS_FOLDER="${PROJECT_SOURCE_DIR}/tests")
-  # Only what is compiled in the same way can share the precompiled headers.
-  if("tanglewit_test_support" IN_LIST arg_LINKS AND NOT "${arg_LINKS}" MATCHES "Qt6::")
-    target_precompile_headers(${name} REUSE_FROM tanglewit_test_headers)
+  # Only what is compiled in the same way can share precompiled headers.
+  set(links ${arg_LINKS})
+  list(REMOVE_ITEM links tanglewit_runtime tanglewit_core tanglewit_wave)
+  if(NOT links)
+    target_precompile_headers(${name} REUSE_FROM tanglewit_core_test_headers)
+  elseif(NOT "${links}" MATCHES "Qt6::")
+    target_precompile_headers(${name} REUSE_FROM tanglewit_window_test_headers)
+  endif()
+  if(arg_OPTIMISED)
+    set_source_files_properties(${name}.cpp PROPERTIES COMPILE_OPTIONS -O2
+                                                       SKIP_PRECOMPILE_HEADERS ON)
   endif()
   tanglewit_test_run(${name} "" 1024x768 "${arg_LABELS}")
   foreach(screen IN LISTS arg_SCREENS)
@@ -59,9 +76,14 @@ function(tanglewit_test_run name suffix screen labels)
   get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
   set(support "${PROJECT_SOURCE_DIR}/tests/support")
   set(run ${folder}/${name}${suffix})
+  # What takes long begins first, so that the processors end together.
+  set(cost 0)
+  if("slow" IN_LIST labels)
+    set(cost 1)
+  endif()
   add_test(NAME ${run} COMMAND ${name})
   set_tests_properties(
     ${run}
-    PROPERTIES LABELS "${labels}" TIMEOUT 300
+    PROPERTIES LABELS "${labels}" COST ${cost} TIMEOUT 300
                ENVIRONMENT "QT_QPA_PLATFORM=offscreen:configfile=${support}/screen-${screen}.json;LSAN_OPTIONS=suppressions=${support}/lsan.supp:print_suppressions=0")
 endfunction()
