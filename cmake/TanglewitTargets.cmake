@@ -32,6 +32,21 @@ function(tanglewit_library folder)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
   add_library(tanglewit_${folder} STATIC ${arg_SOURCES})
   target_link_libraries(tanglewit_${folder} PUBLIC tanglewit_options ${arg_LINKS})
+  tanglewit_forms(${folder} ${arg_SOURCES})
+endfunction()
+
+# Makes headers of the Designer files among the sources, by rules of their own: after an edit of
+# such a file AUTOUIC makes the header too late for the same build to compile it.
+function(tanglewit_forms folder)
+  list(FILTER ARGN INCLUDE REGEX "\\.ui$")
+  if(NOT ARGN)
+    return()
+  endif()
+  qt_wrap_ui(headers ${ARGN})
+  set_source_files_properties(${headers} PROPERTIES SKIP_AUTOGEN ON)
+  target_sources(tanglewit_${folder} PRIVATE ${headers})
+  target_include_directories(tanglewit_${folder} PRIVATE "${PROJECT_BINARY_DIR}/src")
+  add_custom_target(tanglewit_${folder}_forms DEPENDS ${headers})
 endfunction()
 
 # Most tests take longer to compile than to run: optimising them would cost more than it saves.
