@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What leaves the program: an export, from the click on OK to its message, the text file, and the
 // order in which the flash cards and the game take the words.
+#include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
 #include "core/Module1.h"
 #include "core/WordOrder.h"
 #include "core/cVocabList.h"
-#include "platform/Application.h"
 #include "runtime/BinaryFile.h"
 #include "runtime/DiskFlush.h"
 #include "transfer/TextFile.h"
@@ -16,7 +16,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <benchmark/benchmark.h>
@@ -171,14 +170,7 @@ benchmark::internal::Benchmark *at(const Sizes &sizes, const char *name,
 
 int main(int argc, char **argv)
 {
-    // Nothing of the person who measures is to be touched.
-    const QTemporaryDir home;
-    for (const char *place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        qputenv(place, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    int applicationArguments = 1;
-    const Application application(applicationArguments, argv);
+    const BenchApplication application(argv);
     Application::setQuitOnLastWindowClosed(false);
 
     constexpr std::array OrderSizes{LongestWordOrder, cVocabList::MaxWords};

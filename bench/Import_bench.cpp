@@ -2,18 +2,17 @@
 // Importing a word list into one of the same size, without the main window: all words new, all in
 // the list already with No To All, and with Yes To All. The time ends with the last word, before
 // the message; where a question was asked it begins when that is gone.
+#include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "platform/Application.h"
 #include "transfer/Import.h"
 
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <benchmark/benchmark.h>
@@ -123,14 +122,7 @@ void atAllSizes(const char *name, void (*function)(benchmark::State &))
 
 int main(int argc, char **argv)
 {
-    // Nothing of the person who measures is to be touched.
-    const QTemporaryDir home;
-    for (const char *place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        qputenv(place, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    int applicationArguments = 1;
-    const Application application(applicationArguments, argv);
+    const BenchApplication application(argv);
 
     atAllSizes("allNew", allNew);
     atAllSizes("noToAll", noToAll);

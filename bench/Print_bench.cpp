@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Printing: the layout of a whole list, and how soon the print dialog shows the
 // page that a change of margin gives.
+#include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "platform/Application.h"
 #include "platform/PrintMetrics.h"
 #include "platform/SystemPrinter.h"
 #include "print/PagePreview.h"
@@ -136,10 +136,8 @@ double memoryOfFirstDialog()
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("CUPS_SERVER", "/nonexistent/printers"); // whatever printers the machine has
-    Application application(argc, argv);
+    const BenchApplication application(argv);
     const std::array<Ratio, 2> ratios = {Ratio{"layOut/32000", "layOut/3200", 11},
                                          Ratio{"firstPage/32000", "firstPage/3200", 1.2}};
     const std::array<Limit, 1> limits = {Limit{"firstPage/32000", 50}};

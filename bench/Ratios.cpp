@@ -45,7 +45,10 @@ private:
         const bool cpuTime = run.run_name.time_type.empty();
         const double seconds = (cpuTime ? run.cpu_accumulated_time : run.real_accumulated_time) /
                                static_cast<double>(run.iterations);
-        m_times[run.run_name.function_name + '/' + run.run_name.args].push_back(seconds * 1000);
+        std::string name = run.run_name.function_name;
+        if (!run.run_name.args.empty())
+            name += '/' + run.run_name.args;
+        m_times[name].push_back(seconds * 1000);
     }
 
     std::map<std::string, std::vector<double>> m_times;

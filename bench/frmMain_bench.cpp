@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The main window at three sizes of list: a page of the grid, and a search from the click to its
 // answer on the screen.
+#include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/frmMain.h"
-#include "platform/Application.h"
 #include "platform/MSFlexGrid.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -212,14 +211,7 @@ benchmark::internal::Benchmark *atAllSizes(const char *name, void (*function)(be
 
 int main(int argc, char **argv)
 {
-    // Nothing of the person who measures is to be touched.
-    const QTemporaryDir home;
-    for (const char *place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        qputenv(place, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    int applicationArguments = 1;
-    const Application application(applicationArguments, argv);
+    const BenchApplication application(argv);
 
     atAllSizes("pageFill", pageFill);
     atAllSizes("pageFillPainted", pageFillPainted);

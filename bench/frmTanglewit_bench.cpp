@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The game: a scramble, a word order, a blanked sentence beside the same work done plainly, and a
 // word from Enter to the screen.
+#include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
 #include "core/Module1.h"
@@ -8,12 +9,10 @@
 #include "core/cVocabList.h"
 #include "game/Blanking.h"
 #include "game/frmTanglewit.h"
-#include "platform/Application.h"
 
 #include <QAction>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -141,14 +140,7 @@ void showWord(benchmark::State &state)
 
 int main(int argc, char **argv)
 {
-    // Nothing of the person who measures is to be touched.
-    const QTemporaryDir home;
-    for (const char *place : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        qputenv(place, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    int applicationArguments = 1;
-    const Application application(applicationArguments, argv);
+    const BenchApplication application(argv);
     Module1::gMusicOff = true;
 
     const auto add = [](const char *name, void (*function)(benchmark::State &)) {
