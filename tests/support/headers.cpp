@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program that owns the tests' precompiled headers; it does nothing.
+// A program that owns precompiled headers of the tests; it does nothing.
 int main()
 {
     return 0;

@@ -88,9 +88,13 @@ class Person:
         self._hand("type", "--delay", 4, "--", text)
 
     def fills(self, name, text):
-        """Puts the text into a text box in place of what it held."""
+        """Clicks into a text box and writes there."""
+        self.clicks(self.control("text", name))
+        self.writes(name, text)
+
+    def writes(self, name, text):
+        """Puts the text into the text box, which has the keyboard, in place of what it held."""
         box = self.control("text", name)
-        self.clicks(box)
         until(f"the cursor in '{name}'", lambda: box.focused)
         self.presses("ctrl+a")
         self.types(text)

@@ -56,19 +56,10 @@ def beside(person, caption):
     return shown[shown.index(caption) + 1]
 
 
-def writes(person, name, text):
-    """Into the text box, which has the keyboard."""
-    box = person.control("text", name)
-    until(f"the cursor in '{name}'", lambda: box.focused)
-    person.presses("ctrl+a")
-    person.types(text)
-    until(f"the text in '{name}'", lambda: box.text, text)
-
-
 def answers(person, words, last=None):
     """Types the word of the clue."""
     shown = until("another clue", lambda: (now := clue(person, words)) != last and now)
-    writes(person, "Your answer", words[shown])
+    person.writes("Your answer", words[shown])
     person.presses("Return")
     return shown
 
@@ -106,13 +97,13 @@ def misses(guide, words):
 
 def loses_a_life(guide, word, picture=None):
     person = guide.person
-    writes(person, "Your answer", "wrong")
+    person.writes("Your answer", "wrong")
     person.presses("Return")
     person.window(Miss)
     label(person, f"The correct answer is: {word}")
     if picture:
         guide.picture(picture)
-    writes(person, "Type the word", word)
+    person.writes("Type the word", word)
     person.pushes("OK")
     person.window(Game)
 
@@ -138,13 +129,13 @@ def loses(guide, words):
         for _ in range(3):
             loses_a_life(guide, words[clue(person, words)])
         word = words[clue(person, words)]
-        writes(person, "Your answer", "wrong")
+        person.writes("Your answer", "wrong")
         person.presses("Return")
         person.window(Miss)
-        writes(person, "Type the word", word)
+        person.writes("Type the word", word)
         person.pushes("OK")
         person.window(Scores)
-        writes(person, "Your name", Player)
+        person.writes("Your name", Player)
         guide.picture("top10-name")
         person.presses("Return")
         until("the row with the name", lambda: next(
