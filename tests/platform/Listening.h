@@ -73,6 +73,9 @@ struct Match
     return found;
 }
 
+// Below that the piece is not there: in silence no place is better than another.
+inline constexpr double FaintLikeness = 0.3;
+
 // Where in the sound the piece is found best. Coarsely a tone is like itself a few periods later
 // too, so that all good places are looked at closely.
 [[nodiscard]] inline Match bestMatch(PieceOfSound piece, PieceOfSound sound)
@@ -80,7 +83,10 @@ struct Match
     const Sound coarsely = likenesses(coarse(piece), coarse(sound));
     if (coarsely.empty())
         return {};
-    const double good = 0.7 * *std::max_element(coarsely.begin(), coarsely.end());
+    const double coarseBest = *std::max_element(coarsely.begin(), coarsely.end());
+    if (coarseBest < FaintLikeness)
+        return {std::max(coarseBest, 0.0), 0};
+    const double good = 0.7 * coarseBest;
     Match best;
     for (std::size_t i = 0; i < coarsely.size(); ++i) {
         if (coarsely[i] < good)
