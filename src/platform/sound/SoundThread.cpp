@@ -69,11 +69,10 @@ private:
 
 SoundThread::SoundThread()
 {
-    auto *worker = new Worker(pathOf(Place::Plugins));
+    auto worker = std::make_unique<Worker>(pathOf(Place::Plugins));
     worker->moveToThread(this);
-    connect(this, &SoundThread::requested, worker, &Worker::loop);
-    // Sound streams end in the thread that made them.
-    connect(this, &QThread::finished, worker, &QObject::deleteLater);
+    connect(this, &SoundThread::requested, worker.get(), &Worker::loop);
+    m_worker = std::move(worker);
     g_windowsThread = QThread::currentThreadId();
     if (!g_otherMessages)
         g_otherMessages = qInstallMessageHandler(withoutMessagesOfSound);
@@ -82,6 +81,16 @@ SoundThread::SoundThread()
 }
 
 SoundThread::~SoundThread() = default;
+
+void SoundThread::run()
+{
+    exec();
+    // A sound stream that goes runs the event loop, which must find no request for the worker.
+    QCoreApplication::removePostedEvents(m_worker.get());
+    // Sound streams end in the thread that made them.
+    m_worker.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
 
 void SoundThread::loop(const QString &path)
 {

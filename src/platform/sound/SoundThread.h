@@ -5,6 +5,8 @@
 
 #include <QThread>
 
+#include <memory>
+
 class SoundThread final : public QThread
 {
     Q_OBJECT
@@ -19,8 +21,13 @@ public:
 Q_SIGNALS:
     void requested(const QString &path);
 
+protected:
+    void run() override;
+
 private:
     SoundThread();
 
     static void end();
+
+    std::unique_ptr<QObject> m_worker;
 };
