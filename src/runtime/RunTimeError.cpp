@@ -18,16 +18,24 @@ QString words(RunTimeError::Number number)
         return QStringLiteral("Subscript out of range");
     case RunTimeError::TypeMismatch:
         return QStringLiteral("Type mismatch");
+    case RunTimeError::BadFileName:
+        return QStringLiteral("Bad file name or number");
     case RunTimeError::FileNotFound:
         return QStringLiteral("File not found");
+    case RunTimeError::DeviceIoError:
+        return QStringLiteral("Device I/O error");
     case RunTimeError::DiskFull:
         return QStringLiteral("Disk full");
+    case RunTimeError::TooManyFiles:
+        return QStringLiteral("Too many files");
     case RunTimeError::PermissionDenied:
         return QStringLiteral("Permission denied");
     case RunTimeError::PathFileAccess:
         return QStringLiteral("Path/File access error");
     case RunTimeError::PathNotFound:
         return QStringLiteral("Path not found");
+    case RunTimeError::InvalidFileFormat:
+        return QStringLiteral("Invalid file format");
     case RunTimeError::PrinterFault:
         return QStringLiteral("Printer error");
     }

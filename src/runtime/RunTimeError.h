@@ -16,11 +16,15 @@ public:
         OutOfMemory = 7,
         SubscriptOutOfRange = 9,
         TypeMismatch = 13,
+        BadFileName = 52,
         FileNotFound = 53,
+        DeviceIoError = 57,
         DiskFull = 61,
+        TooManyFiles = 67,
         PermissionDenied = 70,
         PathFileAccess = 75,
         PathNotFound = 76,
+        InvalidFileFormat = 321,
         PrinterFault = 482,
     };
 

@@ -23,11 +23,15 @@ private Q_SLOTS:
         row(7, u"Out of memory"_s);
         row(9, u"Subscript out of range"_s);
         row(13, u"Type mismatch"_s);
+        row(52, u"Bad file name or number"_s);
         row(53, u"File not found"_s);
+        row(57, u"Device I/O error"_s);
         row(61, u"Disk full"_s);
+        row(67, u"Too many files"_s);
         row(70, u"Permission denied"_s);
         row(75, u"Path/File access error"_s);
         row(76, u"Path not found"_s);
+        row(321, u"Invalid file format"_s);
         row(482, u"Printer error"_s);
     }
 
