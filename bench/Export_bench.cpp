@@ -8,7 +8,6 @@
 #include "core/WordOrder.h"
 #include "core/cVocabList.h"
 #include "runtime/BinaryFile.h"
-#include "runtime/DiskFlush.h"
 #include "transfer/TextFile.h"
 #include "transfer/dlgExport.h"
 
@@ -26,6 +25,7 @@
 #include <numeric>
 #include <random>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace {
 
@@ -97,7 +97,7 @@ void plainWrite(benchmark::State &state, const QString &path, const std::string 
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     QFile handle(path); // flushing takes any handle of the file
-    if (!handle.open(QFile::ReadWrite) || !flushToDisk(handle))
+    if (!handle.open(QFile::ReadWrite) || fsync(handle.handle()) != 0)
         state.SkipWithError("The file could not be flushed");
 }
 

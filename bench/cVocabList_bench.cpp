@@ -5,7 +5,6 @@
 #include "SampleList.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "runtime/DiskFlush.h"
 
 #include <QFile>
 
@@ -16,6 +15,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <unistd.h>
 
 namespace {
 
@@ -150,7 +150,7 @@ void plainWrite(benchmark::State &state)
         file.close();
         // Flushing takes any handle of the file.
         QFile handle(copy);
-        if (!handle.open(QFile::ReadWrite) || !flushToDisk(handle))
+        if (!handle.open(QFile::ReadWrite) || fsync(handle.handle()) != 0)
             state.SkipWithError("The file could not be flushed");
     }
 }
@@ -167,7 +167,7 @@ void plainWriteNew(benchmark::State &state)
         file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         file.close();
         QFile handle(copy);
-        if (!handle.open(QFile::ReadWrite) || !flushToDisk(handle))
+        if (!handle.open(QFile::ReadWrite) || fsync(handle.handle()) != 0)
             state.SkipWithError("The file could not be flushed");
     }
 }

@@ -6,6 +6,7 @@
 #include <QtEndian>
 
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -21,6 +22,21 @@ char *putText(char *out, const QString &text, std::size_t recordNumber)
             QStringLiteral("A text of word %1 is longer than 65535 characters").arg(recordNumber));
     qToLittleEndian(static_cast<Length>(length), out);
     return out + sizeof(Length) + length;
+}
+
+bool isCount(Integer count, Integer maxCount)
+{
+    return count >= 0 && count <= maxCount;
+}
+
+// Where the records end; nothing where they run past the end of the bytes.
+std::optional<qsizetype> endOfRecords(QByteArrayView bytes)
+{
+    ByteReader reader(bytes);
+    const int texts = 3 * reader.number<qint16>();
+    for (int text = 0; text < texts && !reader.ranOut(); ++text)
+        static_cast<void>(reader.textBytes());
+    return reader.ranOut() ? std::nullopt : std::optional(bytes.size() - reader.left());
 }
 
 } // namespace
@@ -44,18 +60,26 @@ QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records)
     return bytes;
 }
 
+bool ListFile::holdsRecords(QByteArrayView start, Integer maxCount)
+{
+    return !isCount(ByteReader(start).number<qint16>(), maxCount) ||
+           endOfRecords(start).has_value();
+}
+
 ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)
 {
     ByteReader reader(bytes);
     const Integer count = reader.number<qint16>();
-    if (count < 0 || count > maxCount)
+    if (!isCount(count, maxCount))
         throw RunTimeError(
             RunTimeError::SubscriptOutOfRange,
             QStringLiteral("The file says that it holds %1 words; a list holds 0 to %2")
                 .arg(count.toInt())
                 .arg(maxCount.toInt()));
     Content content;
-    content.characters = fromWindows1252(bytes);
+    const std::optional<qsizetype> end = endOfRecords(bytes);
+    content.isWhole = end || bytes.isEmpty();
+    content.characters = fromWindows1252(bytes.first(end.value_or(bytes.size())));
     content.records.resize(static_cast<std::size_t>(count.toInt()));
     const QChar *characters = content.characters.constData();
     for (VocabRecord &record : content.records) {

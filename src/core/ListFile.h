@@ -23,13 +23,6 @@
 
 namespace ListFile {
 
-// The most bytes of a file that can matter where it holds up to maxCount records.
-[[nodiscard]] constexpr qint64 longestFile(Integer maxCount)
-{
-    constexpr qint64 longestText = 2 + 65535;
-    return 2 + 3 * longestText * maxCount.toInt();
-}
-
 // The count, then every record given. Throws RunTimeError Overflow, naming the record, where a
 // text has more than 65,535 bytes.
 [[nodiscard]] QByteArray encode(Integer count, std::span<const VocabRecord> records);
@@ -41,7 +34,12 @@ struct Content
     // Their texts are views of `characters`, good for as long as that lives: what leaves the list
     // must be copied.
     std::vector<VocabRecord> records;
+    // The records did not run past the end. So they are in an empty file, a list without entries.
+    bool isWhole = true;
 };
+
+// Whether the start of a file holds all that counts: the N records, or an N that decode refuses.
+[[nodiscard]] bool holdsRecords(QByteArrayView start, Integer maxCount);
 
 // The N records. A field beyond the end is zero or empty; a text cut off keeps the bytes that are
 // there. Throws RunTimeError SubscriptOutOfRange where N is negative or above `maxCount`.

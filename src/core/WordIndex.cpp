@@ -14,7 +14,7 @@ void WordIndex::rebuild(std::span<const VocabRecord> entries)
 
 void WordIndex::clear()
 {
-    m_marks.clear();
+    m_marks = {};
     m_entries.clear();
     m_nextMark = 0;
 }

@@ -45,7 +45,8 @@ void cVocabList::AddVocab(const QString &NewWord, const QString &NewDef, const Q
 
 void cVocabList::ClearList()
 {
-    m_slots.assign(2, {});
+    m_slots = std::vector<VocabRecord>(2);
+    m_fileCharacters.clear();
     m_firstSlot = 0;
     m_count = 0;
     m_current = 1;
@@ -96,12 +97,16 @@ void cVocabList::SaveFile() const
 bool cVocabList::OpenFile()
 {
     if (!Module1::gFileName.isEmpty()) {
-        ListFile::Content content = ListFile::decode(
-            BinaryFile::read(Module1::gFileName, ListFile::longestFile(MaxWords)), MaxWords);
+        const auto holdsRecords = [](QByteArrayView start) {
+            return ListFile::holdsRecords(start, Integer::Max);
+        };
+        ListFile::Content content =
+            ListFile::decode(BinaryFile::read(Module1::gFileName, holdsRecords), Integer::Max);
         m_index.clear();
         m_count = content.records.size();
         m_slots = std::move(content.records);
         m_fileCharacters = std::move(content.characters);
+        m_fileIsWhole = content.isWhole;
         m_slots.resize(std::max<std::size_t>(m_slots.size(), 1));
         m_firstSlot = 1;
     }
@@ -131,7 +136,8 @@ bool cVocabList::Exist(const QString &NewWord, Integer startpos)
 
 Integer cVocabList::SearchWord(const QString &FindWord)
 {
-    const Integer hit = find(FindWord, m_searchPos + 1);
+    // Behind the last of 32,767 entries there is no position.
+    const Integer hit = m_searchPos < m_count ? find(FindWord, m_searchPos + 1) : Integer(0);
     m_searchPos = hit;
     if (hit != 0)
         m_current = hit;

@@ -18,7 +18,8 @@
 class cVocabList
 {
 public:
-    // The largest round number with which a position + 23 and the count + 1 stay inside 16 bits.
+    // Limits adding: the largest round number with which a position + 23 and the count + 1 stay
+    // inside 16 bits. A file may hold more entries, up to Integer::Max.
     static constexpr int MaxWords = 32000;
     // What adding beyond it tells.
     [[nodiscard]] static QString maxWordsText();
@@ -38,6 +39,8 @@ public:
     // Replaces the list by the content of gFileName and clears gChanged. False without a name.
     // Throws what BinaryFile::read and ListFile::decode throw.
     bool OpenFile();
+    // Whether the file opened last held all that its count says; what does not is no list.
+    [[nodiscard]] bool fileIsWhole() const { return m_fileIsWhole; }
 
     void CurrentWord(Integer CurWord) { m_current = CurWord; }
     [[nodiscard]] Integer CurrentWord() const { return m_current; }
@@ -82,6 +85,7 @@ private:
     // Slot i of the storage is element i - m_firstSlot. There may be more slots than entries.
     std::vector<VocabRecord> m_slots;
     QString m_fileCharacters; // what texts read from a file are views of
+    bool m_fileIsWhole = true;
     int m_firstSlot = 1;
     Integer m_count;
     Integer m_current;

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr qint64 longestFile = qint64(10) * (8 + 2 + 65535 + 2);
-
 const QDate DayZero(1899, 12, 30);
 
 QDate dateOfDayCount(double days)
@@ -28,6 +26,18 @@ double dayCountOf(QDate date)
 {
     return date.isValid() ? static_cast<double>(DayZero.daysTo(date))
                           : std::numeric_limits<double>::quiet_NaN();
+}
+
+// Whether the start of a file holds all ten records.
+bool holdsTable(QByteArrayView start)
+{
+    ByteReader reader(start);
+    for (std::size_t row = 0; row < Top10Table().size(); ++row) {
+        static_cast<void>(reader.number<double>());
+        static_cast<void>(reader.textBytes());
+        static_cast<void>(reader.number<qint16>());
+    }
+    return !reader.ranOut();
 }
 
 template <class Number> void putNumber(QByteArray &bytes, Number number)
@@ -55,7 +65,7 @@ Top10Table Top10File::decode(QByteArrayView bytes, const Top10Table &defaults)
 
 Top10Table Top10File::read(const QString &path, const Top10Table &defaults)
 {
-    return decode(BinaryFile::read(path, longestFile), defaults);
+    return decode(BinaryFile::read(path, holdsTable), defaults);
 }
 
 QByteArray Top10File::encode(const Top10Table &table)

@@ -11,6 +11,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <cerrno>
 
 namespace {
 
@@ -31,19 +32,18 @@ public:
     // What is still to be written goes to the file. False where not everything is there.
     [[nodiscard]] bool complete()
     {
+        errno = 0;
         if (!m_failed && !m_file.flush())
             fail();
         return !m_failed;
     }
-    [[noreturn]] void throwError(const QString &path) const
-    {
-        throwFileError(m_error, path, m_reason);
-    }
+    [[noreturn]] void throwError(const QString &path) const { throwFileError(m_reason, path); }
 
 protected:
     qint64 readData(char * /*data*/, qint64 /*size*/) override { return -1; }
     qint64 writeData(const char *data, qint64 size) override
     {
+        errno = 0;
         if (!m_failed && m_file.write(data, size) != size)
             fail();
         return m_failed ? -1 : size;
@@ -54,16 +54,14 @@ private:
     {
         m_failed = true;
         // A write that stops short gives no reason; the next one does.
-        if (m_file.error() != QFileDevice::ResourceError)
+        if (errno == 0)
             m_file.flush();
-        m_error = fileError(m_file);
-        m_reason = m_file.errorString();
+        m_reason = errno;
     }
 
     QFileDevice &m_file;
     bool m_failed = false;
-    RunTimeError::Number m_error = RunTimeError::PathFileAccess;
-    QString m_reason;
+    int m_reason = 0;
 };
 
 // What is written as a PDF file somewhere.
@@ -101,8 +99,9 @@ struct OpenSaveFile
     explicit OpenSaveFile(const QString &path) : file(path)
     {
         checkPlaceOfFile(path);
+        errno = 0;
         if (!file.open(QIODevice::WriteOnly))
-            throwFileError(RunTimeError::PermissionDenied, path, file.errorString());
+            throwFileError(errno != 0 ? errno : EACCES, path);
     }
 
     QSaveFile file;
@@ -120,8 +119,9 @@ public:
     {
         if (!complete())
             output().throwError(file.fileName());
+        errno = 0;
         if (!file.commit())
-            throwFileError(file, file.fileName());
+            throwFileError(errno, file.fileName());
     }
 };
 

@@ -1,28 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runtime/BinaryFile.h"
 
-#include "runtime/DiskFlush.h"
 #include "runtime/FileError.h"
+#include "runtime/UnfinishedFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
-#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
-constexpr qint64 ChunkSize = 1 << 20;
-
-bool isDiskFull(int systemError)
-{
-#ifdef EDQUOT
-    if (systemError == EDQUOT)
-        return true;
-#endif
-    return systemError == ENOSPC;
-}
+constexpr qsizetype ChunkSize = 1 << 20;
 
 // The file that a chain of symbolic links ends at, existing or not.
 QString withoutLinks(const QString &path)
@@ -36,109 +27,135 @@ QString withoutLinks(const QString &path)
     return target;
 }
 
-// A write that stops short gives no reason; the next one does.
-void write(QFileDevice &file, QByteArrayView content, const QString &path)
+QString placeOf(const QString &path)
 {
-    while (!content.isEmpty()) {
-        const qint64 written = file.write(content.data(), content.size());
-        if (written <= 0)
-            throwFileError(file, path);
-        content = content.sliced(written);
+    const QString place = withoutLinks(path);
+    checkPlaceOfFile(place);
+    return place;
+}
+
+// Runs the action and reports what the system refuses it under the path.
+template <class Action> auto withFileErrors(const QString &path, Action action)
+{
+    try {
+        return action();
+    } catch (const std::system_error &error) {
+        throwFileError(error.code().value(), path);
     }
 }
 
-void copyRest(QFile &from, QFileDevice &to, qint64 position, const QString &path)
+QByteArray readStart(SystemFile &file, const BinaryFile::IsEnough &isEnough)
 {
-    if (!from.isOpen() || from.size() <= position)
+    QByteArray start;
+    for (qsizetype wanted = ChunkSize;; wanted *= 2) {
+        const qsizetype size = start.size();
+        start.resize(wanted);
+        start.truncate(size + file.read(start.data() + size, wanted - size));
+        if (start.size() < wanted || (isEnough && isEnough(start)))
+            return start;
+    }
+}
+
+// What was never written to stays so: it takes neither time nor room.
+void copyRest(SystemFile &from, SystemFile &to, qint64 position)
+{
+    const qint64 size = from.status().st_size;
+    if (size <= position)
         return;
-    if (!from.seek(position))
-        throwFileError(from, path);
-    while (!from.atEnd()) {
+    while ((position = from.nextData(position)) < size) {
+        from.seek(position);
+        to.seek(position);
         const QByteArray chunk = from.read(ChunkSize);
-        if (from.error() != QFileDevice::NoError)
-            throwFileError(from, path);
-        write(to, chunk, path);
+        if (chunk.isEmpty())
+            break;
+        to.write(chunk);
+        position += chunk.size();
+    }
+    to.truncate(size);
+}
+
+void writeSecondFile(const QString &place, QByteArrayView content)
+{
+    auto oldFile = SystemFile::existing(QFile::encodeName(place), O_RDWR);
+    UnfinishedFile newFile(place, oldFile ? &*oldFile : nullptr);
+    newFile.file().write(content);
+    if (oldFile)
+        copyRest(*oldFile, newFile.file(), content.size());
+    oldFile.reset();
+    newFile.takePlace();
+}
+
+// What was written over, up to the position. False where the disk refuses that as well.
+bool putBack(SystemFile &file, qint64 size, const QByteArray &start)
+{
+    try {
+        const qint64 written = file.position();
+        file.truncate(size);
+        file.seek(0);
+        file.write(start.first(std::min(start.size(), written)));
+        file.flush();
+        return true;
+    } catch (const std::system_error &) {
+        return false;
     }
 }
 
-void flush(QFileDevice &file, const QString &path)
+void writeOver(const QString &path, SystemFile &file, QByteArrayView content)
 {
-    if (flushToDisk(file))
-        return;
-    const int reason = errno;
-    throwFileError(isDiskFull(reason) || file.error() == QFileDevice::ResourceError
-                       ? RunTimeError::DiskFull
-                       : RunTimeError::PathFileAccess,
-                   path, qt_error_string(reason));
+    const qint64 oldSize = file.status().st_size;
+    const QByteArray oldStart = file.read(content.size());
+    try {
+        file.seek(0);
+        file.write(content);
+        file.flush();
+    } catch (const std::system_error &error) {
+        throwFileError(error.code().value(), path,
+                       putBack(file, oldSize, oldStart)
+                           ? QString()
+                           : QStringLiteral("The old content could not be put back"));
+    }
 }
 
 // For a folder that admits no second file: the old bytes are put back if the new ones do not fit.
-// Unbuffered, for bytes that the disk refused would stay in a buffer and come again.
-void writeInPlace(const QString &target, QByteArrayView content, const QString &path)
+void writeInPlace(const QString &path, const QString &place, QByteArrayView content)
 {
-    QFile file(target);
-    const bool exists = file.exists();
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
-        throwFileError(RunTimeError::PermissionDenied, path, file.errorString());
-    const qint64 oldSize = file.size();
-    const QByteArray oldStart = file.read(content.size());
+    const QByteArray name = QFile::encodeName(place);
+    if (auto file = SystemFile::existing(name, O_RDWR)) {
+        writeOver(path, *file, content);
+        return;
+    }
+    SystemFile file(name, O_RDWR | O_CREAT | O_EXCL, 0666);
     try {
-        if (!file.seek(0))
-            throwFileError(file, path);
-        write(file, content, path);
-        flush(file, path);
+        writeOver(path, file, content);
     } catch (const RunTimeError &) {
-        file.seek(0);
-        file.write(oldStart);
-        file.resize(oldSize);
-        static_cast<void>(flushToDisk(file));
-        if (!exists)
-            file.remove();
+        unlink(name.constData());
         throw;
     }
 }
 
 } // namespace
 
-QByteArray BinaryFile::read(const QString &path, qint64 maxSize, Missing missing)
+QByteArray BinaryFile::read(const QString &path, const IsEnough &isEnough, Missing missing)
 {
-    const QString target = withoutLinks(path);
-    checkPlaceOfFile(target);
-    QFile file(target);
-    const bool exists = file.exists();
-    if (!exists && missing == Missing::IsAnError)
-        throwFileError(RunTimeError::FileNotFound, path, QStringLiteral("There is no such file"));
-    if (!file.open(exists ? QIODevice::ReadOnly : QIODevice::ReadWrite))
-        throwFileError(RunTimeError::PermissionDenied, path, file.errorString());
-    QByteArray content = file.read(std::min(file.size(), maxSize));
-    if (file.error() != QFileDevice::NoError)
-        throwFileError(file, path);
-    return content;
+    const QByteArray name = QFile::encodeName(placeOf(path));
+    return withFileErrors(path, [&] {
+        auto file = SystemFile::existing(name, O_RDONLY);
+        if (!file && missing == Missing::IsAnError)
+            throwFileError(ENOENT, path);
+        if (!file)
+            file.emplace(name, O_RDWR | O_CREAT, 0666);
+        return readStart(*file, isEnough);
+    });
 }
 
 void BinaryFile::overwrite(const QString &path, QByteArrayView content)
 {
-    const QString target = withoutLinks(path);
-    checkPlaceOfFile(target);
-    QFile oldFile(target);
-    const bool exists = oldFile.exists();
-    if (exists && !oldFile.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        throwFileError(RunTimeError::PermissionDenied, path, oldFile.errorString());
-
-    QSaveFile newFile(target);
-    if (!newFile.open(QIODevice::WriteOnly)) {
-        if (!exists)
-            throwFileError(RunTimeError::PermissionDenied, path, newFile.errorString());
-        oldFile.close();
-        writeInPlace(target, content, path);
-        return;
-    }
-    write(newFile, content, path);
-    copyRest(oldFile, newFile, content.size(), path);
-    flush(newFile, path);
-    oldFile.close();
-    // The name may be too long for a second one beside it, or the folder's rights refuse the swap.
-    if (!newFile.commit())
-        writeInPlace(target, content, path);
-    flushFolderToDisk(QFileInfo(target).absolutePath());
+    const QString place = placeOf(path);
+    withFileErrors(path, [&] {
+        try {
+            writeSecondFile(place, content);
+        } catch (const NoSecondFile &) {
+            writeInPlace(path, place, content);
+        }
+    });
 }

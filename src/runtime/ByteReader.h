@@ -14,10 +14,14 @@ public:
     explicit ByteReader(QByteArrayView bytes) : m_rest(bytes) {}
 
     [[nodiscard]] bool atEnd() const { return m_rest.isEmpty(); }
+    [[nodiscard]] qsizetype left() const { return m_rest.size(); }
+    // Whether something was asked for that does not lie in the span whole.
+    [[nodiscard]] bool ranOut() const { return m_ranOut; }
 
     // As many bytes as there are, up to the size.
     QByteArrayView take(qsizetype size)
     {
+        m_ranOut = m_ranOut || size > m_rest.size();
         const QByteArrayView taken = m_rest.first(qMin(size, m_rest.size()));
         m_rest = m_rest.sliced(taken.size());
         return taken;
@@ -36,4 +40,5 @@ public:
 
 private:
     QByteArrayView m_rest;
+    bool m_ranOut = false;
 };

@@ -4,14 +4,14 @@
 
 #include "runtime/RunTimeError.h"
 
-class QFileDevice;
+// The number that fits a reason of the system (errno).
+[[nodiscard]] RunTimeError::Number fileError(int reason);
 
+// With the number that fits; a file that is missing with its folder is Path not found. `more` is a
+// further sentence for the person.
+[[noreturn]] void throwFileError(int reason, const QString &path, const QString &more = {});
 [[noreturn]] void throwFileError(RunTimeError::Number number, const QString &path,
                                  const QString &reason);
-// Of a file that could not be read or written: Disk full or Path/File access error.
-[[nodiscard]] RunTimeError::Number fileError(const QFileDevice &file);
-[[noreturn]] void throwFileError(const QFileDevice &file, const QString &path);
 
-// Refuses what opening could not serve, or would hang on (a pipe) or replace (a device): Path not
-// found or Path/File access error.
+// Refuses what opening could not serve, or would hang on (a pipe) or replace (a device).
 void checkPlaceOfFile(const QString &path);

@@ -1,26 +1,132 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "transfer/DifLines.h"
 
+#include "runtime/TextToNumber.h"
 #include "runtime/Windows1252.h"
+
+#include <algorithm>
+
+namespace {
+
+// Takes line after line off the bytes.
+class LineSplitter
+{
+public:
+    explicit LineSplitter(QByteArrayView bytes) : m_bytes(bytes)
+    {
+        constexpr qsizetype searched = 64 * 1024;
+        const QByteArrayView start = bytes.first(std::min(searched, bytes.size()));
+        m_endsAtLineFeed = !start.contains('\r') && start.contains('\n');
+    }
+
+    // Nothing at the end, and where the next line is too long for a DIF file.
+    std::optional<QByteArrayView> next()
+    {
+        constexpr qsizetype longest = 16 * 1024 * 1024;
+        if (m_start == m_bytes.size())
+            return std::nullopt;
+        const QByteArrayView rest = m_bytes.sliced(m_start);
+        qsizetype length = rest.indexOf(m_endsAtLineFeed ? '\n' : '\r');
+        m_isWhole = length >= 0;
+        if (!m_isWhole)
+            length = rest.size();
+        m_isTooLong = length > longest;
+        if (m_isTooLong)
+            return std::nullopt;
+        m_start += m_isWhole ? length + 1 : length;
+        if (!m_endsAtLineFeed && m_start < m_bytes.size() && m_bytes[m_start] == '\n')
+            ++m_start;
+        return rest.first(length);
+    }
+
+    // Behind the line given last and its end.
+    [[nodiscard]] qsizetype position() const { return m_start; }
+    // Of the line given last: whether its end is in the bytes.
+    [[nodiscard]] bool isWhole() const { return m_isWhole; }
+    [[nodiscard]] bool isTooLong() const { return m_isTooLong; }
+
+private:
+    QByteArrayView m_bytes;
+    qsizetype m_start = 0;
+    bool m_endsAtLineFeed = false;
+    bool m_isWhole = true;
+    bool m_isTooLong = false;
+};
+
+// The way of an import through the lines, which no answer and no mistake in a value changes.
+class ImportWalk
+{
+public:
+    // Takes line after line from the first on. True at the last that the import looks at.
+    [[nodiscard]] bool endsAt(QByteArrayView line)
+    {
+        ++m_line;
+        if (m_line == 5)
+            m_vectors = line;
+        if (m_line == 8)
+            return !hasData(line);
+        if (m_line < m_next)
+            return false;
+        if (m_line > FirstOfData && line == QByteArrayView("EOD"))
+            return true;
+        m_next += line == QByteArrayView("BOT") ? 2 * m_valuesRead : 1;
+        return false;
+    }
+
+private:
+    static constexpr int FirstOfData = 14;
+
+    // A count that is no number is reported and ends the import, too.
+    bool hasData(QByteArrayView tuples)
+    {
+        try {
+            m_valuesRead = difValuesRead(difTuples(fromWindows1252(tuples)));
+            return difVectors(fromWindows1252(m_vectors)) >= 1;
+        } catch (const RunTimeError &) {
+            return false;
+        }
+    }
+
+    int m_line = 0;
+    int m_next = FirstOfData; // the next line that is looked at
+    int m_valuesRead = 1;
+    QByteArrayView m_vectors;
+};
+
+} // namespace
 
 Array<QString> difLines(QByteArrayView bytes)
 {
-    const QString text = fromWindows1252(bytes);
-    const QLatin1Char lineFeed('\n');
-    const QLatin1Char carriageReturn('\r');
-    const QChar lineEnd = text.contains(carriageReturn) ? carriageReturn : lineFeed;
     std::vector<QString> lines;
-    qsizetype start = 0;
-    while (start < text.size()) {
-        qsizetype end = text.indexOf(lineEnd, start);
-        if (end < 0)
-            end = text.size();
-        lines.push_back(text.mid(start, end - start));
-        start = end + 1;
-        if (lineEnd == carriageReturn && start < text.size() && text[start] == lineFeed)
-            ++start;
-    }
+    LineSplitter splitter(bytes);
+    while (const auto line = splitter.next())
+        lines.push_back(fromWindows1252(*line));
     return Array<QString>(std::move(lines));
+}
+
+std::optional<qsizetype> difEnd(QByteArrayView start)
+{
+    LineSplitter splitter(start);
+    ImportWalk walk;
+    while (const auto line = splitter.next())
+        if (splitter.isWhole() && walk.endsAt(*line))
+            return splitter.position();
+    return splitter.isTooLong() ? std::optional(splitter.position()) : std::nullopt;
+}
+
+double difVectors(const QString &line)
+{
+    return toNumber(difCount(line));
+}
+
+Integer difTuples(const QString &line)
+{
+    return toInteger(difCount(line));
+}
+
+int difValuesRead(Integer tuples)
+{
+    return tuples == 2 || tuples == 3 ? 2 : 1;
 }
 
 QString difCount(const QString &line)

@@ -15,8 +15,22 @@
 #include <QByteArray>
 #include <QString>
 
-// Windows-1252. A line ends at CR or CR LF; in a file without any CR it ends at LF.
+#include <optional>
+
+// Windows-1252. A line ends at CR or CR LF; where the first 64 KiB of the file have no CR, it ends
+// at LF. A line of more than 16 MiB and what follows it are left out.
 [[nodiscard]] Array<QString> difLines(QByteArrayView bytes);
+
+// How much of a file an import looks at, given its start. Nothing where that is not enough to
+// tell, in a whole file: all of it.
+[[nodiscard]] std::optional<qsizetype> difEnd(QByteArrayView start);
+
+// V and T of their count lines; nothing behind the first comma counts as 0. Throw RunTimeError
+// TypeMismatch or Overflow.
+[[nodiscard]] double difVectors(const QString &line);
+[[nodiscard]] Integer difTuples(const QString &line);
+// How many of a row's values are read: 1 or 2.
+[[nodiscard]] int difValuesRead(Integer tuples);
 
 // What follows the first comma of a count line; nothing there counts as "0".
 [[nodiscard]] QString difCount(const QString &line);

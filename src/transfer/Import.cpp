@@ -5,11 +5,8 @@
 #include "core/cVocabList.h"
 #include "platform/MsgBox.h"
 #include "runtime/BinaryFile.h"
-#include "runtime/TextToNumber.h"
 #include "transfer/DifLines.h"
 #include "transfer/dlgWordExist.h"
-
-#include <limits>
 
 using namespace Module1;
 
@@ -68,18 +65,19 @@ void Import::addConflicting()
 
 void Import::ReadDifLines()
 {
-    const QByteArray bytes = BinaryFile::read(gFileName, std::numeric_limits<qint64>::max(),
-                                              BinaryFile::Missing::IsAnError);
+    const QByteArray bytes = BinaryFile::read(
+        gFileName, [](QByteArrayView start) { return difEnd(start).has_value(); },
+        BinaryFile::Missing::IsAnError);
     // An empty file leaves the lines of the one before.
     if (!bytes.isEmpty())
-        gDifLines = difLines(bytes);
+        gDifLines = difLines(QByteArrayView(bytes).first(difEnd(bytes).value_or(bytes.size())));
 }
 
 void Import::ImportDif()
 {
     ReadDifLines();
-    const double vectors = toNumber(difCount(gDifLines(5)));
-    const Integer valuesPerRow = toInteger(difCount(gDifLines(8)));
+    const double vectors = difVectors(gDifLines(5));
+    const Integer valuesPerRow = difTuples(gDifLines(8));
     gAddThis = gAddAll = gStopImport = false;
     gImportList().CurrentWord(1);
     gImportCount = 0;

@@ -63,7 +63,7 @@ private Q_SLOTS:
                        : 254;
         });
         QVERIFY(folder.setMode(0755));
-        QCOMPARE(error, int(RunTimeError::PathFileAccess));
+        QCOMPARE(error, int(RunTimeError::DiskFull));
         QCOMPARE(folder.bytes(Name), before);
         QCOMPARE(folder.names(), QStringList{Name});
     }
@@ -78,7 +78,7 @@ private Q_SLOTS:
                        ? int(errorNumberOf([&] { BinaryFile::overwrite(path, content); }))
                        : 254;
         });
-        QCOMPARE(error, int(RunTimeError::PathFileAccess));
+        QCOMPARE(error, int(RunTimeError::DiskFull));
         QCOMPARE(folder.names(), QStringList());
     }
 
@@ -92,9 +92,32 @@ private Q_SLOTS:
                        ? int(errorNumberOf([&] { BinaryFile::overwrite(path, "abc"); }))
                        : 254;
         });
-        QCOMPARE(error, int(RunTimeError::PathFileAccess));
+        QCOMPARE(error, int(RunTimeError::DiskFull));
         QCOMPARE(folder.bytes(Name), before);
         QCOMPARE(folder.names(), QStringList{Name});
+    }
+
+    // Beyond the limit not even the old bytes may be written again.
+    void whatCannotBePutBackIsTold()
+    {
+        const TestFolder folder;
+        const QString path = folder.write(Name, randomBytes(20'000, 1));
+        const QByteArray content = randomBytes(10'000, 2);
+        QVERIFY(folder.setMode(0555));
+        const int told = inChildProcess([&] {
+            if (!dropPrivileges() || !limitFileSize(8'000))
+                return 254;
+            std::signal(SIGXFSZ, [](int) {
+                const rlimit none{0, 0};
+                setrlimit(RLIMIT_FSIZE, &none);
+            });
+            const QString report = reportOf([&] { BinaryFile::overwrite(path, content); });
+            const bool isDiskFull = report.startsWith(u"Run-time error '61':\n\nDisk full\n"_s);
+            return isDiskFull && report.endsWith(u". The old content could not be put back"_s) ? 1
+                                                                                               : 0;
+        });
+        QVERIFY(folder.setMode(0755));
+        QCOMPARE(told, 1);
     }
 };
 

@@ -119,8 +119,7 @@ private Q_SLOTS:
         QCOMPARE(folder.names(), QStringList{u"list.lwx"_s});
     }
 
-    // With 250 characters in the name there is no room for that of a temporary file.
-    void aFileWhoseFolderAdmitsNoTemporaryFileIsWrittenInPlace_data()
+    void aFileWhoseFolderAdmitsNoSecondFileIsWrittenInPlace_data()
     {
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QByteArray>("content");
@@ -142,38 +141,58 @@ private Q_SLOTS:
         QTest::newRow("large, longer") << start << large << large;
     }
 
-    void aFileWhoseFolderAdmitsNoTemporaryFileIsWrittenInPlace()
+    void aFileWhoseFolderAdmitsNoSecondFileIsWrittenInPlace()
     {
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, content);
         QFETCH(QByteArray, after);
         const TestFolder folder;
-        const QString name(250, u'n');
-        const QString path = folder.write(name, before);
+        const QString path = folder.write(u"list.lwx"_s, before);
         const ino_t number = fileNumber(path);
-        QCOMPARE(errorNumberOf([&] { BinaryFile::overwrite(path, content); }), NoRunTimeError);
-        QCOMPARE(folder.bytes(name), after);
-        QCOMPARE(folder.names(), QStringList{name});
+        QVERIFY(setMode(folder.path(), 0555));
+        const int writing =
+            errorNumberWithoutPrivileges([&] { BinaryFile::overwrite(path, content); });
+        QVERIFY(setMode(folder.path(), 0755));
+        QCOMPARE(writing, 0);
+        QCOMPARE(folder.bytes(u"list.lwx"_s), after);
+        QCOMPARE(folder.names(), QStringList{u"list.lwx"_s});
         QCOMPARE(fileNumber(path), number);
     }
 
-    void aNewFileWhoseFolderAdmitsNoTemporaryFileIsWritten()
+    // Only rights lead to writing in place: where it is for want of handles that there is no
+    // second file, the old one stays as it is.
+    void withoutAHandleForASecondFileTheOldOneStays()
     {
         const TestFolder folder;
-        const QString name(250, u'n');
-        QCOMPARE(errorNumberOf([&] { BinaryFile::overwrite(folder.path(name), "abc"); }),
-                 NoRunTimeError);
-        QCOMPARE(folder.bytes(name), "abc"_ba);
+        const QString path = folder.write(u"list.lwx"_s, "0123456789"_ba);
+        QCOMPARE(errorNumberInChildProcess([&] {
+                     allowHandles(1);
+                     BinaryFile::overwrite(path, "abc");
+                 }),
+                 int(RunTimeError::TooManyFiles));
+        QCOMPARE(folder.bytes(u"list.lwx"_s), "0123456789"_ba);
+        QCOMPARE(folder.names(), QStringList{u"list.lwx"_s});
+    }
+
+    void theLongestNameIsReplacedInOneStep()
+    {
+        const TestFolder folder;
+        const QString name(255, u'n');
+        QFile reader(folder.write(name, "0123456789"_ba));
+        QVERIFY(reader.open(QIODevice::ReadOnly));
+        BinaryFile::overwrite(folder.path(name), "abc");
+        QCOMPARE(reader.readAll(), "0123456789"_ba);
+        QCOMPARE(folder.bytes(name), "abc3456789"_ba);
         QCOMPARE(folder.names(), QStringList{name});
     }
 
-    void aNewFileWhoseNameIsTooLongIsRefused()
+    void aNewFileMayHaveTheLongestName()
     {
         const TestFolder folder;
-        const QString path = folder.path(QString(300, u'n'));
-        QVERIFY(errorNumberOf([&] { BinaryFile::overwrite(path, "abc"); }) != NoRunTimeError);
-        QVERIFY(errorNumberOf([&] { return BinaryFile::read(path); }) != NoRunTimeError);
-        QCOMPARE(folder.names(), QStringList());
+        const QString name(255, u'n');
+        BinaryFile::overwrite(folder.path(name), "abc");
+        QCOMPARE(folder.bytes(name), "abc"_ba);
+        QCOMPARE(folder.names(), QStringList{name});
     }
 };
 

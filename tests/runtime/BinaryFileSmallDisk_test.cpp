@@ -101,6 +101,42 @@ private Q_SLOTS:
         QCOMPARE(error, int(RunTimeError::DiskFull));
     }
 
+    // A disk that has no room for a further file is full, however much fits into the old one.
+    void aDiskThatTakesNoFurtherFileIsFull()
+    {
+        const TestFolder outside;
+        QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
+        const QString disk = outside.path(u"disk/"_s);
+        const int error = inChildProcess([&] {
+            // The folder itself and one file.
+            if (!mountSmallDisk(disk, "size=64k,nr_inodes=2") || !writeTo(disk + Name, "old bytes"))
+                return CannotMount;
+            const int number = errorNumberOf([&] { BinaryFile::overwrite(disk + Name, "new"); });
+            return QFile::copy(disk + Name, outside.path(u"found"_s)) ? number : 253;
+        });
+        QCOMPARE(error, int(RunTimeError::DiskFull));
+        QCOMPARE(outside.bytes(u"found"_s), "old bytes"_ba);
+    }
+
+    void aDiskThatMayOnlyBeReadIsPermissionDenied()
+    {
+        const TestFolder outside;
+        QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
+        const QString disk = outside.path(u"disk/"_s);
+        const auto errorOf = [&](const auto &action) {
+            return inChildProcess([&] {
+                return mountSmallDisk(disk) && writeTo(disk + Name, "old") && makeReadOnly(disk)
+                           ? int(errorNumberOf(action))
+                           : CannotMount;
+            });
+        };
+        const int denied = RunTimeError::PermissionDenied;
+        QCOMPARE(errorOf([&] { return BinaryFile::read(disk + Name); }), int(NoRunTimeError));
+        QCOMPARE(errorOf([&] { return BinaryFile::read(disk + u"new.lwx"_s); }), denied);
+        QCOMPARE(errorOf([&] { BinaryFile::overwrite(disk + Name, "abc"); }), denied);
+        QCOMPARE(errorOf([&] { BinaryFile::overwrite(disk + u"new.lwx"_s, "abc"); }), denied);
+    }
+
     void aFileOfTheWholeDiskFitsInPlace()
     {
         const TestFolder outside;

@@ -30,6 +30,34 @@ private Q_SLOTS:
         QCOMPARE(folder.bytes(u"list.lwx"_s), content);
     }
 
+    void readingEndsWhereItIsEnough_data()
+    {
+        QTest::addColumn<int>("wanted");
+        for (const int wanted : {0, 1, 1'000'000, 1'048'576, 1'048'577, 3'000'000, 9'000'000})
+            QTest::addRow("%d bytes", wanted) << wanted;
+    }
+
+    void readingEndsWhereItIsEnough()
+    {
+        QFETCH(int, wanted);
+        const TestFolder folder;
+        const QByteArray content = randomBytes(9'000'000, 1);
+        const QString path = folder.write(u"list.lwx"_s, content);
+        const QByteArray start = BinaryFile::read(
+            path, [wanted](QByteArrayView bytes) { return bytes.size() >= wanted; });
+        QVERIFY(start.size() >= wanted);
+        QVERIFY(start.size() <= std::max(1 << 20, 2 * wanted));
+        QCOMPARE(start, content.first(start.size()));
+    }
+
+    void whatIsNeverEnoughIsReadWhole()
+    {
+        const TestFolder folder;
+        const QByteArray content = randomBytes(3'000'000, 1);
+        const QString path = folder.write(u"list.lwx"_s, content);
+        QCOMPARE(BinaryFile::read(path, [](QByteArrayView) { return false; }), content);
+    }
+
     void readingAMissingFileCreatesItEmpty()
     {
         const TestFolder folder;
@@ -122,6 +150,29 @@ private Q_SLOTS:
         BinaryFile::overwrite(folder.write(u"list.lwx"_s, before), content);
         QCOMPARE(folder.bytes(u"list.lwx"_s), after);
         QCOMPARE(folder.names(), QStringList{u"list.lwx"_s});
+    }
+
+    // Its tail is kept without being written: the disk holds next to nothing of it.
+    void threeGigabytesThatWereNeverWrittenStaySo()
+    {
+        const TestFolder folder;
+        const QString path = folder.path(u"list.lwx"_s);
+        const qint64 size = 3'000'000'000;
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.resize(size));
+        QVERIFY(file.seek(2'000'000'000) && file.write("in the middle") == 13 && file.flush());
+        BinaryFile::overwrite(path, "abc");
+        struct stat status
+        {
+        };
+        QCOMPARE(stat(QFile::encodeName(path).constData(), &status), 0);
+        QCOMPARE(qint64(status.st_size), size);
+        QVERIFY(status.st_blocks * 512 < 4'000'000);
+        QFile written(path);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QCOMPARE(written.read(5), QByteArray("abc\0\0", 5));
+        QVERIFY(written.seek(1'999'999'999));
+        QCOMPARE(written.read(15), QByteArray("\0in the middle\0", 15));
     }
 
     void aNewFileHoldsTheContent()

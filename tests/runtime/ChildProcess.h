@@ -5,6 +5,7 @@
 #include "runtime/ErrorNumber.h"
 
 #include <linux/capability.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -33,6 +34,16 @@ template <class Action> [[nodiscard]] int inChildProcess(Action &&action)
 template <class Action> [[nodiscard]] int errorNumberInChildProcess(Action &&action)
 {
     return inChildProcess([&] { return int(errorNumberOf(action)); });
+}
+
+// From now on the process may open only so many files more at the same time.
+inline void allowHandles(rlim_t more)
+{
+    const int next = dup(0);
+    close(next);
+    const rlim_t all = rlim_t(next) + more;
+    const rlimit limit{all, all};
+    setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 // Makes permission bits count for root too.

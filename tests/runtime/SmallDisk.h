@@ -19,7 +19,7 @@ inline bool writeTo(const QString &path, const QByteArray &text)
 }
 
 // Seen by this process alone and gone with it.
-[[nodiscard]] inline bool mountSmallDisk(const QString &folder)
+[[nodiscard]] inline bool mountSmallDisk(const QString &folder, const char *options = "size=64k")
 {
     const QByteArray user = QByteArray::number(getuid());
     const QByteArray group = QByteArray::number(getgid());
@@ -27,5 +27,12 @@ inline bool writeTo(const QString &path, const QByteArray &text)
            writeTo(QStringLiteral("/proc/self/setgroups"), "deny") &&
            writeTo(QStringLiteral("/proc/self/uid_map"), "0 " + user + " 1") &&
            writeTo(QStringLiteral("/proc/self/gid_map"), "0 " + group + " 1") &&
-           mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, "size=64k") == 0;
+           mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, options) == 0;
+}
+
+// From now on nothing on it can be changed.
+[[nodiscard]] inline bool makeReadOnly(const QString &folder)
+{
+    return mount("none", QFile::encodeName(folder).constData(), nullptr, MS_REMOUNT | MS_RDONLY,
+                 nullptr) == 0;
 }
