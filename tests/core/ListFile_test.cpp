@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int MaxCount = cVocabList::MaxWords;
+constexpr int MaxCount = Integer::Max;
 
 QString textOf(const VocabRecord &record)
 {
@@ -150,6 +150,27 @@ private Q_SLOTS:
         QCOMPARE(readByDecode(whole.first(8)).first(), u"cat||"_s);
     }
 
+    void theRecordsAreWholeFromTheirEndOn()
+    {
+        const QByteArray whole = severalEntries();
+        const qsizetype end = whole.size() - fileRecord("behind", "the", "count").size();
+        for (qsizetype size = 0; size <= whole.size(); ++size) {
+            const QByteArray start = whole.first(size);
+            QCOMPARE(ListFile::holdsRecords(start, MaxCount), size >= end);
+            // No bytes at all are a list without entries.
+            QCOMPARE(ListFile::decode(start, MaxCount).isWhole, size >= end || size == 0);
+        }
+    }
+
+    void whatIsBehindTheRecordsIsNotKept()
+    {
+        const QByteArray records = fileCount(2) + fileRecord("cat") + fileRecord("dog");
+        const ListFile::Content content =
+            ListFile::decode(records + QByteArray(1'000'000, 't'), MaxCount);
+        QCOMPARE(content.characters.size(), records.size());
+        QCOMPARE(textOf(content.records[1]), u"dog|dog def|dog sen"_s);
+    }
+
     void countsOutsideZeroToTheMaximumAreRefused_data()
     {
         QTest::addColumn<int>("count");
@@ -160,9 +181,8 @@ private Q_SLOTS:
         QTest::newRow("one more") << 4 << 3 << false;
         QTest::newRow("minus one") << -1 << 3 << false;
         QTest::newRow("lowest") << -32768 << MaxCount << false;
-        QTest::newRow("most words") << 32000 << MaxCount << true;
-        QTest::newRow("above most words") << 32001 << MaxCount << false;
-        QTest::newRow("largest") << 32767 << MaxCount << false;
+        QTest::newRow("largest") << 32767 << MaxCount << true;
+        QTest::newRow("above another maximum") << 32767 << 32766 << false;
     }
 
     void countsOutsideZeroToTheMaximumAreRefused()
@@ -171,6 +191,8 @@ private Q_SLOTS:
         QFETCH(int, maximum);
         QFETCH(bool, accepted);
         const QByteArray bytes = fileCount(count);
+        // A count that is refused is enough to know.
+        QCOMPARE(ListFile::holdsRecords(bytes, maximum), !accepted || count == 0);
         std::size_t records = 0;
         const auto decode = [&] {
             return records = ListFile::decode(bytes, maximum).records.size();

@@ -13,7 +13,10 @@
 
 namespace {
 
-constexpr int Kills = 200;
+// TANGLEWIT_KILLS=1000 SaveKilled_test: more of them than a run of all tests has time for.
+const int Kills = qEnvironmentVariableIsSet("TANGLEWIT_KILLS")
+                      ? qEnvironmentVariableIntValue("TANGLEWIT_KILLS")
+                      : 200;
 constexpr int Entries = cVocabList::MaxWords;
 
 QByteArray contentOf(const QString &path)
