@@ -6,6 +6,7 @@
 #include "platform/LostFocus.h"
 #include "platform/MsgBox.h"
 #include "runtime/Blanks.h"
+#include "runtime/FileError.h"
 #include "runtime/TextToNumber.h"
 #include "transfer/ui_dlgExport.h"
 
@@ -140,6 +141,9 @@ void dlgExport::exportRange()
         MsgBox(QStringLiteral("Invalid file name."));
         return;
     }
+    if (!target.fileIsWhole())
+        throwFileError(RunTimeError::InvalidFileFormat, gFileName,
+                       QStringLiteral("This is no word list"));
     cVocabList &list = gVocabList();
     ExportCount = forEachNumber(StartNo, EndNo, [&](Integer i) {
         list.CurrentWord(i);

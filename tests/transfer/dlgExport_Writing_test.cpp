@@ -305,8 +305,6 @@ private Q_SLOTS:
         QTest::newRow("the smallest count") << fileCount(-32768);
         QTest::newRow("a negative count before good entries")
             << fileCount(-2) + fileRecord("a") + fileRecord("b");
-        QTest::newRow("one more than a list holds") << fileCount(32'001);
-        QTest::newRow("the largest count") << fileCount(32'767);
     }
 
     void aDamagedTargetIsReportedAndLeftAsItIs()
@@ -314,6 +312,28 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         write(m_target, bytes);
         expectReport(u"Run-time error '9':\n\nSubscript out of range"_s);
+        ok();
+        verifyNothingHappened();
+        QCOMPARE(bytesOf(m_target), bytes);
+    }
+
+    void aTargetThatIsNoListIsRefusedAndLeftAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("one byte") << QByteArray("x");
+        QTest::newRow("a count without records") << fileCount(1);
+        QTest::newRow("the largest count without records") << fileCount(32'767);
+        QTest::newRow("a record cut off") << fileCount(1) + fileRecord("old").chopped(1);
+        QTest::newRow("one record of two") << fileCount(2) + fileRecord("old");
+        QTest::newRow("a DIF file") << QByteArray("TABLE\r\n0,1\r\n\"\"\r\nVECTORS\r\n0,1\r\n");
+        QTest::newRow("a text") << QByteArray("Words of a language");
+    }
+
+    void aTargetThatIsNoListIsRefusedAndLeftAsItIs()
+    {
+        QFETCH(QByteArray, bytes);
+        write(m_target, bytes);
+        expectReport(u"Run-time error '321':\n\nInvalid file format\n"_s + m_target);
         ok();
         verifyNothingHappened();
         QCOMPARE(bytesOf(m_target), bytes);
