@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList linesOf(const QByteArray &bytes)
@@ -52,6 +54,71 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         QTEST(linesOf(bytes), "lines");
+    }
+
+    void aFileEndsAtLineFeedWhereItsFirst64KiBHaveNoCarriageReturn()
+    {
+        const QByteArray lines = "one\ntwo\n" + QByteArray(64 * 1024, 'x') + "\rfour";
+        QCOMPARE(linesOf(lines).size(), 3);
+        QCOMPARE(linesOf(lines).first(2),
+                 (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+        QCOMPARE(linesOf("\r" + lines).size(), 3);
+    }
+
+    void aLineOfMoreThan16MiBEndsTheLines()
+    {
+        const qsizetype longest = 16 * 1024 * 1024;
+        QCOMPARE(linesOf("one\r" + QByteArray(longest, '\0') + "\rthree").size(), 3);
+        const QByteArray tooLong = "one\r" + QByteArray(longest + 1, '\0');
+        QCOMPARE(linesOf(tooLong + "\rthree"), QStringList{QStringLiteral("one")});
+        QCOMPARE(difEnd(tooLong), std::optional<qsizetype>(4));
+        QCOMPARE(difEnd(tooLong.chopped(1)), std::nullopt);
+    }
+
+    // "..." stands for what an import does not look at.
+    void anImportLooksAtTheLinesUpToItsEnd_data()
+    {
+        QTest::addColumn<QByteArray>("vectors");
+        QTest::addColumn<QByteArray>("tuples");
+        QTest::addColumn<QByteArray>("data"); // from line 14 on
+        const auto row = [](const char *name, const char *vectors, const char *tuples,
+                            const char *data) {
+            QTest::newRow(name) << QByteArray(vectors) << QByteArray(tuples) << QByteArray(data);
+        };
+        row("two values", "0,1", "0,2", "BOT|t|w|t|d|-1,0|EOD|...");
+        row("word and sentence", "0,1", "0,3", "BOT|t|w|t|s|-1,0|EOD|...");
+        row("the word alone", "0,1", "0,1", "BOT|t|w|BOT|t|w|EOD|...");
+        row("two rows", "0,9", "0,2", "BOT|t|w|t|d|-1,0|BOT|t|w|t|d|EOD|...");
+        row("EOD at the first line of data", "0,1", "0,2", "EOD|x|EOD|...");
+        row("EOD as type", "0,1", "0,2", "BOT|EOD|w|EOD|d|EOD|...");
+        row("EOD as word of two values", "0,1", "0,2", "BOT|t|EOD|t|d|EOD|...");
+        row("EOD as word alone", "0,1", "0,1", "BOT|t|EOD|...");
+        row("BOT as type", "0,1", "0,1", "BOT|BOT|w|EOD|...");
+        row("BOT as word alone", "0,1", "0,1", "BOT|t|BOT|t|w|EOD|...");
+        row("a word too short", "0,1", "0,1", "BOT|t||x|EOD|...");
+        row("no vectors", "0,0", "0,2", nullptr);
+        row("vectors that are no number", "0,V", "0,2", nullptr);
+        row("tuples that are no number", "0,1", "0,T", nullptr);
+        row("too many tuples", "0,1", "0,99999", nullptr);
+    }
+
+    void anImportLooksAtTheLinesUpToItsEnd()
+    {
+        QFETCH(QByteArray, vectors);
+        QFETCH(QByteArray, tuples);
+        QFETCH(QByteArray, data);
+        QByteArrayList lines{"TABLE", "0,1", "\"\"", "VECTORS", vectors, "\"\"", "TUPLES", tuples};
+        if (!data.isNull())
+            lines += QByteArrayList{"\"\"", "DATA", "0,0", "\"\"", "-1,0"} + data.split('|');
+        if (lines.last() == "...")
+            lines.removeLast();
+        for (const QByteArray &lineEnd : {"\r\n"_ba, "\r"_ba, "\n"_ba}) {
+            const QByteArray bytes = lines.join(lineEnd) + lineEnd;
+            for (qsizetype size = 0; size < bytes.size() - lineEnd.size(); ++size)
+                QCOMPARE(difEnd(bytes.first(size)), std::nullopt);
+            QCOMPARE(difEnd(bytes), std::optional<qsizetype>(bytes.size()));
+            QCOMPARE(difEnd(bytes + "..." + lineEnd), std::optional<qsizetype>(bytes.size()));
+        }
     }
 
     void anEmptyFileHasNoLine() { QCOMPARE(difLines(QByteArray()).size(), 0); }

@@ -233,6 +233,44 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().NumWords().toInt(), 1);
     }
 
+    // The import of an empty file goes as far as the one before could have gone.
+    void anEmptyFileKeepsTheLinesThatAnAbortLeftUnread()
+    {
+        setOpenEntries({QStringLiteral("cat")});
+        expectQuestion(m_run->answers, QStringLiteral("cmdAbort"));
+        m_run->expectAdded(0);
+        m_run->dif(joined(difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")})));
+        gVocabList().ClearList();
+        m_run->expectAdded(2);
+        m_run->dif(QByteArray());
+        QCOMPARE(gVocabList().NumWords().toInt(), 2);
+    }
+
+    void linesBehindTheEndAreNotKept()
+    {
+        QByteArray bytes = joined(difLinesOf({QStringLiteral("cat|1")}));
+        bytes += QByteArray("more\r\n").repeated(1'000'000);
+        m_run->expectAdded(1);
+        m_run->dif(bytes);
+        QCOMPARE(gDifLines.size(), 20);
+        QCOMPARE(gDifLines(20), QStringLiteral("EOD"));
+    }
+
+    void threeGigabytesWithoutALineAreASubscriptError()
+    {
+        gFileName = m_run->path(QStringLiteral("video.dif"));
+        writeFile(gFileName, {});
+        QVERIFY(QFile::resize(gFileName, 3'000'000'000));
+        int error = 0;
+        try {
+            m_run->import.ImportDif();
+        } catch (const RunTimeError &caught) {
+            error = caught.number();
+        }
+        QCOMPARE(error, 9);
+        QCOMPARE(gDifLines.size(), 0);
+    }
+
     void anEmptyFileAtFirstIsASubscriptError() { QCOMPARE(m_run->difError(QByteArray()), 9); }
 
     void aShorterFileLeavesNoLineOfALongerOneBefore()

@@ -242,6 +242,19 @@ private Q_SLOTS:
         QCOMPARE(gImportCount.toInt(), 0);
     }
 
+    // Only a file can make such a list.
+    void aListBeyondTheMaximumTakesNothing()
+    {
+        gFileName = m_run->path(QStringLiteral("large.lwx"));
+        writeFile(gFileName, listFile(numbered("word", 32001)));
+        QVERIFY(gVocabList().OpenFile());
+        m_run->answers.expectMsgBox(
+            QStringLiteral("Cannot import any more words. Maximum number of words=32000"));
+        m_run->wordList(listFile({QStringLiteral("cat")}));
+        QCOMPARE(gVocabList().NumWords().toInt(), 32001);
+        QCOMPARE(gImportCount.toInt(), 0);
+    }
+
     void aListMayGrowToTheMaximum()
     {
         setOpenEntries(numbered("word", 31998));
