@@ -1,37 +1,53 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/SampleLists.h"
 
-#include "runtime/RunTimeError.h"
+#include "runtime/BinaryFile.h"
+#include "runtime/FileError.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
+
+#include <filesystem>
+
+namespace {
+
+std::filesystem::path systemPath(const QString &path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+QByteArray contentOf(const QString &resource)
+{
+    QFile file(resource);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void fill(const QString &folder)
+{
+    std::filesystem::create_directories(systemPath(folder));
+    const QDir samples(QStringLiteral(":/lists"));
+    const QStringList names = samples.entryList(QDir::Files);
+    for (const QString &name : names)
+        BinaryFile::overwrite(QDir(folder).filePath(name), contentOf(samples.filePath(name)));
+}
+
+} // namespace
 
 void installSampleLists(const QString &folder)
 {
     if (QDir(folder).exists())
         return;
-    const auto check = [&folder](bool done, const QString &reason) {
-        if (!done)
-            throw RunTimeError(RunTimeError::PathFileAccess,
-                               QDir::toNativeSeparators(folder) + QStringLiteral(": ") + reason);
-    };
-    // Filled beside its place and then renamed, so that a start that is cut short starts afresh.
-    QTemporaryDir unfinished(folder + QStringLiteral("XXXXXX"));
-    check(unfinished.isValid(), unfinished.errorString());
-    const QDir samples(QStringLiteral(":/lists"));
-    const QStringList names = samples.entryList(QDir::Files);
-    for (const QString &name : names) {
-        QFile sample(samples.filePath(name));
-        check(sample.copy(unfinished.filePath(name)), sample.errorString());
-        // Copies of resources are read-only.
-        QFile::setPermissions(unfinished.filePath(name), QFile::ReadOwner | QFile::WriteOwner |
-                                                             QFile::ReadGroup | QFile::ReadOther);
+    // Filled beside its place and then renamed. What a start left that was cut short is filled
+    // again.
+    const QString unfinished = folder + QStringLiteral(".new");
+    try {
+        fill(unfinished);
+        std::filesystem::rename(systemPath(unfinished), systemPath(folder));
+    } catch (const std::filesystem::filesystem_error &error) {
+        QDir(unfinished).removeRecursively();
+        throwFileError(error.code().value(), folder);
+    } catch (const RunTimeError &) {
+        QDir(unfinished).removeRecursively();
+        throw;
     }
-    QFile::setPermissions(unfinished.path(), QFile::ReadOwner | QFile::WriteOwner |
-                                                 QFile::ExeOwner | QFile::ReadGroup |
-                                                 QFile::ExeGroup | QFile::ReadOther |
-                                                 QFile::ExeOther);
-    check(QDir().rename(unfinished.path(), folder), QStringLiteral("It cannot be made"));
-    unfinished.setAutoRemove(false);
 }

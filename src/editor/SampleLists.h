@@ -5,5 +5,5 @@
 #include <QString>
 
 // Makes the folder and puts the sample lists into it, in one step; a folder that exists is left
-// as it is. Throws RunTimeError PathFileAccess where it cannot be made.
+// as it is. Throws RunTimeError where it cannot be made; nothing of it is left then.
 void installSampleLists(const QString &folder);

@@ -3,7 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "runtime/RunTimeError.h"
+#include "runtime/ChildProcess.h"
 #include "support/FreshState.h"
 
 #include <QDir>
@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <csignal>
 
 namespace {
 
@@ -44,6 +45,8 @@ private Q_SLOTS:
     void aFolderThatExistsIsLeftAsItIs_data();
     void aFolderThatExistsIsLeftAsItIs();
     void aFolderThatCannotBeMadeIsAnError();
+    void aFullDiskIsAnErrorAndNothingIsLeft();
+    void whatAStartLeftUnfinishedIsFinished();
     void theFolderHasNoDot();
     void eachListIsGood_data();
     void eachListIsGood();
@@ -105,10 +108,35 @@ void SampleLists_test::aFolderThatCannotBeMadeIsAnError()
         installSampleLists(state.path(QStringLiteral("file/MyLists")));
         QFAIL("no error");
     } catch (const RunTimeError &error) {
-        QCOMPARE(error.number(), RunTimeError::PathFileAccess);
+        QCOMPARE(error.number(), RunTimeError::PathNotFound);
         QVERIFY(error.report().contains(
             QDir::toNativeSeparators(state.path(QStringLiteral("file/MyLists")))));
     }
+}
+
+void SampleLists_test::aFullDiskIsAnErrorAndNothingIsLeft()
+{
+    const FreshState state;
+    QCOMPARE(errorNumberInChildProcess([&] {
+                 std::signal(SIGXFSZ, SIG_IGN);
+                 const rlimit limit{1000, 1000};
+                 setrlimit(RLIMIT_FSIZE, &limit);
+                 installSampleLists(state.path(Folder));
+                 return 0;
+             }),
+             int(RunTimeError::DiskFull));
+    QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList());
+}
+
+void SampleLists_test::whatAStartLeftUnfinishedIsFinished()
+{
+    const FreshState state;
+    QVERIFY(QDir().mkpath(state.path(QStringLiteral("MyLists.new"))));
+    writeFile(state.path(QStringLiteral("MyLists.new/French - First Words.lwx")), {});
+    installSampleLists(state.path(Folder));
+    QCOMPARE(QDir(state.path(Folder)).entryList(QDir::Files),
+             QDir(QStringLiteral(":/lists")).entryList(QDir::Files));
+    QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{Folder});
 }
 
 void SampleLists_test::theFolderHasNoDot()
