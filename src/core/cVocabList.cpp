@@ -41,6 +41,7 @@ void cVocabList::AddVocab(const QString &NewWord, const QString &NewDef, const Q
     ++m_count;
     m_current = m_count;
     m_searchPos = 0;
+    setUnsaved(true);
 }
 
 void cVocabList::ClearList()
@@ -52,6 +53,7 @@ void cVocabList::ClearList()
     m_current = 1;
     m_searchPos = 0;
     m_index.clear();
+    setUnsaved(false);
 }
 
 void cVocabList::DeleteVocab()
@@ -75,6 +77,7 @@ void cVocabList::DeleteVocab()
     m_slots.resize(count);
     --m_count;
     m_current = m_current < 2 ? Integer(1) : m_current - 1;
+    setUnsaved(true);
 }
 
 void cVocabList::Edit(const QString &NewWord, const QString &NewDef, const QString &NewSen)
@@ -84,14 +87,28 @@ void cVocabList::Edit(const QString &NewWord, const QString &NewDef, const QStri
     if (!m_index.isEmpty() && isEntry(m_current))
         m_index.replace(m_current.toInt(), entry.Word, NewWord);
     entry = {NewWord, NewDef, NewSen};
+    setUnsaved(true);
 }
 
-void cVocabList::SaveFile() const
+void cVocabList::SaveFile()
 {
-    if (m_count == 0)
-        return;
-    BinaryFile::overwrite(Module1::gFileName, ListFile::encode(m_count, m_slots));
-    Module1::gChanged = false;
+    if (m_count != 0) {
+        BinaryFile::overwrite(Module1::gFileName, ListFile::encode(m_count, m_slots));
+        Module1::gChanged = false;
+    }
+    setUnsaved(false);
+}
+
+QByteArray cVocabList::fileBytes() const
+{
+    return ListFile::encode(m_count, entries());
+}
+
+void cVocabList::setUnsaved(bool unsaved)
+{
+    m_unsaved = unsaved;
+    if (m_changeHook)
+        m_changeHook();
 }
 
 bool cVocabList::OpenFile()
@@ -113,7 +130,10 @@ bool cVocabList::OpenFile()
     Module1::gChanged = false;
     m_current = 1;
     m_searchPos = 0;
-    return !Module1::gFileName.isEmpty();
+    if (Module1::gFileName.isEmpty())
+        return false;
+    setUnsaved(false);
+    return true;
 }
 
 bool cVocabList::Exist(const QString &NewWord, Integer startpos)

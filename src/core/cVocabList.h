@@ -35,7 +35,7 @@ public:
 
     // Writes gFileName in the layout of ListFile and clears gChanged; an empty list writes
     // nothing. Throws what ListFile::encode and BinaryFile::overwrite throw.
-    void SaveFile() const;
+    void SaveFile();
     // Replaces the list by the content of gFileName and clears gChanged. False without a name.
     // Throws what BinaryFile::read and ListFile::decode throw.
     bool OpenFile();
@@ -73,8 +73,17 @@ public:
     // Called between two attempts of the scramble; false gives up. None by default.
     void setScrambleHook(std::function<bool()> goOn) { m_scrambleHook = std::move(goOn); }
 
+    // Whether entries were added, changed or removed since the list was saved, opened or cleared.
+    // An import and an export clear gChanged, but not this.
+    [[nodiscard]] bool isUnsaved() const { return m_unsaved; }
+    // What a new list file with these entries holds. Throws what ListFile::encode throws.
+    [[nodiscard]] QByteArray fileBytes() const;
+    // Called after each change of the entries and after each save. None by default.
+    void setChangeHook(std::function<void()> changed) { m_changeHook = std::move(changed); }
+
 private:
     void Scramble();
+    void setUnsaved(bool unsaved);
 
     [[nodiscard]] VocabRecord &slot(Integer position);
     [[nodiscard]] const VocabRecord &slot(Integer position) const;
@@ -92,5 +101,7 @@ private:
     Integer m_searchPos; // of the last hit; 0 = none
     QString m_scrambled;
     std::function<bool()> m_scrambleHook;
+    bool m_unsaved = false;
+    std::function<void()> m_changeHook;
     WordIndex m_index; // of all entries, or empty until a word is looked up
 };

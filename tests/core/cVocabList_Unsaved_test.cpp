@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "runtime/RunTimeError.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+class cVocabList_Unsaved_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(m_folder.isValid());
+        gFileName = m_folder.filePath(u"list.lwx"_s);
+        m_list = cVocabList();
+        m_list.AddVocab(u"cat"_s, u"an animal"_s, u"The cat sat."_s);
+        m_list.SaveFile();
+        m_calls = 0;
+        m_list.setChangeHook([this] { ++m_calls; });
+    }
+
+    void everyChangeOfAnEntryMakesTheListUnsaved()
+    {
+        QVERIFY(!m_list.isUnsaved());
+        m_list.AddVocab(u"dog"_s, {}, {});
+        QVERIFY(m_list.isUnsaved());
+        m_list.SaveFile();
+        QVERIFY(!m_list.isUnsaved());
+        m_list.Edit(u"hen"_s, {}, {});
+        QVERIFY(m_list.isUnsaved());
+        m_list.SaveFile();
+        m_list.DeleteVocab();
+        QVERIFY(m_list.isUnsaved());
+        QCOMPARE(m_calls, 5);
+    }
+
+    void aListThatTakesTheOldOnesPlaceIsNotUnsaved()
+    {
+        m_list.AddVocab(u"dog"_s, {}, {});
+        QVERIFY(m_list.OpenFile());
+        QVERIFY(!m_list.isUnsaved());
+        m_list.AddVocab(u"dog"_s, {}, {});
+        m_list.ClearList();
+        QVERIFY(!m_list.isUnsaved());
+        QCOMPARE(m_calls, 4);
+    }
+
+    void whatFailsOrDoesNothingLeavesTheListUnsaved()
+    {
+        m_list.AddVocab(u"dog"_s, {}, {});
+        gFileName = m_folder.filePath(u"nowhere/list.lwx"_s);
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, m_list.SaveFile());
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, static_cast<void>(m_list.OpenFile()));
+        gFileName.clear();
+        QVERIFY(!m_list.OpenFile());
+        QVERIFY(m_list.isUnsaved());
+        QCOMPARE(m_calls, 1);
+    }
+
+    void anotherListsSaveLeavesTheListUnsaved()
+    {
+        m_list.AddVocab(u"dog"_s, {}, {});
+        cVocabList other;
+        QVERIFY(other.OpenFile());
+        other.SaveFile();
+        QVERIFY(m_list.isUnsaved());
+    }
+
+    void readingAndMovingIsNoChange()
+    {
+        QCOMPARE(m_list.SearchWord(u"cat"_s), 1);
+        QVERIFY(m_list.Exist(u"cat"_s, 1));
+        m_list.CurrentWord(1);
+        QCOMPARE(m_list.Word(), u"cat"_s);
+        QVERIFY(!m_list.isUnsaved());
+        QCOMPARE(m_calls, 0);
+    }
+
+    void theFileBytesAreThoseOfTheEntriesAlone()
+    {
+        m_list.AddVocab(u"dog"_s, {}, {});
+        m_list.DeleteVocab(); // its slot stays behind
+        const QByteArray bytes = m_list.fileBytes();
+        gFileName = m_folder.filePath(u"copy.lwx"_s);
+        QFile copy(gFileName);
+        QVERIFY(copy.open(QIODevice::WriteOnly));
+        QCOMPARE(copy.write(bytes), bytes.size());
+        copy.close();
+        cVocabList read;
+        QVERIFY(read.OpenFile());
+        QCOMPARE(read.NumWords(), 1);
+        QCOMPARE(read.Sentence(), u"The cat sat."_s);
+        QCOMPARE(bytes.size(), 2 + (2 + 3) + (2 + 9) + (2 + 12));
+        m_list.ClearList();
+        QCOMPARE(m_list.fileBytes(), QByteArray(2, '\0'));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    cVocabList m_list;
+    int m_calls = 0;
+};
+
+QTEST_GUILESS_MAIN(cVocabList_Unsaved_test)
+#include "cVocabList_Unsaved_test.moc"
