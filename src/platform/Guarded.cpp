@@ -4,10 +4,31 @@
 #include "platform/MsgBox.h"
 #include "runtime/RunTimeError.h"
 
+#include <QScopedValueRollback>
+#include <QThread>
+
 #include <new>
+
+namespace {
+
+// How many event loops were under way when the innermost handler began; -1 where none runs.
+int loopsAroundHandler = -1;
+
+int loopsUnderWay()
+{
+    return QThread::currentThread()->loopLevel();
+}
+
+} // namespace
+
+bool isHandlerAtWork()
+{
+    return loopsAroundHandler >= loopsUnderWay();
+}
 
 bool runGuarded(const std::function<void()> &handler)
 {
+    const QScopedValueRollback atWork(loopsAroundHandler, loopsUnderWay());
     try {
         handler();
         return true;

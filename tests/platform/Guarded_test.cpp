@@ -5,6 +5,7 @@
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
 
+#include <QEventLoop>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -68,6 +69,31 @@ private Q_SLOTS:
         QVERIFY(ran);
         QVERIFY(answers.allSeen());
         QCOMPARE(answers.seen(), 0);
+    }
+
+    void aHandlerIsAtWorkButForItsDialogs()
+    {
+        QVERIFY(!isHandlerAtWork());
+        runGuarded([] {
+            QVERIFY(isHandlerAtWork());
+            QTimer::singleShot(0, [] { QVERIFY(isHandlerAtWork()); });
+            QCoreApplication::processEvents();
+            QEventLoop dialog;
+            bool waited = false;
+            QTimer::singleShot(0, [&] {
+                waited = !isHandlerAtWork();
+                runGuarded([] { QVERIFY(isHandlerAtWork()); });
+                waited = waited && !isHandlerAtWork();
+                dialog.quit();
+            });
+            dialog.exec();
+            QVERIFY(waited);
+            QVERIFY(isHandlerAtWork());
+        });
+        DialogAnswers answers;
+        answers.expectMsgBox(QStringLiteral("Run-time error '6':\n\nOverflow"));
+        runGuarded([] { throw RunTimeError(RunTimeError::Overflow); });
+        QVERIFY(!isHandlerAtWork());
     }
 
     void everyErrorIsReportedAndEndsTheHandler_data()
