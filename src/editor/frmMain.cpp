@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/MainLayout.h"
+#include "editor/UnsavedCopy.h"
 #include "editor/ui_frmMain.h"
 #include "game/Top10File.h"
 #include "game/frmTanglewit.h"
@@ -30,7 +31,9 @@ constexpr int SmallestEntryArea = 260;
 
 } // namespace
 
-frmMain::frmMain() : m_ui(std::make_unique<Ui::frmMain>()), m_fileDialog(pathOf(Place::WordLists))
+frmMain::frmMain()
+    : m_ui(std::make_unique<Ui::frmMain>()), m_fileDialog(pathOf(Place::WordLists)),
+      m_unsavedCopy(std::make_unique<UnsavedCopy>(this))
 {
     m_ui->setupUi(this);
     for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep})
@@ -154,15 +157,17 @@ void frmMain::Form_GotFocus()
 void frmMain::Form_Terminate()
 {
     using namespace Module1;
-    if (gChanged && MsgBox(QStringLiteral("Your changes have not been saved.  "
-                                          "Do you want to save them?"),
-                           MsgBoxButtons::YesNo) == MsgBoxAnswer::Yes) {
-        if (!gFileName.isEmpty())
-            gVocabList().SaveFile();
-        else
-            mnuSaveAs_Click();
-    }
+    const bool asked = gChanged;
+    const bool save = asked && MsgBox(QStringLiteral("Your changes have not been saved.  "
+                                                     "Do you want to save them?"),
+                                      MsgBoxButtons::YesNo) == MsgBoxAnswer::Yes;
+    if (save && !gFileName.isEmpty())
+        gVocabList().SaveFile();
+    else if (save)
+        mnuSaveAs_Click();
     unloadGame();
+    if (asked && !save)
+        m_unsavedCopy->giveUp();
 }
 
 void frmMain::mnuExit_Click()

@@ -14,6 +14,7 @@
 #include <memory>
 
 class QAction;
+class UnsavedCopy;
 class frmTanglewit;
 enum class MsgBoxButtons;
 struct MainLayout;
@@ -120,6 +121,7 @@ private:
     CommonDialog m_fileDialog;
     PrinterDialog m_printerDialog;
     std::unique_ptr<SystemPrinter> m_printer;
+    std::unique_ptr<UnsavedCopy> m_unsavedCopy;
 
     Integer m_shownEntry;     // position of the entry in the boxes, picked or found; 0 = none
     bool m_searching = false; // the next page fill is a search's, which marks its own row

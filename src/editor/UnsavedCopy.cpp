@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/UnsavedCopy.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "platform/Guarded.h"
+#include "platform/Paths.h"
+#include "runtime/DiskFlush.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+using namespace Module1;
+
+namespace {
+
+constexpr int Delay = 100; // milliseconds, for further changes to come into the same copy
+const QString Extension = QStringLiteral(".lwx");
+
+QString listTitle()
+{
+    if (gFileTitle.isEmpty())
+        return QStringLiteral("Untitled");
+    return gFileTitle.endsWith(Extension, Qt::CaseInsensitive) ? gFileTitle.chopped(4) : gFileTitle;
+}
+
+bool isTaken(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() || file.isSymLink(); // also one that leads nowhere
+}
+
+// "Animals (not saved).lwx", "Animals (not saved) 2.lwx", …
+QString freePath(const QString &folder, const QString &title)
+{
+    const QString start = folder + QLatin1Char('/') + title + QStringLiteral(" (not saved)");
+    QString path = start + Extension;
+    for (int number = 2; isTaken(path); ++number)
+        path = start + QLatin1Char(' ') + QString::number(number) + Extension;
+    return path;
+}
+
+// In one step: what was there before is whole until the new file is.
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() ||
+        !flushToDisk(file) || !file.commit())
+        return false;
+    flushFolderToDisk(QFileInfo(path).path());
+    return true;
+}
+
+} // namespace
+
+UnsavedCopy::UnsavedCopy(QObject *window) : m_timer(window)
+{
+    m_timer.setObjectName(QStringLiteral("tmrUnsavedCopy"));
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(Delay);
+    m_timer.callOnTimeout([this] { timedOut(); });
+    gVocabList().setChangeHook([this] { listChanged(); });
+}
+
+UnsavedCopy::~UnsavedCopy()
+{
+    gVocabList().setChangeHook({});
+}
+
+void UnsavedCopy::giveUp()
+{
+    m_timer.stop();
+    remove();
+}
+
+void UnsavedCopy::listChanged()
+{
+    if (!gVocabList().isUnsaved())
+        giveUp();
+    else if (!m_timer.isActive())
+        m_timer.start();
+}
+
+void UnsavedCopy::timedOut()
+{
+    if (isHandlerAtWork()) {
+        m_timer.start();
+        return;
+    }
+    // An export or a fruitless import clears gChanged without saving what the copy holds.
+    if (!gChanged && m_path.isEmpty())
+        return;
+    try {
+        write();
+    } catch (const std::exception &) {
+        // The list does not fit into a file or into memory twice.
+    }
+}
+
+void UnsavedCopy::write()
+{
+    const QByteArray bytes = gVocabList().fileBytes();
+    const QString title = listTitle();
+    QString path = m_path;
+    if (title != m_title || !isOwnFile()) {
+        const QString folder = pathOf(Place::WordLists);
+        QDir().mkpath(folder);
+        path = freePath(folder, title);
+    }
+    if (!writeFile(path, bytes))
+        return;
+    if (path != m_path)
+        remove();
+    m_path = path;
+    m_title = title;
+    m_written = QFileInfo(path).lastModified();
+}
+
+void UnsavedCopy::remove()
+{
+    if (isOwnFile())
+        QFile::remove(m_path);
+    m_path.clear();
+}
+
+// Not where the person has removed it, written over it, opened it or saved the list under its name.
+bool UnsavedCopy::isOwnFile() const
+{
+    const QFileInfo file(m_path);
+    return !m_path.isEmpty() && file.lastModified() == m_written && file != QFileInfo(gFileName);
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The copy of the open list that lies in the lists' folder while the list has unsaved changes, so
+// that they outlive a crash, a kill and a power cut.
+//
+// It is written a moment after a change, never while a handler is at work, and removed as soon as
+// the list is saved or replaced. A copy that cannot be written is given up in silence until the
+// next change.
+#pragma once
+
+#include <QDateTime>
+#include <QTimer>
+
+class UnsavedCopy final
+{
+public:
+    // Of the main window's list; its timer is a child of the window.
+    explicit UnsavedCopy(QObject *window);
+    ~UnsavedCopy();
+    Q_DISABLE_COPY_MOVE(UnsavedCopy)
+
+    // The person does not want the unsaved changes.
+    void giveUp();
+
+private:
+    void listChanged();
+    void timedOut();
+    void write();
+    void remove();
+    [[nodiscard]] bool isOwnFile() const;
+
+    QTimer m_timer;
+    QString m_path;      // empty where there is no copy
+    QString m_title;     // of the list when the copy got its name
+    QDateTime m_written; // what the folder says of the copy's last change
+};

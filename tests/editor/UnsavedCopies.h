@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The copies of unsaved lists that lie in the lists' folder.
+#pragma once
+
+#include "editor/OpenList.h"
+#include "platform/Paths.h"
+
+#include <QDir>
+#include <QTimer>
+
+namespace UnsavedCopies {
+
+inline QString path(const QString &name)
+{
+    return pathOf(Place::WordLists) + QLatin1Char('/') + name;
+}
+
+inline QStringList names()
+{
+    return QDir(pathOf(Place::WordLists))
+        .entryList({QStringLiteral("*(not saved)*")},
+                   QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+// Whether the program means to write a copy soon.
+inline bool isDue(MainWindow &main)
+{
+    return main.control<QTimer>("tmrUnsavedCopy").isActive();
+}
+
+// Waits until there is nothing more to write.
+[[nodiscard]] inline bool settled(MainWindow &main)
+{
+    return QTest::qWaitFor([&main] { return !isDue(main); }, 1000);
+}
+
+// Whether this one alone holds what the open list holds, at most one second from now.
+[[nodiscard]] inline bool comes(const QString &name)
+{
+    return QTest::qWaitFor(
+        [&name] {
+            return names() == QStringList{name} && readFile(path(name)) == listBytes(openEntries());
+        },
+        1000);
+}
+
+} // namespace UnsavedCopies
