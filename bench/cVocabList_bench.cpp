@@ -130,7 +130,7 @@ void plainReadTexts(benchmark::State &state)
 
 void save(benchmark::State &state)
 {
-    const cVocabList list = openedList(size(state));
+    cVocabList list = openedList(size(state));
     Module1::gFileName += QStringLiteral(".saved");
     list.SaveFile(); // what is measured is saving over an existing file
     for (auto _ : state)
