@@ -17,12 +17,20 @@ namespace {
 
 constexpr int Delay = 100; // milliseconds, for further changes to come into the same copy
 const QString Extension = QStringLiteral(".lwx");
+// In bytes. A name has 255, of which " (not saved) 999.lwx" and a temporary file's ending take
+// some.
+constexpr qsizetype LongestTitle = 228;
 
 QString listTitle()
 {
     if (gFileTitle.isEmpty())
         return QStringLiteral("Untitled");
-    return gFileTitle.endsWith(Extension, Qt::CaseInsensitive) ? gFileTitle.chopped(4) : gFileTitle;
+    QString title = gFileTitle;
+    if (title.endsWith(Extension, Qt::CaseInsensitive))
+        title.chop(Extension.size());
+    while (QFile::encodeName(title).size() > LongestTitle)
+        title.chop(1);
+    return title;
 }
 
 bool isTaken(const QString &path)

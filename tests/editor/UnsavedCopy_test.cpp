@@ -132,6 +132,8 @@ private Q_SLOTS:
         QTest::newRow("list") << u"animals.lwx"_s << Animals;
         QTest::newRow("capitals") << u"ANIMALS.LWX"_s << u"ANIMALS (not saved).lwx"_s;
         QTest::newRow("another ending") << u"animals.txt"_s << u"animals.txt (not saved).lwx"_s;
+        QTest::newRow("long") << QString(250, u'a') + u".lwx"_s
+                              << QString(228, u'a') + u" (not saved).lwx"_s;
         QTest::newRow("place markers") << u"%1 %2.lwx"_s << u"%1 %2 (not saved).lwx"_s;
     }
 
