@@ -126,9 +126,12 @@ void dlgExport::cmdOK_Click()
 {
     if (m_ui->txtFilename->text().isEmpty())
         return;
-    // Enter presses OK without leaving the box, and a box may still hold what was no number.
-    StartNo = rangeNumber(*m_ui->txtStart);
-    EndNo = rangeNumber(*m_ui->txtEnd);
+    // Enter presses OK without leaving the box. What a box that was left holds has been taken, or
+    // was no number and does not count.
+    if (focusWidget() == m_ui->txtStart)
+        StartNo = rangeNumber(*m_ui->txtStart);
+    if (focusWidget() == m_ui->txtEnd)
+        EndNo = rangeNumber(*m_ui->txtEnd);
     exportRange();
 }
 

@@ -278,24 +278,35 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_target));
     }
 
-    void okReportsARangeBoxThatStillIsNoNumber_data()
+    void aBoxLeftWithAMistakeKeepsTheNumberBefore_data()
     {
         QTest::addColumn<QByteArray>("box");
         QTest::newRow("start") << QByteArray("txtStart");
         QTest::newRow("end") << QByteArray("txtEnd");
     }
 
-    void okReportsARangeBoxThatStillIsNoNumber()
+    void aBoxLeftWithAMistakeKeepsTheNumberBefore()
     {
         QFETCH(QByteArray, box);
-        const QString mismatch = u"Run-time error '13':\n\nType mismatch"_s;
-        m_form->answers.expectMsgBox(mismatch);
+        m_form->chooseRange(3, 5);
+        m_form->answers.expectMsgBox(u"Run-time error '13':\n\nType mismatch"_s);
         m_form->typeAndLeave(box, u"three"_s);
-        m_form->answers.expectMsgBox(mismatch);
+        QVERIFY(m_form->answers.allSeen());
         m_form->activate();
+        expectAdded(3);
         ok();
-        verifyNothingHappened();
-        QVERIFY(!QFile::exists(m_target));
+        QCOMPARE(bytesOf(m_target), fileCount(3) + ExportForm::records(ExportForm::words(3, 5)));
+    }
+
+    void enterTakesTheBoxThatHasTheKeyboardAndNotTheOneLeftWithAMistake()
+    {
+        m_form->typeTarget(m_target);
+        m_form->answers.expectMsgBox(u"Run-time error '13':\n\nType mismatch"_s);
+        m_form->typeAndLeave("txtStart", u"three"_s);
+        m_form->type("txtEnd", u"4"_s);
+        expectAdded(4);
+        Controls::press(Qt::Key_Return);
+        QCOMPARE(bytesOf(m_target), fileCount(4) + ExportForm::records(ExportForm::words(1, 4)));
     }
 
     void aDamagedTargetIsReportedAndLeftAsItIs_data()
