@@ -10,6 +10,10 @@
 #include "runtime/TextToNumber.h"
 #include "transfer/ui_dlgExport.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QScopeGuard>
+
 #include <algorithm>
 
 using namespace Module1;
@@ -35,26 +39,13 @@ template <class Visit> Integer forEachNumber(Integer first, Integer last, Visit 
     return (last.toInt() - first.toInt()) * step + 1;
 }
 
-// Puts the open list's file name and its mark of changes back where an export fails.
-class OpenListKeeper
+// Removes the file, or what a link to it ends at, where nothing has been written into it.
+void removeEmptyFile(const QString &path)
 {
-public:
-    OpenListKeeper() = default;
-    Q_DISABLE_COPY_MOVE(OpenListKeeper)
-    ~OpenListKeeper()
-    {
-        if (m_done)
-            return;
-        gFileName = m_fileName;
-        gChanged = m_changed;
-    }
-    void done() { m_done = true; }
-
-private:
-    QString m_fileName = gFileName;
-    bool m_changed = gChanged;
-    bool m_done = false;
-};
+    const QFileInfo file(path);
+    if (file.isFile() && file.size() == 0)
+        QFile::remove(file.canonicalFilePath());
+}
 
 } // namespace
 
@@ -137,8 +128,15 @@ void dlgExport::cmdOK_Click()
 
 void dlgExport::exportRange()
 {
-    OpenListKeeper keeper;
-    gFileName = withoutOuterBlanks(m_ui->txtFilename->text());
+    const QString path = withoutOuterBlanks(m_ui->txtFilename->text());
+    const bool isNew = !QFileInfo::exists(path);
+    auto undo = qScopeGuard([fileName = gFileName, changed = gChanged, path, isNew] {
+        gFileName = fileName;
+        gChanged = changed;
+        if (isNew)
+            removeEmptyFile(path);
+    });
+    gFileName = path;
     cVocabList &target = gExportList();
     if (!target.OpenFile()) {
         MsgBox(QStringLiteral("Invalid file name."));
@@ -153,7 +151,7 @@ void dlgExport::exportRange()
         target.AddVocab(list.Word(), list.Definition(), list.Sentence());
     });
     target.SaveFile();
-    keeper.done();
+    undo.dismiss();
     close();
     MsgBox(ExportCount.toText() + QStringLiteral(" words has been added to ") + gFileName);
 }

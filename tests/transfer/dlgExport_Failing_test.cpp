@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What an export that fails leaves behind: nothing, whichever way it fails.
+#include "transfer/dlgExport.h"
+
+#include "runtime/TestFiles.h"
+#include "support/FormTest.h"
+#include "transfer/ExportForm.h"
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString OpenList = u"/lists/animals.lwx"_s;
+
+void makeATextTooLongForAFile()
+{
+    gVocabList().CurrentWord(7);
+    gVocabList().Edit(u"w7"_s, QString(65'536, u'x'), {});
+}
+
+// No file of this process can grow beyond 16 KiB while there is one.
+class SmallFiles
+{
+public:
+    SmallFiles()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (getrlimit(RLIMIT_FSIZE, &m_usual) != 0)
+            Controls::fail(u"the limit cannot be read"_s);
+        rlimit small = m_usual;
+        small.rlim_cur = 16 * 1024;
+        if (setrlimit(RLIMIT_FSIZE, &small) != 0)
+            Controls::fail(u"the limit cannot be set"_s);
+    }
+    ~SmallFiles() { setrlimit(RLIMIT_FSIZE, &m_usual); }
+    Q_DISABLE_COPY_MOVE(SmallFiles)
+
+private:
+    rlimit m_usual{};
+};
+
+} // namespace
+
+class dlgExport_Failing_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_form = std::make_unique<ExportForm>();
+        m_folder = std::make_unique<TestFolder>();
+        gFileName = gOpenedFile = OpenList;
+        gChanged = true;
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_form->answers.allSeen());
+        m_form.reset();
+        m_folder.reset();
+    }
+
+    void aFileThatTheExportMadeIsGone()
+    {
+        makeATextTooLongForAFile();
+        exportInVain(m_folder->path(u"new.lwx"_s), u"Run-time error '6':\n\nOverflow\n"_s);
+        QCOMPARE(m_folder->names(), QStringList());
+    }
+
+    void aFileThatTheDiskDoesNotTakeIsGone()
+    {
+        gVocabList().CurrentWord(7);
+        gVocabList().Edit(u"w7"_s, QString(60'000, u'x'), {});
+        const SmallFiles small;
+        exportInVain(m_folder->path(u"new.lwx"_s), u"Run-time error '"_s);
+        QCOMPARE(m_folder->names(), QStringList());
+    }
+
+    void theFileThatALinkEndsAtIsGoneAndTheLinkStays()
+    {
+        QVERIFY(QFile::link(m_folder->path(u"new.lwx"_s), m_folder->path(u"link.lwx"_s)));
+        makeATextTooLongForAFile();
+        exportInVain(m_folder->path(u"link.lwx"_s), u"Run-time error '6':\n\nOverflow\n"_s);
+        QCOMPARE(m_folder->names(), QStringList{u"link.lwx"_s});
+    }
+
+    void anEmptyFileThatWasThereStays()
+    {
+        m_folder->write(u"old.lwx"_s, {});
+        makeATextTooLongForAFile();
+        exportInVain(m_folder->path(u"old.lwx"_s), u"Run-time error '6':\n\nOverflow\n"_s);
+        QCOMPARE(m_folder->names(), QStringList{u"old.lwx"_s});
+    }
+
+    void aFolderThatDoesNotExistIsNotMade()
+    {
+        exportInVain(m_folder->path(u"lost/new.lwx"_s),
+                     u"Run-time error '76':\n\nPath not found\n"_s);
+        QCOMPARE(m_folder->names(), QStringList());
+    }
+
+    void aNameThatNoFileCanHaveLeavesNothing()
+    {
+        exportInVain(m_folder->path(QString(256, u'x')), u"Run-time error '"_s);
+        QCOMPARE(m_folder->names(), QStringList());
+    }
+
+    void afterwardsAnotherTargetDoes()
+    {
+        exportInVain(m_folder->path(u"lost/new.lwx"_s),
+                     u"Run-time error '76':\n\nPath not found\n"_s);
+        const QString target = m_folder->path(u"new.lwx"_s);
+        m_form->answers.expectMsgBox(u"10 words has been added to "_s + target);
+        exportInto(target);
+        QCOMPARE(m_folder->bytes(u"new.lwx"_s),
+                 fileCount(10) + ExportForm::records(ExportForm::words(1, 10)));
+    }
+
+private:
+    void exportInto(const QString &target)
+    {
+        m_form->typeTarget(target);
+        m_form->activate();
+        m_form->click("cmdOk");
+    }
+
+    // The report is the only message; the dialog stays, and the open list keeps name and changes.
+    void exportInVain(const QString &target, const QString &report)
+    {
+        m_form->answers.expectAnyMsgBox(QMessageBox::Ok, [report](QMessageBox &box) {
+            QVERIFY2(box.text().startsWith(report), qPrintable(box.text()));
+        });
+        exportInto(target);
+        QVERIFY(m_form->answers.allSeen());
+        QVERIFY(m_form->dialog().isVisible());
+        QCOMPARE(gFileName, OpenList);
+        QVERIFY(gChanged);
+        QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
+    }
+
+    std::unique_ptr<ExportForm> m_form;
+    std::unique_ptr<TestFolder> m_folder;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<dlgExport_Failing_test>(argc, argv);
+}
+
+#include "dlgExport_Failing_test.moc"
