@@ -10,6 +10,11 @@
 
 using namespace Module1;
 
+Import::Import(QObject *parent)
+    : QObject(parent), m_adder(gVocabList(), [this] { Q_EMIT paused(); })
+{
+}
+
 void Import::ImportWordList()
 {
     gAddThis = gAddAll = gStopImport = gSkipAll = false;
@@ -75,6 +80,20 @@ void Import::ReadDifLines()
 
 void Import::ImportDif()
 {
+    try {
+        importDifRows();
+    } catch (const RunTimeError &) {
+        m_adder.tellOfTheRest();
+        throw;
+    }
+    m_adder.tellOfTheRest();
+    Q_EMIT paused();
+    MsgBox(gImportCount.toText() + QStringLiteral(" words added"));
+    gSkipAll = gAddThis = gAddAll = false;
+}
+
+void Import::importDifRows()
+{
     ReadDifLines();
     const double vectors = difVectors(gDifLines(5));
     const Integer valuesPerRow = difTuples(gDifLines(8));
@@ -102,9 +121,6 @@ void Import::ImportDif()
             gStopImport = true;
         Q_EMIT progress(line, gDifLines.size());
     }
-    Q_EMIT paused();
-    MsgBox(gImportCount.toText() + QStringLiteral(" words added"));
-    gSkipAll = gAddThis = gAddAll = false;
 }
 
 // Reads the row that the line opens; values that it does not carry stay as they were. Returns the
@@ -126,7 +142,7 @@ int Import::readDifRow(int line, Integer valuesPerRow)
 
 void Import::add()
 {
-    gVocabList().AddVocab(gImportWord, gImportDef, gImportSen);
+    m_adder.add(gImportWord, gImportDef, gImportSen);
     gChanged = true;
     ++gImportCount;
 }

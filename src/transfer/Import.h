@@ -7,6 +7,7 @@
 #pragma once
 
 #include "runtime/Integer.h"
+#include "transfer/WordAdder.h"
 
 #include <QObject>
 
@@ -15,7 +16,7 @@ class Import final : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    explicit Import(QObject *parent = nullptr);
 
     void ImportWordList();
     void ImportDif();
@@ -31,10 +32,13 @@ Q_SIGNALS:
     void progress(int done, int total);
 
 private:
+    void importDifRows();
     void ReadDifLines();
     [[nodiscard]] int readDifRow(int line, Integer valuesPerRow);
     void addConflicting();
     void add();
     void askAboutWord();
     [[nodiscard]] bool fitsInList() const;
+
+    WordAdder m_adder;
 };

@@ -8,6 +8,7 @@
 #include "runtime/Blanks.h"
 #include "runtime/FileError.h"
 #include "runtime/TextToNumber.h"
+#include "transfer/WordAdder.h"
 #include "transfer/ui_dlgExport.h"
 
 #include <QFile>
@@ -146,10 +147,12 @@ void dlgExport::exportRange()
         throwFileError(RunTimeError::InvalidFileFormat, gFileName,
                        QStringLiteral("This is no word list"));
     cVocabList &list = gVocabList();
+    WordAdder adder(target);
     ExportCount = forEachNumber(StartNo, EndNo, [&](Integer i) {
         list.CurrentWord(i);
-        target.AddVocab(list.Word(), list.Definition(), list.Sentence());
+        adder.add(list.Word(), list.Definition(), list.Sentence());
     });
+    adder.tellOfTheRest();
     target.SaveFile();
     undo.dismiss();
     close();

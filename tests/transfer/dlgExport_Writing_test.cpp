@@ -213,6 +213,21 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(m_target), fileCount(32'000) + records + fileRecord("w3"));
     }
 
+    void aFullTargetTellsAtOnceOfTheWordsBeyondThree()
+    {
+        QByteArray records;
+        for (int i = 0; i < 32'000; ++i)
+            records += fileRecord("old");
+        write(m_target, fileCount(32'000) + records);
+        for (int i = 0; i < 3; ++i)
+            m_form->answers.expectMsgBox(
+                u"Cannot add any more words. Maximum number of words= 32000"_s);
+        m_form->answers.expectMsgBox(u"7 more words have not been added."_s);
+        expectAdded(10);
+        ok();
+        QCOMPARE(bytesOf(m_target), fileCount(32'000) + records);
+    }
+
     void enterInARangeBoxTakesWhatIsTypedThere_data()
     {
         QTest::addColumn<QByteArray>("box");
