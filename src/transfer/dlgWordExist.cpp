@@ -11,10 +11,22 @@
 
 using namespace Module1;
 
+namespace {
+
+// Where the person has put the dialog. It opens for each word, and there each time.
+QByteArray &lastGeometry()
+{
+    static QByteArray geometry;
+    return geometry;
+}
+
+} // namespace
+
 dlgWordExist::dlgWordExist(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgWordExist>())
 {
     m_ui->setupUi(this);
+    restoreGeometry(lastGeometry());
     const auto onClick = [this](QPushButton *button, void (dlgWordExist::*handler)()) {
         connect(button, &QPushButton::clicked, this, guarded(this, handler));
     };
@@ -45,6 +57,11 @@ void dlgWordExist::Form_Load()
     m_ui->txtImportSen->setText(gImportSen);
     gAddThis = gAddAll = false;
     m_ui->cmdYes->setFocus();
+}
+
+void dlgWordExist::Form_Unload()
+{
+    lastGeometry() = saveGeometry();
 }
 
 void dlgWordExist::cmdYes_Click()

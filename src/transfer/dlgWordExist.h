@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The question about an imported word that the open list holds already, and a small editor of the
-// entry that holds it. Answers by the flags gAddThis, gAddAll, gSkipAll and gStopImport.
+// entry that holds it. Answers by the flags gAddThis, gAddAll, gSkipAll and gStopImport. Opens
+// with the size and at the place that it had when it closed last.
 #pragma once
 
 #include "platform/DialogForm.h"
@@ -25,6 +26,7 @@ Q_SIGNALS:
 
 protected:
     void Form_Load() override;
+    void Form_Unload() override;
 
 private:
     void cmdYes_Click();

@@ -167,6 +167,30 @@ private Q_SLOTS:
             });
     }
 
+    void sizeAndPlaceStayFromOneWordToTheNext_data()
+    {
+        QTest::addColumn<QString>("answer");
+        for (const char *answer : {"cmdYes", "cmdNo", Close})
+            QTest::newRow(answer) << QString::fromLatin1(answer);
+    }
+
+    void sizeAndPlaceStayFromOneWordToTheNext()
+    {
+        QFETCH(QString, answer);
+        QRect chosen;
+        ask([&](const WordExistForm &form) {
+            form.form.setGeometry(form.form.geometry() == QRect(60, 50, 730, 480)
+                                      ? QRect(40, 70, 710, 450)
+                                      : QRect(60, 50, 730, 480));
+            chosen = form.form.geometry();
+            giveAnswer(form.form, answer);
+        });
+        ask([&chosen](const WordExistForm &form) {
+            QCOMPARE(form.form.geometry(), chosen);
+            form.close();
+        });
+    }
+
 private:
     int ask(const std::function<void(const WordExistForm &)> &use)
     {
