@@ -2,7 +2,7 @@
 // Texts that always fit: the label of one line and the label of many. What they paint is read off
 // a drawing.
 #include "game/FittedLabel.h"
-#include "game/WrappedLabel.h"
+#include "platform/WrappedLabel.h"
 
 #include <QBuffer>
 #include <QPainter>

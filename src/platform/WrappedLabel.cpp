@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "game/WrappedLabel.h"
+#include "platform/WrappedLabel.h"
 
 #include <QPainter>
 #include <QTextLayout>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "game/ScrolledArea.h"
+#include "platform/ScrolledArea.h"
 
 #include <QScrollBar>
 
