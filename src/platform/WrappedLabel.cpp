@@ -10,7 +10,8 @@ namespace {
 
 QString oneParagraph(QString text)
 {
-    text.remove(QLatin1Char('\r'));
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     return text.replace(QLatin1Char('\n'), QChar::LineSeparator);
 }
 

@@ -202,6 +202,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::newRow("carriage return and line feed") << u"one\r\ntwo"_s;
         QTest::newRow("line feed") << u"one\ntwo"_s;
+        QTest::newRow("carriage return") << u"one\rtwo"_s;
     }
 
     void lineBreaksInTheTextAreKept()
