@@ -16,9 +16,9 @@ QString oneParagraph(QString text)
 }
 
 // Lines from the top down; returns their height.
-double breakLines(QTextLayout &layout, double width)
+double breakLines(QTextLayout &layout, Qt::Alignment alignment, double width)
 {
-    QTextOption option(Qt::AlignHCenter);
+    QTextOption option(alignment & Qt::AlignHorizontal_Mask);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
     double height = 0;
@@ -37,6 +37,7 @@ double breakLines(QTextLayout &layout, double width)
 WrappedLabel::WrappedLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignCenter);
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -45,7 +46,7 @@ WrappedLabel::WrappedLabel(QWidget *parent) : QLabel(parent)
 int WrappedLabel::heightForWidth(int width) const
 {
     QTextLayout layout(oneParagraph(text()), font());
-    return static_cast<int>(std::ceil(breakLines(layout, width)));
+    return static_cast<int>(std::ceil(breakLines(layout, alignment(), width)));
 }
 
 void WrappedLabel::resizeEvent(QResizeEvent *event)
@@ -58,7 +59,7 @@ void WrappedLabel::resizeEvent(QResizeEvent *event)
 void WrappedLabel::paintEvent(QPaintEvent * /*event*/)
 {
     QTextLayout layout(oneParagraph(text()), font());
-    const double height = breakLines(layout, width());
+    const double height = breakLines(layout, alignment(), width());
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     layout.draw(&painter, {0, std::max(0.0, (this->height() - height) / 2)});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A label whose lines break at words, and inside a word that is wider than the label. It is as
-// high as that makes it, so that it belongs into a scroll area.
+// high as that makes it, so that it belongs into a scroll area. Lines are centred unless another
+// alignment is set.
 #pragma once
 
 #include <QLabel>

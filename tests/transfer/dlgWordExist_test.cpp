@@ -167,6 +167,21 @@ private Q_SLOTS:
             });
     }
 
+    void aLongWordDoesNotWidenTheDialog_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::newRow("without a blank") << QString(5000, QLatin1Char('x'));
+        QTest::newRow("with blanks") << QStringLiteral("abc ").repeated(1250) + QLatin1Char('.');
+    }
+
+    void aLongWordDoesNotWidenTheDialog()
+    {
+        QFETCH(QString, word);
+        setOpenEntries({word, QStringLiteral("cat")});
+        const QSize ofShort = smallestSize(QStringLiteral("cat"));
+        QCOMPARE(smallestSize(word), ofShort);
+    }
+
     void sizeAndPlaceStayFromOneWordToTheNext_data()
     {
         QTest::addColumn<QString>("answer");
@@ -192,6 +207,19 @@ private Q_SLOTS:
     }
 
 private:
+    // Of the dialog about that word, whose question is there as a whole.
+    QSize smallestSize(const QString &word)
+    {
+        QSize size;
+        WordExistQuestion(word).ask(*m_answers, [&](const WordExistForm &form) {
+            QCOMPARE(form.question(),
+                     QLatin1Char('\'') + word + QStringLiteral("' already exist. Add anyway?"));
+            size = form.form.minimumSize();
+            form.close();
+        });
+        return size;
+    }
+
     int ask(const std::function<void(const WordExistForm &)> &use)
     {
         return WordExistQuestion(QStringLiteral("CAT|a pet|My cat is black.")).ask(*m_answers, use);
