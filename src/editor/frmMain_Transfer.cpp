@@ -81,8 +81,9 @@ void frmMain::mnuCreateTextFile_Click()
     m_fileDialog.InitDir.clear();
     m_fileDialog.DialogTitle = QStringLiteral("Create Text File");
     m_fileDialog.Filter = QStringLiteral("Text (*.txt)|*.txt");
-    gSaved = false;
-    if (!m_fileDialog.ShowSave(this))
+    const bool chosen = m_fileDialog.ShowSave(this);
+    gSaved = gSaved && chosen; // a write that fails leaves it as it is
+    if (!chosen)
         return;
     BinaryFile::overwrite(m_fileDialog.FileName, textOfList(gVocabList()));
     showCaption();

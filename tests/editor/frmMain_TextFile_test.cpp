@@ -228,6 +228,26 @@ private Q_SLOTS:
         verifyOnlyThePositionMoved(before);
     }
 
+    void aFileThatCannotBeWrittenLeavesTheSavedMarkAndTheCaption_data()
+    {
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("saved before") << true;
+        QTest::newRow("not saved before") << false;
+    }
+
+    void aFileThatCannotBeWrittenLeavesTheSavedMarkAndTheCaption()
+    {
+        QFETCH(bool, saved);
+        open(someEntries(2, u"animal"_s));
+        m_main->window().setWindowTitle(u"another caption"_s);
+        gSaved = saved;
+        m_main->answers.chooseFile(m_main->path(u"lost/animals.txt"_s));
+        expectReport(u"Run-time error '76':\n\nPath not found\n"_s);
+        m_main->choose("mnuCreateTextFile");
+        QCOMPARE(gSaved, saved);
+        QCOMPARE(m_main->window().windowTitle(), u"another caption"_s);
+    }
+
     void aFileThatTheDiskDoesNotTakeStaysWhole()
     {
         open(someEntries(5, u"animal"_s));
