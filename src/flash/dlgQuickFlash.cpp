@@ -110,26 +110,27 @@ void dlgQuickFlash::txtDef_Click()
 
 void dlgQuickFlash::cmdAutoFlash_Click()
 {
-    m_tmrWord.start();
     cmdNext_Click();
     m_ui->txtDef->setText({}, FlashCard::Side::Back);
     showRun(Run::Automatic);
+    m_tmrWord.start();
 }
 
+// A timer stops before anything can fail, or the error would be reported again and again.
 void dlgQuickFlash::tmrWord_Timer()
 {
+    m_tmrWord.stop();
     const QString definition = gVocabList().Definition();
     m_ui->txtDef->turnTo(definition, FlashCard::Side::Front);
-    m_tmrWord.stop();
     m_tmrDef.start(definitionTime(definition.size()).toInt());
 }
 
 void dlgQuickFlash::tmrDef_Timer()
 {
+    m_tmrDef.stop();
     cmdNext_Click();
     m_ui->txtDef->setText({}, FlashCard::Side::Back);
     m_tmrWord.start();
-    m_tmrDef.stop();
 }
 
 void dlgQuickFlash::cmdStop_Click()

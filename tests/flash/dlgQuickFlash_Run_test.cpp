@@ -204,6 +204,33 @@ private Q_SLOTS:
         QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrWord"_s));
     }
 
+    void aWordThatIsGoneIsReportedOnce_data()
+    {
+        QTest::addColumn<QString>("phase");
+        QTest::newRow("before the run") << QString();
+        QTest::newRow("in the word phase") << u"tmrWord"_s;
+        QTest::newRow("in the definition phase") << u"tmrDef"_s;
+    }
+
+    void aWordThatIsGoneIsReportedOnce()
+    {
+        QFETCH(QString, phase);
+        if (!phase.isEmpty())
+            m_form->click("cmdAutoFlash");
+        if (phase == u"tmrDef")
+            m_form->passTime("tmrWord");
+        const Integer current = gVocabList().CurrentWord();
+        gVocabList() = cVocabList();
+        gVocabList().CurrentWord(current);
+        m_form->answers.expectMsgBox(u"Run-time error '9':\n\nSubscript out of range"_s);
+        if (phase.isEmpty())
+            m_form->click("cmdAutoFlash");
+        else
+            m_form->passTime(qPrintable(phase));
+        QVERIFY(m_form->answers.allSeen());
+        QCOMPARE(m_form->look(), phase.isEmpty() ? FlashForm::byHand() : FlashForm::automatic({}));
+    }
+
     void closingTheCardsEndsTheRun_data()
     {
         QTest::addColumn<bool>("byKey");
