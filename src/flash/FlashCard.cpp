@@ -94,18 +94,20 @@ void FlashCard::fitType()
 {
     const int padding = 2 * int(document()->documentMargin());
     const QRect room = contentsRect().adjusted(0, 0, -padding, -padding);
+    const QString text = toPlainText();
     QRect needed;
-    bool fits = false;
     QFont type = font();
-    for (const int size : TypeSizes) {
+    const auto fits = [&](int size) {
         type.setPointSize(size);
         needed = QFontMetrics(type).boundingRect(
-            room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), toPlainText());
-        fits = room.contains(needed);
-        if (fits)
-            break;
-    }
-    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+            room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), text);
+        return room.contains(needed);
+    };
+    // The smallest comes first: a text that is longer still is measured only once.
+    const bool fitsAtAll = fits(TypeSizes.back());
+    if (fitsAtAll)
+        static_cast<void>(std::find_if(TypeSizes.begin(), TypeSizes.end(), fits));
+    setVerticalScrollBarPolicy(fitsAtAll ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     if (type != document()->defaultFont())
         document()->setDefaultFont(type);
     setViewportMargins(0, std::max(0, (room.height() - needed.height()) / 2), 0, 0);
