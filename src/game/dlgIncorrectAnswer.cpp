@@ -11,6 +11,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <algorithm>
+
 using Module1::gVocabList;
 
 dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
@@ -38,7 +40,11 @@ void dlgIncorrectAnswer::Form_Load()
 {
     constexpr qsizetype longDefinition = 100;
     showWord(true);
-    m_ui->lblAnswerIs->setText(QStringLiteral("The correct answer is: ") + gVocabList().Word());
+    const QString word = gVocabList().Word();
+    m_ui->lblAnswerIs->setText(QStringLiteral("The correct answer is: ") + word);
+    // The dialog goes only when the word is in the box, which may be made for shorter ones.
+    m_ui->txtUserAnswer->setMaxLength(
+        std::max(m_ui->txtUserAnswer->maxLength(), static_cast<int>(word.size())));
     const QString definition = gVocabList().Definition();
     QFont type = m_ui->lblDefinition->font();
     type.setPointSize(definition.size() > longDefinition ? 14 : 18);

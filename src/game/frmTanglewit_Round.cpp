@@ -11,6 +11,7 @@
 #include "runtime/TextToNumber.h"
 
 #include <QApplication>
+#include <QScopeGuard>
 
 using namespace Module1;
 
@@ -34,7 +35,10 @@ void frmTanglewit::Timer1_Timer()
     // The countdown stands still behind a dialog.
     if (QApplication::activeModalWidget())
         return;
+    // A word whose length is too large for a number is reported once, not each second.
+    auto end = qScopeGuard([this] { m_Timer1.stop(); });
     const GameState::Tick tick = m_game.tick(lengthOfWord());
+    end.dismiss();
     showCountDown();
     if (tick.revealsLetter) {
         uncoverNextLetter();

@@ -153,6 +153,17 @@ private Q_SLOTS:
         });
     }
 
+    // A box takes 32,767 characters by itself.
+    void aWordThatOnlyAFileCanHoldCanBeEntered()
+    {
+        const QString word(32'768, u'x');
+        setEntry(word, {});
+        ask([&word](const AnswerForm &form) {
+            form.answer(word);
+            QVERIFY(!form.form.isVisible());
+        });
+    }
+
     void theWordCanBeHiddenAndShownAgain()
     {
         ask([](const AnswerForm &form) {
