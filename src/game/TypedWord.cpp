@@ -10,8 +10,11 @@ namespace {
 QString typeable(QString text)
 {
     const auto hasNoKey = [](QChar character) {
-        return character.category() == QChar::Other_Control || character == QChar::Nbsp;
+        const QChar::Category category = character.category();
+        return category == QChar::Other_Control || category == QChar::Separator_Line ||
+               category == QChar::Separator_Paragraph || character == QChar::Nbsp;
     };
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" ")); // one line break, one blank
     std::replace_if(text.begin(), text.end(), hasNoKey, QChar(QLatin1Char(' ')));
     return withoutOuterBlanks(text);
 }

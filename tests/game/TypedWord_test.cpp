@@ -26,6 +26,11 @@ private Q_SLOTS:
         QTest::newRow("accents") << u"ete"_s << u"\u00E9t\u00E9"_s << false;
         QTest::newRow("tab inside") << u"ice cream"_s << u"ice\tcream"_s << true;
         QTest::newRow("line break behind") << u"cat"_s << u"cat\r\n"_s << true;
+        QTest::newRow("line break inside") << u"ice cream"_s << u"ice\r\ncream"_s << true;
+        QTest::newRow("line feed inside") << u"ice cream"_s << u"ice\ncream"_s << true;
+        QTest::newRow("line separator inside") << u"ice cream"_s << u"ice\u2028cream"_s << true;
+        QTest::newRow("paragraph separator inside")
+            << u"ice cream"_s << u"ice\u2029cream"_s << true;
         QTest::newRow("hard blank behind") << u"cat"_s << u"cat\u00A0"_s << true;
         QTest::newRow("hard blank inside") << u"ice cream"_s << u"ice\u00A0cream"_s << true;
         QTest::newRow("hard blank typed") << u"cat\u00A0"_s << u"cat"_s << false;
