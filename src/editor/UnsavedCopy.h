@@ -31,5 +31,5 @@ private:
     QTimer m_timer;
     QString m_path;      // empty where there is no copy
     QString m_title;     // of the list when the copy got its name
-    QDateTime m_written; // what the folder says of the copy's last change
+    QDateTime m_written; // the time that the file system gave the copy
 };

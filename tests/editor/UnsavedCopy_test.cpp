@@ -236,13 +236,13 @@ private Q_SLOTS:
         QVERIFY(comes(Untitled));
     }
 
-    void aFullDiskLeavesTheOlderCopyWhole()
+    void aCopyThatStopsShortLeavesTheOlderOneWhole()
     {
         addEntry(*m_main, u"cow"_s);
         QVERIFY(comes(Untitled));
         const QByteArray before = readFile(path(Untitled));
         {
-            const LargestFile full(static_cast<rlim_t>(before.size()));
+            const LargestFile limit(static_cast<rlim_t>(before.size()));
             addEntry(*m_main, u"pig"_s);
             QVERIFY(settled(*m_main));
         }
