@@ -57,6 +57,16 @@ private Q_SLOTS:
         QCOMPARE(gImportCount.toInt(), words);
     }
 
+    // The bar of progress goes before each message and begins anew behind it.
+    void eachMessageIsAPause()
+    {
+        const QSignalSpy paused(&m_run->import, &Import::paused);
+        expectRefusals(QStringLiteral("7 more words have not been added."));
+        m_run->expectAdded(10);
+        m_run->dif(joined(difLinesOf(numbered("new", 10))));
+        QCOMPARE(paused.size(), 2 * 4 + 1); // the count ends the import
+    }
+
     void eachImportTellsAnew()
     {
         for (int time = 0; time < 2; ++time) {
