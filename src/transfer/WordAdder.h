@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Adds the words of one import or export to a list. A full list tells of each word that it refuses:
-// here it does so for the first three, and of all others one message tells at the end.
+// Adds the words of one import or export to a list. A full list tells of the first three words that
+// it refuses; of all others one message tells at the end.
 #pragma once
 
 #include <QString>
@@ -16,8 +16,7 @@ public:
     explicit WordAdder(cVocabList &list, std::function<void()> paused = {});
 
     void add(const QString &word, const QString &definition, const QString &sentence);
-    // Tells how many words have been refused without a word about them; nothing where there are
-    // none.
+    // Tells how many more words have been refused, if there are more.
     void tellOfTheRest();
 
 private:
