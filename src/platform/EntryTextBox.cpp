@@ -2,8 +2,10 @@
 #include "platform/EntryTextBox.h"
 
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QSignalBlocker>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 
 EntryTextBox::EntryTextBox(QWidget *parent) : QPlainTextEdit(parent)
 {
@@ -43,4 +45,20 @@ void EntryTextBox::keyPressEvent(QKeyEvent *event)
     } else {
         event->ignore();
     }
+}
+
+bool EntryTextBox::canInsertFromMimeData(const QMimeData *source) const
+{
+    return source && source->hasText();
+}
+
+// Qt's own code takes the first of the formats unseen, and a clipboard without an owner has none.
+void EntryTextBox::insertFromMimeData(const QMimeData *source)
+{
+    const QString text = source && !isReadOnly() ? source->text() : QString();
+    if (text.isEmpty())
+        return; // what is selected stays
+    // A fragment is undone by itself, a text together with what was typed before it.
+    textCursor().insertFragment(QTextDocumentFragment::fromPlainText(text));
+    ensureCursorVisible();
 }

@@ -4,7 +4,8 @@
 //
 // A text that the person has not changed comes back exactly as it was set, other line breaks
 // included. Enter is left to the window (its default button); Ctrl+Enter and Shift+Enter break the
-// line. Tab leaves the box.
+// line. Tab leaves the box. What is pasted or dropped comes in as plain text; where there is none,
+// nothing changes.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -21,6 +22,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
 
 private:
     QString m_setText;

@@ -5,11 +5,15 @@
 #include "support/FormTest.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QVBoxLayout>
+
+#include <functional>
+#include <memory>
 
 namespace {
 
@@ -45,6 +49,9 @@ protected:
     }
 };
 
+// Brings the data to the box; without data the clipboard is empty.
+using Way = std::function<void(EntryTextBox &, QMimeData *)>;
+
 } // namespace
 
 class EntryTextBox_test final : public QObject
@@ -65,6 +72,9 @@ private Q_SLOTS:
     void inAChangedTextAllLineBreaksAreCrLf();
     void tabLeavesTheBox();
     void aPastedTextKeepsItsLinesAndLosesItsDress();
+    void whatHasNoTextChangesNothing_data();
+    void whatHasNoTextChangesNothing();
+    void aPasteIsUndoneByItself();
     void everyChangeIsSignalled();
 };
 
@@ -188,6 +198,73 @@ void EntryTextBox_test::aPastedTextKeepsItsLinesAndLosesItsDress()
     QApplication::clipboard()->setMimeData(data);
     window.box->paste();
     QCOMPARE(window.box->text(), QStringLiteral("one\r\ntwo"));
+    QApplication::clipboard()->clear();
+}
+
+void EntryTextBox_test::whatHasNoTextChangesNothing_data()
+{
+    const QList<std::pair<const char *, Way>> ways{
+        {"Ctrl+V",
+         [](EntryTextBox &box, QMimeData *data) {
+             QApplication::clipboard()->setMimeData(data);
+             QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+         }},
+        {"Shift+Insert",
+         [](EntryTextBox &box, QMimeData *data) {
+             QApplication::clipboard()->setMimeData(data);
+             QTest::keyClick(&box, Qt::Key_Insert, Qt::ShiftModifier);
+         }},
+        {"the slot of the context menu",
+         [](EntryTextBox &box, QMimeData *data) {
+             QApplication::clipboard()->setMimeData(data);
+             box.paste();
+         }},
+        {"a drop",
+         [](EntryTextBox &box, QMimeData *data) {
+             const std::unique_ptr<QMimeData> owned(data);
+             const QMimeData none;
+             const QMimeData *dropped = data ? data : &none;
+             QDragEnterEvent drag({5, 5}, Qt::CopyAction, dropped, Qt::LeftButton, Qt::NoModifier);
+             QApplication::sendEvent(box.viewport(), &drag);
+             QDropEvent drop({5, 5}, Qt::CopyAction, dropped, Qt::LeftButton, Qt::NoModifier);
+             QApplication::sendEvent(box.viewport(), &drop);
+         }},
+    };
+    QTest::addColumn<Way>("way");
+    QTest::addColumn<QString>("format");
+    for (const auto &[name, way] : ways) {
+        QTest::addRow("%s of nothing", name) << way << QString();
+        QTest::addRow("%s of no format", name) << way << QStringLiteral("-");
+        QTest::addRow("%s of a picture", name) << way << QStringLiteral("image/png");
+        QTest::addRow("%s of an empty text", name) << way << QStringLiteral("text/plain");
+        QTest::addRow("%s of a formatted text", name) << way << QStringLiteral("text/html");
+    }
+}
+
+void EntryTextBox_test::whatHasNoTextChangesNothing()
+{
+    QFETCH(Way, way);
+    QFETCH(QString, format);
+    Window window;
+    window.box->setText(QStringLiteral("one\ntwo"));
+    window.box->selectAll();
+    QMimeData *data = format.isEmpty() ? nullptr : new QMimeData;
+    if (data && format.contains(u'/'))
+        data->setData(format, format == u"text/plain" ? QByteArray() : QByteArray("<p>x</p>"));
+    way(*window.box, data);
+    QCOMPARE(window.box->text(), QStringLiteral("one\ntwo"));
+    QApplication::clipboard()->clear();
+}
+
+void EntryTextBox_test::aPasteIsUndoneByItself()
+{
+    Window window;
+    QTest::keyClicks(window.box, QStringLiteral("one "));
+    QApplication::clipboard()->setText(QStringLiteral("two\nthree"));
+    QTest::keyClick(window.box, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(window.box->text(), QStringLiteral("one two\r\nthree"));
+    QTest::keyClick(window.box, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(window.box->text(), QStringLiteral("one "));
     QApplication::clipboard()->clear();
 }
 
