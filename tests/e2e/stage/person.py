@@ -69,10 +69,10 @@ class Person:
 
     # Doing
 
-    def clicks(self, control, times=1):
+    def clicks(self, control, times=1, mouse_button=1):
         place = self._steady_place(control)
         x, y = (round(part * self.desktop.scale) for part in place.middle)
-        self._hand("mousemove", x, y, "click", "--repeat", times, 1)
+        self._hand("mousemove", x, y, "click", "--repeat", times, mouse_button)
 
     def turns_the_wheel(self, control, notches):
         """Down for positive numbers."""
@@ -114,6 +114,12 @@ class Person:
 
         return until(f"the menu {name} open", items)
 
+    def opens_menu_of(self, control):
+        """The menu that the right mouse button opens; assistive tools do not see it."""
+        before = self._windows_on_screen()
+        self.clicks(control, mouse_button=3)
+        until(f"the menu of {control}", lambda: self._windows_on_screen() > before)
+
     def chooses(self, menu, item):
         self.clicks(self.opens_menu(menu)[item])
 
@@ -132,6 +138,12 @@ class Person:
         self.clicks(box.find("push button", button))
         # The program may end with its message.
         until(f"\"{message}\" gone", lambda: self.process.poll() is not None or not box.shows)
+
+    def _windows_on_screen(self):
+        found = subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        return len(found.stdout.split())
 
     def _menu_bar(self):
         return next(part for part in self.front().below() if part.role == "menu bar")

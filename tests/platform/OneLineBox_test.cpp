@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/OneLineBox.h"
+
+#include "support/FormTest.h"
+
+#include <QAction>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+
+namespace {
+
+void copyElsewhere(const QString &text)
+{
+    QApplication::clipboard()->setText(text);
+}
+
+} // namespace
+
+class OneLineBox_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_box = std::make_unique<OneLineBox>();
+        m_box->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_box.get()));
+        m_box->setFocus();
+    }
+
+    void cleanup()
+    {
+        m_box.reset();
+        QApplication::clipboard()->clear();
+    }
+
+    void lineBreaksGoAtTheEndsAndBecomeBlanksInside_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("nothing") << QString() << QString();
+        QTest::newRow("no line break") << QStringLiteral(" cat ") << QStringLiteral(" cat ");
+        for (const auto &[name, lineBreak] :
+             {std::pair("LF", "\n"), std::pair("CR", "\r"), std::pair("CR LF", "\r\n"),
+              std::pair("line separator", "\u2028"), std::pair("paragraph separator", "\u2029")}) {
+            const QString mark = QString::fromUtf8(lineBreak);
+            QTest::addRow("%s at the end", name)
+                << QStringLiteral("big cat") + mark << QStringLiteral("big cat");
+            QTest::addRow("%s at the beginning", name)
+                << mark + QStringLiteral("big cat") << QStringLiteral("big cat");
+            QTest::addRow("%s inside", name) << QStringLiteral("big") + mark + QStringLiteral("cat")
+                                             << QStringLiteral("big cat");
+            QTest::addRow("%s alone", name) << mark << QString();
+        }
+        QTest::newRow("several") << QStringLiteral("\r\n\nbig\r\n\r\ncat\n\r\n")
+                                 << QStringLiteral("big  cat");
+        QTest::newRow("blanks beside them")
+            << QStringLiteral("\n big \n cat \n") << QStringLiteral(" big   cat ");
+        QTest::newRow("a tab and a hard blank")
+            << QStringLiteral("a\tb\u00A0c") << QStringLiteral("a\tb\u00A0c");
+    }
+
+    void lineBreaksGoAtTheEndsAndBecomeBlanksInside()
+    {
+        QFETCH(QString, text);
+        QTEST(oneLine(text), "line");
+    }
+
+    void everyWayOfPastingGivesOneLine_data()
+    {
+        QTest::addColumn<std::function<void(OneLineBox &)>>("paste");
+        QTest::newRow("Ctrl+V") << std::function(
+            [](OneLineBox &box) { QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier); });
+        QTest::newRow("Shift+Insert") << std::function(
+            [](OneLineBox &box) { QTest::keyClick(&box, Qt::Key_Insert, Qt::ShiftModifier); });
+        QTest::newRow("the context menu") << std::function([](OneLineBox &box) {
+            const std::unique_ptr<QMenu> menu(box.createStandardContextMenu());
+            for (QAction *item : menu->actions())
+                if (item->text().contains(QStringLiteral("&Paste")))
+                    item->trigger();
+        });
+        QTest::newRow("a drop") << std::function([](OneLineBox &box) {
+            QMimeData data;
+            data.setText(QApplication::clipboard()->text());
+            QDragEnterEvent drag({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&box, &drag);
+            QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&box, &drop);
+            QVERIFY(drop.isAccepted());
+        });
+    }
+
+    void everyWayOfPastingGivesOneLine()
+    {
+        QFETCH(std::function<void(OneLineBox &)>, paste);
+        copyElsewhere(QStringLiteral("\nbig\r\ncat\r\n"));
+        paste(*m_box);
+        QCOMPARE(m_box->text(), QStringLiteral("big cat"));
+    }
+
+    void aPasteReplacesWhatIsSelected()
+    {
+        m_box->setText(QStringLiteral("dog"));
+        m_box->selectAll();
+        copyElsewhere(QStringLiteral("cat\n"));
+        QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m_box->text(), QStringLiteral("cat"));
+        QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(m_box->text(), QStringLiteral("dog"));
+    }
+
+    void aPasteIsUndoneByItself()
+    {
+        QTest::keyClicks(m_box.get(), QStringLiteral("a"));
+        copyElsewhere(QStringLiteral("\nbig\ncat\n"));
+        QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClicks(m_box.get(), QStringLiteral("s"));
+        QCOMPARE(m_box->text(), QStringLiteral("abig cats"));
+        for (const char *before : {"abig cat", "a", ""}) {
+            QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(m_box->text(), QLatin1String(before));
+        }
+        QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(m_box->text(), QStringLiteral("abig cat"));
+    }
+
+    void whereNothingCanBePastedWhatIsSelectedStays_data()
+    {
+        QTest::addColumn<bool>("empty");
+        QTest::newRow("an empty clipboard") << true;
+        QTest::newRow("a line break alone") << false;
+    }
+
+    void whereNothingCanBePastedWhatIsSelectedStays()
+    {
+        QFETCH(bool, empty);
+        if (!empty)
+            copyElsewhere(QStringLiteral("\r\n"));
+        m_box->setText(QStringLiteral("cat"));
+        m_box->selectAll();
+        QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m_box->text(), QStringLiteral("cat"));
+        QCOMPARE(m_box->selectedText(), QStringLiteral("cat"));
+    }
+
+    void theLongestLengthHoldsForWhatIsLeft()
+    {
+        m_box->setMaxLength(7);
+        copyElsewhere(QStringLiteral("\n\nbig\ncats\n"));
+        QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m_box->text(), QStringLiteral("big cat"));
+    }
+
+    void aBoxThatIsOnlyReadTakesNothing()
+    {
+        m_box->setReadOnly(true);
+        copyElsewhere(QStringLiteral("cat"));
+        QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
+        m_box->paste();
+        QCOMPARE(m_box->text(), QString());
+    }
+
+    void aTextThatIsSetIsNotChanged()
+    {
+        m_box->setText(QStringLiteral("big\ncat\n"));
+        QCOMPARE(m_box->text(), QStringLiteral("big\ncat\n"));
+    }
+
+private:
+    std::unique_ptr<OneLineBox> m_box;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<OneLineBox_test>(argc, argv);
+}
+
+#include "OneLineBox_test.moc"
