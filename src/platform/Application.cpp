@@ -2,6 +2,7 @@
 #include "platform/Application.h"
 
 #include "platform/Appearance.h"
+#include "platform/HeldKeys.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 #include "runtime/Notice.h"
@@ -29,6 +30,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setWindowIcon(QIcon(QStringLiteral(":/icons/tanglewit.svg")));
     setStyle(QStringLiteral("Fusion"));
     applyAppearance(*this);
+    installEventFilter(new HeldKeys(this));
     setNoticeHook([](const QString &text) { MsgBox(text); });
 }
 
