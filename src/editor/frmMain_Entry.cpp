@@ -57,8 +57,9 @@ void frmMain::addWord()
 {
     cVocabList &list = gVocabList();
     const QString word = m_ui->txtWord->text();
-    if (list.Exist(word, 1) && MsgBox(QStringLiteral("Word already exist.  Add word anyway?"),
-                                      MsgBoxButtons::YesNo) == MsgBoxAnswer::No) {
+    if (list.Exist(word, 1) &&
+        MsgBox(QStringLiteral("Word already exist.  Add word anyway?"), MsgBoxButtons::YesNo,
+               MsgBoxEsc::MeansNo, MsgBoxDefault::No) == MsgBoxAnswer::No) {
         m_ui->txtWord->setFocus();
         return;
     }
@@ -96,7 +97,7 @@ void frmMain::cmdDelete_Click()
     }
     if (MsgBox(QStringLiteral("Are you sure you want to delete '") + list.Word() +
                    QStringLiteral("' ?"),
-               MsgBoxButtons::YesNo) == MsgBoxAnswer::No)
+               MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo) == MsgBoxAnswer::No)
         return;
     list.DeleteVocab();
     ClearEntryBoxes();

@@ -100,8 +100,8 @@ void dlgGameOver::cmdEnter_Click()
 
 void dlgGameOver::cmdReset_Click()
 {
-    if (MsgBox(QStringLiteral("Are you sure you want to reset the scores?"),
-               MsgBoxButtons::YesNo) != MsgBoxAnswer::Yes)
+    if (MsgBox(QStringLiteral("Are you sure you want to reset the scores?"), MsgBoxButtons::YesNo,
+               MsgBoxEsc::MeansNo) != MsgBoxAnswer::Yes)
         return;
     resetScores(gTop10);
     showRows();

@@ -31,7 +31,6 @@ QLineEdit:disabled, QPlainTextEdit:disabled, QLineEdit[readOnly="true"],
 EntryTextBox[readOnly="true"] { background: palette(window); color: @quiet; }
 QLineEdit#txtWord, QLineEdit#txtCurWord, QLineEdit#txtImportWord, EntryTextBox {
     font-size: 15px; }
-QMessageBox QLabel#qt_msgbox_label { min-width: 240px; }
 QPushButton {
     background: palette(button); border: 1px solid @line; border-radius: 6px;
     padding: 5px 14px; min-height: 18px; }

@@ -2,11 +2,20 @@
 #include "platform/MsgBox.h"
 
 #include "platform/Application.h"
+#include "platform/ScrolledArea.h"
+#include "platform/WrappedLabel.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -25,32 +34,70 @@ QMessageBox::StandardButtons standardButtons(MsgBoxButtons buttons)
     return QMessageBox::Ok;
 }
 
-MsgBoxAnswer answer(int button)
+MsgBoxAnswer answer(int button, MsgBoxButtons buttons)
 {
     switch (button) {
+    case QMessageBox::Ok:
+        return MsgBoxAnswer::Ok;
     case QMessageBox::Yes:
         return MsgBoxAnswer::Yes;
     case QMessageBox::No:
         return MsgBoxAnswer::No;
-    case QMessageBox::Cancel:
-        return MsgBoxAnswer::Cancel;
     default:
-        return MsgBoxAnswer::Ok;
+        break;
     }
+    switch (buttons) {
+    case MsgBoxButtons::OkOnly:
+        return MsgBoxAnswer::Ok;
+    case MsgBoxButtons::YesNo:
+        return MsgBoxAnswer::No;
+    case MsgBoxButtons::OkCancel:
+    case MsgBoxButtons::YesNoCancel:
+        break;
+    }
+    return MsgBoxAnswer::Cancel;
 }
 
-// A stray Esc must not answer No to "Do you want to save?".
 class AnsweredMessageBox final : public QMessageBox
 {
 public:
-    using QMessageBox::QMessageBox;
+    AnsweredMessageBox(const QString &text, QWidget *parent) : QMessageBox(parent)
+    {
+        setTextFormat(Qt::PlainText);
+        setText(text);
+        replaceLayout(text);
+    }
+
+    void setEsc(MsgBoxEsc esc) { m_esc = esc; }
+
+    // As wide as the lines of the text ask for, and no higher than the screen.
+    void fitToText()
+    {
+        m_label->ensurePolished();
+        const QScreen *place =
+            parentWidget() ? parentWidget()->screen() : QGuiApplication::primaryScreen();
+        const int buttons = Margin + m_buttons->sizeHint().height();
+        const QSize room = place->availableGeometry().size() -
+                           QSize(2 * Margin + FrameOfWindow, 2 * Margin + buttons + FrameOfWindow);
+        const int widest = std::min(Widest, room.width());
+        const int width =
+            std::max(std::min(Narrowest, widest), m_label->sizeWithin(widest).width());
+        const int height = m_label->heightForWidth(width);
+        const bool scrolls = height > room.height();
+        const int bar = scrolls ? m_area->verticalScrollBar()->sizeHint().width() : 0;
+        // A bar that comes by itself takes the room in which the text would do without it.
+        m_area->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn
+                                                   : Qt::ScrollBarAlwaysOff);
+        m_area->setMinimumWidth(width + bar);
+        m_area->setFixedHeight(scrolls ? room.height() : height);
+        m_area->resize(m_area->minimumSize());
+    }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override
     {
-        if (!mayBeDismissed() && event->matches(QKeySequence::Cancel))
-            return;
-        QMessageBox::keyPressEvent(event);
+        if (mayBeDismissed() || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
     }
 
     void closeEvent(QCloseEvent *event) override
@@ -62,36 +109,74 @@ protected:
     }
 
 private:
+    static constexpr int Margin = 24;
+    static constexpr int Narrowest = 240; // text
+    static constexpr int Widest = 440;
+    static constexpr int FrameOfWindow = 40;
+
+    // Qt's own label cuts a path that is wider than the box. It keeps the text for text().
+    void replaceLayout(const QString &text)
+    {
+        findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))->hide();
+        m_buttons = findChild<QDialogButtonBox *>();
+        m_area = new ScrolledArea(this);
+        m_label = new WrappedLabel(m_area);
+        m_label->setObjectName(QStringLiteral("lblText"));
+        m_label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        m_label->setText(text);
+        m_area->setWidget(m_label);
+        std::unique_ptr<QLayout>(layout()).reset(); // a widget has room for one
+        auto *column = new QVBoxLayout(this);
+        column->setContentsMargins(Margin, Margin, Margin, Margin);
+        column->setSpacing(Margin);
+        column->addWidget(m_area);
+        column->addWidget(m_buttons);
+    }
+
     [[nodiscard]] bool mayBeDismissed() const
     {
-        return standardButtons() != (QMessageBox::Yes | QMessageBox::No);
+        return m_esc == MsgBoxEsc::MeansNo || standardButtons() != (Yes | No);
     }
+
+    MsgBoxEsc m_esc = MsgBoxEsc::Ignored;
+    ScrolledArea *m_area = nullptr;
+    WrappedLabel *m_label = nullptr;
+    QDialogButtonBox *m_buttons = nullptr;
 };
+
+// Not a tool tip, a menu or the splash, which may vanish below the box.
+bool mayOwn(const QWidget *window)
+{
+    return window && window->isVisible() &&
+           (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
+}
 
 // No window is active right after one has closed.
 QWidget *owner()
 {
-    if (QWidget *active = QApplication::activeWindow())
-        return active;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        if (window->isVisible())
+    for (QWidget *window : {QApplication::activeModalWidget(), QApplication::activeWindow()})
+        if (mayOwn(window))
             return window;
-    return nullptr;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), mayOwn);
+    return found == windows.end() ? nullptr : *found;
 }
 
 } // namespace
 
-MsgBoxAnswer MsgBox(const QString &text, MsgBoxButtons buttons)
+MsgBoxAnswer MsgBox(const QString &text, MsgBoxButtons buttons, MsgBoxEsc esc,
+                    MsgBoxDefault defaultButton)
 {
-    AnsweredMessageBox box(owner());
+    AnsweredMessageBox box(text, owner());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setWindowTitle(Application::Title());
-    box.setTextFormat(Qt::PlainText);
-    box.setText(text);
     box.setStandardButtons(standardButtons(buttons));
-    box.setDefaultButton(buttons == MsgBoxButtons::OkOnly || buttons == MsgBoxButtons::OkCancel
-                             ? QMessageBox::Ok
-                             : QMessageBox::Yes);
-    return answer(box.exec());
+    const bool beginsWithOk =
+        buttons == MsgBoxButtons::OkOnly || buttons == MsgBoxButtons::OkCancel;
+    box.setDefaultButton(defaultButton == MsgBoxDefault::No ? QMessageBox::No
+                         : beginsWithOk                     ? QMessageBox::Ok
+                                                            : QMessageBox::Yes);
+    box.setEsc(esc);
+    box.fitToText();
+    return answer(box.exec(), buttons);
 }

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -15,21 +16,21 @@ QString oneParagraph(QString text)
     return text.replace(QLatin1Char('\n'), QChar::LineSeparator);
 }
 
-// Lines from the top down; returns their height.
-double breakLines(QTextLayout &layout, Qt::Alignment alignment, double width)
+// Lines from the top down; returns the room that they take.
+QSizeF breakLines(QTextLayout &layout, double width, Qt::Alignment alignment)
 {
     QTextOption option(alignment & Qt::AlignHorizontal_Mask);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
-    double height = 0;
+    QSizeF taken(0, 0);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
-        line.setPosition({0, height});
-        height += line.height();
+        line.setPosition({0, taken.height()});
+        taken = {std::max(taken.width(), line.naturalTextWidth()), taken.height() + line.height()};
     }
     layout.endLayout();
-    return height;
+    return taken;
 }
 
 } // namespace
@@ -43,10 +44,12 @@ WrappedLabel::WrappedLabel(QWidget *parent) : QLabel(parent)
     setSizePolicy(policy);
 }
 
-int WrappedLabel::heightForWidth(int width) const
+QSize WrappedLabel::sizeWithin(int width) const
 {
     QTextLayout layout(oneParagraph(text()), font());
-    return static_cast<int>(std::ceil(breakLines(layout, alignment(), width)));
+    const QSizeF taken = breakLines(layout, width, alignment());
+    return {static_cast<int>(std::ceil(taken.width())),
+            static_cast<int>(std::ceil(taken.height()))};
 }
 
 void WrappedLabel::resizeEvent(QResizeEvent *event)
@@ -59,8 +62,9 @@ void WrappedLabel::resizeEvent(QResizeEvent *event)
 void WrappedLabel::paintEvent(QPaintEvent * /*event*/)
 {
     QTextLayout layout(oneParagraph(text()), font());
-    const double height = breakLines(layout, alignment(), width());
+    const double height = breakLines(layout, width(), alignment()).height();
+    const bool inTheMiddle = alignment().testFlag(Qt::AlignVCenter);
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    layout.draw(&painter, {0, std::max(0.0, (this->height() - height) / 2)});
+    layout.draw(&painter, {0, inTheMiddle ? std::max(0.0, (this->height() - height) / 2) : 0});
 }

@@ -15,7 +15,12 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override { return {1, 1}; }
     [[nodiscard]] QSize sizeHint() const override { return {width(), heightForWidth(width())}; }
-    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] int heightForWidth(int width) const override
+    {
+        return sizeWithin(width).height();
+    }
+    // Of the lines as they break in a label of that width; the longest may be shorter.
+    [[nodiscard]] QSize sizeWithin(int width) const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

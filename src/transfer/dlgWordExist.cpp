@@ -132,7 +132,7 @@ void dlgWordExist::cmdDelete_Click()
 {
     if (MsgBox(QStringLiteral("Are you sure you want to delete '") + gImportWord +
                    QStringLiteral("' ?"),
-               MsgBoxButtons::YesNo) == MsgBoxAnswer::No)
+               MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo) == MsgBoxAnswer::No)
         return;
     gVocabList().DeleteVocab();
     m_ui->txtCurWord->clear();

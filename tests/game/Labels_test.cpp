@@ -3,57 +3,14 @@
 // a drawing.
 #include "game/FittedLabel.h"
 #include "platform/WrappedLabel.h"
+#include "support/PaintedLines.h"
 
-#include <QBuffer>
-#include <QPainter>
-#include <QSvgGenerator>
 #include <QTest>
-#include <QXmlStreamReader>
 
+using namespace PaintedLines;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Line
-{
-    QString text;
-    double points = 0;
-    double top = 0;
-};
-
-// The lines that the label paints, from the top down.
-QList<Line> paintedLines(QLabel &label)
-{
-    QBuffer buffer;
-    QSvgGenerator drawing;
-    drawing.setOutputDevice(&buffer);
-    drawing.setResolution(label.logicalDpiX());
-    drawing.setSize(label.size());
-    QPainter painter(&drawing);
-    label.render(&painter, {}, {}, {});
-    painter.end();
-
-    QList<Line> lines;
-    QXmlStreamReader reader(buffer.data());
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (!reader.isStartElement() || reader.name() != u"text"_s)
-            continue;
-        const QXmlStreamAttributes attributes = reader.attributes();
-        const double pixels = attributes.value(u"font-size"_s).toDouble();
-        const double top = attributes.value(u"y"_s).toDouble();
-        lines.append({reader.readElementText(), pixels * 72 / label.logicalDpiY(), top});
-    }
-    return lines;
-}
-
-QString joined(const QList<Line> &lines)
-{
-    QString text;
-    for (const Line &line : lines)
-        text += line.text;
-    return text;
-}
 
 template <class Label> void prepare(Label &label, const QString &text, int points, QSize size)
 {
@@ -62,13 +19,6 @@ template <class Label> void prepare(Label &label, const QString &text, int point
     label.setFont(type);
     label.setText(text);
     label.resize(size);
-}
-
-double widthOf(const QFont &type, double points, const QString &text)
-{
-    QFont painted = type;
-    painted.setPointSizeF(points);
-    return QFontMetricsF(painted).horizontalAdvance(text);
 }
 
 } // namespace

@@ -57,8 +57,8 @@ private Q_SLOTS:
             QCOMPARE(box.windowTitle(), QStringLiteral("Tanglewit"));
             QCOMPARE(box.textFormat(), Qt::PlainText);
             QCOMPARE(box.informativeText(), QString());
-            const auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
-            QVERIFY(label);
+            const auto *label = box.findChild<QLabel *>(QStringLiteral("lblText"));
+            QVERIFY(label && label->isVisible());
             QCOMPARE(label->text(), text);
             QCOMPARE(label->textFormat(), Qt::PlainText);
         });
@@ -144,6 +144,52 @@ private Q_SLOTS:
         QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
     }
 
+    void escAndTheCloseBoxMeanNoWhereNoIsHarmless()
+    {
+        const auto ask = [] {
+            return MsgBox(QStringLiteral("Well?"), MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo);
+        };
+        withBox([](QMessageBox &box) {
+            QCOMPARE(box.defaultButton(), box.button(QMessageBox::Yes));
+            QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
+        });
+        QCOMPARE(ask(), MsgBoxAnswer::No);
+        withBox([](QMessageBox &box) { QVERIFY(box.close()); });
+        QCOMPARE(ask(), MsgBoxAnswer::No);
+    }
+
+    void noCanBeTheDefault()
+    {
+        withBox([](QMessageBox &box) {
+            QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        QCOMPARE(MsgBox(QStringLiteral("Well?"), MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo,
+                        MsgBoxDefault::No),
+                 MsgBoxAnswer::No);
+    }
+
+    void anUnknownEndAgreesToNothing_data()
+    {
+        QTest::addColumn<MsgBoxButtons>("buttons");
+        QTest::addColumn<MsgBoxAnswer>("answer");
+        QTest::newRow("OK") << MsgBoxButtons::OkOnly << MsgBoxAnswer::Ok;
+        QTest::newRow("OK/Cancel") << MsgBoxButtons::OkCancel << MsgBoxAnswer::Cancel;
+        QTest::newRow("Yes/No") << MsgBoxButtons::YesNo << MsgBoxAnswer::No;
+        QTest::newRow("Yes/No/Cancel") << MsgBoxButtons::YesNoCancel << MsgBoxAnswer::Cancel;
+    }
+
+    void anUnknownEndAgreesToNothing()
+    {
+        QFETCH(MsgBoxButtons, buttons);
+        for (const int end : {int(QDialog::Rejected), int(QDialog::Accepted), -1, 77}) {
+            withBox([end](QMessageBox &box) { box.done(end); });
+            QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        }
+        withBox([](QMessageBox &box) { box.hide(); });
+        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+    }
+
     void aYesNoQuestionIsNotDismissed()
     {
         withBox([](QMessageBox &box) {
@@ -170,6 +216,53 @@ private Q_SLOTS:
         });
         MsgBox(QStringLiteral("Well."));
         QVERIFY(answers.allSeen());
+    }
+
+    void theBoxStandsOverAWindowThatStays_data()
+    {
+        QTest::addColumn<Qt::WindowType>("type");
+        QTest::newRow("a tool tip") << Qt::ToolTip;
+        QTest::newRow("a menu") << Qt::Popup;
+        QTest::newRow("a splash") << Qt::SplashScreen;
+        QTest::newRow("a tool window") << Qt::Tool;
+    }
+
+    void theBoxStandsOverAWindowThatStays()
+    {
+        QFETCH(Qt::WindowType, type);
+        QWidget above(nullptr, type);
+        above.show();
+        above.activateWindow();
+        withBox([](QMessageBox &box) {
+            QCOMPARE(box.parentWidget(), nullptr);
+            box.accept();
+        });
+        MsgBox(QStringLiteral("Well."));
+        QWidget window;
+        window.show();
+        above.activateWindow();
+        withBox([&window](QMessageBox &box) {
+            QCOMPARE(box.parentWidget(), &window);
+            box.accept();
+        });
+        MsgBox(QStringLiteral("Well."));
+    }
+
+    void theBoxStandsOverTheDialogThatIsOpen()
+    {
+        QWidget window;
+        window.show();
+        QDialog dialog(&window);
+        QTimer::singleShot(0, &dialog, [&] {
+            window.activateWindow();
+            withBox([&dialog](QMessageBox &box) {
+                QCOMPARE(box.parentWidget(), &dialog);
+                box.accept();
+            });
+            MsgBox(QStringLiteral("Well."));
+            dialog.accept();
+        });
+        dialog.exec();
     }
 
     void whatTheDataHasToTellIsShown()
