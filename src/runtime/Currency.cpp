@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runtime/Currency.h"
 
-#include "runtime/Blanks.h"
 #include "runtime/Rounding.h"
 #include "runtime/TextToNumber.h"
 
 #include <QLocale>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -25,28 +23,6 @@ std::int64_t dividedHalfToEven(std::int64_t number, std::int64_t divisor)
     return above > 0 || (above == 0 && quotient % 2 != 0) ? quotient + towards : quotient;
 }
 
-// The digits before the given place, rounded by those after it, halves to even.
-QString roundedDigits(const QString &digits, qsizetype place)
-{
-    QString kept = digits.left(std::max<qsizetype>(place, 0));
-    if (place < 0 || place >= digits.size())
-        return kept;
-    const QString rest = digits.mid(place);
-    const bool restIsHalf =
-        rest.front() == QLatin1Char('5') && rest.count(QLatin1Char('0')) == rest.size() - 1;
-    const bool lastIsOdd = !kept.isEmpty() && kept.back().digitValue() % 2 != 0;
-    if (restIsHalf ? !lastIsOdd : rest.front() < QLatin1Char('5'))
-        return kept;
-    qsizetype i = kept.size();
-    while (i > 0 && kept[i - 1] == QLatin1Char('9'))
-        kept[--i] = QLatin1Char('0');
-    if (i == 0)
-        kept.prepend(QLatin1Char('1'));
-    else
-        kept[i - 1] = QChar(kept[i - 1].unicode() + 1);
-    return kept;
-}
-
 } // namespace
 
 Currency::Currency(double value)
@@ -62,35 +38,7 @@ Currency::Currency(double value)
 
 Currency Currency::fromText(const QString &text)
 {
-    // Only the digits are exact: a double has not as many as the range.
-    if (toNumber(text) == 0)
-        return {};
-    QString digits = withoutOuterBlanks(text).toLower();
-    qsizetype exponent = 0;
-    if (const qsizetype e = digits.indexOf(QLatin1Char('e')); e >= 0) {
-        exponent = digits.mid(e + 1).toInt();
-        digits.truncate(e);
-    }
-    const bool negative = digits.startsWith(QLatin1Char('-'));
-    if (negative || digits.startsWith(QLatin1Char('+')))
-        digits.remove(0, 1);
-    const qsizetype point = digits.indexOf(QLatin1Char('.'));
-    const qsizetype wholeDigits = point < 0 ? digits.size() : point;
-    digits.remove(QLatin1Char('.'));
-    const qsizetype place = wholeDigits + exponent + Decimals;
-    QString scaled = roundedDigits(digits, place);
-    if (place > digits.size()) {
-        constexpr qsizetype MoreThanFit = 20;
-        scaled += QString(std::min(place - digits.size(), MoreThanFit), QLatin1Char('0'));
-    }
-    if (scaled.isEmpty())
-        return {};
-    bool fits = false;
-    const std::int64_t value =
-        ((negative ? QStringLiteral("-") : QString()) + scaled).toLongLong(&fits);
-    if (!fits)
-        throw RunTimeError(RunTimeError::Overflow);
-    return fromScaled(value);
+    return fromScaled(toUnits(text, Decimals));
 }
 
 Integer Currency::toInteger() const

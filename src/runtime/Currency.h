@@ -22,7 +22,7 @@ public:
     // Throws TypeMismatch for what is not finite.
     explicit Currency(double value);
 
-    // Takes the texts that toNumber takes, digit by digit.
+    // Takes the texts that toNumber takes.
     [[nodiscard]] static Currency fromText(const QString &text);
     [[nodiscard]] static constexpr Currency fromScaled(std::int64_t tenThousandths)
     {

@@ -8,7 +8,14 @@
 
 #include "runtime/Integer.h"
 
+#include <cstdint>
+
+// The nearest double; 0 for a number too small for one.
 [[nodiscard]] double toNumber(const QString &text);
 
-// Rounded to the nearest whole number, halves to even; Overflow where that does not fit.
+// Rounded to the nearest whole number, halves to even; Overflow where that does not fit. All
+// digits count, however many there are.
 [[nodiscard]] Integer toInteger(const QString &text);
+
+// In the same way the number times ten to the power of `decimals`.
+[[nodiscard]] std::int64_t toUnits(const QString &text, int decimals);

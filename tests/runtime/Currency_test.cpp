@@ -39,6 +39,7 @@ private Q_SLOTS:
         row("5e-5", 0);
         row("15e-5", 2);
         row("1e-300", 0);
+        row("1e-400", 0);
         row("0000000000000000000000001", 10'000);
         row("922337203685477.5807", std::numeric_limits<qint64>::max());
         row("-922337203685477.5808", std::numeric_limits<qint64>::min());

@@ -30,6 +30,14 @@ private Q_SLOTS:
         row("2.0", 2);
         row("2.", 2);
         row(".4", 0);
+        row("1.e0", 1);
+        row("+0000000000000000000000000000000000000032767", 32767);
+        row("32767.4999999999999999999999", 32767);
+        row("2.5000000000000000000000001", 3);
+        row("-2.5000000000000000000000001", -3);
+        row("1e-400", 0);
+        row("1e-99999999999999999999", 0);
+        row("0e99999999999999999999", 0);
         row("2.49", 2);
         row("2.51", 3);
         row("-2.49", -2);
@@ -90,6 +98,7 @@ private Q_SLOTS:
         QTest::newRow("1e400") << QStringLiteral("1e400");
         QTest::newRow("-1e400") << QStringLiteral("-1e400");
         QTest::newRow("400 digits") << QString(400, QLatin1Char('9'));
+        QTest::newRow("20 digits of exponent") << QStringLiteral("1e99999999999999999999");
     }
 
     void whatFitsNoNumberAtAllOverflows()
@@ -104,8 +113,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::newRow("nothing") << QString();
         QTest::newRow("a blank") << QStringLiteral(" ");
-        for (const char *text : {"V", "one", "12a", "a12", "1 2", "--1", "+-1", "1-", "-", ".",
-                                 "1.2.3", "e5", "1e", "\"2\"", "inf", "-inf", "nan"})
+        for (const char *text :
+             {"V",  "one", "12a", "a12", "1 2",  "--1",   "+-1",   "1-",  "-",    ".",  "1.2.3",
+              "e5", ".e5", "1e",  "1e+", "1e5.", "1e5e5", "\"2\"", "inf", "-inf", "nan"})
             QTest::newRow(text) << QString::fromLatin1(text);
         QTest::newRow("groups") << QStringLiteral("1,234");
         QTest::newRow("groups behind a zero") << QStringLiteral("0,001");
@@ -122,6 +132,12 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QCOMPARE(errorNumberOf([&] { return toInteger(text); }), RunTimeError::TypeMismatch);
         QCOMPARE(errorNumberOf([&] { return toNumber(text); }), RunTimeError::TypeMismatch);
+    }
+
+    void aNumberTooSmallForADoubleIsZero()
+    {
+        for (const char *text : {"1e-400", "-2e-1021", "0.1e-99999999999999999999"})
+            QCOMPARE(toNumber(QString::fromLatin1(text)), 0.0);
     }
 
     void fractionsAndLargeNumbersStayAsTheyAre()
