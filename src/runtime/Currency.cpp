@@ -5,6 +5,7 @@
 #include "runtime/TextToNumber.h"
 
 #include <QLocale>
+#include <QtNumeric>
 
 #include <cmath>
 #include <cstdlib>
@@ -58,9 +59,8 @@ QString Currency::toText() const
 
 Currency operator*(Currency a, Integer b)
 {
-    const std::int64_t factor = b.toInt();
-    if (factor != 0 && (a.m_scaled > std::numeric_limits<std::int64_t>::max() / std::abs(factor) ||
-                        a.m_scaled < std::numeric_limits<std::int64_t>::min() / std::abs(factor)))
+    std::int64_t product = 0;
+    if (qMulOverflow(a.m_scaled, std::int64_t(b.toInt()), &product))
         throw RunTimeError(RunTimeError::Overflow);
-    return Currency::fromScaled(a.m_scaled * factor);
+    return Currency::fromScaled(product);
 }

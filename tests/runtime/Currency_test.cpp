@@ -131,6 +131,11 @@ private Q_SLOTS:
                  RunTimeError::Overflow);
         QCOMPARE(errorNumberOf([] { return Currency::smallest() * Integer(2); }),
                  RunTimeError::Overflow);
+        QCOMPARE(errorNumberOf([] { return Currency::smallest() * Integer(-1); }),
+                 RunTimeError::Overflow);
+        constexpr qint64 half = qint64(1) << 62;
+        QCOMPARE(Currency::fromScaled(half) * Integer(-2), Currency::smallest());
+        QCOMPARE(Currency::smallest() * Integer(1), Currency::smallest());
     }
 
     void theyAreInOrder()
