@@ -40,8 +40,10 @@ LineBreak lineBreak(const Printer &printer, QStringView text, qsizetype fitting,
     if (blank >= 0)
         return {blank, blank + 1};
     qsizetype end = std::max<qsizetype>(fitting, 1);
-    if (text[end - 1].isHighSurrogate()) // the two halves of a character stay together
-        end = end > 1 ? end - 1 : std::min<qsizetype>(2, text.size());
+    const bool cutsPair =
+        end < text.size() && text[end - 1].isHighSurrogate() && text[end].isLowSurrogate();
+    if (cutsPair) // the two halves of a character stay together
+        end += end > 1 ? -1 : 1;
     return {end, end};
 }
 

@@ -64,6 +64,8 @@ private Q_SLOTS:
             {u"ab\u00A0cdefghi"_s, u"jk"_s});
         row("a pair stays together", u"abcdefghi\U0001F600jk"_s,
             {u"abcdefghi"_s, u"\U0001F600jk"_s});
+        row("half a pair is a character like any other", u"abcdefghi\xD83Djk"_s,
+            {u"abcdefghi\xD83D"_s, u"jk"_s});
     }
 
     void aLineIsBrokenAtItsLastBlank()
