@@ -28,12 +28,8 @@ bool readFormat(QByteArrayView chunk, WaveFile *wave)
 
 } // namespace
 
-std::optional<WaveFile> readWaveFile(const QString &path)
+std::optional<WaveFile> waveFileFromBytes(QByteArrayView bytes)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QByteArray bytes = file.readAll();
     ByteReader reader(bytes);
     if (reader.take(4) != "RIFF")
         return std::nullopt;
@@ -62,4 +58,12 @@ std::optional<WaveFile> readWaveFile(const QString &path)
         }
     }
     return std::nullopt;
+}
+
+std::optional<WaveFile> readWaveFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return waveFileFromBytes(file.readAll());
 }

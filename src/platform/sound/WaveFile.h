@@ -17,6 +17,9 @@ struct WaveFile
     QByteArray samples;    // whole frames, at least one
 };
 
-// Nothing if the file cannot be read, is cut off, or is of another kind than plain samples of 8 or
-// 16 bits on one or two channels.
+// Nothing if the file is cut off, or is of another kind than plain samples of 8 or 16 bits on one
+// or two channels.
+[[nodiscard]] std::optional<WaveFile> waveFileFromBytes(QByteArrayView bytes);
+
+// Nothing if the file cannot be read, too.
 [[nodiscard]] std::optional<WaveFile> readWaveFile(const QString &path);
