@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Takes the place of the dialog of the same name: the fuzzer answers at once, without a window.
+#pragma once
+
+#include <QWidget>
+
+class dlgWordExist final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit dlgWordExist(QWidget * /*parent*/) {}
+
+    static void exec();
+
+Q_SIGNALS:
+    void refresh();
+};
