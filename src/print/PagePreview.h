@@ -3,8 +3,8 @@
 // size.
 #pragma once
 
+#include "platform/WheelSteps.h"
 #include "print/PreviewPages.h"
-#include "print/WheelSteps.h"
 
 #include <QAbstractScrollArea>
 #include <QTimer>

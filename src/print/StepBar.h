@@ -3,7 +3,7 @@
 // arrow, a key or the wheel, raises it.
 #pragma once
 
-#include "print/WheelSteps.h"
+#include "platform/WheelSteps.h"
 
 #include <QScrollBar>
 
