@@ -38,7 +38,6 @@ frmMain::frmMain()
     m_ui->setupUi(this);
     for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep})
         separator->setSeparator(true);
-    m_ui->MSFlexGrid1->scrollThrough(m_ui->VScroll1);
     connectHandlers();
     addShortcuts();
 }
@@ -86,6 +85,8 @@ void frmMain::connectHandlers()
             guarded(this, &frmMain::txtSentence_Change));
     connect(m_ui->MSFlexGrid1, &MSFlexGrid::Click, this,
             guarded(this, &frmMain::MSFlexGrid1_Click));
+    connect(m_ui->MSFlexGrid1, &MSFlexGrid::moved, this, guarded(this, &frmMain::moveCurrentRow));
+    connect(m_ui->MSFlexGrid1, &MSFlexGrid::wheeled, this, guarded(this, &frmMain::turnPage));
     connect(m_ui->VScroll1, &QScrollBar::valueChanged, this,
             guarded(this, &frmMain::VScroll1_Change));
 }

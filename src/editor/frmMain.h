@@ -16,6 +16,7 @@
 class QAction;
 class UnsavedCopy;
 class frmTanglewit;
+enum class GridMove;
 enum class MsgBoxButtons;
 struct MainLayout;
 
@@ -72,6 +73,8 @@ private:
 
     // frmMain_Grid.cpp: the grid and its scroll bar
     void MSFlexGrid1_Click(int row, int column);
+    void moveCurrentRow(GridMove move);
+    void turnPage(int rows);
     void VScroll1_Change();
     void FillGrid(Integer top);
     void NumberRows(Integer top);

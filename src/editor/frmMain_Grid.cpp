@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/GridPlace.h"
 #include "editor/ui_frmMain.h"
 #include "runtime/Blanks.h"
 
@@ -45,6 +46,29 @@ void frmMain::MSFlexGrid1_Click(int row, int column)
     }
     UnhighlightRow();
     markRow(row);
+}
+
+void frmMain::moveCurrentRow(GridMove move)
+{
+    const int entries = gVocabList().NumWords().toInt();
+    if (entries == 0)
+        return;
+    const int shown = FirstShownItem().toInt();
+    const GridPlace place = moved({shown, m_ui->MSFlexGrid1->Row()}, move, entries);
+    if (place.first != shown)
+        scrollTo(place.first);
+    m_ui->MSFlexGrid1->setCurrent(place.row, 1);
+}
+
+void frmMain::turnPage(int rows)
+{
+    const int entries = gVocabList().NumWords().toInt();
+    if (entries == 0)
+        return;
+    const int shown = FirstShownItem().toInt();
+    const int first = firstAfterWheel(shown, rows, entries);
+    if (first != shown)
+        scrollTo(first);
 }
 
 void frmMain::VScroll1_Change()

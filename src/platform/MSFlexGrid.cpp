@@ -4,17 +4,16 @@
 #include "platform/Screen.h"
 #include "runtime/RunTimeError.h"
 
-#include <QAbstractSlider>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -56,23 +55,23 @@ protected:
     }
 };
 
-QAbstractSlider::SliderAction sliderAction(int key)
+std::optional<GridMove> moveOf(int key)
 {
     switch (key) {
     case Qt::Key_Up:
-        return QAbstractSlider::SliderSingleStepSub;
+        return GridMove::RowUp;
     case Qt::Key_Down:
-        return QAbstractSlider::SliderSingleStepAdd;
+        return GridMove::RowDown;
     case Qt::Key_PageUp:
-        return QAbstractSlider::SliderPageStepSub;
+        return GridMove::PageUp;
     case Qt::Key_PageDown:
-        return QAbstractSlider::SliderPageStepAdd;
+        return GridMove::PageDown;
     case Qt::Key_Home:
-        return QAbstractSlider::SliderToMinimum;
+        return GridMove::First;
     case Qt::Key_End:
-        return QAbstractSlider::SliderToMaximum;
+        return GridMove::Last;
     default:
-        return QAbstractSlider::SliderNoAction;
+        return std::nullopt;
     }
 }
 
@@ -209,18 +208,19 @@ void MSFlexGrid::resizeEvent(QResizeEvent *event)
 
 void MSFlexGrid::wheelEvent(QWheelEvent *event)
 {
-    if (m_scrollBar)
-        QCoreApplication::sendEvent(m_scrollBar, event);
+    // By a page with Ctrl or Shift, as over a scroll bar.
+    const bool byPage = (event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) != 0;
+    const int rowsPerStep = byPage ? m_visibleRows - 1 : QApplication::wheelScrollLines();
+    const int rows = -m_wheel.turned(event->angleDelta().y() * rowsPerStep);
+    if (rows != 0)
+        Q_EMIT wheeled(rows);
 }
 
 void MSFlexGrid::keyPressEvent(QKeyEvent *event)
 {
-    const QAbstractSlider::SliderAction action = sliderAction(event->key());
-    if (action != QAbstractSlider::SliderNoAction && m_scrollBar) {
-        m_scrollBar->triggerAction(action);
-        return;
-    }
-    if (event->key() == Qt::Key_Space)
+    if (const auto move = moveOf(event->key()))
+        Q_EMIT moved(*move);
+    else if (event->key() == Qt::Key_Space)
         Q_EMIT Click(Row(), Col());
     else
         event->ignore(); // Enter belongs to the window's default button

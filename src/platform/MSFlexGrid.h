@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A page of cells without a scroll bar of its own: row 0 is the header, column 0 the item numbers.
 //
-// Rows and columns count from 0. Measures are in twips. Wheel and keyboard move the scroll bar
-// that the grid is given; Space clicks the current row.
+// Rows and columns count from 0. Measures are in twips. Wheel and keys only say where they lead:
+// what the page shows is its owner's. Space clicks the current row.
 #pragma once
 
-#include <QTableWidget>
+#include "platform/GridMove.h"
+#include "platform/WheelSteps.h"
 
-class QScrollBar;
+#include <QTableWidget>
 
 class MSFlexGrid final : public QTableWidget
 {
@@ -43,10 +44,10 @@ public:
     [[nodiscard]] int Row() const { return currentRow(); }
     [[nodiscard]] int Col() const { return currentColumn(); }
 
-    void scrollThrough(QScrollBar *scrollBar) { m_scrollBar = scrollBar; }
-
 Q_SIGNALS:
     void Click(int row, int column);
+    void moved(GridMove move);
+    void wheeled(int rows); // downwards is positive
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -60,6 +61,6 @@ private:
     [[nodiscard]] QTableWidgetItem &cell(int row, int column) const;
     [[nodiscard]] bool isCut(const QModelIndex &index) const;
 
-    QScrollBar *m_scrollBar = nullptr;
     int m_visibleRows = 1;
+    WheelSteps m_wheel;
 };

@@ -6,8 +6,11 @@
 #include "support/MainWindow.h"
 
 #include <QHelpEvent>
+#include <QMetaEnum>
 #include <QScrollBar>
 #include <QToolTip>
+
+#include <algorithm>
 
 using namespace Module1;
 
@@ -27,6 +30,25 @@ void comparePage(MainWindow &main, int top)
 QPoint middleOf(MSFlexGrid &grid, int row, int column)
 {
     return grid.visualItemRect(grid.item(row, column)).center();
+}
+
+void turnWheel(MSFlexGrid &grid, int notches)
+{
+    const QPoint place = middleOf(grid, 5, 1);
+    QWidget &viewport = *grid.viewport();
+    QWheelEvent wheel(place, viewport.mapToGlobal(place), {}, {0, notches * 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&viewport, &wheel);
+}
+
+void typeWords(MainWindow &main, int count)
+{
+    main.click("cmdNewWord");
+    for (int i = 1; i <= count; ++i) {
+        main.typeEntry(QStringLiteral("word %1").arg(i), QStringLiteral("definition %1").arg(i),
+                       QStringLiteral("sentence %1").arg(i));
+        main.click("cmdAdd");
+    }
 }
 
 void askForToolTip(MSFlexGrid &grid, int row, int column)
@@ -58,8 +80,18 @@ private Q_SLOTS:
     void withNothingPickedThePositionStaysBehindThePage();
 
     void theWheelScrolls();
-    void keysOverTheGridScroll_data();
-    void keysOverTheGridScroll();
+    void theWheelStopsAtTheFirstEntryAndAtTheLastFullPage();
+    void afterTypedWordsTheWheelLeavesTheListInSight();
+    void theWheelLeavesAPageBehindTheListsEnd();
+    void keysOverTheGridMoveThePage_data();
+    void keysOverTheGridMoveThePage();
+    void keysBeginAtThePageThatIsShown_data();
+    void keysBeginAtThePageThatIsShown();
+    void downAndUpMoveTheCurrentRow();
+    void endMakesTheLastEntryCurrentAndSpacePicksIt_data();
+    void endMakesTheLastEntryCurrentAndSpacePicksIt();
+    void aMoveInsideThePageKeepsTheMark();
+    void onAnEmptyListKeysAndWheelDoNothing();
     void spacePicksTheFirstRowOfAScrolledPage();
     void enterOverTheGridIsTheDefaultButton_data();
     void enterOverTheGridIsTheDefaultButton();
@@ -223,56 +255,182 @@ void frmMain_Grid_test::theWheelScrolls()
 {
     MainWindow main;
     main.fill(60);
-    QWidget &viewport = *main.grid().viewport();
-    const QPoint place = middleOf(main.grid(), 5, 1);
-    const auto turn = [&](int angle) {
-        QWheelEvent wheel(place, viewport.mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&viewport, &wheel);
-    };
     const int lines = QApplication::wheelScrollLines();
     QVERIFY(lines > 0);
-    turn(-120);
+    turnWheel(main.grid(), -1);
     QCOMPARE(main.bar().value(), 1 + lines);
     comparePage(main, 1 + lines);
-    turn(-120);
-    turn(120);
+    turnWheel(main.grid(), -1);
+    turnWheel(main.grid(), 1);
     comparePage(main, 1 + lines);
 }
 
-void frmMain_Grid_test::keysOverTheGridScroll_data()
+void frmMain_Grid_test::theWheelStopsAtTheFirstEntryAndAtTheLastFullPage()
+{
+    MainWindow main;
+    main.fill(60);
+    turnWheel(main.grid(), -100);
+    comparePage(main, 38);
+    QCOMPARE(main.bar().value(), 38);
+    turnWheel(main.grid(), -1);
+    comparePage(main, 38);
+    turnWheel(main.grid(), 100);
+    comparePage(main, 1);
+    QCOMPARE(main.bar().value(), 1);
+}
+
+void frmMain_Grid_test::afterTypedWordsTheWheelLeavesTheListInSight()
+{
+    // The bar stands at the new entry, the page at the first one.
+    MainWindow main;
+    typeWords(main, 7);
+    for (const int notches : {1, 1, -1, -1, -5, 5}) {
+        turnWheel(main.grid(), notches);
+        for (int row = 1; row <= 7; ++row)
+            QCOMPARE(main.row(row), EditorModes::filledRow(row));
+    }
+    QCOMPARE(main.markedRows(), QList<int>{8});
+}
+
+void frmMain_Grid_test::theWheelLeavesAPageBehindTheListsEnd()
+{
+    MainWindow main;
+    main.fill(5);
+    main.bar().setValue(6);
+    QCOMPARE(main.row(1), EmptyRow);
+    turnWheel(main.grid(), -1);
+    comparePage(main, 1);
+
+    main.fill(60);
+    main.bar().setValue(60);
+    turnWheel(main.grid(), -1);
+    comparePage(main, 60);
+    turnWheel(main.grid(), 1);
+    comparePage(main, 60 - QApplication::wheelScrollLines());
+}
+
+void frmMain_Grid_test::keysOverTheGridMoveThePage_data()
 {
     QTest::addColumn<Qt::Key>("key");
     QTest::addColumn<int>("top"); // from 30
-    QTest::newRow("Up") << Qt::Key_Up << 29;
-    QTest::newRow("Down") << Qt::Key_Down << 31;
-    QTest::newRow("Page Up") << Qt::Key_PageUp << 7;
-    QTest::newRow("Page Down") << Qt::Key_PageDown << 53;
-    QTest::newRow("Home") << Qt::Key_Home << 1;
-    QTest::newRow("End") << Qt::Key_End << 60;
+    QTest::addColumn<int>("row"); // from 1
+    QTest::newRow("Up") << Qt::Key_Up << 29 << 1;
+    QTest::newRow("Down") << Qt::Key_Down << 30 << 2;
+    QTest::newRow("Page Up") << Qt::Key_PageUp << 7 << 1;
+    QTest::newRow("Page Down") << Qt::Key_PageDown << 38 << 16;
+    QTest::newRow("Home") << Qt::Key_Home << 1 << 1;
+    QTest::newRow("End") << Qt::Key_End << 38 << 23;
 }
 
-void frmMain_Grid_test::keysOverTheGridScroll()
+void frmMain_Grid_test::keysOverTheGridMoveThePage()
 {
     QFETCH(Qt::Key, key);
     QFETCH(int, top);
+    QFETCH(int, row);
     MainWindow main;
     main.fill(60);
     main.bar().setValue(30);
     main.grid().setFocus();
     Controls::press(key);
     comparePage(main, top);
-    // Home is the bar's minimum.
-    QCOMPARE(main.bar().value(), key == Qt::Key_Home ? 0 : top);
+    QCOMPARE(main.bar().value(), top);
+    QCOMPARE(main.grid().Row(), row);
+    QCOMPARE(main.grid().Col(), 1);
     QVERIFY(main.grid().hasFocus());
+}
+
+void frmMain_Grid_test::keysBeginAtThePageThatIsShown_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    for (const Qt::Key key :
+         {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End})
+        QTest::newRow(QMetaEnum::fromType<Qt::Key>().valueToKey(key)) << key;
+}
+
+void frmMain_Grid_test::keysBeginAtThePageThatIsShown()
+{
+    QFETCH(Qt::Key, key);
+    MainWindow main;
+    typeWords(main, 7);
+    main.grid().setFocus();
+    for (int i = 0; i < 3; ++i)
+        Controls::press(key);
+    for (int row = 1; row <= 7; ++row)
+        QCOMPARE(main.row(row), EditorModes::filledRow(row));
+    QVERIFY(main.grid().Row() >= 1);
+    QVERIFY(main.grid().Row() <= 7);
+}
+
+void frmMain_Grid_test::downAndUpMoveTheCurrentRow()
+{
+    MainWindow main;
+    main.fill(30);
+    main.grid().setFocus();
+    for (int entry = 2; entry <= 30; ++entry) {
+        Controls::press(Qt::Key_Down);
+        QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entry));
+    }
+    comparePage(main, 8);
+    Controls::press(Qt::Key_Down);
+    QCOMPARE(main.grid().Row(), 23);
+    for (int entry = 29; entry >= 1; --entry) {
+        Controls::press(Qt::Key_Up);
+        QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entry));
+    }
+    comparePage(main, 1);
+}
+
+void frmMain_Grid_test::endMakesTheLastEntryCurrentAndSpacePicksIt_data()
+{
+    QTest::addColumn<int>("entries");
+    for (const int entries : {1, 5, 22, 23, 24, 60, 32000})
+        QTest::addRow("%d", entries) << entries;
+}
+
+void frmMain_Grid_test::endMakesTheLastEntryCurrentAndSpacePicksIt()
+{
+    QFETCH(int, entries);
+    MainWindow main;
+    main.fill(entries);
+    main.grid().setFocus();
+    Controls::press(Qt::Key_End);
+    comparePage(main, std::max(1, entries - 22));
+    QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entries));
+    Controls::press(Qt::Key_Space);
+    QCOMPARE(main.text("txtWord"), QStringLiteral("word %1").arg(entries));
+    QCOMPARE(main.look(), EditorModes::editing());
+}
+
+void frmMain_Grid_test::aMoveInsideThePageKeepsTheMark()
+{
+    MainWindow main;
+    main.fill(5);
+    main.click("cmdNewWord");
+    QCOMPARE(main.markedRows(), QList<int>{6});
+    main.grid().setFocus();
+    Controls::press(Qt::Key_Down);
+    QCOMPARE(main.grid().Row(), 2);
+    QCOMPARE(main.markedRows(), QList<int>{6});
+}
+
+void frmMain_Grid_test::onAnEmptyListKeysAndWheelDoNothing()
+{
+    MainWindow main;
+    main.grid().setFocus();
+    turnWheel(main.grid(), -1);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home})
+        Controls::press(key);
+    QCOMPARE(main.row(1), (QStringList{QStringLiteral("1"), QString(), QString(), QString()}));
+    QCOMPARE(main.grid().Row(), 1);
+    QVERIFY(main.answers.allSeen());
 }
 
 void frmMain_Grid_test::spacePicksTheFirstRowOfAScrolledPage()
 {
     MainWindow main;
     main.fill(60);
+    main.bar().setValue(2);
     main.grid().setFocus();
-    Controls::press(Qt::Key_Down);
     Controls::press(Qt::Key_Space);
     QCOMPARE(main.text("txtWord"), QStringLiteral("word 2"));
     QCOMPARE(main.look(), EditorModes::editing());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A grid on the screen as the main window has it, with a scroll bar beside it.
+// A grid on the screen as the main window has it.
 #pragma once
 
 #include "platform/MSFlexGrid.h"
@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QImage>
-#include <QScrollBar>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -21,10 +20,6 @@ public:
     {
         grid.setSize(Rows, 4);
         grid.setVisibleRows(VisibleRows);
-        bar.setRange(0, 100);
-        bar.setPageStep(23);
-        bar.setValue(50);
-        grid.scrollThrough(&bar);
         grid.resize(600, 480);
         grid.show();
     }
@@ -56,6 +51,5 @@ public:
         return grid.grab(grid.visualRect(grid.model()->index(row, column))).toImage();
     }
 
-    QScrollBar bar;
     MSFlexGrid grid;
 };

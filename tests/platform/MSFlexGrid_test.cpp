@@ -3,6 +3,7 @@
 #include "runtime/RunTimeError.h"
 
 #include <QFontMetrics>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -11,12 +12,18 @@
 
 namespace {
 
-void turnWheel(QWidget &widget, int notches)
+void turnWheelBy(QWidget &widget, int eighthsOfADegree,
+                 Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const QPointF spot(50, 50);
-    QWheelEvent event(spot, widget.mapToGlobal(spot), {}, {0, notches * 120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent event(spot, widget.mapToGlobal(spot), {}, {0, eighthsOfADegree}, Qt::NoButton,
+                      modifiers, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&widget, &event);
+}
+
+void turnWheel(QWidget &widget, int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    turnWheelBy(widget, notches * 120, modifiers);
 }
 
 } // namespace
@@ -38,11 +45,13 @@ private Q_SLOTS:
     void anotherNumberOfRowsIsLaidOutAtOnce();
     void noScrollBarOfItsOwnIsShown();
 
-    void keysMoveTheScrollBar_data();
-    void keysMoveTheScrollBar();
-    void theWheelMovesTheScrollBar();
+    void keysSayWhereTheyLead_data();
+    void keysSayWhereTheyLead();
+    void otherKeysLeadNowhere();
+    void theWheelSaysHowManyRowsItWasTurned();
+    void aFineWheelIsAddedUp();
+    void withControlOrShiftTheWheelTurnsPages();
     void theGridItselfNeverScrolls();
-    void withoutAScrollBarKeysAndWheelDoNothing();
     void spaceClicksTheCurrentCellAndEnterIsLeftToTheWindow();
     void theMouseClicksTheCellUnderIt();
     void typingIsLeftToTheWindow();
@@ -186,36 +195,74 @@ void MSFlexGrid_test::noScrollBarOfItsOwnIsShown()
     QVERIFY(!page.grid.horizontalScrollBar()->isVisible());
 }
 
-void MSFlexGrid_test::keysMoveTheScrollBar_data()
+void MSFlexGrid_test::keysSayWhereTheyLead_data()
 {
     QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<int>("value");
-    QTest::newRow("up") << Qt::Key_Up << 49;
-    QTest::newRow("down") << Qt::Key_Down << 51;
-    QTest::newRow("page up") << Qt::Key_PageUp << 27;
-    QTest::newRow("page down") << Qt::Key_PageDown << 73;
-    QTest::newRow("home") << Qt::Key_Home << 0;
-    QTest::newRow("end") << Qt::Key_End << 100;
-    QTest::newRow("left") << Qt::Key_Left << 50;
-    QTest::newRow("right") << Qt::Key_Right << 50;
+    QTest::addColumn<GridMove>("move");
+    QTest::newRow("up") << Qt::Key_Up << GridMove::RowUp;
+    QTest::newRow("down") << Qt::Key_Down << GridMove::RowDown;
+    QTest::newRow("page up") << Qt::Key_PageUp << GridMove::PageUp;
+    QTest::newRow("page down") << Qt::Key_PageDown << GridMove::PageDown;
+    QTest::newRow("home") << Qt::Key_Home << GridMove::First;
+    QTest::newRow("end") << Qt::Key_End << GridMove::Last;
 }
 
-void MSFlexGrid_test::keysMoveTheScrollBar()
+void MSFlexGrid_test::keysSayWhereTheyLead()
 {
     QFETCH(Qt::Key, key);
-    QFETCH(int, value);
+    QFETCH(GridMove, move);
     GridPage page;
+    page.grid.setCurrent(3, 1);
+    QSignalSpy moves(&page.grid, &MSFlexGrid::moved);
     QTest::keyClick(&page.grid, key);
-    QCOMPARE(page.bar.value(), value);
+    QCOMPARE(moves.size(), 1);
+    QCOMPARE(moves.at(0).at(0).value<GridMove>(), move);
+    QCOMPARE(page.grid.Row(), 3);
 }
 
-void MSFlexGrid_test::theWheelMovesTheScrollBar()
+void MSFlexGrid_test::otherKeysLeadNowhere()
 {
     GridPage page;
+    page.grid.setCurrent(3, 1);
+    QSignalSpy moves(&page.grid, &MSFlexGrid::moved);
+    QTest::keyClick(&page.grid, Qt::Key_Left);
+    QTest::keyClick(&page.grid, Qt::Key_Right);
+    QVERIFY(moves.isEmpty());
+    QCOMPARE(page.grid.Row(), 3);
+    QCOMPARE(page.grid.Col(), 1);
+}
+
+void MSFlexGrid_test::theWheelSaysHowManyRowsItWasTurned()
+{
+    GridPage page;
+    const int rows = QApplication::wheelScrollLines();
+    QVERIFY(rows > 0);
+    QSignalSpy turns(&page.grid, &MSFlexGrid::wheeled);
     turnWheel(*page.grid.viewport(), -1);
-    QCOMPARE(page.bar.value(), 50 + QApplication::wheelScrollLines());
     turnWheel(*page.grid.viewport(), 2);
-    QCOMPARE(page.bar.value(), 50 - QApplication::wheelScrollLines());
+    QCOMPARE(turns, (QList<QVariantList>{{rows}, {-2 * rows}}));
+}
+
+void MSFlexGrid_test::aFineWheelIsAddedUp()
+{
+    GridPage page;
+    QSignalSpy turns(&page.grid, &MSFlexGrid::wheeled);
+    int rows = 0;
+    for (int i = 0; i < 120; ++i)
+        turnWheelBy(*page.grid.viewport(), -1);
+    for (const QVariantList &turn : turns)
+        rows += turn.at(0).toInt();
+    QCOMPARE(rows, QApplication::wheelScrollLines());
+    QCOMPARE(turns.size(), rows); // one by one
+}
+
+void MSFlexGrid_test::withControlOrShiftTheWheelTurnsPages()
+{
+    GridPage page;
+    QSignalSpy turns(&page.grid, &MSFlexGrid::wheeled);
+    turnWheel(*page.grid.viewport(), -1, Qt::ControlModifier);
+    turnWheel(*page.grid.viewport(), 1, Qt::ShiftModifier);
+    QCOMPARE(turns, (QList<QVariantList>{{VisibleRows - 1}, {1 - VisibleRows}}));
 }
 
 void MSFlexGrid_test::theGridItselfNeverScrolls()
@@ -229,20 +276,6 @@ void MSFlexGrid_test::theGridItselfNeverScrolls()
     QCOMPARE(page.grid.verticalScrollBar()->value(), 0);
     QCOMPARE(page.grid.rowViewportPosition(0), 0);
     QCOMPARE(page.grid.columnViewportPosition(0), 0);
-}
-
-void MSFlexGrid_test::withoutAScrollBarKeysAndWheelDoNothing()
-{
-    MSFlexGrid grid;
-    grid.setSize(Rows, 4);
-    grid.setVisibleRows(VisibleRows);
-    grid.show();
-    grid.setCurrent(3, 1);
-    turnWheel(*grid.viewport(), -1);
-    QTest::keyClick(&grid, Qt::Key_Down);
-    QTest::keyClick(&grid, Qt::Key_End);
-    QCOMPARE(grid.Row(), 3);
-    QCOMPARE(grid.rowViewportPosition(0), 0);
 }
 
 void MSFlexGrid_test::spaceClicksTheCurrentCellAndEnterIsLeftToTheWindow()
