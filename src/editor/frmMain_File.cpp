@@ -7,6 +7,8 @@
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 
+#include <utility>
+
 using namespace Module1;
 
 namespace {
@@ -57,13 +59,19 @@ void frmMain::mnuSaveAs_Click()
     m_fileDialog.DefaultExt = QStringLiteral("lwx");
     m_fileDialog.InitDir.clear();
     m_fileDialog.OverwritePrompt = true;
-    if (!m_fileDialog.ShowSave(this))
+    // The list's own name is offered, not what was imported or written as text last.
+    const QString lastUsed = std::exchange(m_fileDialog.FileName, gFileName);
+    if (!m_fileDialog.ShowSave(this)) {
+        m_fileDialog.FileName = lastUsed;
         return;
+    }
     FileNameKeeper keeper;
     gFileName = m_fileDialog.FileName;
     gFileTitle = m_fileDialog.FileTitle;
     gVocabList().SaveFile();
     keeper.done();
+    // An empty list writes no file: opening one by that name has to read it.
+    gOpenedFile = gVocabList().NumWords() > 0 ? gFileName : QString();
     m_ui->mnuSave->setEnabled(false);
     gChanged = false;
     showCaption();

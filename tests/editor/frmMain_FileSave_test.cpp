@@ -107,7 +107,7 @@ private Q_SLOTS:
         const QByteArray written = listBytes(m_entries);
         QCOMPARE(readFile(m_other), written + listBytes(longer).mid(written.size()));
 
-        openList(*m_main, m_path); // not read again: it is the one that was opened
+        openList(*m_main, m_path);
         openList(*m_main, m_other);
         QCOMPARE(openEntries(), m_entries);
     }
@@ -203,7 +203,7 @@ private Q_SLOTS:
         const QString cows = m_main->path(QStringLiteral("cows.lwx"));
         QCOMPARE(gFileName, cows);
         QCOMPARE(gFileTitle, QStringLiteral("cows.lwx"));
-        QCOMPARE(gOpenedFile, m_path);
+        QCOMPARE(gOpenedFile, cows);
         QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("cows.lwx"));
         QVERIFY(!gChanged);
         QVERIFY(gSaved);
@@ -215,6 +215,95 @@ private Q_SLOTS:
         m_main->answers.expectMsgBox(cows + QStringLiteral(" has been saved."));
         m_main->choose("mnuSave");
         QCOMPARE(readFile(cows), listBytes(withCow() + Entries{addedEntry(QStringLiteral("dog"))}));
+    }
+
+    void theFileOfBeforeIsReadAgainAfterSaveAs()
+    {
+        openList(*m_main, m_path);
+        addEntry(*m_main, QStringLiteral("cow"));
+        m_main->answers.chooseFile(m_other);
+        m_main->choose("mnuSaveAs");
+        openList(*m_main, m_path);
+        QCOMPARE(openEntries(), m_entries);
+        addEntry(*m_main, QStringLiteral("dog"));
+        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->choose("mnuSave");
+        QCOMPARE(readFile(m_path),
+                 listBytes(m_entries + Entries{addedEntry(QStringLiteral("dog"))}));
+        QCOMPARE(readFile(m_other), listBytes(withCow()));
+    }
+
+    void theFileOfASaveAsIsTheOneThatIsOpen()
+    {
+        openList(*m_main, m_path);
+        m_main->answers.chooseFile(m_other);
+        m_main->choose("mnuSaveAs");
+        addEntry(*m_main, QStringLiteral("cow"));
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->answers.chooseFile(m_other); // not read again
+        m_main->choose("mnuOpen");
+        QCOMPARE(openEntries(), withCow());
+    }
+
+    void anEmptyListSavedUnderAFilesNameIsNotThatFile()
+    {
+        // Nothing is written, so that opening the file has to read it.
+        m_main->answers.chooseFile(m_path);
+        m_main->answers.answerOverwrite(QStringLiteral("animals.lwx"), QMessageBox::Yes);
+        m_main->choose("mnuSaveAs");
+        QCOMPARE(gFileName, m_path);
+        openList(*m_main, m_path);
+        QCOMPARE(openEntries(), m_entries);
+    }
+
+    void saveAsOffersTheListsOwnName_data()
+    {
+        QTest::addColumn<bool>("titled");
+        QTest::newRow("titled") << true;
+        QTest::newRow("untitled") << false;
+    }
+
+    void saveAsOffersTheListsOwnName()
+    {
+        QFETCH(bool, titled);
+        if (titled)
+            openList(*m_main, m_path);
+        else
+            m_main->fill(2);
+        const auto expectOffer = [&] {
+            m_main->answers.cancelFileDialog([titled](QFileDialog &dialog) {
+                QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(),
+                         titled ? QStringLiteral("animals.lwx") : QString());
+            });
+            m_main->choose("mnuSaveAs");
+        };
+        expectOffer();
+
+        const QString text = m_main->path(QStringLiteral("words.txt"));
+        m_main->answers.chooseFile(text);
+        m_main->choose("mnuCreateTextFile");
+        expectOffer();
+
+        writeFile(m_other, listBytes(someEntries(1, QStringLiteral("imported"))));
+        m_main->answers.chooseFile(m_other);
+        m_main->answers.expectMsgBox(QStringLiteral("1 words imported"));
+        m_main->choose("mnuImport");
+        expectOffer();
+    }
+
+    void aCancelledSaveAsLeavesTheTextFilesNameOnOffer()
+    {
+        openList(*m_main, m_path);
+        m_main->answers.chooseFile(m_main->path(QStringLiteral("words.txt")));
+        m_main->choose("mnuCreateTextFile");
+        m_main->answers.cancelFileDialog();
+        m_main->choose("mnuSaveAs");
+        m_main->answers.cancelFileDialog([](QFileDialog &dialog) {
+            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(),
+                     QStringLiteral("words.txt"));
+        });
+        m_main->choose("mnuCreateTextFile");
     }
 
     void saveAsOfAnEmptyListWritesNoFile()
