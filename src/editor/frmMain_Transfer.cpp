@@ -9,6 +9,7 @@
 #include "platform/Paths.h"
 #include "platform/ProgressShown.h"
 #include "runtime/BinaryFile.h"
+#include "runtime/SameFile.h"
 #include "transfer/Import.h"
 #include "transfer/TextFile.h"
 #include "transfer/dlgExport.h"
@@ -85,6 +86,12 @@ void frmMain::mnuCreateTextFile_Click()
     gSaved = gSaved && chosen; // a write that fails leaves it as it is
     if (!chosen)
         return;
+    for (const QString &listFile : {gOpenedFile, gFileName}) {
+        if (isSameFile(m_fileDialog.FileName, listFile)) {
+            MsgBox(listFile + QStringLiteral(" file is currently in use."));
+            return;
+        }
+    }
     BinaryFile::overwrite(m_fileDialog.FileName, textOfList(gVocabList()));
     showCaption();
     gSaved = true;

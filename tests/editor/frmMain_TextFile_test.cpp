@@ -10,6 +10,7 @@
 #include <QLineEdit>
 
 #include <csignal>
+#include <filesystem>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -156,6 +157,60 @@ private Q_SLOTS:
         QVERIFY(gSaved);
     }
 
+    void theOpenListIsNeverTurnedIntoText_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"animals.lwx", "link.txt", "linked/animals.lwx", "twin.txt"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void theOpenListIsNeverTurnedIntoText()
+    {
+        QFETCH(QString, name);
+        open(someEntries(5, u"animal"_s));
+        QVERIFY(QFile::link(m_list, m_main->path(u"link.txt"_s)));
+        QVERIFY(QFile::link(QFileInfo(m_list).path(), m_main->path(u"linked"_s)));
+        std::filesystem::create_hard_link(m_list.toStdString(),
+                                          m_main->path(u"twin.txt"_s).toStdString());
+        addEntry(*m_main, u"cow"_s);
+        gSaved = true;
+        const OpenList before(*m_main);
+        m_main->answers.chooseFile(m_main->path(name));
+        m_main->answers.answerOverwrite(QFileInfo(name).fileName(), QMessageBox::Yes);
+        expectInUse();
+        m_main->choose("mnuCreateTextFile");
+        QVERIFY(m_main->answers.allSeen());
+        QCOMPARE(readFile(m_list), listBytes(someEntries(5, u"animal"_s)));
+        QVERIFY(OpenList(*m_main) == before);
+        QVERIFY(!gSaved);
+    }
+
+    void theNameOfTheListIsRefusedAlsoWhereNoFileIsThere()
+    {
+        m_main->fill(2);
+        gFileName = m_list; // as Save As leaves it for an empty list
+        m_main->answers.chooseFile(m_list);
+        expectInUse();
+        m_main->choose("mnuCreateTextFile");
+        QVERIFY(m_main->answers.allSeen());
+        QVERIFY(!QFile::exists(m_list));
+    }
+
+    void theLoadedFileIsRefusedAlsoAfterACancelledOpen()
+    {
+        open(someEntries(2, u"animal"_s));
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.cancelFileDialog();
+        m_main->choose("mnuOpen");
+        QCOMPARE(gFileName, QString());
+        m_main->answers.chooseFile(m_list);
+        m_main->answers.answerOverwrite(u"animals.lwx"_s, QMessageBox::Yes);
+        expectInUse();
+        m_main->choose("mnuCreateTextFile");
+        QVERIFY(m_main->answers.allSeen());
+        QCOMPARE(readFile(m_list), listBytes(someEntries(2, u"animal"_s)));
+    }
+
     void bytesBehindTheNewEndOfTheFileStay()
     {
         open({{u"abc"_s, u"de"_s, u"f"_s}});
@@ -295,6 +350,14 @@ private:
         return [name](QFileDialog &dialog) {
             QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), name);
         };
+    }
+
+    void expectInUse()
+    {
+        m_main->answers.expectMsgBox(
+            m_list + u" file is currently in use."_s, QMessageBox::Ok, [](QMessageBox &box) {
+                QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+            });
     }
 
     void expectReport(const QString &start)

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "runtime/SameFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <filesystem>
+
+class SameFile_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("lists")));
+        QVERIFY(QFile::link(path(QStringLiteral("lists")), path(QStringLiteral("linked folder"))));
+        for (const QString &name : {QStringLiteral("lists/a.lwx"), QStringLiteral("lists/b.lwx")}) {
+            QFile file(path(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QVERIFY(QFile::link(path(QStringLiteral("lists/a.lwx")), path(QStringLiteral("link"))));
+        std::filesystem::create_hard_link(path(QStringLiteral("lists/a.lwx")).toStdString(),
+                                          path(QStringLiteral("twin")).toStdString());
+    }
+
+    void isTheSameFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("other");
+        QTest::addColumn<bool>("same");
+        const auto row = [](const char *what, const char *name, const char *other, bool same) {
+            QTest::newRow(what) << QString::fromLatin1(name) << QString::fromLatin1(other) << same;
+        };
+        row("itself", "lists/a.lwx", "lists/a.lwx", true);
+        row("another file", "lists/a.lwx", "lists/b.lwx", false);
+        row("through another folder", "lists/a.lwx", "lists/../lists/a.lwx", true);
+        row("by a symbolic link", "lists/a.lwx", "link", true);
+        row("in a linked folder", "lists/a.lwx", "linked folder/a.lwx", true);
+        row("by a hard link", "lists/a.lwx", "twin", true);
+        row("a new file", "lists/new.lwx", "lists/new.lwx", true);
+        row("a new file in a linked folder", "lists/new.lwx", "linked folder/new.lwx", true);
+        row("another new file", "lists/new.lwx", "lists/newer.lwx", false);
+        row("a new file of that name elsewhere", "lists/new.lwx", "new.lwx", false);
+    }
+
+    void isTheSameFile()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, other);
+        QTEST(isSameFile(path(name), path(other)), "same");
+        QTEST(isSameFile(path(other), path(name)), "same");
+    }
+
+    void noNameIsNoFile()
+    {
+        QVERIFY(!isSameFile({}, {}));
+        QVERIFY(!isSameFile(path(QStringLiteral("lists/a.lwx")), {}));
+        QVERIFY(!isSameFile({}, path(QStringLiteral("lists/a.lwx"))));
+    }
+
+private:
+    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_APPLESS_MAIN(SameFile_test)
+#include "SameFile_test.moc"
