@@ -112,7 +112,6 @@ void frmMain::Form_Load()
     gFileName.clear();
     gOpenedFile.clear();
     m_shownEntry = 0;
-    m_searching = false;
 
     MSFlexGrid &grid = *m_ui->MSFlexGrid1;
     grid.setSize(GridRows, 4);

@@ -65,6 +65,7 @@ private:
     void addWord();
     void updateWord();
     void showEntry();
+    void showHit(Integer hit);
     void ClearEntryBoxes();
     void DisableEntryBoxes();
     void EnableEntryBoxes();
@@ -126,6 +127,5 @@ private:
     std::unique_ptr<SystemPrinter> m_printer;
     std::unique_ptr<UnsavedCopy> m_unsavedCopy;
 
-    Integer m_shownEntry;     // position of the entry in the boxes, picked or found; 0 = none
-    bool m_searching = false; // the next page fill is a search's, which marks its own row
+    Integer m_shownEntry; // position of the entry in the boxes, picked or found; 0 = none
 };

@@ -136,16 +136,21 @@ void frmMain::cmdSearch_Click()
     Integer hit = list.SearchWord(wanted);
     if (hit == 0)
         hit = list.SearchWord(wanted); // a miss starts over, so this one finds the first match
-    if (hit == 0) {
+    if (hit == 0)
         MsgBox(wanted + QStringLiteral(" is not in the list."));
-        return;
-    }
+    else
+        showHit(hit);
+    m_ui->txtWord->selectAll(); // the next word to look for can be typed
+}
+
+void frmMain::showHit(Integer hit)
+{
     UnhighlightRow();
-    const bool onePage = list.NumWords() < 23;
-    m_searching = true;
+    const bool onePage = gVocabList().NumWords() < 23;
+    m_shownEntry = 0; // the hit's row is marked, no other one
     scrollTo(onePage ? Integer(1) : hit);
     markRow(onePage ? hit : Integer(1));
-    list.CurrentWord(hit);
+    gVocabList().CurrentWord(hit);
     showEntry();
     m_ui->cmdDelete->setEnabled(true);
 }

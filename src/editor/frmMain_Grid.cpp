@@ -91,10 +91,6 @@ void frmMain::VScroll1_Change()
 void frmMain::FillGrid(Integer top)
 {
     cVocabList &list = gVocabList();
-    if (m_searching)
-        m_shownEntry = 0;
-    m_searching = false;
-
     const Integer count = list.NumWords();
     gLastItem = count > 0 ? std::min(top + LargeChange, count) : Integer(1);
     top = std::max(top, Integer(1));

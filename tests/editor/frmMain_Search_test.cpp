@@ -5,6 +5,7 @@
 #include "support/FormTest.h"
 #include "support/MainWindow.h"
 
+#include <QLineEdit>
 #include <QScrollBar>
 
 using namespace Module1;
@@ -45,6 +46,8 @@ private Q_SLOTS:
     void aMissIsToldAndChangesNothing_data();
     void aMissIsToldAndChangesNothing();
     void aMissAfterAHitKeepsTheHit();
+    void theNextWordCanBeTypedAfterASearch_data();
+    void theNextWordCanBeTypedAfterASearch();
     void anUpdateStartsTheSearchAtTheBeginning();
     void enterInTheWordBoxSearches();
     void aFoundEntryStaysCurrentWhileThePageScrolls();
@@ -234,6 +237,32 @@ void frmMain_Search_test::aMissAfterAHitKeepsTheHit()
     QVERIFY(main.answers.allSeen());
     QCOMPARE(gVocabList().CurrentWord(), 7);
     QCOMPARE(main.markedRows(), QList<int>{1});
+}
+
+void frmMain_Search_test::theNextWordCanBeTypedAfterASearch_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::newRow("hit") << QStringLiteral("word 4");
+    QTest::newRow("miss") << QStringLiteral("cat");
+}
+
+void frmMain_Search_test::theNextWordCanBeTypedAfterASearch()
+{
+    QFETCH(QString, word);
+    MainWindow main;
+    main.fill(5);
+    if (!word.startsWith(QStringLiteral("word")))
+        main.answers.expectMsgBox(missing(word));
+    search(main, word);
+    QVERIFY(main.answers.allSeen());
+    auto &box = main.control<QLineEdit>("txtWord");
+    QTRY_VERIFY(box.hasFocus());
+    QCOMPARE(box.selectedText(), word);
+    QTest::keyClicks(&box, QStringLiteral("word 2"));
+    Controls::press(Qt::Key_Return);
+    QCOMPARE(main.text("txtWord"), QStringLiteral("word 2"));
+    QCOMPARE(main.text("txtDefinition"), QStringLiteral("definition 2"));
+    QCOMPARE(box.selectedText(), QStringLiteral("word 2"));
 }
 
 void frmMain_Search_test::anUpdateStartsTheSearchAtTheBeginning()
