@@ -178,7 +178,7 @@ void frmMain::showEntry()
 void frmMain::ClearEntryBoxes()
 {
     m_shownEntry = 0;
-    m_ui->txtWord->clear();
+    m_ui->txtWord->setText({}); // clear() could be undone
     m_ui->txtDefinition->setText({});
     m_ui->txtSentence->setText({});
 }

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void addStaysReadyForTheNextWord();
     void addShowsThePageThatEndsWithTheNewEntry_data();
     void addShowsThePageThatEndsWithTheNewEntry();
+    void inAnEmptiedBoxUndoBringsNothingBack_data();
+    void inAnEmptiedBoxUndoBringsNothingBack();
     void addWithoutAWordChangesNothing();
     void addWithoutAWordEnablesSaveForEarlierChanges();
     void aWordOfBlanksCounts();
@@ -192,6 +194,29 @@ void frmMain_Entry_test::addShowsThePageThatEndsWithTheNewEntry()
         QCOMPARE(main.row(row),
                  (QStringList{QString::number(top + row - 1), QString(), QString(), QString()}));
     QCOMPARE(main.markedRows(), QList<int>{newRow + 1});
+}
+
+void frmMain_Entry_test::inAnEmptiedBoxUndoBringsNothingBack_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("Add") << QByteArrayLiteral("cmdAdd");
+    QTest::newRow("Abort and New Word") << QByteArrayLiteral("cmdAbort");
+}
+
+void frmMain_Entry_test::inAnEmptiedBoxUndoBringsNothingBack()
+{
+    QFETCH(QByteArray, button);
+    MainWindow main;
+    main.click("cmdNewWord");
+    main.typeEntry(QStringLiteral("cat"), QStringLiteral("animal"), QStringLiteral("The cat."));
+    main.click(button.constData());
+    if (button == "cmdAbort")
+        main.click("cmdNewWord");
+    for (const char *box : {"txtWord", "txtDefinition", "txtSentence"}) {
+        main.control<QWidget>(box).setFocus();
+        Controls::press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(main.text(box), QString());
+    }
 }
 
 void frmMain_Entry_test::addWithoutAWordChangesNothing()
