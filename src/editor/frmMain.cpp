@@ -249,9 +249,10 @@ void frmMain::placeEntryArea(const MainLayout &layout, int height)
 // NewList by File > New; Search leaves the entry boxes as they are but for the word's.
 void frmMain::showMode(Mode mode)
 {
+    m_mode = mode;
     const bool add = mode == Mode::NewWord || mode == Mode::Editing;
     m_ui->cmdAdd->setVisible(add);
-    m_ui->cmdAdd->setEnabled(add);
+    m_ui->cmdAdd->setEnabled(add || mode == Mode::NewList);
     m_ui->cmdAdd->setText(mode == Mode::Editing ? QStringLiteral("&Update")
                                                 : QStringLiteral("&Add"));
     m_ui->cmdNewWord->setVisible(!add);
@@ -267,9 +268,6 @@ void frmMain::showMode(Mode mode)
         m_defaultButton.set(m_ui->cmdNewWord);
         break;
     case Mode::NewList:
-        EnableEntryBoxes();
-        m_defaultButton.set(nullptr); // New Word would empty what is typed
-        break;
     case Mode::NewWord:
     case Mode::Editing:
         EnableEntryBoxes();

@@ -127,5 +127,6 @@ private:
     std::unique_ptr<SystemPrinter> m_printer;
     std::unique_ptr<UnsavedCopy> m_unsavedCopy;
 
+    Mode m_mode = Mode::Idle;
     Integer m_shownEntry; // position of the entry in the boxes, picked or found; 0 = none
 };

@@ -11,7 +11,9 @@ using namespace Module1;
 
 void frmMain::cmdNewWord_Click()
 {
-    ClearEntryBoxes();
+    // After File > New the boxes may hold the first word already.
+    if (m_mode != Mode::NewList)
+        ClearEntryBoxes();
     gWordSelected = false;
     showMode(Mode::NewWord);
     const Integer count = gVocabList().NumWords();
@@ -65,6 +67,7 @@ void frmMain::addWord()
     }
     list.AddVocab(word, m_ui->txtDefinition->text(), m_ui->txtSentence->text());
     gChanged = true;
+    showMode(Mode::NewWord);
 
     const Integer count = list.NumWords();
     const Integer top = count < 23 ? Integer(1) : count - 21;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/OpenList.h"
+#include "support/EditorModes.h"
 #include "support/FormTest.h"
 
 #include <QDir>
@@ -155,6 +156,79 @@ private Q_SLOTS:
         QVERIFY(m_main->control<QPushButton>("cmdNewWord").isEnabled());
     }
 
+    void enterAddsTheWordThatIsTypedIntoTheNewList_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        for (const char *box : {"txtWord", "txtDefinition", "txtSentence"}) {
+            QTest::addRow("%s Return", box) << Qt::Key_Return;
+            QTest::addRow("%s Enter", box) << Qt::Key_Enter;
+        }
+    }
+
+    void enterAddsTheWordThatIsTypedIntoTheNewList()
+    {
+        QFETCH(Qt::Key, key);
+        startNewList();
+        m_main->typeEntry(QStringLiteral(" cat "), QStringLiteral("animal"),
+                          QStringLiteral("The cat."));
+        const QByteArray box = QByteArray(QTest::currentDataTag()).split(' ').constFirst();
+        m_main->control<QWidget>(box).setFocus();
+        Controls::press(key);
+        const Entries cat{
+            {QStringLiteral(" cat "), QStringLiteral("animal"), QStringLiteral("The cat.")}};
+        QCOMPARE(openEntries(), cat);
+        QVERIFY(gChanged);
+        QVERIFY(m_main->action("mnuSave").isEnabled());
+        QCOMPARE(m_main->row(1), QStringList{QStringLiteral("1")} + cat.constFirst());
+        checkReadyForTheNextWord(2);
+
+        m_main->type("txtWord", QStringLiteral("dog"));
+        Controls::press(key);
+        QCOMPARE(openEntries(), cat + typedWord(QStringLiteral("dog")));
+        checkReadyForTheNextWord(3);
+    }
+
+    void enterWithoutAWordAddsNothingToTheNewList()
+    {
+        startNewList();
+        m_main->type("txtDefinition", QStringLiteral("animal"));
+        Controls::press(Qt::Key_Return);
+        QCOMPARE(gVocabList().NumWords().toInt(), 0);
+        QVERIFY(!gChanged);
+        QCOMPARE(m_main->text("txtDefinition"), QStringLiteral("animal"));
+        QCOMPARE(m_main->window().focusWidget(), &m_main->control<QWidget>("txtWord"));
+    }
+
+    void newWordKeepsWhatIsTypedIntoTheNewList()
+    {
+        startNewList();
+        m_main->typeEntry(QStringLiteral("cat"), QStringLiteral("animal"),
+                          QStringLiteral("The cat."));
+        m_main->click("cmdNewWord");
+        QCOMPARE(m_main->look(), EditorModes::newWord());
+        QCOMPARE(m_main->text("txtWord"), QStringLiteral("cat"));
+        QCOMPARE(m_main->text("txtDefinition"), QStringLiteral("animal"));
+        QCOMPARE(m_main->text("txtSentence"), QStringLiteral("The cat."));
+        m_main->click("cmdAdd");
+        QCOMPARE(openEntries().size(), 1);
+        // From then on it opens empty boxes again.
+        m_main->click("cmdAbort");
+        m_main->click("cmdNewWord");
+        QCOMPARE(m_main->text("txtWord"), QString());
+    }
+
+    void anImportIntoTheNewListKeepsWhatIsTyped()
+    {
+        startNewList();
+        m_main->type("txtWord", QStringLiteral("cat"));
+        m_main->answers.chooseFile(m_path);
+        m_main->answers.expectMsgBox(QStringLiteral("5 words imported"));
+        m_main->choose("mnuImport");
+        QTest::keyClick(&m_main->control<QWidget>("txtWord"), Qt::Key_Return);
+        QCOMPARE(openEntries(), m_entries + typedWord(QStringLiteral("cat")));
+        checkReadyForTheNextWord(7);
+    }
+
     void theNewListAsksForANameWhenItIsSaved()
     {
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
@@ -186,10 +260,29 @@ private:
         });
     }
 
-    void startUntitledList()
+    static Entries typedWord(const QString &word) { return {{word, QString(), QString()}}; }
+
+    void startNewList()
     {
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->choose("mnuNew");
+        // Keys need the active window, which the question has just been.
+        m_main->window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&m_main->window()));
+    }
+
+    void checkReadyForTheNextWord(int row)
+    {
+        QCOMPARE(m_main->look(), EditorModes::newWord());
+        QVERIFY(gNewWord);
+        QCOMPARE(m_main->text("txtWord"), QString());
+        QCOMPARE(m_main->window().focusWidget(), &m_main->control<QWidget>("txtWord"));
+        QCOMPARE(m_main->markedRows(), QList<int>{row});
+    }
+
+    void startUntitledList()
+    {
+        startNewList();
         addEntry(*m_main, QStringLiteral("cow"));
     }
 
