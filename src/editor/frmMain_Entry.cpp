@@ -82,11 +82,8 @@ void frmMain::addWord()
 void frmMain::cmdAbort_Click()
 {
     showMode(Mode::Idle);
-    MSFlexGrid &grid = *m_ui->MSFlexGrid1;
-    if (grid.Row() > 1)
-        grid.setCurrent(grid.Row() - 1, 1);
     ClearEntryBoxes();
-    grid.setFocus();
+    m_ui->MSFlexGrid1->setFocus();
 }
 
 void frmMain::cmdDelete_Click()

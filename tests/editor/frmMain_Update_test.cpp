@@ -38,7 +38,7 @@ private Q_SLOTS:
     void abortLeavesTheEditorIdle_data();
     void abortLeavesTheEditorIdle();
     void abortLeavesTheModesToTheNextCommand();
-    void abortStepsTheGridRowBack();
+    void abortLeavesTheCurrentRowWhereItIs();
     void aFailingHandlerIsReportedAndTheProgramGoesOn();
 };
 
@@ -173,17 +173,19 @@ void frmMain_Update_test::abortLeavesTheModesToTheNextCommand()
     QVERIFY(gWordSelected);
 }
 
-void frmMain_Update_test::abortStepsTheGridRowBack()
+void frmMain_Update_test::abortLeavesTheCurrentRowWhereItIs()
 {
     MainWindow main;
     main.fill(5);
-    main.clickCell(4, 1);
-    QCOMPARE(main.grid().Row(), 4);
-    main.click("cmdAbort");
-    QCOMPARE(main.grid().Row(), 3);
-    main.clickCell(1, 1);
-    main.click("cmdAbort");
-    QVERIFY(main.grid().Row() <= 1);
+    for (const int row : {4, 1}) {
+        main.clickCell(row, 2);
+        QCOMPARE(main.grid().Row(), row);
+        Controls::press(Qt::Key_Escape);
+        QCOMPARE(main.grid().Row(), row);
+        Controls::press(Qt::Key_Space);
+        QCOMPARE(main.text("txtWord"), QStringLiteral("word %1").arg(row));
+        QCOMPARE(main.look(), EditorModes::editing());
+    }
 }
 
 void frmMain_Update_test::aFailingHandlerIsReportedAndTheProgramGoesOn()
