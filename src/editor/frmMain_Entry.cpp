@@ -7,6 +7,8 @@
 #include "platform/MsgBox.h"
 #include "runtime/Blanks.h"
 
+#include <algorithm>
+
 using namespace Module1;
 
 void frmMain::cmdNewWord_Click()
@@ -100,19 +102,20 @@ void frmMain::cmdDelete_Click()
                MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo) == MsgBoxAnswer::No)
         return;
     list.DeleteVocab();
-    ClearEntryBoxes();
-    if (list.NumWords() > 0)
-        FillGrid(top);
-    else
-        emptyGrid();
-    NumberRows(top);
-    if (top > list.NumWords() && list.NumWords() > 0)
-        scrollTo(list.NumWords()); // the page would be an empty one behind the list
     gChanged = true;
+    ClearEntryBoxes();
     gNewWord = gWordSelected = false;
     m_ui->mnuSave->setEnabled(true);
     showMode(Mode::Idle);
     m_ui->MSFlexGrid1->setFocus();
+    const Integer count = list.NumWords();
+    if (count == 0)
+        emptyGrid();
+    else if (top > count)
+        scrollTo(count); // the page would be an empty one behind the list
+    else
+        FillGrid(top);
+    NumberRows(count > 0 ? std::min(top, count) : top);
 }
 
 void frmMain::mnuDeleteWord_Click()

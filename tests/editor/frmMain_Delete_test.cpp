@@ -229,6 +229,9 @@ void frmMain_Delete_test::deletingTheEntryOfTheLastPageShowsTheOneBefore()
     QCOMPARE(main.answers.seen(), 1);
     QCOMPARE(gVocabList().NumWords(), 39);
     QCOMPARE(main.row(1), EditorModes::filledRow(39));
+    for (int row = 2; row <= 23; ++row)
+        QCOMPARE(main.row(row),
+                 (QStringList{QString::number(38 + row), QString(), QString(), QString()}));
     QCOMPARE(main.bar().value(), 39);
     QCOMPARE(main.markedRows(), QList<int>());
 }
