@@ -70,6 +70,7 @@ private:
     void DisableEntryBoxes();
     void EnableEntryBoxes();
     void returnToShownEntry();
+    void letShownEntryGo();
     [[nodiscard]] bool isCurrentWordAnEntry() const;
 
     // frmMain_Grid.cpp: the grid and its scroll bar

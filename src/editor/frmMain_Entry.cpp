@@ -209,6 +209,14 @@ void frmMain::returnToShownEntry()
         gVocabList().CurrentWord(m_shownEntry);
 }
 
+void frmMain::letShownEntryGo()
+{
+    if (m_shownEntry == 0)
+        return;
+    UnhighlightRow();
+    cmdAbort_Click();
+}
+
 bool frmMain::isCurrentWordAnEntry() const
 {
     const Integer position = gVocabList().CurrentWord();

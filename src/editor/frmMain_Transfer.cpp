@@ -14,6 +14,8 @@
 #include "transfer/TextFile.h"
 #include "transfer/dlgExport.h"
 
+#include <algorithm>
+
 using namespace Module1;
 
 void frmMain::mnuImport_Click()
@@ -27,16 +29,15 @@ void frmMain::mnuImport_Click()
     m_fileDialog.FileName.clear();
     if (!m_fileDialog.ShowOpen(this))
         return;
-    // Words may move and go while they come in, so that a picked entry is let go first.
-    if (m_shownEntry != 0)
-        cmdAbort_Click();
     const QString openList = gFileName;
     gFileName = m_fileDialog.FileName;
     runGuarded([this] { importWords(gFileName); });
     gFileName = openList;
-    FillGrid(remembered);
+    const Integer count = gVocabList().NumWords();
+    // Behind the list's end there is no page to show.
+    FillGrid(remembered <= count ? remembered : std::min(FirstShownItem(), count));
     gVocabList().CurrentWord(1);
-    m_ui->MSFlexGrid1->setCurrent(1, 1);
+    returnToShownEntry();
 }
 
 void frmMain::refresh()
@@ -52,6 +53,8 @@ void frmMain::importWords(const QString &path)
     Import import(this);
     ProgressShown progress(this);
     connect(&import, &Import::refresh, this, guarded(this, &frmMain::refresh));
+    // The entries behind a deleted one move up.
+    connect(&import, &Import::deleted, this, guarded(this, &frmMain::letShownEntryGo));
     connect(&import, &Import::changed, this, [this] { m_ui->mnuSave->setEnabled(true); });
     connect(&import, &Import::progress, &progress, &ProgressShown::show);
     connect(&import, &Import::paused, &progress, &ProgressShown::pause);

@@ -152,6 +152,7 @@ void Import::askAboutWord()
     Q_EMIT paused();
     dlgWordExist dialog(qobject_cast<QWidget *>(parent()));
     connect(&dialog, &dlgWordExist::refresh, this, &Import::refresh);
+    connect(&dialog, &dlgWordExist::deleted, this, &Import::deleted);
     dialog.exec();
     Q_EMIT paused();
 }

@@ -24,6 +24,8 @@ public:
 Q_SIGNALS:
     // The main window should be brought up to date.
     void refresh();
+    // The person has deleted an entry of the open list.
+    void deleted();
     // A word list was read and there are changes to save.
     void changed();
     // Before and after a question or message to the person.

@@ -135,6 +135,7 @@ void dlgWordExist::cmdDelete_Click()
                MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo) == MsgBoxAnswer::No)
         return;
     gVocabList().DeleteVocab();
+    Q_EMIT deleted();
     m_ui->txtCurWord->clear();
     m_ui->txtCurDef->setText({});
     m_ui->txtCurSen->setText({});

@@ -23,6 +23,8 @@ public:
 Q_SIGNALS:
     // The main window should be brought up to date.
     void refresh();
+    // The existing entry is gone.
+    void deleted();
 
 protected:
     void Form_Load() override;

@@ -45,6 +45,10 @@ public:
     }
 
     // What the person meets once the file is chosen, in this order.
+    void expectYesNo(const QString &text, QMessageBox::StandardButton answer)
+    {
+        m_after.emplace_back([this, text, answer] { main.answers.expectMsgBox(text, answer); });
+    }
     void expectMsgBox(const QString &text, std::function<void(QMessageBox &)> inspect = {})
     {
         m_after.emplace_back([this, text, inspect = std::move(inspect)] {

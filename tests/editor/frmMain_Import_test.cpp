@@ -134,37 +134,140 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
     }
 
-    void aPickedEntryIsLetGoBeforeTheImport_data()
+    void aPickedEntryStaysWithWhatIsTyped_data()
+    {
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<QString>("answer"); // to a question, where one comes
+        QTest::addColumn<int>("cameIn");
+        QTest::newRow("new words")
+            << QStringList{QStringLiteral("cat"), QStringLiteral("dog")} << QString() << 2;
+        QTest::newRow("nothing") << QStringList() << QString() << 0;
+        QTest::newRow("a word skipped")
+            << QStringList{QStringLiteral("WORD 5")} << QStringLiteral("cmdNo") << 0;
+        QTest::newRow("a word twice")
+            << QStringList{QStringLiteral("WORD 5")} << QStringLiteral("cmdYes") << 1;
+    }
+
+    void aPickedEntryStaysWithWhatIsTyped()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(QString, answer);
+        QFETCH(int, cameIn);
+        MainWindow &main = m_command->main;
+        main.fill(5);
+        main.clickCell(3, 1);
+        main.type("txtDefinition", QStringLiteral("typed so far"));
+        if (!answer.isEmpty())
+            m_command->expectQuestion(answer);
+        m_command->expectMsgBox(Imported.arg(cameIn));
+        m_command->importList(entries);
+        QCOMPARE(main.look(), EditorModes::editing());
+        QCOMPARE(main.text("txtWord"), QStringLiteral("word 3"));
+        QCOMPARE(main.text("txtDefinition"), QStringLiteral("typed so far"));
+        QCOMPARE(gVocabList().CurrentWord().toInt(), 3);
+        // The page starts at the entry that is picked.
+        QCOMPARE(main.row(1), EditorModes::filledRow(3));
+        QCOMPARE(main.markedRows(), QList<int>{1});
+
+        main.click("cmdAdd"); // Update
+        QCOMPARE(gVocabList().NumWords().toInt(), 5 + cameIn);
+        QCOMPARE(gVocabList().entry(3).Definition, QStringLiteral("typed so far"));
+    }
+
+    void aFoundEntryStays()
+    {
+        MainWindow &main = m_command->main;
+        main.fill(5);
+        search(QStringLiteral("word 3"));
+        m_command->expectMsgBox(Imported.arg(1));
+        m_command->importList({QStringLiteral("cat")});
+        QCOMPARE(main.look(), EditorModes::found());
+        QCOMPARE(main.text("txtSentence"), QStringLiteral("sentence 3"));
+        QCOMPARE(main.markedRows(), QList<int>{1});
+        main.answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'word 3' ?"),
+                                  QMessageBox::Yes);
+        main.click("cmdDelete");
+        QCOMPARE(ImportTools::openEntries().mid(2, 2),
+                 (QStringList{QStringLiteral("word 4|definition 4|sentence 4"),
+                              QStringLiteral("word 5|definition 5|sentence 5")}));
+    }
+
+    void anUpdateInTheQuestionLeavesThePickedEntry()
+    {
+        MainWindow &main = m_command->main;
+        main.fill(5);
+        main.clickCell(3, 1);
+        m_command->expectQuestion(QStringLiteral("cmdNo"), [](QDialog &dialog) {
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdAllowModify"));
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdUpdate"));
+        });
+        m_command->expectMsgBox(
+            QStringLiteral("Are you sure you want to change the content of this word?"));
+        m_command->expectMsgBox(Imported.arg(0));
+        m_command->importList({QStringLiteral("WORD 2")});
+        QCOMPARE(main.look(), EditorModes::editing());
+        QCOMPARE(main.text("txtWord"), QStringLiteral("word 3"));
+        QCOMPARE(main.markedRows(), QList<int>{1});
+    }
+
+    void aPickedEntryIsLetGoWhereTheQuestionDeletedOne_data()
     {
         QTest::addColumn<bool>("bySearch");
         QTest::newRow("clicked in the grid") << false;
         QTest::newRow("found") << true;
     }
 
-    void aPickedEntryIsLetGoBeforeTheImport()
+    void aPickedEntryIsLetGoWhereTheQuestionDeletedOne()
     {
         QFETCH(bool, bySearch);
         MainWindow &main = m_command->main;
         main.fill(5);
-        if (bySearch) {
-            main.click("cmdSearch");
-            main.type("txtWord", QStringLiteral("word 3"));
-            main.click("cmdSearch");
-        } else {
+        if (bySearch)
+            search(QStringLiteral("word 3"));
+        else
             main.clickCell(3, 1);
-        }
         QCOMPARE(main.markedRows(), QList<int>{3});
-        m_command->expectQuestion(QStringLiteral("cmdNo"), [&main](QDialog &) {
+        m_command->expectQuestion(QStringLiteral("cmdNo"), [&main](QDialog &dialog) {
+            QVERIFY(main.look() != EditorModes::idle());
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdDelete"));
             QCOMPARE(main.look(), EditorModes::idle());
-            QCOMPARE(main.text("txtWord"), QString());
+            QCOMPARE(main.markedRows(), QList<int>());
         });
+        m_command->expectYesNo(QStringLiteral("Are you sure you want to delete 'WORD 2' ?"),
+                               QMessageBox::Yes);
         m_command->expectMsgBox(Imported.arg(0));
-        m_command->importList({QStringLiteral("WORD 5")});
+        m_command->importList({QStringLiteral("WORD 2")});
         QCOMPARE(main.look(), EditorModes::idle());
+        for (const char *box : {"txtWord", "txtDefinition", "txtSentence"})
+            QCOMPARE(main.text(box), QString());
         QCOMPARE(main.markedRows(), QList<int>());
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
-        // The page starts at the entry that was picked.
-        QCOMPARE(main.row(1), EditorModes::filledRow(3));
+    }
+
+    void aFileThatIsNoWordListLeavesThePickedEntry()
+    {
+        MainWindow &main = m_command->main;
+        main.fill(5);
+        main.clickCell(3, 1);
+        main.type("txtWord", QStringLiteral("typed"));
+        m_command->import(QStringLiteral("words.txt"), "cat");
+        QCOMPARE(main.look(), EditorModes::editing());
+        QCOMPARE(main.text("txtWord"), QStringLiteral("typed"));
+        QCOMPARE(main.markedRows(), QList<int>{1});
+        QVERIFY(!gChanged);
+        QVERIFY(!main.action("mnuSave").isEnabled());
+    }
+
+    void anImportOfNothingLeavesTheListInSight()
+    {
+        // After a page fill the position is behind the list's end.
+        MainWindow &main = m_command->main;
+        main.fill(5);
+        QCOMPARE(gVocabList().CurrentWord().toInt(), 6);
+        m_command->expectMsgBox(Imported.arg(0));
+        m_command->importList({});
+        for (int row = 1; row <= 5; ++row)
+            QCOMPARE(main.row(row), EditorModes::filledRow(row));
     }
 
     void aWordBeingTypedStays()
@@ -264,6 +367,14 @@ private Q_SLOTS:
     }
 
 private:
+    // From the idle editor.
+    void search(const QString &word)
+    {
+        m_command->main.click("cmdSearch");
+        m_command->main.type("txtWord", word);
+        m_command->main.click("cmdSearch");
+    }
+
     std::unique_ptr<ImportCommand> m_command;
 };
 
