@@ -7,7 +7,8 @@
 QByteArray textOfList(cVocabList &list)
 {
     QByteArray text;
-    for (Integer i = 1; i <= list.NumWords(); ++i) {
+    const int count = list.NumWords().toInt(); // may be the largest Integer
+    for (int i = 1; i <= count; ++i) {
         list.CurrentWord(i);
         text += toWindows1252(list.Word());
         text += '\t';
