@@ -117,7 +117,8 @@ private:
     void mnuOpen_Click();
     void mnuSave_Click();
     void mnuSaveAs_Click();
-    void openFile();
+    [[nodiscard]] bool openFile();
+    void showFirstPage();
     [[nodiscard]] bool mayEndLesson(MsgBoxButtons saveAnswers);
 
     std::unique_ptr<Ui::frmMain> m_ui;

@@ -17,13 +17,13 @@ void frmMain::cmdNewWord_Click()
     if (m_mode != Mode::NewList)
         ClearEntryBoxes();
     gWordSelected = false;
+    gNewWord = true;
     showMode(Mode::NewWord);
+    m_ui->txtWord->setFocus();
     const Integer count = gVocabList().NumWords();
     if (count > 0)
         scrollTo(count < 23 ? Integer(1) : count - 21);
     MarkNewRow();
-    gNewWord = true;
-    m_ui->txtWord->setFocus();
 }
 
 void frmMain::cmdAdd_Click()
@@ -50,10 +50,10 @@ void frmMain::updateWord()
                       withoutOuterBlanks(m_ui->txtSentence->text()));
     gChanged = true;
     ClearEntryBoxes();
-    FillGrid(FirstShownItem());
     gWordSelected = false;
     showMode(Mode::Idle);
     m_ui->cmdNewWord->setFocus();
+    FillGrid(FirstShownItem());
 }
 
 // Unlike an update, an addition keeps outer blanks.

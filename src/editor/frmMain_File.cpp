@@ -103,8 +103,10 @@ void frmMain::mnuOpen_Click()
 {
     if (!mayEndLesson(MsgBoxButtons::YesNo))
         return;
-    openFile();
+    const bool isRead = openFile();
     cmdAbort_Click();
+    if (isRead)
+        showFirstPage();
 }
 
 // Asks whether the list in work may go, and saves it where the person wants that. False where it
@@ -124,7 +126,8 @@ bool frmMain::mayEndLesson(MsgBoxButtons saveAnswers)
     return answer == MsgBoxAnswer::No;
 }
 
-void frmMain::openFile()
+// True where a file was read.
+bool frmMain::openFile()
 {
     m_fileDialog.DialogTitle = QStringLiteral("Open File");
     m_fileDialog.Filter = ListFilter;
@@ -135,21 +138,23 @@ void frmMain::openFile()
     FileNameKeeper keeper;
     gFileName = chosen ? m_fileDialog.FileName : QString();
     gFileTitle = chosen ? m_fileDialog.FileTitle : QString();
-    if (gFileName.isEmpty() || gFileName == gOpenedFile || !gVocabList().OpenFile()) {
-        keeper.done();
-        return;
-    }
+    const bool isRead = !gFileName.isEmpty() && gFileName != gOpenedFile && gVocabList().OpenFile();
     keeper.done();
+    if (!isRead)
+        return false;
     gOpenedFile = gFileName;
     showCaption();
-    gLastItem = 1;
-    ClearEntryBoxes();
-    scrollTo(1);
-    FillGrid(1);
-    gVocabList().CurrentWord(1);
-    EnableEntryBoxes();
     gChanged = false;
     m_ui->mnuSave->setEnabled(false);
     // Here, so that the first search answers as fast as the others.
     gVocabList().prepareLookup();
+    return true;
+}
+
+void frmMain::showFirstPage()
+{
+    gLastItem = 1;
+    FillGrid(1);
+    scrollTo(1);
+    gVocabList().CurrentWord(1);
 }

@@ -83,8 +83,10 @@ void frmMain::VScroll1_Change()
         FillGrid(1);
         return;
     }
-    if (bar.value() > 22 && bar.value() > count.toInt())
+    if (bar.value() > 22 && bar.value() > count.toInt()) {
+        const QSignalBlocker onePageOnly(bar);
         bar.setValue(count.toInt());
+    }
     FillGrid(bar.value());
 }
 
@@ -132,18 +134,19 @@ void frmMain::emptyGrid()
         grid.setCellBold(0, column, true);
     grid.setCurrent(1, 1);
     gHighlightRow = 0;
-    setScrollRange();
+    setScrollRange(); // fails for the longest list there is, whose grid stays empty
 }
 
-// The page that the scroll bar stands for at `value`, also where it stands there already.
+// The page that the scroll bar stands for at `value`, also where it stands there already. What the
+// page throws ends the caller as well.
 void frmMain::scrollTo(Integer value)
 {
     setScrollRange();
-    QScrollBar &bar = *m_ui->VScroll1;
-    if (bar.value() == value.toInt())
-        VScroll1_Change();
-    else
-        bar.setValue(value.toInt());
+    {
+        const QSignalBlocker blocker(m_ui->VScroll1);
+        m_ui->VScroll1->setValue(value.toInt());
+    }
+    VScroll1_Change();
 }
 
 void frmMain::setScrollRange()

@@ -71,7 +71,8 @@ inline Entries openEntries()
     cVocabList &list = Module1::gVocabList();
     const Integer current = list.CurrentWord();
     Entries entries;
-    for (Integer i = 1; i <= list.NumWords(); ++i) {
+    const int count = list.NumWords().toInt(); // may be the largest Integer
+    for (int i = 1; i <= count; ++i) {
         list.CurrentWord(i);
         entries += {list.Word(), list.Definition(), list.Sentence()};
     }

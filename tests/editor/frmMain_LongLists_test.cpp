@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Lists longer than the editor makes them, up to the most that a file can hold. Where the numbers
+// of rows and positions leave 16 bits, a command ends with error 6 and loses nothing.
+#include "editor/OpenList.h"
+#include "support/EditorModes.h"
+#include "support/FormTest.h"
+
+using namespace Module1;
+
+namespace {
+
+const QString Overflow = QStringLiteral("Run-time error '6':\n\nOverflow");
+
+QByteArray longList(int count)
+{
+    return listBytes(someEntries(count, QStringLiteral("w")));
+}
+
+QStringList rowOf(int position)
+{
+    const QString number = QString::number(position);
+    return {number, QStringLiteral("w ") + number, QStringLiteral("definition %1 of w").arg(number),
+            QStringLiteral("sentence %1 of w").arg(number)};
+}
+
+} // namespace
+
+class frmMain_LongLists_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_main = std::make_unique<MainWindow>();
+        m_path = m_main->path(QStringLiteral("long.lwx"));
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_main->answers.allSeen());
+        m_main.reset();
+    }
+
+    void theListIsLoadedWholeAndSavedWithTheSameBytes_data()
+    {
+        QTest::addColumn<int>("count");
+        for (const int count : {32001, 32744, 32745, 32766, 32767})
+            QTest::addRow("%d", count) << count;
+    }
+
+    void theListIsLoadedWholeAndSavedWithTheSameBytes()
+    {
+        QFETCH(int, count);
+        m_main->fill(5);
+        m_main->clickCell(2, 1); // an entry of the list before
+        const QByteArray bytes = open(count);
+        QCOMPARE(gVocabList().NumWords().toInt(), count);
+        QCOMPARE(openEntries(), someEntries(count, QStringLiteral("w")));
+        QCOMPARE(gFileName, m_path);
+        QCOMPARE(gOpenedFile, m_path);
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("long.lwx"));
+        QVERIFY(!gChanged);
+        QVERIFY(!m_main->action("mnuSave").isEnabled());
+        QCOMPARE(m_main->look(), EditorModes::idle());
+        QCOMPARE(m_main->text("txtWord"), QString());
+        QCOMPARE(m_main->markedRows(), QList<int>());
+        QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
+        for (int row = 1; row <= 23; ++row)
+            QCOMPARE(m_main->row(row), count < Integer::Max ? rowOf(row) : EmptyRow);
+
+        const QString copy = m_main->path(QStringLiteral("copy.lwx"));
+        m_main->answers.chooseFile(copy);
+        m_main->choose("mnuSaveAs");
+        QCOMPARE(readFile(copy), bytes);
+    }
+
+    void allThatGoesThroughTheGridOfTheLongestListEndsInError6()
+    {
+        open(Integer::Max);
+        expectOverflow();
+        m_main->click("cmdNewWord");
+        m_main->type("txtWord", QStringLiteral("one more"));
+        m_main->answers.expectMsgBox(
+            QStringLiteral("Cannot add any more words. Maximum number of words= 32000"));
+        m_main->click("cmdAdd");
+        m_main->click("cmdAbort");
+
+        m_main->click("cmdSearch");
+        for (const int hit : {32767, 32767, 5}) {
+            m_main->type("txtWord", QStringLiteral("w %1").arg(hit));
+            expectOverflow();
+            m_main->click("cmdSearch");
+            QCOMPARE(gVocabList().CurrentWord().toInt(), hit);
+        }
+        m_main->click("cmdAbort");
+
+        for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End}) {
+            expectOverflow();
+            QTest::keyClick(&m_main->grid(), key);
+        }
+        expectOverflow();
+        m_main->bar().setValue(m_main->bar().value() == 0 ? 1 : 0);
+        verifyNothingIsLost(Integer::Max);
+    }
+
+    void anImportIntoAListBeyondTheLimitIsRefused_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::newRow("32001") << 32001;
+        QTest::newRow("the longest list") << int(Integer::Max);
+    }
+
+    void anImportIntoAListBeyondTheLimitIsRefused()
+    {
+        QFETCH(int, count);
+        open(count);
+        const QString words = m_main->path(QStringLiteral("words.lwx"));
+        writeFile(words, listBytes(someEntries(1, QStringLiteral("cat"))));
+        m_main->answers.chooseFile(words);
+        m_main->answers.expectMsgBox(
+            QStringLiteral("Cannot import any more words. Maximum number of words=32000"));
+        if (count == Integer::Max)
+            expectOverflow();
+        m_main->choose("mnuImport");
+        QCOMPARE(gFileName, m_path);
+        verifyNothingIsLost(count);
+    }
+
+    void theLongestListBecomesATextFile()
+    {
+        open(Integer::Max);
+        const QString text = m_main->path(QStringLiteral("long.txt"));
+        m_main->answers.chooseFile(text);
+        m_main->choose("mnuCreateTextFile");
+        const QByteArray bytes = readFile(text);
+        QCOMPARE(bytes.count('\n'), Integer::Max);
+        QVERIFY(bytes.endsWith("w 32767\tdefinition 32767 of w\tsentence 32767 of w\r\n"));
+        verifyNothingIsLost(Integer::Max);
+    }
+
+    void theDialogsOpenWithTheLongestList_data()
+    {
+        QTest::addColumn<QByteArray>("menuItem");
+        QTest::newRow("dlgQuickFlash") << QByteArrayLiteral("mnuQuickFlash");
+        QTest::newRow("dlgExport") << QByteArrayLiteral("mnuExport");
+        QTest::newRow("frmPrint") << QByteArrayLiteral("mnuPrint");
+    }
+
+    void theDialogsOpenWithTheLongestList()
+    {
+        QFETCH(QByteArray, menuItem);
+        open(Integer::Max);
+        m_main->answers.useForm(QTest::currentDataTag(), [](QDialog &dialog) { dialog.close(); });
+        m_main->choose(menuItem.constData());
+        verifyNothingIsLost(Integer::Max);
+    }
+
+    void theGameOpensWithTheLongestList()
+    {
+        open(Integer::Max);
+        m_main->choose("mnuPlayScramble");
+        QWidget *game = nullptr;
+        for (QWidget *window : QApplication::topLevelWidgets())
+            if (window->objectName() == QLatin1String("frmTanglewit") && window->isVisible())
+                game = window;
+        QVERIFY(game);
+        QCOMPARE(gOrderSize.toInt(), 1000);
+        game->close();
+        QVERIFY(m_main->window().isVisible());
+        verifyNothingIsLost(Integer::Max);
+    }
+
+    void endShowsTheLastFullPageOfTheLongestListThatHasPages()
+    {
+        open(32766);
+        QTest::keyClick(&m_main->grid(), Qt::Key_End);
+        for (int row = 1; row <= 23; ++row)
+            QCOMPARE(m_main->row(row), rowOf(32743 + row));
+        QTest::keyClick(&m_main->grid(), Qt::Key_Space);
+        QCOMPARE(m_main->text("txtWord"), QStringLiteral("w 32766"));
+        m_main->type("txtDefinition", QStringLiteral("changed"));
+        m_main->click("cmdAdd"); // Update
+        QCOMPARE(m_main->row(23).at(2), QStringLiteral("changed"));
+        QCOMPARE(gVocabList().entry(32766).Definition, QStringLiteral("changed"));
+        QVERIFY(gChanged);
+        QVERIFY(m_main->action("mnuSave").isEnabled());
+    }
+
+    void thePageBehindTheLastFullOneEndsInError6AndStaysAway()
+    {
+        open(32766);
+        QTest::keyClick(&m_main->grid(), Qt::Key_End);
+        expectOverflow();
+        m_main->bar().setValue(32767);
+        expectOverflow();
+        m_main->click("cmdNewWord");
+        m_main->click("cmdAbort");
+        for (int row = 1; row <= 23; ++row)
+            QCOMPARE(m_main->row(row), rowOf(32743 + row));
+        verifyNothingIsLost(32766);
+    }
+
+    void anEntryOfTheLastPageIsDeleted()
+    {
+        open(32766);
+        QTest::keyClick(&m_main->grid(), Qt::Key_End);
+        m_main->clickCell(23, 1);
+        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'w 32766' ?"),
+                                     QMessageBox::Yes);
+        m_main->click("cmdDelete");
+        QCOMPARE(gVocabList().NumWords().toInt(), 32765);
+        QCOMPARE(m_main->row(22), rowOf(32765));
+        QVERIFY(gChanged);
+        QVERIFY(m_main->action("mnuSave").isEnabled());
+        QCOMPARE(m_main->look(), EditorModes::idle());
+    }
+
+    void anotherListOpensAfterTheLongestOne()
+    {
+        open(Integer::Max);
+        const QString other = m_main->path(QStringLiteral("other.lwx"));
+        writeFile(other, listBytes(someEntries(5, QStringLiteral("w"))));
+        openList(*m_main, other);
+        for (int row = 1; row <= 5; ++row)
+            QCOMPARE(m_main->row(row), rowOf(row));
+        QCOMPARE(m_main->bar().maximum(), 6);
+    }
+
+    void aNewListBeginsAfterTheLongestOne()
+    {
+        open(Integer::Max);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        m_main->type("txtWord", QStringLiteral("cat"));
+        QTest::keyClick(&m_main->control<QWidget>("txtWord"), Qt::Key_Return);
+        QCOMPARE(m_main->row(1).at(1), QStringLiteral("cat"));
+    }
+
+private:
+    const QStringList EmptyRow{QString(), QString(), QString(), QString()};
+
+    void expectOverflow() { m_main->answers.expectMsgBox(Overflow); }
+
+    // Makes and opens a list of so many entries; the longest one does not fit the grid.
+    QByteArray open(int count)
+    {
+        const QByteArray bytes = longList(count);
+        writeFile(m_path, bytes);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.chooseFile(m_path);
+        if (count == Integer::Max)
+            expectOverflow();
+        m_main->choose("mnuOpen");
+        return bytes;
+    }
+
+    void verifyNothingIsLost(int count)
+    {
+        QVERIFY(m_main->answers.allSeen());
+        QCOMPARE(openEntries(), someEntries(count, QStringLiteral("w")));
+        QVERIFY(!gChanged);
+        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->action("mnuSave").setEnabled(true);
+        m_main->choose("mnuSave");
+        QCOMPARE(readFile(m_path), longList(count));
+    }
+
+    QString m_path;
+    std::unique_ptr<MainWindow> m_main;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmMain_LongLists_test>(argc, argv);
+}
+
+#include "frmMain_LongLists_test.moc"
