@@ -11,6 +11,11 @@ def rows_from(listed, first):
     return [(str(first + i), *entry) for i, entry in enumerate(listed[first - 1:first + 22])]
 
 
+def last_page(listed):
+    """The first entry of the last full page."""
+    return max(1, len(listed) - 22)
+
+
 def opens(guide, name, picture=None):
     """File > Open from the question to the chosen list."""
     person = guide.person
@@ -60,9 +65,10 @@ def take(guide):
         moved = until("the page moved by the wheel", lambda: bar.value > 1 and bar.value)
         until("the page of the wheel", lambda: person.page(), rows_from(listed, moved))
         person.presses("Next")
-        until("23 entries further", lambda: bar.value, moved + 23)
-        page = rows_from(listed, moved + 23)
-        until("the next page", lambda: person.page()[:len(page)], page)
+        until("the next page", lambda: person.page(),
+              rows_from(listed, min(moved + 23, last_page(listed))))
         guide.picture("list-scrolled")
+        person.presses("End")
+        until("the last full page", lambda: person.page(), rows_from(listed, last_page(listed)))
         person.presses("Home")
         until("the first page again", lambda: person.page(), rows_from(listed, 1))
