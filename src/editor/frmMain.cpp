@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/GridPlace.h"
 #include "editor/MainLayout.h"
 #include "editor/UnsavedCopy.h"
 #include "editor/ui_frmMain.h"
@@ -20,7 +21,7 @@
 namespace {
 
 constexpr int GridRows = 25;
-constexpr int VisibleRows = 24; // the header and 23 entries
+constexpr int VisibleRows = 1 + GridPlace::Rows;
 
 constexpr int NumberWidth = 960; // twips, of the item numbers' column
 

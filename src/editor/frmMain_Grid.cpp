@@ -16,7 +16,6 @@ using namespace Module1;
 namespace {
 
 constexpr int LargeChange = 23;
-constexpr int NumberedRows = 23;
 
 } // namespace
 
@@ -119,7 +118,7 @@ void frmMain::FillGrid(Integer top)
 void frmMain::NumberRows(Integer top)
 {
     top = std::max(top, Integer(1));
-    for (int row = 1; row <= NumberedRows; ++row)
+    for (int row = 1; row <= GridPlace::Rows; ++row)
         m_ui->MSFlexGrid1->setText(row, 0, (top + row - 1).toText());
 }
 

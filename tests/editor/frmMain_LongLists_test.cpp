@@ -216,6 +216,22 @@ private Q_SLOTS:
         QCOMPARE(m_main->look(), EditorModes::idle());
     }
 
+    void aDeletionBringsTheLongestListIntoTheGrid()
+    {
+        open(Integer::Max);
+        m_main->click("cmdSearch");
+        m_main->type("txtWord", QStringLiteral("w 5"));
+        expectOverflow();
+        m_main->click("cmdSearch"); // finds it but cannot show it
+        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'w 5' ?"),
+                                     QMessageBox::Yes);
+        m_main->choose("mnuDeleteWord");
+        QCOMPARE(gVocabList().NumWords().toInt(), 32766);
+        QCOMPARE(m_main->row(4), rowOf(4));
+        QCOMPARE(m_main->row(5).at(1), QStringLiteral("w 6"));
+        QVERIFY(gChanged);
+    }
+
     void anotherListOpensAfterTheLongestOne()
     {
         open(Integer::Max);
