@@ -25,7 +25,7 @@ std::optional<Entries> readable(const QByteArray &bytes)
         return number;
     };
     const int count = nextNumber();
-    if (count > 32000)
+    if (count > 32767)
         return std::nullopt;
     Entries entries;
     for (int i = 0; i < count; ++i) {

@@ -231,8 +231,6 @@ private Q_SLOTS:
         QTest::newRow("count -32768") << number16(-32768) << subscript;
         QTest::newRow("negative count before good records")
             << number16(-5) + listBytes(m_entries).mid(2) << subscript;
-        QTest::newRow("more than a list holds") << number16(32001) << subscript;
-        QTest::newRow("the largest count") << number16(32767) << subscript;
         QTest::newRow("a pipe") << QByteArray()
                                 << QStringLiteral(
                                        "Run-time error '75':\n\nPath/File access error\n");
