@@ -156,7 +156,7 @@ private Q_SLOTS:
     // A box takes 32,767 characters by itself.
     void aWordThatOnlyAFileCanHoldCanBeEntered()
     {
-        const QString word(32'768, u'x');
+        const QString word = u"abc "_s.repeated(8192) + u'd';
         setEntry(word, {});
         ask([&word](const AnswerForm &form) {
             form.answer(word);
