@@ -184,6 +184,24 @@ private Q_SLOTS:
         QCOMPARE(m_form->definition(), FlashForm::definitionOfCard(2));
     }
 
+    void aKeyHeldDownNeitherStepsNorOpensTheCard_data()
+    {
+        QTest::addColumn<QByteArray>("control");
+        for (const char *name : {"cmdNext", "cmdPrevious", "txtDef", "cmdAutoFlash"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
+    void aKeyHeldDownNeitherStepsNorOpensTheCard()
+    {
+        QFETCH(QByteArray, control);
+        m_form->control<QWidget>(control).setFocus();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+            Controls::holdOn(key);
+        QCOMPARE(m_form->definition(), u"Click on card\r\n"_s);
+        QCOMPARE(m_form->look(), FlashForm::byHand());
+        QCOMPARE(gOrderIndex, Integer(1));
+    }
+
     void tabReachesEveryControlThatMayBeUsed()
     {
         m_form->button("cmdNext").setFocus();

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTest>
 
 void Controls::fail(const QString &what)
@@ -40,6 +41,15 @@ void Controls::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     if (!focus)
         fail(QStringLiteral("nothing has the keyboard focus"));
     QTest::keyClick(focus, key, modifiers);
+}
+
+void Controls::holdOn(Qt::Key key, const QString &text)
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (!focus)
+        fail(QStringLiteral("nothing has the keyboard focus"));
+    QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+    QApplication::sendEvent(focus, &again);
 }
 
 QString Controls::focusedControl()

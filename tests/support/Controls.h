@@ -28,6 +28,8 @@ void choose(QAction &item);
 void type(QWidget &box, const QString &text);
 // Presses a key in the control that has the focus.
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+// A key that is held down, as it comes again and again to the control that has the focus.
+void holdOn(Qt::Key key, const QString &text = {});
 // Its name; empty where no control has the focus.
 [[nodiscard]] QString focusedControl();
 // The controls that the key walks through until it comes to the first one again.

@@ -155,6 +155,29 @@ private Q_SLOTS:
         QTEST(flags(), "flags");
     }
 
+    // It has answered the question before this one.
+    void aKeyHeldDownAnswersNothing_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Enter") << int(Qt::Key_Return);
+        QTest::newRow("Enter of the number pad") << int(Qt::Key_Enter);
+        QTest::newRow("Esc") << int(Qt::Key_Escape);
+    }
+
+    void aKeyHeldDownAnswersNothing()
+    {
+        QFETCH(int, key);
+        ask([key](const WordExistForm &form) {
+            for (const char *control : {"cmdYes", "cmdNoToAll", "txtCurWord"}) {
+                Controls::find<QWidget>(form.form, control).setFocus();
+                Controls::holdOn(Qt::Key(key));
+                QVERIFY(form.form.isVisible());
+            }
+            form.close();
+        });
+        QCOMPARE(flags(), QStringLiteral("tase"));
+    }
+
     void openingTwiceStartsBothTimesLocked()
     {
         for (int time = 0; time < 2; ++time)
