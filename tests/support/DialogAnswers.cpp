@@ -110,6 +110,11 @@ void DialogAnswers::expectAnyMsgBox(QMessageBox::StandardButton answer,
             }});
 }
 
+void DialogAnswers::seeOtherMsgBoxes(std::function<void(const QString &)> see)
+{
+    m_seeOther = std::move(see);
+}
+
 void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect)
 {
     expectFileDialog(QStringLiteral("file dialog for \"%1\"").arg(name), std::move(inspect),
@@ -251,6 +256,12 @@ void DialogAnswers::look()
 void DialogAnswers::meet(QDialog &dialog)
 {
     if (m_expected.empty() || m_expected.front().kind != kindOf(dialog)) {
+        if (auto *box = qobject_cast<QMessageBox *>(&dialog); box && m_seeOther) {
+            m_seeOther(box->text());
+            QMetaObject::invokeMethod(box->defaultButton(), &QPushButton::click,
+                                      Qt::QueuedConnection);
+            return;
+        }
         dismiss(dialog, QStringLiteral("unexpected %1") +
                             (m_expected.empty()
                                  ? QString()

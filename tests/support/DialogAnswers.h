@@ -32,6 +32,9 @@ public:
     // As above, the text being checked by `inspect` alone.
     void expectAnyMsgBox(QMessageBox::StandardButton answer,
                          std::function<void(QMessageBox &)> inspect);
+    // From now on a message box that comes instead of what is expected next, or where nothing is
+    // expected, is no failure: `see` has its text and its default button is pressed.
+    void seeOtherMsgBoxes(std::function<void(const QString &)> see);
 
     // A file dialog: the name (a full path, or one relative to the folder shown) is put into the
     // name box and Open or Save is pressed.
@@ -72,6 +75,7 @@ private:
     void dismiss(QDialog &dialog, const QString &reason);
 
     std::deque<Expected> m_expected;
+    std::function<void(const QString &)> m_seeOther;
     QTimer m_timer;
     std::vector<QPointer<QDialog>> m_inUse; // forms, below one another
     QPointer<QDialog> m_answered;           // the dialog met last, while its answer is under way

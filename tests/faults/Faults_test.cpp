@@ -1,0 +1,359 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Each command that writes a file, with each of the system's calls that it makes failing in turn.
+#include "editor/OpenList.h"
+#include "faults/FailingCall.h"
+#include "game/Music.h"
+#include "game/Top10Rows.h"
+#include "game/dlgGameOver.h"
+#include "platform/Paths.h"
+#include "platform/sndPlaySoundA.h"
+#include "support/FormTest.h"
+#include "transfer/TextFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+
+#include <cerrno>
+#include <cstring>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+using Function = FailingCall::Function;
+using Lasting = FailingCall::Lasting;
+
+namespace {
+
+struct FileCommand
+{
+    QString path;      // of the file that the command writes
+    QByteArray before; // null = there is no such file
+    std::function<bool(const QByteArray &)> isDone;
+    std::function<void()> give;
+};
+
+std::function<bool(const QByteArray &)> equals(const QByteArray &bytes)
+{
+    return [bytes](const QByteArray &content) { return content == bytes; };
+}
+
+bool isWholePdf(const QByteArray &content)
+{
+    return content.startsWith("%PDF-") && content.endsWith("%%EOF\n");
+}
+
+struct Way
+{
+    int reason = 0;
+    Lasting lasting = Lasting::Once;
+};
+
+// What the commands without a file dialog, which are quick, go through, and the others.
+const std::vector<Way> AllWays{{EINTR},
+                               {ENOSPC},
+                               {ENOSPC, Lasting::FromThenOn},
+                               {EIO},
+                               {EIO, Lasting::FromThenOn},
+                               {EACCES},
+                               {EACCES, Lasting::FromThenOn}};
+const std::vector<Way> MainWays{{EINTR}, {ENOSPC, Lasting::FromThenOn}, {EIO}, {EACCES}};
+
+bool asksForAFile(const QString &command)
+{
+    return !command.startsWith(u"Save of"_s) && !command.startsWith(u"Save over"_s) &&
+           !command.startsWith(u"Export"_s);
+}
+
+QString reportStart(int reason)
+{
+    switch (reason) {
+    case ENOSPC:
+        return u"Run-time error '61':\n\nDisk full\n"_s;
+    case EIO:
+        return u"Run-time error '57':\n\nDevice I/O error\n"_s;
+    default:
+        return u"Run-time error '70':\n\nPermission denied\n"_s;
+    }
+}
+
+// Whether the file can be written all the same.
+bool mayBeSilent(Function function, int reason, bool onFolder)
+{
+    switch (function) {
+    case Function::Open: // a second file may be refused, the file itself be open to be written
+    case Function::Rename:
+    case Function::Link:
+        return reason == EINTR || reason == EACCES || onFolder;
+    case Function::Close: // all was on the disk before
+    case Function::Unlink:
+    case Function::Fchmod:
+    case Function::Fchown:
+        return true;
+    default:
+        return reason == EINTR || reason == FailingCall::StopsShort || onFolder;
+    }
+}
+
+double today()
+{
+    return double(QDate(1899, 12, 30).daysTo(QDate::currentDate()));
+}
+
+QByteArray describe(const FailingCall::Fault &fault)
+{
+    return QByteArray(nameOf(fault.function)) + " " + QByteArray::number(fault.number) + ": " +
+           (fault.reason == FailingCall::StopsShort ? "stops short" : std::strerror(fault.reason)) +
+           (fault.lasting == Lasting::Once ? "" : ", from then on");
+}
+
+} // namespace
+
+class Faults_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+
+    void theOldFileOrTheNewOneIsThere_data();
+    void theOldFileOrTheNewOneIsThere();
+
+private:
+    [[nodiscard]] FileCommand command(const QString &name);
+    void exportTo(const QString &path);
+    void printTo(const QString &path);
+    void enterScore();
+    void prepare(const FileCommand &command);
+    // True where the call was made.
+    [[nodiscard]] bool failsRightly(const FileCommand &command, const FailingCall::Fault &fault);
+    void savesElsewhere();
+    [[nodiscard]] QString disk(const QString &name) const
+    {
+        return m_main->path(u"disk/"_s + name);
+    }
+
+    const Entries m_entries = someEntries(5, u"animal"_s);
+    std::unique_ptr<MainWindow> m_main;
+    QStringList m_told;
+    QStringList m_wrong;
+};
+
+void Faults_test::initTestCase()
+{
+    m_main = std::make_unique<MainWindow>();
+    QVERIFY(QDir().mkdir(m_main->path(u"disk"_s)));
+    for (const QStringList &entry : m_entries)
+        gVocabList().AddVocab(entry[0], entry[1], entry[2]);
+    setSoundPlayer([](const QString &, unsigned) {});
+    m_main->answers.seeOtherMsgBoxes([this](const QString &text) { m_told += text; });
+}
+
+void Faults_test::cleanupTestCase()
+{
+    setSoundPlayer({});
+    m_main.reset();
+}
+
+FileCommand Faults_test::command(const QString &name)
+{
+    const QByteArray list = listBytes(m_entries);
+    const QByteArray text = textOfList(gVocabList());
+    const QByteArray longFile = listBytes(someEntries(600, u"plant"_s));
+    const auto save = [this] { m_main->choose("mnuSave"); };
+    const auto ask = [this](const char *item, const QString &path) {
+        return [this, item, path] {
+            m_main->answers.chooseFile(path);
+            if (QFileInfo::exists(path))
+                m_main->answers.answerOverwrite(QFileInfo(path).fileName(), QMessageBox::Yes);
+            m_main->choose(item);
+        };
+    };
+    if (name == u"Save over a longer list"_s)
+        return {disk(u"list.lwx"_s), longFile, equals(list + longFile.mid(list.size())), save};
+    if (name == u"Save of a file that is gone"_s)
+        return {disk(u"list.lwx"_s), {}, equals(list), save};
+    if (name == u"Save As over a file"_s)
+        return {disk(u"other.lwx"_s), "other"_ba, equals(list),
+                ask("mnuSaveAs", disk(u"other.lwx"_s))};
+    if (name == u"Save As to a new file"_s)
+        return {disk(u"new.lwx"_s), {}, equals(list), ask("mnuSaveAs", disk(u"new.lwx"_s))};
+    if (name == u"Create Text File over a file"_s)
+        return {disk(u"list.txt"_s), text.toUpper() + "more", equals(text + "more"),
+                ask("mnuCreateTextFile", disk(u"list.txt"_s))};
+    if (name == u"Create Text File"_s)
+        return {
+            disk(u"list.txt"_s), {}, equals(text), ask("mnuCreateTextFile", disk(u"list.txt"_s))};
+    const Entries others = someEntries(2, u"plant"_s);
+    if (name == u"Export to a list"_s)
+        return {disk(u"target.lwx"_s), listBytes(others), equals(listBytes(others + m_entries)),
+                [this] { exportTo(disk(u"target.lwx"_s)); }};
+    if (name == u"Export to a new list"_s)
+        return {
+            disk(u"target.lwx"_s), {}, equals(list), [this] { exportTo(disk(u"target.lwx"_s)); }};
+    if (name == u"Print to PDF over a file"_s)
+        return {disk(u"list.pdf"_s), "old"_ba, isWholePdf,
+                [this] { printTo(disk(u"list.pdf"_s)); }};
+    if (name == u"Print to PDF"_s)
+        return {disk(u"list.pdf"_s), {}, isWholePdf, [this] { printTo(disk(u"list.pdf"_s)); }};
+    const QByteArray free = fileRow(today(), "", 0);
+    return {pathOf(Place::Top10), free.repeated(10),
+            equals(fileRow(today(), "Ann", 25) + free.repeated(9)), [this] { enterScore(); }};
+}
+
+void Faults_test::exportTo(const QString &path)
+{
+    m_main->answers.useForm("dlgExport", [path](QDialog &dialog) {
+        Controls::find<QLineEdit>(dialog, "txtFilename").setText(path);
+        Controls::click(Controls::find<QPushButton>(dialog, "cmdOk"));
+        if (dialog.isVisible())
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdCancel"));
+    });
+    m_main->choose("mnuExport");
+}
+
+void Faults_test::printTo(const QString &path)
+{
+    m_main->answers.useForm("frmPrint", [this, path](QDialog &dialog) {
+        m_main->answers.chooseFile(path);
+        if (QFileInfo::exists(path))
+            m_main->answers.answerOverwrite(QFileInfo(path).fileName(), QMessageBox::Yes);
+        Controls::click(Controls::find<QPushButton>(dialog, "cmdPrint"));
+        if (dialog.isVisible())
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdCancel"));
+    });
+    m_main->choose("mnuPrint");
+}
+
+void Faults_test::enterScore()
+{
+    gTop10 = emptyTop10(QDate::currentDate());
+    gScore = 25;
+    QAction upbeat;
+    QAction soothing;
+    QAction off;
+    Music music(MusicMenu{upbeat, soothing, off});
+    m_main->answers.useForm("dlgGameOver", [](QDialog &dialog) {
+        Controls::find<QLineEdit>(dialog, "txtName").setText(u"Ann"_s);
+        Controls::click(Controls::find<QPushButton>(dialog, "cmdEnter"));
+        dialog.close();
+    });
+    dlgGameOver(music, nullptr).exec();
+}
+
+// A changed list with a name, and on the disk the old file alone.
+void Faults_test::prepare(const FileCommand &command)
+{
+    const QDir folder = QFileInfo(command.path).dir();
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden | QDir::System);
+    for (const QString &name : names)
+        QFile::remove(folder.filePath(name));
+    if (!command.before.isNull())
+        writeFile(command.path, command.before);
+    gFileName = gOpenedFile = disk(u"list.lwx"_s);
+    gFileTitle = u"list.lwx"_s;
+    gChanged = true;
+    gSaved = false;
+    m_main->action("mnuSave").setEnabled(true);
+    m_main->window().setWindowTitle(CaptionStart + gFileTitle);
+    m_told.clear();
+}
+
+bool Faults_test::failsRightly(const FileCommand &command, const FailingCall::Fault &fault)
+{
+    prepare(command);
+    const OpenList before(*m_main);
+    bool happened = false;
+    bool onFolder = false;
+    {
+        const FailingCall failing(QFileInfo(command.path).path(), fault);
+        command.give();
+        happened = failing.hasFailed();
+        onFolder = failing.wasOnFolder();
+    }
+    const auto wrong = [&](const QString &what) {
+        m_wrong += QString::fromUtf8(describe(fault)) + u": "_s + what;
+    };
+    const QStringList errors = m_told.filter(u"error"_s);
+    const bool told = !errors.isEmpty();
+    const bool isThere = QFileInfo::exists(command.path);
+    const QByteArray content = isThere ? readFile(command.path) : QByteArray();
+    if (told && fault.reason == EINTR) {
+        wrong(u"an interruption is told: "_s + errors.constFirst());
+    } else if (told) {
+        if (content != command.before || isThere == command.before.isNull())
+            wrong(u"the old file is not whole"_s);
+        if (!errors.constFirst().startsWith(reportStart(fault.reason)) ||
+            !errors.constFirst().contains(command.path) ||
+            !errors.constFirst().contains(qt_error_string(fault.reason)))
+            wrong(u"told as "_s + errors.constFirst());
+        if (!(OpenList(*m_main) == before) || gSaved)
+            wrong(u"the open list is not as before"_s);
+        savesElsewhere();
+    } else {
+        if (happened && !mayBeSilent(fault.function, fault.reason, onFolder))
+            wrong(u"not told"_s);
+        if (!command.isDone(content))
+            wrong(u"the new file is not whole"_s);
+    }
+    if (openEntries() != m_entries)
+        wrong(u"the list has changed"_s);
+    QStringList names =
+        QFileInfo(command.path)
+            .dir()
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    names.removeAll(QFileInfo(command.path).fileName());
+    if (!names.isEmpty())
+        wrong(u"left beside the file: "_s + names.join(u", "_s));
+    return happened;
+}
+
+void Faults_test::savesElsewhere()
+{
+    gFileName = m_main->path(u"elsewhere.lwx"_s);
+    m_main->choose("mnuSave");
+    QCOMPARE(readFile(gFileName), listBytes(m_entries));
+    QVERIFY(!gChanged);
+    QVERIFY(QFile::remove(gFileName));
+}
+
+void Faults_test::theOldFileOrTheNewOneIsThere_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<Function>("function");
+    for (const char *name :
+         {"Save over a longer list", "Save of a file that is gone", "Save As over a file",
+          "Save As to a new file", "Create Text File", "Create Text File over a file",
+          "Export to a list", "Export to a new list", "Print to PDF", "Print to PDF over a file",
+          "A name for the Top 10"})
+        for (const Function function : FailingFunctions)
+            QTest::addRow("%s, %s", name, nameOf(function))
+                << QString::fromLatin1(name) << function;
+}
+
+void Faults_test::theOldFileOrTheNewOneIsThere()
+{
+    QFETCH(QString, name);
+    QFETCH(Function, function);
+    const FileCommand command = this->command(name);
+    m_wrong.clear();
+    std::vector<Way> ways = asksForAFile(name) ? MainWays : AllWays;
+    if (function == Function::Write)
+        ways.push_back({FailingCall::StopsShort});
+    for (const Way &way : ways) {
+        int number = 1;
+        while (failsRightly(command, {function, number, way.reason, way.lasting}))
+            ++number;
+        if (number == 1)
+            break; // the command does without the function
+    }
+    QVERIFY(m_main->answers.allSeen());
+    QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
+}
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<Faults_test>(argc, argv);
+}
+
+#include "Faults_test.moc"
