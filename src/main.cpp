@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Module1.h"
 #include "editor/SampleLists.h"
 #include "editor/frmMain.h"
 #include "editor/frmSplash.h"
 #include "platform/Application.h"
+#include "platform/EndRequest.h"
 #include "platform/Guarded.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
@@ -10,6 +12,9 @@
 int main(int argc, char *argv[])
 {
     Application application(argc, argv);
+    EndRequest endRequest([] { return Module1::gChanged; });
+    QObject::connect(&endRequest, &EndRequest::begun, &application,
+                     [] { Module1::gStopImport = true; });
     if (application.PrevInstance()) {
         MsgBox(QStringLiteral("The Tanglewit(c) is already running."));
         return 0;

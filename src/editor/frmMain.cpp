@@ -9,6 +9,7 @@
 #include "editor/ui_frmMain.h"
 #include "game/Top10File.h"
 #include "game/frmTanglewit.h"
+#include "platform/EndRequest.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 #include "platform/Screen.h"
@@ -158,6 +159,7 @@ void frmMain::Form_GotFocus()
 void frmMain::Form_Terminate()
 {
     using namespace Module1;
+    const LastQuestions asking;
     const bool asked = gChanged;
     const bool save = asked && MsgBox(QStringLiteral("Your changes have not been saved.  "
                                                      "Do you want to save them?"),
