@@ -2,16 +2,18 @@
 #include "platform/PrintDocument.h"
 
 #include "platform/PrintQueue.h"
-#include "runtime/FileError.h"
+#include "runtime/BinaryFile.h"
+#include "runtime/RunTimeError.h"
 
 #include <QCoreApplication>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QTemporaryFile>
 
 #include <algorithm>
-#include <cerrno>
+#include <exception>
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -22,46 +24,49 @@ void setUp(QPagedPaintDevice &device, const QPageLayout &layout)
     device.setPageLayout(wholeSheet);
 }
 
-// A file of which nothing is left out unnoticed: after the first failure nothing more is written,
-// and what failed is not forgotten.
-class FaultlessFile final : public QIODevice
+// Gathers what is written for a function and remembers what that throws: the writer of a PDF knows
+// no exceptions, and goes on after a failure.
+class Output final : public QIODevice
 {
 public:
-    explicit FaultlessFile(QFileDevice &file) : m_file(file) { open(QIODevice::WriteOnly); }
+    using Write = std::function<void(QByteArrayView)>;
 
-    // What is still to be written goes to the file. False where not everything is there.
-    [[nodiscard]] bool complete()
+    explicit Output(Write write) : m_write(std::move(write)) { open(QIODevice::WriteOnly); }
+
+    // Throws where not everything could be written.
+    void complete()
     {
-        errno = 0;
-        if (!m_failed && !m_file.flush())
-            fail();
-        return !m_failed;
+        pass();
+        if (m_failure)
+            std::rethrow_exception(m_failure);
     }
-    [[noreturn]] void throwError(const QString &path) const { throwFileError(m_reason, path); }
 
 protected:
     qint64 readData(char * /*data*/, qint64 /*size*/) override { return -1; }
     qint64 writeData(const char *data, qint64 size) override
     {
-        errno = 0;
-        if (!m_failed && m_file.write(data, size) != size)
-            fail();
-        return m_failed ? -1 : size;
+        constexpr qsizetype enough = 1 << 16;
+        m_gathered.append(data, size);
+        if (m_gathered.size() >= enough)
+            pass();
+        return size;
     }
 
 private:
-    void fail()
+    void pass()
     {
-        m_failed = true;
-        // A write that stops short gives no reason; the next one does.
-        if (errno == 0)
-            m_file.flush();
-        m_reason = errno;
+        try {
+            if (!m_failure)
+                m_write(m_gathered);
+        } catch (...) {
+            m_failure = std::current_exception();
+        }
+        m_gathered.clear();
     }
 
-    QFileDevice &m_file;
-    bool m_failed = false;
-    int m_reason = 0;
+    Write m_write;
+    QByteArray m_gathered;
+    std::exception_ptr m_failure;
 };
 
 // What is written as a PDF file somewhere.
@@ -76,7 +81,8 @@ public:
     }
 
 protected:
-    WrittenDocument(QFileDevice &file, const PrintedPaper &paper) : m_file(file), m_writer(&m_file)
+    WrittenDocument(Output::Write write, const PrintedPaper &paper)
+        : m_output(std::move(write)), m_writer(&m_output)
     {
         m_writer.setResolution(paper.resolution);
         m_writer.setTitle(paper.title);
@@ -84,53 +90,46 @@ protected:
         setUp(m_writer, paper.layout);
     }
 
-    // Ends the document. False where not all of it is in the file.
-    [[nodiscard]] bool complete() { return endPainting() && m_file.complete(); }
-    [[nodiscard]] const FaultlessFile &output() const { return m_file; }
+    // Ends the document, or throws where not all of it could be written.
+    void complete()
+    {
+        static_cast<void>(endPainting());
+        m_output.complete();
+    }
     [[nodiscard]] QPagedPaintDevice &device() override { return m_writer; }
 
 private:
-    FaultlessFile m_file;
+    Output m_output;
     QPdfWriter m_writer;
 };
 
-struct OpenSaveFile
+struct NewFile
 {
-    explicit OpenSaveFile(const QString &path) : file(path)
-    {
-        checkPlaceOfFile(path);
-        errno = 0;
-        if (!file.open(QIODevice::WriteOnly))
-            throwFileError(errno != 0 ? errno : EACCES, path);
-    }
+    explicit NewFile(const QString &path) : file(path) {}
 
-    QSaveFile file;
+    BinaryFile::Replacement file;
 };
 
-class PdfDocument final : private OpenSaveFile, public WrittenDocument
+class PdfDocument final : private NewFile, public WrittenDocument
 {
 public:
     PdfDocument(const QString &path, const PrintedPaper &paper)
-        : OpenSaveFile(path), WrittenDocument(file, paper)
+        : NewFile(path), WrittenDocument([this](QByteArrayView bytes) { file.write(bytes); }, paper)
     {
     }
 
     void finish() override
     {
-        if (!complete())
-            output().throwError(file.fileName());
-        errno = 0;
-        if (!file.commit())
-            throwFileError(errno, file.fileName());
+        complete();
+        file.takePlace();
     }
 };
 
 struct OpenTemporaryFile
 {
-    OpenTemporaryFile() { opened = file.open(); }
+    OpenTemporaryFile() { file.open(); }
 
     QTemporaryFile file;
-    bool opened = false;
 };
 
 QByteArray sides(const QPrinter &printer)
@@ -147,22 +146,27 @@ class QueuedDocument final : private OpenTemporaryFile, public WrittenDocument
 {
 public:
     QueuedDocument(const QPrinter &printer, const PrintedPaper &paper)
-        : WrittenDocument(file, paper), m_job{printer.printerName(),
-                                              paper.title,
-                                              file.fileName(),
-                                              paper.layout.pageSize().key().toUtf8(),
-                                              sides(printer),
-                                              printer.copyCount()}
+        : WrittenDocument([this](QByteArrayView bytes) { write(bytes); }, paper),
+          m_job{printer.printerName(), paper.title,
+                file.fileName(),       paper.layout.pageSize().key().toUtf8(),
+                sides(printer),        printer.copyCount()}
     {
     }
 
     void finish() override
     {
-        if (!opened || !complete() || !PrintQueue::submit(m_job))
+        complete();
+        if (!PrintQueue::submit(m_job))
             throw RunTimeError(RunTimeError::PrinterFault, m_job.queue);
     }
 
 private:
+    void write(QByteArrayView bytes)
+    {
+        if (file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush())
+            throw RunTimeError(RunTimeError::PrinterFault, m_job.queue);
+    }
+
     PrintQueue::Job m_job;
 };
 

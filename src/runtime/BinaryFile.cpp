@@ -159,3 +159,24 @@ void BinaryFile::overwrite(const QString &path, QByteArrayView content)
         }
     });
 }
+
+BinaryFile::Replacement::Replacement(const QString &path) : m_path(path)
+{
+    const QString place = placeOf(path);
+    withFileErrors(path, [&] {
+        const auto oldFile = SystemFile::existing(QFile::encodeName(place), O_RDWR);
+        m_file = std::make_unique<UnfinishedFile>(place, oldFile ? &*oldFile : nullptr);
+    });
+}
+
+BinaryFile::Replacement::~Replacement() = default;
+
+void BinaryFile::Replacement::write(QByteArrayView bytes)
+{
+    withFileErrors(m_path, [&] { m_file->file().write(bytes); });
+}
+
+void BinaryFile::Replacement::takePlace()
+{
+    withFileErrors(m_path, [this] { m_file->takePlace(); });
+}

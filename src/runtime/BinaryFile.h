@@ -9,6 +9,9 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
+
+class UnfinishedFile;
 
 namespace BinaryFile {
 
@@ -27,5 +30,24 @@ using IsEnough = std::function<bool(QByteArrayView start)>;
 // place in one step and is on the disk when this returns; on an error the old file is whole. Only
 // where the folder admits no second file are the bytes written in place.
 void overwrite(const QString &path, QByteArrayView content);
+
+// A new content for a file, of which nothing old stays, in pieces. It takes the place of the old
+// file, if there is one, in one step once it is complete, and is gone where it is not. Throws
+// RunTimeError as above.
+class Replacement final
+{
+public:
+    explicit Replacement(const QString &path);
+    ~Replacement();
+    Q_DISABLE_COPY_MOVE(Replacement)
+
+    void write(QByteArrayView bytes);
+    // It is on the disk when this returns.
+    void takePlace();
+
+private:
+    QString m_path;
+    std::unique_ptr<UnfinishedFile> m_file;
+};
 
 } // namespace BinaryFile
