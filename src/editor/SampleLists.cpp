@@ -8,12 +8,25 @@
 #include <QFile>
 
 #include <filesystem>
+#include <system_error>
 
 namespace {
 
 std::filesystem::path systemPath(const QString &path)
 {
     return QFile::encodeName(path).toStdString();
+}
+
+// A step that a signal interrupts is taken again.
+template <class Step> void uninterruptedStep(Step step)
+{
+    std::error_code error;
+    do {
+        error.clear();
+        step(error);
+    } while (error == std::errc::interrupted);
+    if (error)
+        throw std::filesystem::filesystem_error({}, error);
 }
 
 QByteArray contentOf(const QString &resource)
@@ -24,7 +37,9 @@ QByteArray contentOf(const QString &resource)
 
 void fill(const QString &folder)
 {
-    std::filesystem::create_directories(systemPath(folder));
+    uninterruptedStep([&](std::error_code &error) {
+        std::filesystem::create_directories(systemPath(folder), error);
+    });
     const QDir samples(QStringLiteral(":/lists"));
     const QStringList names = samples.entryList(QDir::Files);
     for (const QString &name : names)
@@ -42,7 +57,9 @@ void installSampleLists(const QString &folder)
     const QString unfinished = folder + QStringLiteral(".new");
     try {
         fill(unfinished);
-        std::filesystem::rename(systemPath(unfinished), systemPath(folder));
+        uninterruptedStep([&](std::error_code &error) {
+            std::filesystem::rename(systemPath(unfinished), systemPath(folder), error);
+        });
     } catch (const std::filesystem::filesystem_error &error) {
         QDir(unfinished).removeRecursively();
         throwFileError(error.code().value(), folder);

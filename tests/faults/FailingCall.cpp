@@ -196,16 +196,15 @@ ssize_t sendfile(int to, int from, off_t *offset, size_t size) noexcept
     return fails(Function::Write, to) ? -1 : next(to, from, offset, size);
 }
 
+// The tests look at what the process leaves, which needs no disk and its time.
 int fsync(int file)
 {
-    static auto *const next = original<int(int)>("fsync");
-    return fails(Function::Fsync, file) ? -1 : next(file);
+    return fails(Function::Fsync, file) ? -1 : 0;
 }
 
 int fdatasync(int file)
 {
-    static auto *const next = original<int(int)>("fdatasync");
-    return fails(Function::Fsync, file) ? -1 : next(file);
+    return fails(Function::Fsync, file) ? -1 : 0;
 }
 
 int close(int file)

@@ -5,7 +5,7 @@
 //
 // FailingCall.cpp puts functions of its own in the place of those of the C library, for the
 // program's code and for Qt's, in every test that is linked with it. A close that fails closes all
-// the same, as on Linux.
+// the same, as on Linux; a flush to the disk does nothing.
 #pragma once
 
 #include <QString>

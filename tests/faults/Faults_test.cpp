@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Each command that writes a file, with each of the system's calls that it makes failing in turn.
 #include "editor/OpenList.h"
+#include "editor/SampleLists.h"
 #include "faults/FailingCall.h"
 #include "game/Music.h"
 #include "game/Top10Rows.h"
@@ -13,6 +14,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QScopeGuard>
 
 #include <cerrno>
 #include <cstring>
@@ -118,6 +120,8 @@ private Q_SLOTS:
 
     void theOldFileOrTheNewOneIsThere_data();
     void theOldFileOrTheNewOneIsThere();
+    void theSampleListsAreThereWholeOrNotAtAll_data();
+    void theSampleListsAreThereWholeOrNotAtAll();
 
 private:
     [[nodiscard]] std::vector<FileCommand> commands();
@@ -346,6 +350,47 @@ void Faults_test::theOldFileOrTheNewOneIsThere()
             break; // the command does without the function
     }
     QVERIFY(m_main->answers.allSeen());
+    QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
+}
+
+void Faults_test::theSampleListsAreThereWholeOrNotAtAll_data()
+{
+    QTest::addColumn<Function>("function");
+    for (const Function function : FailingFunctions)
+        QTest::newRow(nameOf(function)) << function;
+}
+
+void Faults_test::theSampleListsAreThereWholeOrNotAtAll()
+{
+    QFETCH(Function, function);
+    const QStringList samples = QDir(u":/lists"_s).entryList(QDir::Files);
+    const QDir folder(disk(u"samples"_s));
+    m_wrong.clear();
+    for (const Way &way : MainWays) {
+        bool happens = true;
+        for (int call = 1; happens; ++call) {
+            const FailingCall::Fault fault{function, call, way.reason, way.lasting};
+            QVERIFY(QDir().mkdir(folder.path()));
+            QString error;
+            try {
+                const FailingCall failing(folder.path(), fault);
+                const auto note = qScopeGuard([&] { happens = failing.hasFailed(); });
+                installSampleLists(folder.filePath(u"MyLists"_s));
+            } catch (const RunTimeError &reported) {
+                error = reported.report();
+            }
+            const QStringList expected =
+                error.isEmpty() ? QStringList(u"MyLists"_s) : QStringList();
+            const QStringList names =
+                folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+            const QStringList lists = QDir(folder.filePath(u"MyLists"_s)).entryList(QDir::Files);
+            if (names != expected || (error.isEmpty() && lists != samples) ||
+                (!error.isEmpty() && !error.startsWith(reportStart(way.reason))))
+                m_wrong += QString::fromUtf8(describe(fault)) + u": "_s + error + u" ["_s +
+                           names.join(u", "_s) + u"] "_s + lists.join(u", "_s);
+            QVERIFY(QDir(folder.path()).removeRecursively());
+        }
+    }
     QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
 }
 
