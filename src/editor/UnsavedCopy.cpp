@@ -5,11 +5,10 @@
 #include "core/cVocabList.h"
 #include "platform/Guarded.h"
 #include "platform/Paths.h"
-#include "runtime/DiskFlush.h"
+#include "runtime/BinaryFile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 using namespace Module1;
 
@@ -50,14 +49,11 @@ QString freePath(const QString &folder, const QString &title)
 }
 
 // In one step: what was there before is whole until the new file is.
-bool writeFile(const QString &path, const QByteArray &bytes)
+void writeFile(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() ||
-        !flushToDisk(file) || !file.commit())
-        return false;
-    flushFolderToDisk(QFileInfo(path).path());
-    return true;
+    BinaryFile::Replacement file(path);
+    file.write(bytes);
+    file.takePlace();
 }
 
 } // namespace
@@ -102,7 +98,7 @@ void UnsavedCopy::timedOut()
     try {
         write();
     } catch (const std::exception &) {
-        // The list does not fit into a file or into memory twice.
+        // The disk refuses it, or the list does not fit into a file or into memory twice.
     }
 }
 
@@ -116,8 +112,7 @@ void UnsavedCopy::write()
         QDir().mkpath(folder);
         path = freePath(folder, title);
     }
-    if (!writeFile(path, bytes))
-        return;
+    writeFile(path, bytes);
     if (path != m_path)
         remove();
     m_path = path;
