@@ -6,7 +6,6 @@
 #include <QtEndian>
 
 #include <limits>
-#include <optional>
 
 namespace {
 
@@ -27,16 +26,6 @@ char *putText(char *out, const QString &text, std::size_t recordNumber)
 bool isCount(Integer count, Integer maxCount)
 {
     return count >= 0 && count <= maxCount;
-}
-
-// Where the records end; nothing where they run past the end of the bytes.
-std::optional<qsizetype> endOfRecords(QByteArrayView bytes)
-{
-    ByteReader reader(bytes);
-    const int texts = 3 * reader.number<qint16>();
-    for (int text = 0; text < texts && !reader.ranOut(); ++text)
-        static_cast<void>(reader.textBytes());
-    return reader.ranOut() ? std::nullopt : std::optional(bytes.size() - reader.left());
 }
 
 } // namespace
@@ -62,8 +51,13 @@ QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records)
 
 bool ListFile::holdsRecords(QByteArrayView start, Integer maxCount)
 {
-    return !isCount(ByteReader(start).number<qint16>(), maxCount) ||
-           endOfRecords(start).has_value();
+    ByteReader reader(start);
+    const Integer count = reader.number<qint16>();
+    if (!isCount(count, maxCount))
+        return true;
+    for (int text = 0; text < 3 * count.toInt() && !reader.ranOut(); ++text)
+        static_cast<void>(reader.textBytes());
+    return !reader.ranOut();
 }
 
 ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)
@@ -77,9 +71,7 @@ ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)
                 .arg(count.toInt())
                 .arg(maxCount.toInt()));
     Content content;
-    const std::optional<qsizetype> end = endOfRecords(bytes);
-    content.isWhole = end || bytes.isEmpty();
-    content.characters = fromWindows1252(bytes.first(end.value_or(bytes.size())));
+    content.characters = fromWindows1252(bytes);
     content.records.resize(static_cast<std::size_t>(count.toInt()));
     const QChar *characters = content.characters.constData();
     for (VocabRecord &record : content.records) {
@@ -88,5 +80,9 @@ ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)
             *text = QString::fromRawData(characters + (span.data() - bytes.data()), span.size());
         }
     }
+    // Most files end with their records. What is behind them is not to be kept.
+    if (reader.left() > 0)
+        return decode(bytes.chopped(reader.left()), maxCount);
+    content.isWhole = !reader.ranOut() || bytes.isEmpty();
     return content;
 }

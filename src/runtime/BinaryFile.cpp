@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr qsizetype FirstRead = 4 << 20; // a large list's
 constexpr qsizetype ChunkSize = 1 << 20;
 
 // The file that a chain of symbolic links ends at, existing or not.
@@ -47,7 +48,9 @@ template <class Action> auto withFileErrors(const QString &path, Action action)
 QByteArray readStart(SystemFile &file, const BinaryFile::IsEnough &isEnough)
 {
     QByteArray start;
-    for (qsizetype wanted = ChunkSize;; wanted *= 2) {
+    // One byte more tells the end.
+    qsizetype wanted = std::min<qsizetype>(FirstRead, file.status().st_size + 1);
+    for (;; wanted *= 2) {
         const qsizetype size = start.size();
         start.resize(wanted);
         start.truncate(size + file.read(start.data() + size, wanted - size));

@@ -21,8 +21,11 @@ public:
     // As many bytes as there are, up to the size.
     QByteArrayView take(qsizetype size)
     {
-        m_ranOut = m_ranOut || size > m_rest.size();
-        const QByteArrayView taken = m_rest.first(qMin(size, m_rest.size()));
+        if (size > m_rest.size()) [[unlikely]] {
+            m_ranOut = true;
+            size = m_rest.size();
+        }
+        const QByteArrayView taken = m_rest.first(size);
         m_rest = m_rest.sliced(taken.size());
         return taken;
     }
