@@ -72,14 +72,13 @@ ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)
                 .arg(maxCount.toInt()));
     Content content;
     content.characters = fromWindows1252(bytes);
-    content.records.resize(static_cast<std::size_t>(count.toInt()));
-    const QChar *characters = content.characters.constData();
-    for (VocabRecord &record : content.records) {
-        for (QString *text : {&record.Word, &record.Definition, &record.Sentence}) {
-            const QByteArrayView span = reader.textBytes();
-            *text = QString::fromRawData(characters + (span.data() - bytes.data()), span.size());
-        }
-    }
+    content.records.reserve(static_cast<std::size_t>(count.toInt()));
+    const auto nextText = [&, characters = content.characters.constData()] {
+        const QByteArrayView span = reader.textBytes();
+        return QString::fromRawData(characters + (span.data() - bytes.data()), span.size());
+    };
+    for (int record = 0; record < count.toInt(); ++record)
+        content.records.push_back({nextText(), nextText(), nextText()}); // in this order
     // Most files end with their records. What is behind them is not to be kept.
     if (reader.left() > 0)
         return decode(bytes.chopped(reader.left()), maxCount);
