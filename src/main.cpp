@@ -9,6 +9,8 @@
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 
+#include <cstdlib>
+
 int main(int argc, char *argv[])
 {
     Application application(argc, argv);
@@ -25,10 +27,11 @@ int main(int argc, char *argv[])
     std::unique_ptr<frmMain> mainWindow;
     QObject::connect(&splash, &frmSplash::unloaded, &application, [&mainWindow] {
         runGuarded([] { installSampleLists(pathOf(Place::WordLists)); });
-        runGuarded([&mainWindow] {
-            mainWindow = std::make_unique<frmMain>();
-            mainWindow->showMaximized();
-        });
+        if (!runGuarded([&mainWindow] {
+                mainWindow = std::make_unique<frmMain>();
+                mainWindow->showMaximized();
+            }))
+            Application::exit(EXIT_FAILURE);
         Application::setQuitOnLastWindowClosed(true);
     });
     splash.show();

@@ -28,7 +28,7 @@ dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
     // For a word with letters that the keyboard lacks.
     auto *copy = new QAction(QStringLiteral("&Copy Word"), m_ui->lblAnswerIs);
     connect(copy, &QAction::triggered, this,
-            [] { QGuiApplication::clipboard()->setText(gVocabList().Word()); });
+            [] { runGuarded([] { QGuiApplication::clipboard()->setText(gVocabList().Word()); }); });
     m_ui->lblAnswerIs->addAction(copy);
     m_ui->lblAnswerIs->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_ui->lblAnswerIs->setToolTip(QStringLiteral("Right-click to copy the word"));

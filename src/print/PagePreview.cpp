@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/PagePreview.h"
 
+#include "platform/Guarded.h"
 #include "platform/PrintMetrics.h"
 
 #include <QElapsedTimer>
@@ -44,7 +45,7 @@ PagePreview::PagePreview(QWidget *parent) : QAbstractScrollArea(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setZoom(Zoom::WholePage);
-    connect(&m_idle, &QTimer::timeout, this, &PagePreview::layOutMore);
+    connect(&m_idle, &QTimer::timeout, this, guarded(this, &PagePreview::layOutMore));
 }
 
 void PagePreview::setPages(std::unique_ptr<PreviewPages> pages)
@@ -77,7 +78,9 @@ void PagePreview::layOutWhenIdle()
 
 void PagePreview::layOutMore()
 {
+    m_idle.stop(); // what fails is told once
     m_pages->layOut(IdleSlice);
+    m_idle.start();
     afterLayout();
 }
 
@@ -215,8 +218,13 @@ void PagePreview::paintTexts(QPainter &painter) const
 
 void PagePreview::keyPressEvent(QKeyEvent *event)
 {
+    runGuarded([this, event] { takeKey(*event); });
+}
+
+void PagePreview::takeKey(QKeyEvent &event)
+{
     const bool whole = m_zoom == Zoom::WholePage;
-    switch (event->key()) {
+    switch (event.key()) {
     case Qt::Key_PageDown:
         goTo(m_page + 1);
         return;
@@ -243,12 +251,12 @@ void PagePreview::keyPressEvent(QKeyEvent *event)
         break;
     case Qt::Key_Plus:
     case Qt::Key_Minus:
-        setZoom(event->key() == Qt::Key_Plus ? Zoom::ActualSize : Zoom::WholePage);
+        setZoom(event.key() == Qt::Key_Plus ? Zoom::ActualSize : Zoom::WholePage);
         return;
     default:
         break;
     }
-    QAbstractScrollArea::keyPressEvent(event); // the arrows scroll
+    QAbstractScrollArea::keyPressEvent(&event); // the arrows scroll
 }
 
 // Turns the page where there is nothing left to scroll.
@@ -258,7 +266,7 @@ void PagePreview::wheelEvent(QWheelEvent *event)
     const int turned = event->angleDelta().y();
     if ((turned < 0 && bar.value() == bar.maximum()) ||
         (turned > 0 && bar.value() == bar.minimum()))
-        goTo(m_page - m_wheel.turned(turned));
+        runGuarded([this, turned] { goTo(m_page - m_wheel.turned(turned)); });
     else
         QAbstractScrollArea::wheelEvent(event);
     event->accept();

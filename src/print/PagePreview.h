@@ -60,6 +60,7 @@ private:
     void layOutWhenIdle();
     void layOutMore();
     void afterLayout();
+    void takeKey(QKeyEvent &event);
     void placeSheet();
     void showTexts();
     void paintTexts(QPainter &painter) const;

@@ -3,6 +3,7 @@
 
 #include "core/ListTools.h"
 #include "platform/PrintMetrics.h"
+#include "support/DialogAnswers.h"
 #include "support/FormTest.h"
 #include "support/FreshState.h"
 
@@ -104,6 +105,25 @@ private Q_SLOTS:
         // The first page is known; its lines end above the middle.
         m_preview->goTo(1);
         QCOMPARE(darkPixelsInTheMiddle(), 0);
+    }
+
+    void whatFailsInAnIdleMomentIsToldOnce()
+    {
+        makeLongList();
+        {
+            const PagePreview::Pause pause(*m_preview);
+            setPages();
+            QVERIFY(!isCounted());
+            gVocabList().ClearList();
+            gVocabList().AddVocab(u"word"_s, {}, {}); // too short a list for the job
+        }
+        DialogAnswers answers;
+        answers.expectMsgBox(u"Run-time error '9':\n\nSubscript out of range"_s);
+        QTRY_COMPARE(answers.seen(), 1);
+        for (int i = 0; i < 100; ++i)
+            QCoreApplication::processEvents(); // idle moments, in which nothing more may fail
+        QVERIFY(answers.allSeen());
+        QVERIFY(!isCounted());
     }
 
     void nothingIsLaidOutWhilePaused()
