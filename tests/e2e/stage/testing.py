@@ -51,5 +51,6 @@ def main():
     parser.add_argument("--size", default="1024x768")
     parser.add_argument("--scale", type=float, default=1)
     parser.add_argument("--pictures", type=pathlib.Path, default=pathlib.Path("pictures"))
+    parser.add_argument("--preload", type=pathlib.Path, help="a library that the test knows of")
     DesktopTest.options, rest = parser.parse_known_args()
     unittest.main(argv=[sys.argv[0], "--verbose", *rest])
