@@ -284,9 +284,13 @@ void frmMain_Entry_test::aDuplicateIsAskedAbout()
     main.typeEntry(word);
     main.answers.expectMsgBox(Duplicate, QMessageBox::No, [](QMessageBox &box) {
         QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
     });
     main.click("cmdAdd");
+    main.answers.escapeMsgBox(Duplicate);
+    main.click("cmdAdd");
     QVERIFY(main.answers.allSeen());
+    QCOMPARE(gVocabList().NumWords(), 3);
 }
 
 void frmMain_Entry_test::noToTheDuplicateKeepsWhatWasTyped()

@@ -167,6 +167,8 @@ void frmMain_Exit_test::theQuestionHasYesAndNoOnly()
     addCat(main);
     main.answers.expectMsgBox(SaveChanges, QMessageBox::No, [&main](QMessageBox &box) {
         QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
+        QVERIFY(box.isVisible()); // No would lose the changes
         // The window stands while it is asked.
         QVERIFY(main.window().isVisible());
     });

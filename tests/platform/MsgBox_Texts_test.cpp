@@ -39,8 +39,8 @@ QList<Said> allTexts()
             .report();
     };
     return {
-        {"changes at the end",
-         text("Your changes have not been saved.  Do you wish to save your changes?"), YesNo},
+        {"changes at the end", text("Your changes have not been saved.  Do you want to save them?"),
+         YesNo},
         {"saved", text("%1 has been saved.")},
         {"lesson", text("End current lesson?"), OkCancel},
         {"changes, three answers", text("Do you want to save changes?"), YesNoCancel},
@@ -48,7 +48,7 @@ QList<Said> allTexts()
         {"full", text("Cannot add any more words. Maximum number of words= %1")},
         {"duplicate", text("Word already exist.  Add word anyway?"), YesNo},
         {"nothing picked", text("Please select a word to delete or execute a search first.")},
-        {"delete", text("Are you sure you want to delete '%1'?"), YesNo},
+        {"delete", text("Are you sure you want to delete '%1' ?"), YesNo},
         {"nothing to delete", text("Cannot delete: Your current wordlist is empty.")},
         {"not found", text("%1 is not in the list.")},
         {"empty", text("Your current wordlist is empty")},
@@ -63,7 +63,7 @@ QList<Said> allTexts()
         {"added", text("%1 words added")},
         {"import full", text("Cannot import any more words. Maximum number of words=%1")},
         {"import too many", text("Cannot import words because this will exceed maximum number of "
-                                 "words that can be added. Maximum number of words=%1")},
+                                 "words. Maximum number of words=%1")},
         {"search ended", text("Search ended. No more words found.")},
         {"change", text("Are you sure you want to change the content of this word?"), OkCancel},
         {"reset", text("Are you sure you want to reset the scores?"), YesNo},

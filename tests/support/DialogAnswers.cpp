@@ -115,6 +115,19 @@ void DialogAnswers::seeOtherMsgBoxes(std::function<void(const QString &)> see)
     m_seeOther = std::move(see);
 }
 
+void DialogAnswers::escapeMsgBox(const QString &text)
+{
+    expect({QStringLiteral("message box \"%1\" to be closed by Esc").arg(text), Kind::MessageBox,
+            [text](QDialog &dialog) -> std::function<void()> {
+                auto &box = static_cast<QMessageBox &>(dialog);
+                compare("the message", box.text(), text);
+                return [box = QPointer(&box)] {
+                    if (box)
+                        QTest::keyClick(box->defaultButton(), Qt::Key_Escape);
+                };
+            }});
+}
+
 void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect)
 {
     expectFileDialog(QStringLiteral("file dialog for \"%1\"").arg(name), std::move(inspect),

@@ -36,6 +36,9 @@ public:
     // expected, is no failure: `see` has its text and its default button is pressed.
     void seeOtherMsgBoxes(std::function<void(const QString &)> see);
 
+    // A message box that Esc closes.
+    void escapeMsgBox(const QString &text);
+
     // A file dialog: the name (a full path, or one relative to the folder shown) is put into the
     // name box and Open or Save is pressed.
     void chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect = {});

@@ -177,7 +177,7 @@ private Q_SLOTS:
     {
         ask([this](const WordExistForm &form) {
             const QStringList before = form.existing();
-            m_answers->expectMsgBox(SureToDelete, QMessageBox::No);
+            m_answers->escapeMsgBox(SureToDelete);
             form.click("cmdDelete");
             QVERIFY(form.form.isVisible());
             QCOMPARE(form.existing(), before);
