@@ -30,17 +30,29 @@ bool isAnswer(const QWidget &receiver, int key)
 bool HeldKeys::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::KeyRelease:
+        m_releasedKey = static_cast<QKeyEvent *>(event)->key();
+        m_releasedAt = static_cast<QKeyEvent *>(event)->timestamp();
+        return false;
     case QEvent::ShortcutOverride:
-        m_repeated = static_cast<QKeyEvent *>(event)->isAutoRepeat();
+        m_repeated = isRepeat(static_cast<QKeyEvent &>(*event));
         return false;
     case QEvent::Shortcut:
         return m_repeated;
     case QEvent::KeyPress: {
         const auto &key = static_cast<QKeyEvent &>(*event);
-        return key.isAutoRepeat() && watched->isWidgetType() &&
+        return isRepeat(key) && watched->isWidgetType() &&
                isAnswer(static_cast<QWidget &>(*watched), key.key());
     }
     default:
         return false;
     }
+}
+
+// An X server repeats a key by a release and a press of the same moment. Qt misses that where the
+// press has not arrived when it takes the release.
+bool HeldKeys::isRepeat(const QKeyEvent &press) const
+{
+    return press.isAutoRepeat() || (press.timestamp() != 0 && press.timestamp() == m_releasedAt &&
+                                    press.key() == m_releasedKey);
 }

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+class QKeyEvent;
+
 class HeldKeys final : public QObject
 {
     Q_OBJECT
@@ -14,5 +16,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    [[nodiscard]] bool isRepeat(const QKeyEvent &press) const;
+
     bool m_repeated = false; // the key that is being looked up among the shortcuts
+    int m_releasedKey = 0;
+    quint64 m_releasedAt = 0;
 };

@@ -104,6 +104,25 @@ private Q_SLOTS:
         QCOMPARE(clicks.count(), 2);
     }
 
+    void aPressInTheMomentOfTheReleaseIsARepeat()
+    {
+        m_window->line->setFocus();
+        const QSignalSpy clicks(m_window->button, &QPushButton::clicked);
+        const auto send = [this](QEvent::Type type, quint64 time) {
+            QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier);
+            event.setTimestamp(time);
+            QApplication::sendEvent(m_window->line, &event);
+        };
+        send(QEvent::KeyPress, 1000);
+        QCOMPARE(clicks.count(), 1);
+        send(QEvent::KeyRelease, 1660);
+        send(QEvent::KeyPress, 1660);
+        QCOMPARE(clicks.count(), 1);
+        send(QEvent::KeyRelease, 1700);
+        send(QEvent::KeyPress, 1790);
+        QCOMPARE(clicks.count(), 2);
+    }
+
     void theLetterOfAButtonPressesItOnce()
     {
         m_window->line->setFocus();
