@@ -83,6 +83,13 @@ class Person:
     def presses(self, *keys):
         self._hand("key", *keys)
 
+    def holds(self, key):
+        self._hand("keydown", key)
+
+    def releases(self, key, after):
+        """After so many seconds; the keyboard repeats a key after two thirds of one."""
+        self._hand("sleep", after, "keyup", key)
+
     def types(self, text):
         """Letters on the keys of keyboard.xkb: é, è, à, ç as capitals are not among them."""
         self._hand("type", "--delay", 4, "--", text)
