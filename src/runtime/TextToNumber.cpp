@@ -19,14 +19,17 @@ struct Decimal
     qint64 pointAt = 0; // as many digits are before it; may lie outside them
 };
 
-// An exponent that is longer is as good as this one: no text has so many digits.
+// An exponent of more digits counts as one that no digits can make up for.
 qint64 exponentOf(const QString &text)
 {
     constexpr qint64 beyondAll = 1'000'000'000'000;
+    if (text.isEmpty())
+        return 0;
     bool fits = false;
     const qint64 exponent = text.toLongLong(&fits);
-    const qint64 limit = text.startsWith(QLatin1Char('-')) ? -beyondAll : beyondAll;
-    return text.isEmpty() ? 0 : fits ? std::clamp(exponent, -beyondAll, beyondAll) : limit;
+    if (!fits)
+        return text.startsWith(QLatin1Char('-')) ? -beyondAll : beyondAll;
+    return std::clamp(exponent, -beyondAll, beyondAll);
 }
 
 // The library would also take groups of digits, other blanks and the digits of other scripts.
