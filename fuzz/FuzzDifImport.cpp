@@ -65,13 +65,14 @@ struct Outcome
 };
 
 // A line ends at CR or CR LF; in a file without any CR at LF.
-std::vector<QString> linesOf(std::string_view bytes)
+std::vector<std::string_view> linesOf(std::string_view bytes)
 {
     const char lineEnd = bytes.find('\r') == std::string_view::npos ? '\n' : '\r';
-    std::vector<QString> lines;
+    std::vector<std::string_view> lines;
+    lines.reserve(64);
     while (!bytes.empty()) {
         const std::size_t end = std::min(bytes.find(lineEnd), bytes.size());
-        lines.push_back(fromWindows1252(bytes.substr(0, end)));
+        lines.push_back(bytes.substr(0, end));
         const bool isPair = bytes.substr(end, 2) == "\r\n";
         bytes.remove_prefix(std::min(end + (isPair ? 2 : 1), bytes.size()));
     }
@@ -84,6 +85,7 @@ public:
     PlainImport(std::string_view bytes, Answers answers)
         : m_lines(linesOf(bytes)), m_answers(std::move(answers))
     {
+        m_outcome.entries.reserve(16);
         m_outcome.entries = Before;
     }
 
@@ -100,7 +102,7 @@ public:
     }
 
 private:
-    [[nodiscard]] const QString &line(std::size_t number) const
+    [[nodiscard]] std::string_view line(std::size_t number) const
     {
         if (number > m_lines.size())
             throw RunTimeError(RunTimeError::SubscriptOutOfRange);
@@ -109,17 +111,18 @@ private:
 
     [[nodiscard]] QString countOf(std::size_t number) const
     {
-        const QString &text = line(number);
-        const qsizetype comma = text.indexOf(u',');
-        const bool isThere = comma >= 0 && comma + 1 < text.size();
-        return isThere ? text.mid(comma + 1) : QStringLiteral("0");
+        std::string_view text = line(number);
+        const std::size_t comma = text.find(',');
+        text = comma == std::string_view::npos ? std::string_view() : text.substr(comma + 1);
+        return fromWindows1252(text.empty() ? "0" : text);
     }
 
     [[nodiscard]] QString value(std::size_t number) const
     {
-        if (line(number).size() < 2)
+        const std::string_view text = line(number);
+        if (text.size() < 2)
             throw RunTimeError(RunTimeError::InvalidProcedureCall);
-        return line(number).mid(1).chopped(1);
+        return fromWindows1252(text.substr(1, text.size() - 2));
     }
 
     void importRows()
@@ -128,7 +131,7 @@ private:
         const Integer tuples = toInteger(countOf(8));
         std::size_t i = 14;
         while (vectors >= 1 && !m_stop) {
-            if (line(i) != QLatin1String("BOT")) {
+            if (line(i) != "BOT") {
                 i += 1;
             } else {
                 i += 2;
@@ -139,7 +142,7 @@ private:
                 }
                 takeRow();
             }
-            m_stop |= line(i) == QLatin1String("EOD");
+            m_stop |= line(i) == "EOD";
         }
     }
 
@@ -179,7 +182,7 @@ private:
         m_stop = answer == Answer::Abort;
     }
 
-    std::vector<QString> m_lines;
+    std::vector<std::string_view> m_lines;
     Answers m_answers;
     Entry m_entry;
     Outcome m_outcome;
@@ -215,6 +218,7 @@ Outcome importedOutcome()
     gSkipAll = gChanged = false;
     messages.clear();
     Outcome outcome;
+    outcome.entries.reserve(16);
     try {
         Import().ImportDif();
     } catch (const RunTimeError &error) {
