@@ -30,7 +30,7 @@ QString withoutLinks(const QString &path)
 
 QString placeOf(const QString &path)
 {
-    const QString place = withoutLinks(path);
+    QString place = withoutLinks(path);
     checkPlaceOfFile(place);
     return place;
 }
