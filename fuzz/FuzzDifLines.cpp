@@ -51,6 +51,17 @@ void checkShortLine(std::string_view line)
     }
 }
 
+// The end that a start of the file tells is that of the file. Small files have no long start, so
+// that the kind of line end has to be told by this one.
+void checkEnd(QByteArrayView start, QByteArrayView bytes)
+{
+    const std::optional<qsizetype> end = difEnd(start);
+    require(!end || (*end >= 0 && *end <= start.size()));
+    if (end && start.contains('\r') == bytes.contains('\r'))
+        require(difEnd(bytes) == end ||
+                (*end == start.size() && start.back() == '\r' && difEnd(bytes) == *end + 1));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
@@ -60,6 +71,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     requireLines(bytes, lines);
     for (const std::string_view line : lines)
         checkLine(line);
+    if (size > 0)
+        checkEnd(bytes.first(qsizetype(size * data[size - 1] / 256)), bytes);
     // One is enough: what is thrown takes long.
     const auto isShort = [](std::string_view line) { return line.size() < 2; };
     const auto shortLine = std::find_if(lines.begin(), lines.end(), isShort);

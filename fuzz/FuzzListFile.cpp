@@ -22,12 +22,14 @@ VocabRecord copyOf(const VocabRecord &record)
     return {copied(record.Word), copied(record.Definition), copied(record.Sentence)};
 }
 
-// The records in the bytes; nothing where their count is refused.
-std::optional<Records> recordsIn(QByteArrayView bytes)
+// The records in the bytes; nothing where their count is refused. Sets whether they end in them.
+std::optional<Records> recordsIn(QByteArrayView bytes, bool *isWhole = nullptr)
 {
     try {
         const ListFile::Content content = ListFile::decode(bytes, MaxCount);
         Records records(content.records.size());
+        if (isWhole != nullptr)
+            *isWhole = content.isWhole;
         std::transform(content.records.begin(), content.records.end(), records.begin(), copyOf);
         return records;
     } catch (const RunTimeError &error) {
@@ -60,20 +62,39 @@ bool isSame(const VocabRecord &a, const VocabRecord &b)
     return a.Word == b.Word && a.Definition == b.Definition && a.Sentence == b.Sentence;
 }
 
-void checkRecords(const Records &records, QByteArrayView bytes)
+bool areSame(const Records &a, const Records &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), isSame);
+}
+
+void checkRecords(const Records &records, QByteArrayView bytes, bool isWhole)
 {
     qsizetype at = 2;
-    for (const VocabRecord &record : records)
-        for (const QString *text : {&record.Word, &record.Definition, &record.Sentence})
+    qsizetype wanted = 2; // bytes, if no text were cut off
+    for (const VocabRecord &record : records) {
+        for (const QString *text : {&record.Word, &record.Definition, &record.Sentence}) {
+            wanted += 2 + numberAt(bytes, at);
             at = checkText(*text, bytes, at);
+        }
+    }
+    require(isWhole == (wanted <= bytes.size() || bytes.isEmpty()));
 
     const QByteArray written = ListFile::encode(records.size(), records);
     const std::optional<Records> again = recordsIn(written);
-    require(again &&
-            std::equal(records.begin(), records.end(), again->begin(), again->end(), isSame));
+    require(again && areSame(records, *again));
     // Where bytes are left over no text was cut off: the file begins with those very bytes.
     if (at < bytes.size())
         require(written == bytes.first(at));
+}
+
+// A start of the file that is said to be enough gives the same records.
+void checkStart(QByteArrayView start, const std::optional<Records> &records)
+{
+    if (!ListFile::holdsRecords(start, MaxCount))
+        return;
+    const std::optional<Records> early = recordsIn(start);
+    require(early.has_value() == records.has_value());
+    require(!early || areSame(*early, *records));
 }
 
 } // namespace
@@ -82,11 +103,16 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
 {
     const QByteArrayView bytes = bytesOf(data, size);
     const auto count = static_cast<std::int16_t>(numberAt(bytes, 0));
-    const std::optional<Records> records = recordsIn(bytes);
+    bool isWhole = false;
+    const std::optional<Records> records = recordsIn(bytes, &isWhole);
     require(records.has_value() == (count >= 0 && count <= MaxCount));
     if (records) {
         require(records->size() == std::size_t(count));
-        checkRecords(*records, bytes);
+        checkRecords(*records, bytes, isWhole);
+        if (size >= 2)
+            require(ListFile::holdsRecords(bytes, MaxCount) == isWhole);
     }
+    if (size > 0)
+        checkStart(bytes.first(qsizetype(size * data[size - 1] / 256)), records);
     return 0;
 }
