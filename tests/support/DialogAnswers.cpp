@@ -188,6 +188,18 @@ void DialogAnswers::useForm(const char *name, std::function<void(QDialog &)> use
             }});
 }
 
+void DialogAnswers::useMsgBox(const QString &text, std::function<void(QMessageBox &)> use)
+{
+    expect({QStringLiteral("message box \"%1\"").arg(text), Kind::MessageBox,
+            [text, use = std::move(use)](QDialog &dialog) {
+                compare("the message", static_cast<QMessageBox &>(dialog).text(), text);
+                return [use, open = QPointer(&dialog)] {
+                    if (open)
+                        use(static_cast<QMessageBox &>(*open));
+                };
+            }});
+}
+
 bool DialogAnswers::allSeen()
 {
     for (const Expected &expected : std::exchange(m_expected, {})) {

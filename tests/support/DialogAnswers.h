@@ -52,6 +52,8 @@ public:
     // A modal form of the program, by its name: `use` clicks and types in it and has to close it.
     // What opens over it is the next in the queue.
     void useForm(const char *name, std::function<void(QDialog &)> use);
+    // A message box with this exact text, closed by `use`, in whichever way.
+    void useMsgBox(const QString &text, std::function<void(QMessageBox &)> use);
 
     // Whether every dialog that was expected has come and gone and no other one has.
     [[nodiscard]] bool allSeen();
