@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// File > New, Open, Save, Save As, Create Text File, Exit, with the questions before them.
+#include "soak/Rules.h"
+#include "soak/Soak.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+
+#include <functional>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Outcome { Done, Declined, Failed };
+
+bool isEditorShown(Soak &soak)
+{
+    return !soak.game();
+}
+
+// A file to save to, of all kinds; none where the person changes their mind.
+std::optional<QString> chosenTarget(Soak &soak, const QString &ending)
+{
+    switch (soak.roll(10)) {
+    case 0:
+        return {};
+    case 1:
+        return soak.inLists(u"nowhere/list"_s + ending);
+    case 2:
+        return soak.inLists(u"locked/new"_s + ending);
+    case 3:
+        return soak.inLists(u"readonly.lwx"_s);
+    case 4:
+        return soak.inLists(u"locked/inside.lwx"_s);
+    case 5:
+    case 6:
+        return soak.oneOf(soak.files(u"x"_s));
+    default:
+        return soak.inLists(u"mine %1"_s.arg(soak.roll(4)) + ending);
+    }
+}
+
+using Look = std::function<void(QFileDialog &)>;
+
+// The dialog in which the target is chosen; nothing where it is cancelled in the end.
+std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const Look &look = {})
+{
+    const auto target = chosenTarget(soak, ending);
+    soak.note(u"to "_s + target.value_or(u"nothing"_s));
+    if (!target) {
+        soak.answers().cancelFileDialog(look);
+        return {};
+    }
+    // The ending comes by itself.
+    soak.answers().chooseFile(soak.chance(30) && target->endsWith(ending) &&
+                                      !target->chopped(ending.size()).contains(u'.')
+                                  ? target->chopped(ending.size())
+                                  : *target,
+                              look);
+    if (!QFileInfo::exists(*target))
+        return target;
+    const bool replace = soak.chance(70);
+    soak.answers().answerOverwrite(QFileInfo(*target).fileName(),
+                                   replace ? QMessageBox::Yes : QMessageBox::No);
+    if (replace)
+        return target;
+    soak.answers().cancelFileDialog();
+    return {};
+}
+
+// The list's own name is offered, and none for an untitled list.
+void compareOffered(QFileDialog &dialog, const QString &title)
+{
+    const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
+    if (Rules::SaveAsOffersOwnName && offered != title)
+        Controls::fail(u"the name \"%1\" is offered"_s.arg(offered));
+}
+
+void markAsSaved(Model &model)
+{
+    model.changed = false;
+    model.canSave = false;
+}
+
+Outcome expectSaveAs(Soak &soak)
+{
+    Model &model = soak.model;
+    const QString ownName = QFileInfo(model.fileName).fileName();
+    const auto target = expectSaveDialog(
+        soak, u".lwx"_s, [ownName](QFileDialog &dialog) { compareOffered(dialog, ownName); });
+    if (!target)
+        return Outcome::Declined;
+    const int error = model.count() > 0 ? Model::writeError(*target) : 0;
+    if (error != 0) {
+        soak.expectRunTimeError(error);
+        return Outcome::Failed;
+    }
+    model.fileName = *target;
+    model.fileTitle = QFileInfo(*target).fileName();
+    if (model.count() > 0)
+        model.write(*target, model.listBytes());
+    // An empty list writes no file.
+    if (Rules::SaveAsOpens)
+        model.openedFile = model.count() > 0 ? *target : QString();
+    markAsSaved(model);
+    model.showTitle();
+    return Outcome::Done;
+}
+
+// Over the list's own file; without a word where the program ends.
+Outcome expectSaveToOwnFile(Soak &soak, bool isTold)
+{
+    Model &model = soak.model;
+    const int error = model.count() > 0 ? Model::writeError(model.fileName) : 0;
+    if (error != 0) {
+        soak.expectRunTimeError(error);
+        return Outcome::Failed;
+    }
+    if (model.count() > 0)
+        model.write(model.fileName, model.listBytes());
+    if (isTold)
+        soak.expectMsgBox(model.fileName + u" has been saved."_s);
+    markAsSaved(model);
+    return Outcome::Done;
+}
+
+Outcome expectSave(Soak &soak)
+{
+    return soak.model.fileName.isEmpty() ? expectSaveAs(soak) : expectSaveToOwnFile(soak, true);
+}
+
+// The questions before the list goes.
+Outcome expectEndOfLesson(Soak &soak, bool mayCancel)
+{
+    if (soak.chance(10)) {
+        soak.expectMsgBox(u"End current lesson?"_s, QMessageBox::Cancel);
+        return Outcome::Declined;
+    }
+    soak.expectMsgBox(u"End current lesson?"_s, QMessageBox::Ok);
+    if (!soak.model.changed)
+        return Outcome::Done;
+    const QString question = u"Do you want to save changes?"_s;
+    if (mayCancel && soak.chance(20)) {
+        soak.expectMsgBox(question, QMessageBox::Cancel);
+        return Outcome::Declined;
+    }
+    const auto answer = soak.chance(70) ? QMessageBox::Yes : QMessageBox::No;
+    soak.expectMsgBox(question, answer);
+    return answer == QMessageBox::Yes ? expectSave(soak) : Outcome::Done;
+}
+
+void save(Soak &soak)
+{
+    expectSave(soak);
+    soak.main().choose("mnuSave");
+}
+
+bool canSave(Soak &soak)
+{
+    return isEditorShown(soak) && soak.model.canSave;
+}
+
+void saveAs(Soak &soak)
+{
+    expectSaveAs(soak);
+    soak.main().choose("mnuSaveAs");
+}
+
+void newList(Soak &soak)
+{
+    if (expectEndOfLesson(soak, true) == Outcome::Done) {
+        Model &model = soak.model;
+        model.replaceBy({});
+        model.fileName.clear();
+        model.fileTitle.clear();
+        model.openedFile.clear();
+        model.showTitle();
+        model.changed = false;
+        model.mode = Model::Mode::NewList;
+        model.shown = 0;
+        model.newWord = true;
+        model.wordSelected = false;
+    }
+    soak.main().choose("mnuNew");
+}
+
+QString chosenList(Soak &soak)
+{
+    switch (soak.roll(10)) {
+    case 0:
+        return soak.inLists(u"nowhere/list.lwx"_s);
+    case 1:
+        return soak.inLists(u"locked/missing.lwx"_s);
+    case 2:
+        return soak.inLists(u"missing %1.lwx"_s.arg(soak.roll(3)));
+    default:
+        return soak.oneOf(soak.files(u".lwx"_s));
+    }
+}
+
+void becomeIdle(Model &model)
+{
+    model.mode = Model::Mode::Idle;
+    model.shown = 0;
+}
+
+void expectOpen(Soak &soak)
+{
+    Model &model = soak.model;
+    if (soak.chance(10)) {
+        soak.answers().cancelFileDialog();
+        model.fileName.clear();
+        model.fileTitle.clear();
+        return becomeIdle(model);
+    }
+    const QString chosen = chosenList(soak);
+    soak.note(chosen);
+    soak.answers().chooseFile(chosen);
+    const bool isLoaded = chosen == model.openedFile;
+    if (!isLoaded && Model::readError(chosen) != 0)
+        return soak.expectRunTimeError(Model::readError(chosen));
+    if (!isLoaded) {
+        auto list = Model::listOf(model.read(chosen));
+        if (!list)
+            return soak.expectRunTimeError(9);
+        model.replaceBy(std::move(*list));
+        model.openedFile = chosen;
+        markAsSaved(model);
+    }
+    model.fileName = chosen;
+    model.fileTitle = QFileInfo(chosen).fileName();
+    if (!isLoaded)
+        model.showTitle();
+    becomeIdle(model);
+}
+
+void open(Soak &soak)
+{
+    if (expectEndOfLesson(soak, false) == Outcome::Done)
+        expectOpen(soak);
+    soak.main().choose("mnuOpen");
+}
+
+void createTextFile(Soak &soak)
+{
+    Model &model = soak.model;
+    if (model.count() == 0) {
+        soak.expectMsgBox(u"File not created: Your current wordlist is empty."_s);
+    } else if (const auto target = expectSaveDialog(soak, u".txt"_s)) {
+        const bool isOpenList = *target == model.openedFile || *target == model.fileName;
+        if (Rules::TextFileSparesLists && isOpenList) {
+            soak.expectMsgBox(*target + u" file is currently in use."_s);
+        } else if (const int error = Model::writeError(*target)) {
+            soak.expectRunTimeError(error);
+        } else {
+            model.write(*target, model.textBytes());
+            model.showTitle();
+        }
+    }
+    soak.main().choose("mnuCreateTextFile");
+}
+
+// Whether the program ends.
+bool expectEnd(Soak &soak)
+{
+    if (!soak.model.changed)
+        return true;
+    const auto answer = soak.chance(50) ? QMessageBox::Yes : QMessageBox::No;
+    soak.expectMsgBox(u"Your changes have not been saved.  Do you want to save them?"_s, answer);
+    if (answer == QMessageBox::No)
+        return true;
+    const Outcome outcome =
+        soak.model.fileName.isEmpty() ? expectSaveAs(soak) : expectSaveToOwnFile(soak, false);
+    return outcome != Outcome::Failed;
+}
+
+void exitProgram(Soak &soak)
+{
+    const bool ends = expectEnd(soak);
+    if (soak.chance(50))
+        soak.main().choose("mnuExit");
+    else
+        soak.main().window().close();
+    if (soak.main().window().isVisible() == ends)
+        Controls::fail(ends ? u"the window is still there"_s : u"the window is gone"_s);
+    if (ends && soak.answers().allSeen())
+        soak.startAnew();
+}
+
+void chooseMusic(Soak &soak)
+{
+    constexpr const char *items[] = {"mnuUpbeat", "mnuSoothing", "mnuMusicOff"};
+    soak.main().choose(soak.oneOf(items));
+}
+
+} // namespace
+
+std::vector<Action> fileActions()
+{
+    return {
+        {"File > New", 5, isEditorShown, newList},
+        {"File > Open", 12, isEditorShown, open},
+        {"File > Save", 15, canSave, save},
+        {"File > Save As", 6, isEditorShown, saveAs},
+        {"File > Create Text File", 5, isEditorShown, createTextFile},
+        {"File > Exit", 3, isEditorShown, exitProgram},
+        {"Game > Music", 4, isEditorShown, chooseMusic},
+    };
+}

@@ -1,0 +1,358 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// File > Import: lists and DIF files, and the dialog about words that exist already.
+#include "runtime/Blanks.h"
+#include "runtime/Windows1252.h"
+#include "soak/Rules.h"
+#include "soak/Soak.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <memory>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// One import from its first word to its last message. It goes on in the model until the next word
+// that exists already, and from there when the person has answered.
+class ImportRun final : public std::enable_shared_from_this<ImportRun>
+{
+public:
+    enum class Kind { List, Dif };
+
+    ImportRun(Soak &soak, Kind kind, std::vector<Entry> words)
+        : m_soak(soak), m_kind(kind), m_words(std::move(words))
+    {
+        m_soak.model.addThis = m_soak.model.addAll = false;
+    }
+
+    // What ends the reading of a damaged file; 0 = nothing does.
+    void endWithError(int number) { m_error = number; }
+
+    void expectRest()
+    {
+        Model &model = m_soak.model;
+        while (m_next < m_words.size() && !m_stopped) {
+            const Entry &word = m_words[m_next++];
+            model.imported = word;
+            m_current = model.addAll ? 0 : model.find(word.word, 1);
+            if (m_current != 0 && !model.skipAll)
+                return expectQuestion();
+            takeOrSkip(m_current == 0);
+        }
+        expectEnd();
+    }
+
+private:
+    // A new word is taken at once. In a DIF file it is so once more after a Yes.
+    void takeOrSkip(bool isNew)
+    {
+        const Model &model = m_soak.model;
+        const bool wanted = model.addThis || model.addAll;
+        if (isNew && (m_kind == Kind::Dif ? !model.addAll : true))
+            add();
+        if (wanted && (m_kind == Kind::Dif || !isNew))
+            add();
+    }
+
+    void add()
+    {
+        m_soak.model.add(m_soak.model.imported);
+        m_soak.model.changed = true;
+        ++m_added;
+    }
+
+    void expectQuestion()
+    {
+        m_soak.answers().useForm("dlgWordExist",
+                                 [run = shared_from_this()](QDialog &form) { run->answer(form); });
+    }
+
+    void answer(QDialog &form)
+    {
+        Model &model = m_soak.model;
+        model.addThis = model.addAll = false;
+        compare(form, u"Word in current wordlist: "_s);
+        for (int times = m_soak.roll(4); times > 0; --times)
+            editExisting(form);
+        Soak::waitFor(form);
+        const char *button = m_soak.oneOf(Answers);
+        m_soak.note(QLatin1String(button));
+        take(QLatin1String(button));
+        takeOrSkip(false);
+        expectRest();
+        if (QLatin1String(button) != Close)
+            Controls::click(Controls::find<QPushButton>(form, button));
+        else if (m_soak.chance(50))
+            form.close();
+        else
+            Soak::press(form, Qt::Key_Escape);
+    }
+
+    void take(QLatin1String button)
+    {
+        Model &model = m_soak.model;
+        if (button == QLatin1String("cmdYes"))
+            model.addThis = true;
+        else if (button == QLatin1String("cmdYesToAll"))
+            model.addAll = true;
+        else if (button == QLatin1String("cmdNoToAll"))
+            model.skipAll = true;
+        else if (button == QLatin1String("cmdAbort"))
+            m_stopped = true;
+    }
+
+    void editExisting(QDialog &form)
+    {
+        Soak::waitFor(form);
+        const char *name = m_soak.oneOf(Edits);
+        auto &button = Controls::find<QPushButton>(form, name);
+        if (!button.isEnabled())
+            return;
+        m_soak.note(QLatin1String(name));
+        if (QLatin1String(name) == QLatin1String("cmdFindNext"))
+            findNext(form);
+        else if (QLatin1String(name) == QLatin1String("cmdDelete"))
+            deleteExisting(form);
+        else if (QLatin1String(name) == QLatin1String("cmdUpdate"))
+            update(form);
+        else
+            Controls::click(button);
+    }
+
+    void findNext(QDialog &form)
+    {
+        const int hit = m_soak.model.find(m_soak.model.imported.word, m_current + 1);
+        if (hit == 0)
+            m_soak.expectMsgBox(u"Search ended. No more words found."_s);
+        else
+            m_current = hit;
+        Controls::click(Controls::find<QPushButton>(form, "cmdFindNext"));
+        if (hit != 0)
+            compare(form, u"Current word: "_s);
+    }
+
+    void deleteExisting(QDialog &form)
+    {
+        const auto answer = m_soak.chance(60) ? QMessageBox::Yes : QMessageBox::No;
+        m_soak.expectMsgBox(
+            u"Are you sure you want to delete '%1' ?"_s.arg(m_soak.model.imported.word), answer);
+        if (answer == QMessageBox::Yes) {
+            m_soak.model.remove(m_current);
+            m_current = m_current < 2 ? 1 : m_current - 1;
+            m_deleted = true;
+        }
+        Controls::click(Controls::find<QPushButton>(form, "cmdDelete"));
+    }
+
+    void update(QDialog &form)
+    {
+        auto &box = Controls::find<QLineEdit>(form, "txtCurWord");
+        if (m_soak.chance(50))
+            m_soak.fill(box, m_soak.word());
+        const auto answer = m_soak.chance(60) ? QMessageBox::Ok : QMessageBox::Cancel;
+        m_soak.expectMsgBox(u"Are you sure you want to change the content of this word?"_s, answer);
+        if (answer == QMessageBox::Ok) {
+            const Entry &old = m_soak.model.entry(m_current);
+            m_soak.model.edit(m_current,
+                              {withoutOuterBlanks(box.text()), withoutOuterBlanks(old.definition),
+                               withoutOuterBlanks(old.sentence)});
+            m_soak.model.changed = true;
+        }
+        Controls::click(Controls::find<QPushButton>(form, "cmdUpdate"));
+    }
+
+    void compare(QDialog &form, const QString &title) const
+    {
+        const auto &model = m_soak.model;
+        const QString shown = Controls::find<QGroupBox>(form, "frmCurWord").title();
+        if (shown != title + QString::number(m_current) ||
+            Controls::find<QLineEdit>(form, "txtCurWord").text() != model.entry(m_current).word ||
+            Controls::find<QLineEdit>(form, "txtImportWord").text() != model.imported.word)
+            Controls::fail(u"the dialog shows \"%1\" for entry %2"_s.arg(shown).arg(m_current));
+    }
+
+    void expectEnd()
+    {
+        Model &model = m_soak.model;
+        const bool isEntryGone = model.shown != 0 && m_deleted;
+        if (Rules::ImportKeepsEntry && isEntryGone) {
+            model.mode = Model::Mode::Idle;
+            model.shown = 0;
+        }
+        if (m_error != 0 && !m_stopped)
+            return m_soak.expectRunTimeError(m_error);
+        if (m_kind == Kind::List) {
+            model.canSave = model.canSave || model.changed;
+            m_soak.expectMsgBox(u"%1 words imported"_s.arg(m_added));
+        } else {
+            model.skipAll = false;
+            m_soak.expectMsgBox(u"%1 words added"_s.arg(m_added));
+        }
+        model.addThis = model.addAll = false;
+    }
+
+    static constexpr QLatin1String Close{"close"};
+    static constexpr const char *Answers[] = {"cmdYes",     "cmdNo",    "cmdYesToAll",
+                                              "cmdNoToAll", "cmdAbort", "close"};
+    static constexpr const char *Edits[] = {"cmdFindNext", "cmdAllowModify", "cmdUpdate",
+                                            "cmdDelete"};
+
+    Soak &m_soak;
+    Kind m_kind;
+    std::vector<Entry> m_words;
+    int m_error = 0;
+    std::size_t m_next = 0;
+    int m_current = 0; // the entry that the dialog shows
+    int m_added = 0;
+    bool m_stopped = false;
+    bool m_deleted = false;
+};
+
+// Before the words come in: an entry in the boxes is let go.
+void letEntryGo(Model &model)
+{
+    if (Rules::ImportKeepsEntry || model.shown == 0)
+        return;
+    model.mode = Model::Mode::Idle;
+    model.shown = 0;
+}
+
+bool isEditorShown(Soak &soak)
+{
+    return !soak.game();
+}
+
+void importList(Soak &soak)
+{
+    Model &model = soak.model;
+    const QString path = soak.oneOf(soak.files(u".lwx"_s));
+    soak.note(path);
+    soak.answers().chooseFile(path);
+    letEntryGo(model);
+    model.addThis = model.addAll = model.skipAll = false;
+    const auto list = Model::listOf(model.read(path));
+    if (const int error = Model::readError(path)) {
+        soak.expectRunTimeError(error);
+    } else if (!list) {
+        soak.expectRunTimeError(9);
+    } else {
+        model.changed = false;
+        std::vector<Entry> words = *list;
+        std::erase_if(words, [](const Entry &entry) { return entry.word.isEmpty(); });
+        std::make_shared<ImportRun>(soak, ImportRun::Kind::List, words)->expectRest();
+    }
+    soak.main().choose("mnuImport");
+}
+
+struct DifFile
+{
+    QByteArray bytes;
+    std::vector<Entry> words; // as they come in
+    int error = 0;            // that reading it ends with
+    bool isRefused = false;   // before its first word
+};
+
+QByteArray quoted(const QString &text)
+{
+    return '"' + toWindows1252(text) + '"';
+}
+
+// `before`: the texts of the word that was imported last, which stay where a row has none.
+DifFile difFile(Soak &soak, Entry before)
+{
+    const int values = 1 + soak.roll(3);
+    QByteArrayList lines{"TABLE", "0,1",  "\"\"",   "VECTORS",
+                         "0,3",   "\"\"", "TUPLES", "0," + QByteArray::number(values),
+                         "\"\"",  "DATA", "0,0",    "\"\"",
+                         "-1,0"};
+    DifFile file;
+    for (int rows = soak.roll(12); rows > 0; --rows) {
+        before.word = fromWindows1252(toWindows1252(soak.word()));
+        lines << "BOT"
+              << "1,0" << quoted(before.word);
+        if (values > 1) {
+            const QString text = u"text %1"_s.arg(rows);
+            (values == 2 ? before.definition : before.sentence) = text;
+            lines << "1,0" << quoted(text);
+        }
+        file.words.push_back(before);
+    }
+    switch (soak.roll(6)) {
+    case 0: // cut off behind its last row
+        file.error = 9;
+        break;
+    case 1: // a value that is no text
+        lines << "BOT"
+              << "0,5"
+              << "V";
+        file.error = 5;
+        break;
+    case 2:
+        lines = {"TABLE", "0,1"};
+        file.error = 9;
+        file.isRefused = true;
+        break;
+    case 3:
+        lines[7] = "0,many";
+        file.error = 13;
+        file.isRefused = true;
+        break;
+    default:
+        lines << "EOD";
+        // In the first line of the data it is not looked for.
+        file.error = file.words.empty() ? 9 : 0;
+    }
+    file.bytes = lines.join("\r\n") + "\r\n";
+    return file;
+}
+
+void importDif(Soak &soak)
+{
+    const DifFile dif = difFile(soak, soak.model.imported);
+    QFile file(soak.path(u"words.dif"_s));
+    if (!file.open(QIODevice::WriteOnly) || file.write(dif.bytes) != dif.bytes.size())
+        Controls::fail(u"cannot write "_s + file.fileName());
+    file.close();
+    QStringList words;
+    for (const Entry &entry : dif.words)
+        words += entry.word;
+    soak.note(u"%1, error %2"_s.arg(words.join(u'|')).arg(dif.error));
+    soak.answers().chooseFile(file.fileName());
+    letEntryGo(soak.model);
+    if (dif.isRefused) {
+        soak.expectRunTimeError(dif.error);
+    } else {
+        const auto run = std::make_shared<ImportRun>(soak, ImportRun::Kind::Dif, dif.words);
+        run->endWithError(dif.error);
+        run->expectRest();
+    }
+    soak.main().choose("mnuImport");
+}
+
+void importNothing(Soak &soak)
+{
+    if (soak.chance(50)) {
+        soak.answers().cancelFileDialog();
+    } else {
+        soak.answers().chooseFile(soak.inLists(u"old.txt"_s)); // no kind that can be imported
+        letEntryGo(soak.model);
+    }
+    soak.main().choose("mnuImport");
+}
+
+} // namespace
+
+std::vector<Action> importActions()
+{
+    return {
+        {"import a list", 10, isEditorShown, importList},
+        {"import a DIF file", 10, isEditorShown, importDif},
+        {"import nothing", 3, isEditorShown, importNothing},
+    };
+}

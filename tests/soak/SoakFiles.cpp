@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The files that a freshly started program finds: good ones, bad ones and forbidden ones.
+#include "soak/Soak.h"
+
+#include "platform/Paths.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<Entry> listOfWords(Soak &soak, int count)
+{
+    std::vector<Entry> list;
+    while (int(list.size()) < count)
+        list.push_back({soak.word(), soak.text(), soak.text()});
+    return list;
+}
+
+QByteArray listFile(Soak &soak, int count)
+{
+    return Model::listBytes(listOfWords(soak, count), count);
+}
+
+QByteArray randomBytes(Soak &soak, int size)
+{
+    QByteArray bytes;
+    while (bytes.size() < size)
+        bytes += char(soak.roll(256));
+    return bytes;
+}
+
+} // namespace
+
+void Soak::layOutFiles()
+{
+    QDir().mkpath(inLists(u"locked"_s));
+    const auto put = [this](const QString &name, const QByteArray &bytes) {
+        QFile file(inLists(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            Controls::fail(u"cannot write "_s + file.fileName());
+        model.disk[file.fileName()] = bytes;
+    };
+    put(u"few.lwx"_s, listFile(*this, 1 + roll(5)));
+    put(u"page.lwx"_s, listFile(*this, 20 + roll(5)));
+    put(u"many.lwx"_s, listFile(*this, 40 + roll(100)));
+    put(u"empty.lwx"_s, {});
+    put(u"cut.lwx"_s, listFile(*this, 8).chopped(30));
+    put(u"tail.lwx"_s, listFile(*this, 3) + listFile(*this, 20));
+    put(u"negative.lwx"_s, QByteArray("\xFF\xFF", 2) + listFile(*this, 2));
+    put(u"random.lwx"_s, QByteArray(1, char(roll(40))) + '\0' + randomBytes(*this, 200));
+    put(u"old.txt"_s, randomBytes(*this, 2000));
+    put(u"readonly.lwx"_s, listFile(*this, 6));
+    put(u"secret.lwx"_s, listFile(*this, 6));
+    put(u"locked/inside.lwx"_s, listFile(*this, 4));
+    QFile::setPermissions(inLists(u"readonly.lwx"_s), QFile::ReadOwner);
+    QFile::setPermissions(inLists(u"secret.lwx"_s), QFile::WriteOwner);
+    QFile::setPermissions(inLists(u"locked"_s), QFile::ReadOwner | QFile::ExeOwner);
+}
+
+// So that they can be removed.
+void Soak::allowFiles()
+{
+    QFile::setPermissions(inLists(u"locked"_s),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
