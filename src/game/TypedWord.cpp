@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/TypedWord.h"
 
+#include "platform/OneLineBox.h"
 #include "runtime/Blanks.h"
 
 #include <algorithm>
@@ -24,5 +25,6 @@ QString typeable(QString text)
 bool isWord(const QString &typed, const QString &word)
 {
     const QString given = withoutOuterBlanks(typed);
-    return given == withoutOuterBlanks(word) || given == typeable(word);
+    return given == withoutOuterBlanks(word) || given == withoutOuterBlanks(oneLine(word)) ||
+           given == typeable(word);
 }
