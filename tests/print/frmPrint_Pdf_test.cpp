@@ -272,7 +272,7 @@ private Q_SLOTS:
     {
         PrintForm form;
         // No file can be made here, whoever asks.
-        const QString path = u"/proc/self/list.pdf"_s;
+        const QString path = u"/sys/list.pdf"_s;
         form.answers.chooseFile(path);
         form.answers.expectAnyMsgBox(QMessageBox::Ok, [path](QMessageBox &box) {
             QVERIFY2(box.text().startsWith(u"Run-time error '70':\n\nPermission denied\n"),

@@ -15,4 +15,5 @@ public:
 
 Q_SIGNALS:
     void refresh();
+    void deleted();
 };
