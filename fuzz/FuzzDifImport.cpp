@@ -247,7 +247,8 @@ void dlgWordExist::exec()
         gStopImport = answer == Answer::Abort;
 }
 
-MsgBoxAnswer MsgBox(const QString &text, MsgBoxButtons /*buttons*/)
+MsgBoxAnswer MsgBox(const QString &text, MsgBoxButtons /*buttons*/, MsgBoxEsc /*esc*/,
+                    MsgBoxDefault /*defaultButton*/)
 {
     messages += text;
     return MsgBoxAnswer::Ok;
