@@ -52,7 +52,7 @@ struct stat SystemFile::status() const
     return status;
 }
 
-void SystemFile::seek(qint64 position)
+void SystemFile::seek(qint64 position) const
 {
     orThrow([&] { return lseek(m_descriptor, position, SEEK_SET); });
 }
@@ -62,7 +62,7 @@ qint64 SystemFile::position() const
     return orThrow([&] { return lseek(m_descriptor, 0, SEEK_CUR); });
 }
 
-qsizetype SystemFile::read(char *bytes, qsizetype size)
+qsizetype SystemFile::read(char *bytes, qsizetype size) const
 {
     qsizetype done = 0;
     while (done < size) {
@@ -75,14 +75,14 @@ qsizetype SystemFile::read(char *bytes, qsizetype size)
     return done;
 }
 
-QByteArray SystemFile::read(qsizetype size)
+QByteArray SystemFile::read(qsizetype size) const
 {
     QByteArray bytes(size, Qt::Uninitialized);
     bytes.truncate(read(bytes.data(), size));
     return bytes;
 }
 
-void SystemFile::write(QByteArrayView bytes)
+void SystemFile::write(QByteArrayView bytes) const
 {
     while (!bytes.isEmpty()) {
         const auto written =
@@ -91,12 +91,12 @@ void SystemFile::write(QByteArrayView bytes)
     }
 }
 
-void SystemFile::truncate(qint64 size)
+void SystemFile::truncate(qint64 size) const
 {
     orThrow([&] { return ftruncate(m_descriptor, size); });
 }
 
-void SystemFile::flush()
+void SystemFile::flush() const
 {
     orThrow([&] { return fsync(m_descriptor); });
 }

@@ -2,7 +2,8 @@
 // An open file of the operating system.
 //
 // A call that a signal interrupts is made again. What the system refuses throws std::system_error
-// with the system's reason (errno).
+// with the system's reason (errno). The object is a handle: what is const leaves it at the same
+// file.
 #pragma once
 
 #include <QByteArray>
@@ -36,15 +37,15 @@ public:
     [[nodiscard]] int descriptor() const { return m_descriptor; }
     [[nodiscard]] struct stat status() const;
 
-    void seek(qint64 position);
+    void seek(qint64 position) const;
     [[nodiscard]] qint64 position() const;
     // Returns how many bytes were read: fewer than `size` only at the end of the file.
-    [[nodiscard]] qsizetype read(char *bytes, qsizetype size);
-    [[nodiscard]] QByteArray read(qsizetype size);
-    void write(QByteArrayView bytes);
-    void truncate(qint64 size);
+    [[nodiscard]] qsizetype read(char *bytes, qsizetype size) const;
+    [[nodiscard]] QByteArray read(qsizetype size) const;
+    void write(QByteArrayView bytes) const;
+    void truncate(qint64 size) const;
     // Makes the system put on the disk what was written.
-    void flush();
+    void flush() const;
 
     // From the position on, where the next bytes may be other than zero; the size of the file
     // where none are. Systems that cannot tell give the position.

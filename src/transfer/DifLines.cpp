@@ -14,7 +14,7 @@ class LineSplitter
 public:
     explicit LineSplitter(QByteArrayView bytes) : m_bytes(bytes)
     {
-        constexpr qsizetype searched = 64 * 1024;
+        constexpr qsizetype searched = 1 << 16;
         const QByteArrayView start = bytes.first(std::min(searched, bytes.size()));
         m_endsAtLineFeed = !start.contains('\r') && start.contains('\n');
     }
@@ -22,7 +22,7 @@ public:
     // Nothing at the end, and where the next line is too long for a DIF file.
     std::optional<QByteArrayView> next()
     {
-        constexpr qsizetype longest = 16 * 1024 * 1024;
+        constexpr qsizetype longest = 1 << 24;
         if (m_start == m_bytes.size())
             return std::nullopt;
         const QByteArrayView rest = m_bytes.sliced(m_start);
