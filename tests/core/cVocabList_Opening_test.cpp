@@ -7,7 +7,8 @@
 
 #include <malloc.h>
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// Of the compiler's run-time library; GCC comes without the header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 using namespace Qt::StringLiterals;
