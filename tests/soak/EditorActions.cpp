@@ -3,7 +3,6 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "runtime/Blanks.h"
-#include "soak/Rules.h"
 #include "soak/Soak.h"
 
 #include <QApplication>
@@ -93,7 +92,7 @@ void paste(Soak &soak)
         Soak::press(control, Qt::Key_V, Qt::ControlModifier);
     else
         Soak::press(control, Qt::Key_Insert, Qt::ShiftModifier);
-    if (Rules::PastesAreOneLine && soak.main().text(WordBox).contains(u'\n'))
+    if (soak.main().text(WordBox).contains(u'\n'))
         Controls::fail(u"the word has two lines"_s);
 }
 
@@ -206,8 +205,7 @@ bool isNewList(Soak &soak)
 
 void enterInNewList(Soak &soak)
 {
-    if (Rules::EnterAddsToNewList)
-        expectAdd(soak);
+    expectAdd(soak);
     pressEnter(soak);
 }
 

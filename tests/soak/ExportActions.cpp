@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // File > Export.
 #include "runtime/Blanks.h"
-#include "soak/Rules.h"
 #include "soak/Soak.h"
 
 #include <QDialog>
@@ -141,7 +140,7 @@ private:
             list = Model::listOf(model.disk[path]);
             if (!list)
                 error = 9;
-            else if (Rules::ExportSparesOthers && !Model::isWhole(model.disk[path]))
+            else if (!Model::isWhole(model.disk[path]))
                 error = 321;
             else
                 error = Model::writeError(path);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // File > New, Open, Save, Save As, Create Text File, Exit, with the questions before them.
-#include "soak/Rules.h"
 #include "soak/Soak.h"
 
 #include <QFileDialog>
@@ -75,7 +74,7 @@ std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const
 void compareOffered(QFileDialog &dialog, const QString &title)
 {
     const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
-    if (Rules::SaveAsOffersOwnName && offered != title)
+    if (offered != title)
         Controls::fail(u"the name \"%1\" is offered"_s.arg(offered));
 }
 
@@ -103,8 +102,7 @@ Outcome expectSaveAs(Soak &soak)
     if (model.count() > 0)
         model.write(*target, model.listBytes());
     // An empty list writes no file.
-    if (Rules::SaveAsOpens)
-        model.openedFile = model.count() > 0 ? *target : QString();
+    model.openedFile = model.count() > 0 ? *target : QString();
     markAsSaved(model);
     model.showTitle();
     return Outcome::Done;
@@ -251,7 +249,7 @@ void createTextFile(Soak &soak)
         soak.expectMsgBox(u"File not created: Your current wordlist is empty."_s);
     } else if (const auto target = expectSaveDialog(soak, u".txt"_s)) {
         const bool isOpenList = *target == model.openedFile || *target == model.fileName;
-        if (Rules::TextFileSparesLists && isOpenList) {
+        if (isOpenList) {
             soak.expectMsgBox(*target + u" file is currently in use."_s);
         } else if (const int error = Model::writeError(*target)) {
             soak.expectRunTimeError(error);

@@ -2,7 +2,6 @@
 // The game. Time passes by the countdown's events.
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "soak/Rules.h"
 #include "soak/Soak.h"
 
 #include <QDialog>
@@ -52,21 +51,12 @@ template <const char *Name> void click(Soak &soak)
     Controls::click(in<QPushButton>(soak, Name));
 }
 
-bool hasControlCharacter(const QString &word)
-{
-    return std::any_of(word.begin(), word.end(), [](QChar character) {
-        return character.category() == QChar::Other_Control;
-    });
-}
-
 // Words that can be asked: a shorter one has no scramble, an empty one not even a length.
 bool isPlayable(Soak &soak)
 {
     const auto &entries = soak.model.entries;
-    return std::all_of(entries.begin(), entries.end(), [](const Entry &entry) {
-        return entry.word.size() > 2 &&
-               (Rules::PastedWordsMatch || !hasControlCharacter(entry.word));
-    });
+    return std::all_of(entries.begin(), entries.end(),
+                       [](const Entry &entry) { return entry.word.size() > 2; });
 }
 
 bool isEditorShown(Soak &soak)

@@ -2,7 +2,6 @@
 // File > Import: lists and DIF files, and the dialog about words that exist already.
 #include "runtime/Blanks.h"
 #include "runtime/Windows1252.h"
-#include "soak/Rules.h"
 #include "soak/Soak.h"
 
 #include <QDialog>
@@ -180,8 +179,7 @@ private:
     void expectEnd()
     {
         Model &model = m_soak.model;
-        const bool isEntryGone = model.shown != 0 && m_deleted;
-        if (Rules::ImportKeepsEntry && isEntryGone) {
+        if (model.shown != 0 && m_deleted) {
             model.mode = Model::Mode::Idle;
             model.shown = 0;
         }
@@ -214,15 +212,6 @@ private:
     bool m_deleted = false;
 };
 
-// Before the words come in: an entry in the boxes is let go.
-void letEntryGo(Model &model)
-{
-    if (Rules::ImportKeepsEntry || model.shown == 0)
-        return;
-    model.mode = Model::Mode::Idle;
-    model.shown = 0;
-}
-
 bool isEditorShown(Soak &soak)
 {
     return !soak.game();
@@ -234,7 +223,6 @@ void importList(Soak &soak)
     const QString path = soak.oneOf(soak.files(u".lwx"_s));
     soak.note(path);
     soak.answers().chooseFile(path);
-    letEntryGo(model);
     model.addThis = model.addAll = model.skipAll = false;
     const auto list = Model::listOf(model.read(path));
     if (const int error = Model::readError(path)) {
@@ -324,7 +312,6 @@ void importDif(Soak &soak)
         words += entry.word;
     soak.note(u"%1, error %2"_s.arg(words.join(u'|')).arg(dif.error));
     soak.answers().chooseFile(file.fileName());
-    letEntryGo(soak.model);
     if (dif.isRefused) {
         soak.expectRunTimeError(dif.error);
     } else {
@@ -341,7 +328,6 @@ void importNothing(Soak &soak)
         soak.answers().cancelFileDialog();
     } else {
         soak.answers().chooseFile(soak.inLists(u"old.txt"_s)); // no kind that can be imported
-        letEntryGo(soak.model);
     }
     soak.main().choose("mnuImport");
 }

@@ -4,7 +4,6 @@
 #include "platform/Paths.h"
 #include "platform/sndPlaySoundA.h"
 #include "runtime/RandomNumbers.h"
-#include "soak/Rules.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -35,7 +34,7 @@ QMessageBox::StandardButton answerOfEsc(const QMessageBox &box)
     if (box.button(QMessageBox::Cancel))
         return QMessageBox::Cancel;
     const bool isAboutSaving = box.text().contains(u" save"_s);
-    return Rules::EscDeclines && !isAboutSaving ? QMessageBox::No : QMessageBox::NoButton;
+    return !isAboutSaving ? QMessageBox::No : QMessageBox::NoButton;
 }
 
 bool isTypeable(const QString &text)

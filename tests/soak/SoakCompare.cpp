@@ -5,7 +5,6 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "platform/Paths.h"
-#include "soak/Rules.h"
 #include "support/EditorModes.h"
 
 #include <QApplication>
@@ -116,7 +115,7 @@ void Soak::compareDisk()
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
-        if (Rules::CopiesAreKept && file.fileName().contains(u" (not saved)"_s))
+        if (file.fileName().contains(u" (not saved)"_s))
             continue;
         check(model.disk.count(file.fileName()) == 1, file.fileName() + u" is new"_s);
         if (!QFileInfo(file).isReadable())

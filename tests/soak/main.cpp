@@ -3,8 +3,8 @@
 //
 // The person is a process of its own, so that also of one that crashes or hangs the last steps
 // are told.
-#include "soak/Soak.h"
 #include "runtime/ChildProcess.h"
+#include "soak/Soak.h"
 #include "support/FormTest.h"
 
 #include <QElapsedTimer>
@@ -150,4 +150,4 @@ int main(int argc, char *argv[])
     return Watch(QCoreApplication::applicationFilePath()).wasHappy() ? 0 : 1;
 }
 
-#include "soak.moc"
+#include "main.moc"
