@@ -93,7 +93,7 @@ void turnWheel(Soak &soak)
 {
     QWidget &page = *soak.main().grid().viewport();
     const QPointF middle = page.rect().center();
-    const int notches = soak.roll(9) - 4;
+    const int notches = (1 + soak.roll(4)) * (soak.chance(50) ? 1 : -1);
     soak.note(u"%1 notches"_s.arg(notches));
     QWheelEvent event(middle, page.mapToGlobal(middle), {}, {0, 120 * notches}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
