@@ -70,11 +70,14 @@ std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const
     return {};
 }
 
-// The list's own name is offered, and none for an untitled list.
-void compareOffered(QFileDialog &dialog, const QString &title)
+// The list's own file is offered, and none for an untitled list. Where its folder is missing, the
+// name says so.
+void compareOffered(QFileDialog &dialog, const QString &path)
 {
     const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
-    if (offered != title)
+    const bool isOwn =
+        offered.isEmpty() ? path.isEmpty() : dialog.directory().absoluteFilePath(offered) == path;
+    if (!isOwn)
         Controls::fail(u"the name \"%1\" is offered"_s.arg(offered));
 }
 
@@ -87,9 +90,10 @@ void markAsSaved(Model &model)
 Outcome expectSaveAs(Soak &soak)
 {
     Model &model = soak.model;
-    const QString ownName = QFileInfo(model.fileName).fileName();
-    const auto target = expectSaveDialog(
-        soak, u".lwx"_s, [ownName](QFileDialog &dialog) { compareOffered(dialog, ownName); });
+    const auto target =
+        expectSaveDialog(soak, u".lwx"_s, [ownFile = model.fileName](QFileDialog &dialog) {
+            compareOffered(dialog, ownFile);
+        });
     if (!target)
         return Outcome::Declined;
     const int error = model.count() > 0 ? Model::writeError(*target) : 0;
