@@ -51,12 +51,13 @@ template <const char *Name> void click(Soak &soak)
     Controls::click(in<QPushButton>(soak, Name));
 }
 
-// Words that can be asked: a shorter one has no scramble, an empty one not even a length.
+// Words that can be asked. One of one or two letters has no scramble and is asked without; an empty
+// one cannot be asked.
 bool isPlayable(Soak &soak)
 {
     const auto &entries = soak.model.entries;
     return std::all_of(entries.begin(), entries.end(),
-                       [](const Entry &entry) { return entry.word.size() > 2; });
+                       [](const Entry &entry) { return !entry.word.isEmpty(); });
 }
 
 bool isEditorShown(Soak &soak)
