@@ -6,7 +6,6 @@
 #include "soak/Soak.h"
 
 #include <QApplication>
-#include <QClipboard>
 
 using namespace Qt::StringLiterals;
 
@@ -64,36 +63,6 @@ void typeTexts(Soak &soak)
 {
     for (const char *box : {"txtDefinition", "txtSentence"})
         typeInto(soak, box, soak.text());
-}
-
-void paste(Soak &soak)
-{
-    const char *box = soak.oneOf(Boxes);
-    auto &control = soak.main().control<QWidget>(box);
-    if (!control.isEnabled())
-        return;
-    QClipboard &clipboard = *QGuiApplication::clipboard();
-    switch (soak.roll(5)) {
-    case 0:
-        clipboard.clear();
-        break;
-    case 1:
-        clipboard.setText(soak.word() + u"\n"_s);
-        break;
-    case 2:
-        clipboard.setText(soak.text() + u"\t\r\n"_s + soak.word() + QChar(0));
-        break;
-    default:
-        clipboard.setText(soak.text());
-    }
-    soak.note(u"%1: paste \"%2\""_s.arg(QLatin1String(box), clipboard.text()));
-    control.setFocus();
-    if (soak.chance(50))
-        Soak::press(control, Qt::Key_V, Qt::ControlModifier);
-    else
-        Soak::press(control, Qt::Key_Insert, Qt::ShiftModifier);
-    if (soak.main().text(WordBox).contains(u'\n'))
-        Controls::fail(u"the word has two lines"_s);
 }
 
 void pressEditingKeys(Soak &soak)
@@ -278,7 +247,6 @@ std::vector<Action> editorActions()
         {"New Word", 20, isUsable<NewWordButton>, newWord},
         {"type a word", 60, isUsable<WordBox>, typeWord},
         {"type texts", 20, isUsable<DefinitionBox>, typeTexts},
-        {"paste", 10, isUsable<WordBox>, paste},
         {"editing keys", 15, isUsable<WordBox>, pressEditingKeys},
         {"Tab", 5, isEditorShown, moveFocus},
         {"Add or Update", 80, isUsable<AddButton>, add},

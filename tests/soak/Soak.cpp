@@ -20,8 +20,9 @@ namespace {
 std::vector<Action> allActions()
 {
     std::vector<Action> all;
-    for (const auto &some : {editorActions(), gridActions(), fileActions(), importActions(),
-                             exportActions(), printActions(), flashActions(), gameActions()})
+    for (const auto &some :
+         {editorActions(), pasteActions(), gridActions(), fileActions(), importActions(),
+          exportActions(), printActions(), flashActions(), gameActions()})
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }

@@ -94,6 +94,7 @@ private:
 
 // By window and theme. A control that is added gets a line in one of them.
 [[nodiscard]] std::vector<Action> editorActions();
+[[nodiscard]] std::vector<Action> pasteActions();
 [[nodiscard]] std::vector<Action> gridActions();
 [[nodiscard]] std::vector<Action> fileActions();
 [[nodiscard]] std::vector<Action> importActions();
