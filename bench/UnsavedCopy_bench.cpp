@@ -7,7 +7,6 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/UnsavedCopy.h"
-#include "runtime/DiskFlush.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,6 +15,7 @@
 
 #include <array>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace {
 
@@ -56,7 +56,8 @@ void plainWriteNew(benchmark::State &state)
     QFile file(list.fileName() + QStringLiteral(".new"));
     for (auto _ : state) {
         file.remove();
-        if (!file.open(QFile::WriteOnly) || file.write(bytes) != bytes.size() || !flushToDisk(file))
+        if (!file.open(QFile::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+            fsync(file.handle()) != 0)
             state.SkipWithError("The file could not be written");
         file.close();
     }
