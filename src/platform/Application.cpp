@@ -10,6 +10,8 @@
 #include <QIcon>
 #include <QVersionNumber>
 
+#include <csignal>
+
 namespace {
 
 const QVersionNumber &version()
@@ -23,6 +25,8 @@ const QVersionNumber &version()
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
+    // Else a write beyond a limit on the size of files would end the program instead of failing.
+    std::signal(SIGXFSZ, SIG_IGN);
     setApplicationName(Title());
     setApplicationVersion(QLatin1String(TANGLEWIT_VERSION));
     setOrganizationName(QStringLiteral("LexiBrook"));

@@ -5,7 +5,6 @@
 #include "runtime/ChildProcess.h"
 #include "transfer/Import.h"
 
-#include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -40,7 +39,6 @@ class LargestFile
 public:
     explicit LargestFile(rlim_t bytes)
     {
-        std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit limit{bytes, m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);

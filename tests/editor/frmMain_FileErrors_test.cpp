@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -18,16 +17,12 @@ namespace {
 class FullDisk
 {
 public:
-    explicit FullDisk(rlim_t largestFile) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
+    explicit FullDisk(rlim_t largestFile)
     {
         getrlimit(RLIMIT_FSIZE, &m_oldLimit);
         setLimit(largestFile);
     }
-    ~FullDisk()
-    {
-        setLimit(m_oldLimit.rlim_cur);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
+    ~FullDisk() { setLimit(m_oldLimit.rlim_cur); }
     Q_DISABLE_COPY_MOVE(FullDisk)
 
 private:
@@ -40,7 +35,6 @@ private:
     }
 
     rlimit m_oldLimit{};
-    void (*m_oldHandler)(int);
 };
 
 } // namespace

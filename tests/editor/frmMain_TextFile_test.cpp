@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QLineEdit>
 
-#include <csignal>
 #include <filesystem>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -309,7 +308,6 @@ private Q_SLOTS:
         gVocabList().AddVocab(u"long"_s, QString(60'000, u'x'), {});
         writeFile(m_text, "old"_ba);
         const OpenList before(*m_main);
-        std::signal(SIGXFSZ, SIG_IGN);
         rlimit usual{};
         QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
         rlimit small = usual;

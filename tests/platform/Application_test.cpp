@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Application.h"
 
+#include "runtime/BinaryFile.h"
+#include "runtime/ChildProcess.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QProcess>
@@ -163,6 +166,17 @@ private Q_SLOTS:
         Copy copy;
         QCOMPARE(copy.answer(), QByteArray("first"));
         QVERIFY(copy.end());
+    }
+
+    void aWriteBeyondALimitOnTheSizeOfFilesIsAnErrorAndNotTheEnd()
+    {
+        const QString path = m_data->filePath(QStringLiteral("list.lwx"));
+        QCOMPARE(errorNumberInChildProcess([&path] {
+                     const rlimit limit{1000, 1000};
+                     setrlimit(RLIMIT_FSIZE, &limit);
+                     BinaryFile::overwrite(path, QByteArray(2000, 'x'));
+                 }),
+                 int(RunTimeError::DiskFull));
     }
 
 private:

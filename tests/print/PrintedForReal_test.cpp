@@ -8,7 +8,6 @@
 
 #include <QProgressDialog>
 
-#include <csignal>
 #include <sys/resource.h>
 
 using namespace Module1;
@@ -75,7 +74,6 @@ class SmallFiles final
 public:
     SmallFiles()
     {
-        std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit small{512, m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &small);

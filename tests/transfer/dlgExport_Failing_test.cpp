@@ -6,7 +6,6 @@
 #include "support/FormTest.h"
 #include "transfer/ExportForm.h"
 
-#include <csignal>
 #include <sys/resource.h>
 
 using namespace Module1;
@@ -28,7 +27,6 @@ class SmallFiles
 public:
     SmallFiles()
     {
-        std::signal(SIGXFSZ, SIG_IGN);
         if (getrlimit(RLIMIT_FSIZE, &m_usual) != 0)
             Controls::fail(u"the limit cannot be read"_s);
         rlimit small = m_usual;
