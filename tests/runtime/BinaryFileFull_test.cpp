@@ -8,7 +8,12 @@
 
 #include <QTest>
 
+#include <array>
 #include <csignal>
+#include <cstddef>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +27,20 @@ bool limitFileSize(rlim_t size)
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{size, size};
     return setrlimit(RLIMIT_FSIZE, &limit) == 0;
+}
+
+// From now on each write of the process takes no byte and is no error.
+bool takeNothing()
+{
+    std::array<sock_filter, 4> steps{{
+        {BPF_LD | BPF_W | BPF_ABS, 0, 0, offsetof(seccomp_data, nr)},
+        {BPF_JMP | BPF_JEQ | BPF_K, 0, 1, SYS_write},
+        {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ERRNO}, // with error 0
+        {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ALLOW},
+    }};
+    const sock_fprog filter{steps.size(), steps.data()};
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
 }
 
 } // namespace
@@ -93,6 +112,21 @@ private Q_SLOTS:
                        : 254;
         });
         QCOMPARE(error, int(RunTimeError::DiskFull));
+        QCOMPARE(folder.bytes(Name), before);
+        QCOMPARE(folder.names(), QStringList{Name});
+    }
+
+    void aDiskThatTakesNothingIsADeviceError()
+    {
+        const TestFolder folder;
+        const QByteArray before = randomBytes(100, 1);
+        const QString path = folder.write(Name, before);
+        const int error = inChildProcess([&] {
+            if (!takeNothing())
+                return 254;
+            return int(errorNumberOf([&] { BinaryFile::overwrite(path, randomBytes(100, 2)); }));
+        });
+        QCOMPARE(error, int(RunTimeError::DeviceIoError));
         QCOMPARE(folder.bytes(Name), before);
         QCOMPARE(folder.names(), QStringList{Name});
     }
