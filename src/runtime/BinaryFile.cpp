@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr qsizetype FirstRead = 4 << 20; // a large list's
+constexpr qsizetype FirstRead = 1 << 16;
+constexpr int Growth = 4; // each attempt looks at all that was read
 constexpr qsizetype ChunkSize = 1 << 20;
 
 // The file that a chain of symbolic links ends at, existing or not.
@@ -50,7 +51,7 @@ QByteArray readStart(SystemFile &file, const BinaryFile::IsEnough &isEnough)
     QByteArray start;
     // One byte more tells the end.
     qsizetype wanted = std::min<qsizetype>(FirstRead, file.status().st_size + 1);
-    for (;; wanted *= 2) {
+    for (;; wanted *= Growth) {
         const qsizetype size = start.size();
         start.resize(wanted);
         start.truncate(size + file.read(start.data() + size, wanted - size));

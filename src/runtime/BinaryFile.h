@@ -20,7 +20,7 @@ enum class Missing { IsCreated, IsAnError };
 // Tells from the start of a file whether that is all that is wanted of it.
 using IsEnough = std::function<bool(QByteArrayView start)>;
 
-// The start of the file, as far as isEnough wants it, at most twice as much or four mebibytes; by
+// The start of the file, as far as isEnough wants it, at most four times as much or 64 KiB; by
 // default all of it. A missing file is created empty, or is the error File not found.
 [[nodiscard]] QByteArray read(const QString &path, const IsEnough &isEnough = {},
                               Missing missing = Missing::IsCreated);

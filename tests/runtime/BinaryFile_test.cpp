@@ -33,7 +33,7 @@ private Q_SLOTS:
     void readingEndsWhereItIsEnough_data()
     {
         QTest::addColumn<int>("wanted");
-        for (const int wanted : {0, 1, 4'000'000, 4'194'304, 4'194'305, 5'000'000, 9'000'000})
+        for (const int wanted : {0, 1, 65'536, 65'537, 131'073, 5'000'000, 9'000'000})
             QTest::addRow("%d bytes", wanted) << wanted;
     }
 
@@ -46,7 +46,7 @@ private Q_SLOTS:
         const QByteArray start = BinaryFile::read(
             path, [wanted](QByteArrayView bytes) { return bytes.size() >= wanted; });
         QVERIFY(start.size() >= wanted);
-        QVERIFY(start.size() <= std::max(4 << 20, 2 * wanted));
+        QVERIFY(start.size() <= std::max(1 << 16, 4 * wanted));
         QCOMPARE(start, content.first(start.size()));
     }
 
