@@ -48,6 +48,26 @@ void removeEmptyFile(const QString &path)
         QFile::remove(file.canonicalFilePath());
 }
 
+// Reads the target of the export, which has to be a word list. False without a file name.
+bool openTarget(cVocabList &target)
+{
+    const auto refuse = [] {
+        throwFileError(RunTimeError::InvalidFileFormat, gFileName,
+                       QStringLiteral("This is no word list"));
+    };
+    try {
+        if (!target.OpenFile())
+            return false;
+    } catch (const RunTimeError &error) {
+        if (error.number() == RunTimeError::SubscriptOutOfRange) // a negative count
+            refuse();
+        throw;
+    }
+    if (!target.fileIsWhole())
+        refuse();
+    return true;
+}
+
 } // namespace
 
 dlgExport::dlgExport(const QString &startFolder, QWidget *parent)
@@ -139,13 +159,11 @@ void dlgExport::exportRange()
     });
     gFileName = path;
     cVocabList &target = gExportList();
-    if (!target.OpenFile()) {
+    const auto clear = qScopeGuard([&target] { target.ClearList(); }); // it may be large
+    if (!openTarget(target)) {
         MsgBox(QStringLiteral("Invalid file name."));
         return;
     }
-    if (!target.fileIsWhole())
-        throwFileError(RunTimeError::InvalidFileFormat, gFileName,
-                       QStringLiteral("This is no word list"));
     cVocabList &list = gVocabList();
     WordAdder adder(target);
     ExportCount = forEachNumber(StartNo, EndNo, [&](Integer i) {

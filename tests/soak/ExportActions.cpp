@@ -138,9 +138,7 @@ private:
         std::optional<std::vector<Entry>> list;
         if (error == 0) {
             list = Model::listOf(model.disk[path]);
-            if (!list)
-                error = 9;
-            else if (!Model::isWhole(model.disk[path]))
+            if (!list || !Model::isWhole(model.disk[path]))
                 error = 321;
             else
                 error = Model::writeError(path);
