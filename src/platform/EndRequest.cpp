@@ -15,21 +15,24 @@ namespace {
 
 constexpr int LookInterval = 20; // ms
 
-// Whether a command still waits for a dialog, be it one that has just been closed.
+// Whether a command has not ended yet. It may still wait for a dialog, or go on after one that has
+// just been closed.
 bool isCommandRunning()
 {
     return QThread::currentThread()->loopLevel() > 1 || QApplication::activeModalWidget();
 }
 
-void cancel(QWidget &dialog)
+// False where it goes by itself: some questions have no Cancel, and a progress bar goes when its
+// loop is over.
+bool cancel(QWidget &dialog)
 {
     if (dialog.close())
-        return;
-    // Some questions have no Cancel, and a progress bar goes when its loop is over.
+        return true;
     if (qobject_cast<QMessageBox *>(&dialog) || qobject_cast<QProgressDialog *>(&dialog))
-        return;
+        return false;
     if (auto *form = qobject_cast<QDialog *>(&dialog))
         form->done(QDialog::Rejected);
+    return true;
 }
 
 QWidget *openWindow()
@@ -79,8 +82,9 @@ void EndRequest::look()
         return;
     if (QWidget *menu = QApplication::activePopupWidget()) {
         menu->close();
-    } else if (QWidget *dialog = QApplication::activeModalWidget()) {
-        cancel(*dialog);
+    } else if (const QPointer<QWidget> dialog = QApplication::activeModalWidget()) {
+        if (dialog != m_waitsFor && !cancel(*dialog))
+            m_waitsFor = dialog;
     } else if (!isCommandRunning()) {
         m_timer.stop();
         closeWindows();

@@ -11,6 +11,7 @@
 #include "platform/EndSignals.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -41,7 +42,8 @@ private:
 
     std::function<bool()> m_isWorkUnsaved;
     EndSignals m_signals;
-    QTimer m_timer; // runs while dialogs go
+    QTimer m_timer;               // runs while dialogs go
+    QPointer<QWidget> m_waitsFor; // the dialog that could not be cancelled
 };
 
 // While one lives, the dialogs belong to the end of the program itself, however it was begun, and

@@ -41,6 +41,19 @@ protected:
     bool Form_QueryUnload() override { return false; }
 };
 
+// Counts how often the person or the program tries to close a window.
+class CloseCounter final : public QObject
+{
+public:
+    int closes = 0;
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        closes += event->type() == QEvent::Close ? 1 : 0;
+        return false;
+    }
+};
+
 // Runs the event loop, in which the command is given, and returns the program's exit code.
 int run(const std::function<void()> &command)
 {
@@ -194,11 +207,14 @@ void EndRequest_test::messageBoxesAreCancelled()
 
 void EndRequest_test::aQuestionWithoutCancelWaitsForItsAnswer()
 {
+    CloseCounter counter;
     std::optional<MsgBoxAnswer> given;
     QCOMPARE(run([&] {
                  QTimer::singleShot(0, m_window.get(), [&] {
+                     QApplication::activeModalWidget()->installEventFilter(&counter);
                      raise(SIGTERM);
                      waitForLooks();
+                     QCOMPARE(counter.closes, 1); // it is left alone from then on
                      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
                      QVERIFY(box && box->isVisible() && m_window->isVisible());
                      QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
