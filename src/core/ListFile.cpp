@@ -5,6 +5,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -12,13 +13,16 @@ namespace {
 using Length = quint16;
 
 // Returns where the next text goes.
-char *putText(char *out, const QString &text, std::size_t recordNumber)
+char *putText(char *out, const QString &text, std::size_t recordNumber,
+              ListFile::LongTexts longTexts)
 {
-    const qsizetype length = toWindows1252(text, out + sizeof(Length));
-    if (length > std::numeric_limits<Length>::max())
+    constexpr qsizetype longest = std::numeric_limits<Length>::max();
+    qsizetype length = toWindows1252(text, out + sizeof(Length));
+    if (length > longest && longTexts == ListFile::LongTexts::AreErrors)
         throw RunTimeError(
             RunTimeError::Overflow,
             QStringLiteral("A text of word %1 is longer than 65535 characters").arg(recordNumber));
+    length = std::min(length, longest);
     qToLittleEndian(static_cast<Length>(length), out);
     return out + sizeof(Length) + length;
 }
@@ -30,7 +34,8 @@ bool isCount(Integer count, Integer maxCount)
 
 } // namespace
 
-QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records)
+QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records,
+                            LongTexts longTexts)
 {
     qsizetype size = sizeof(qint16);
     for (const VocabRecord &record : records)
@@ -43,7 +48,7 @@ QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records)
     for (const VocabRecord &record : records) {
         ++recordNumber;
         for (const QString *text : {&record.Word, &record.Definition, &record.Sentence})
-            out = putText(out, *text, recordNumber);
+            out = putText(out, *text, recordNumber, longTexts);
     }
     bytes.truncate(out - bytes.constData()); // a surrogate pair takes less than its two units
     return bytes;

@@ -23,9 +23,13 @@
 
 namespace ListFile {
 
-// The count, then every record given. Throws RunTimeError Overflow, naming the record, where a
-// text has more than 65,535 bytes.
-[[nodiscard]] QByteArray encode(Integer count, std::span<const VocabRecord> records);
+// What happens to a text of more than 65,535 bytes: RunTimeError Overflow, naming the record, or
+// only the start of the text is kept.
+enum class LongTexts { AreErrors, AreCut };
+
+// The count, then every record given.
+[[nodiscard]] QByteArray encode(Integer count, std::span<const VocabRecord> records,
+                                LongTexts longTexts = LongTexts::AreErrors);
 
 // One block for all texts of a file takes a fraction of the time and room of a block for each.
 struct Content

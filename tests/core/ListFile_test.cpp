@@ -120,6 +120,9 @@ private Q_SLOTS:
                 QCOMPARE(reportOf([&] { return ListFile::encode(2, records); }),
                          u"Run-time error '6':\n\nOverflow\n"
                          "A text of word 2 is longer than 65535 characters"_s);
+                const QByteArray cut = ListFile::encode(2, records, ListFile::LongTexts::AreCut);
+                *fields[field] = fromWindows1252(toWindows1252(text).first(65'535));
+                QCOMPARE(cut, ListFile::encode(2, records));
                 continue;
             }
             const QByteArray bytes = ListFile::encode(2, records);
