@@ -41,7 +41,7 @@ void cVocabList::AddVocab(const QString &NewWord, const QString &NewDef, const Q
     ++m_count;
     m_current = m_count;
     m_searchPos = 0;
-    setUnsaved(true);
+    tell(Change::OfEntries);
 }
 
 void cVocabList::ClearList()
@@ -53,7 +53,7 @@ void cVocabList::ClearList()
     m_current = 1;
     m_searchPos = 0;
     m_index.clear();
-    setUnsaved(false);
+    tell(Change::Replaced);
 }
 
 void cVocabList::DeleteVocab()
@@ -77,7 +77,7 @@ void cVocabList::DeleteVocab()
     m_slots.resize(count);
     --m_count;
     m_current = m_current < 2 ? Integer(1) : m_current - 1;
-    setUnsaved(true);
+    tell(Change::OfEntries);
 }
 
 void cVocabList::Edit(const QString &NewWord, const QString &NewDef, const QString &NewSen)
@@ -87,7 +87,7 @@ void cVocabList::Edit(const QString &NewWord, const QString &NewDef, const QStri
     if (!m_index.isEmpty() && isEntry(m_current))
         m_index.replace(m_current.toInt(), entry.Word, NewWord);
     entry = {NewWord, NewDef, NewSen};
-    setUnsaved(true);
+    tell(Change::OfEntries);
 }
 
 void cVocabList::SaveFile()
@@ -96,19 +96,18 @@ void cVocabList::SaveFile()
         BinaryFile::overwrite(Module1::gFileName, ListFile::encode(m_count, m_slots));
         Module1::gChanged = false;
     }
-    setUnsaved(false);
+    tell(Change::Saved);
 }
 
 QByteArray cVocabList::fileBytes() const
 {
-    return ListFile::encode(m_count, entries());
+    return ListFile::encode(m_count, entries(), ListFile::LongTexts::AreCut);
 }
 
-void cVocabList::setUnsaved(bool unsaved)
+void cVocabList::tell(Change change) const
 {
-    m_unsaved = unsaved;
     if (m_changeHook)
-        m_changeHook();
+        m_changeHook(change);
 }
 
 bool cVocabList::OpenFile()
@@ -127,13 +126,13 @@ bool cVocabList::OpenFile()
         m_slots.resize(std::max<std::size_t>(m_slots.size(), 1));
         m_firstSlot = 1;
     }
-    Module1::gChanged = false;
     m_current = 1;
     m_searchPos = 0;
-    if (Module1::gFileName.isEmpty())
-        return false;
-    setUnsaved(false);
-    return true;
+    const bool isRead = !Module1::gFileName.isEmpty();
+    if (isRead)
+        tell(Change::Replaced);
+    Module1::gChanged = false;
+    return isRead;
 }
 
 bool cVocabList::Exist(const QString &NewWord, Integer startpos)

@@ -73,17 +73,17 @@ public:
     // Called between two attempts of the scramble; false gives up. None by default.
     void setScrambleHook(std::function<bool()> goOn) { m_scrambleHook = std::move(goOn); }
 
-    // Whether entries were added, changed or removed since the list was saved, opened or cleared.
-    // An import and an export clear gChanged, but not this.
-    [[nodiscard]] bool isUnsaved() const { return m_unsaved; }
-    // What a new list file with these entries holds. Throws what ListFile::encode throws.
+    // What a new list file with these entries holds, texts that are too long for one cut.
     [[nodiscard]] QByteArray fileBytes() const;
-    // Called after each change of the entries and after each save. None by default.
-    void setChangeHook(std::function<void()> changed) { m_changeHook = std::move(changed); }
+
+    enum class Change { OfEntries, Saved, Replaced }; // replaced by a file's list or an empty one
+    // Called after each change; after Replaced, gChanged still tells of the list that was there
+    // before. None by default.
+    void setChangeHook(std::function<void(Change)> changed) { m_changeHook = std::move(changed); }
 
 private:
     void Scramble();
-    void setUnsaved(bool unsaved);
+    void tell(Change change) const;
 
     [[nodiscard]] VocabRecord &slot(Integer position);
     [[nodiscard]] const VocabRecord &slot(Integer position) const;
@@ -101,7 +101,6 @@ private:
     Integer m_searchPos; // of the last hit; 0 = none
     QString m_scrambled;
     std::function<bool()> m_scrambleHook;
-    bool m_unsaved = false;
-    std::function<void()> m_changeHook;
+    std::function<void(Change)> m_changeHook;
     WordIndex m_index; // of all entries, or empty until a word is looked up
 };

@@ -2,10 +2,10 @@
 #include "editor/UnsavedCopy.h"
 
 #include "core/Module1.h"
-#include "core/cVocabList.h"
 #include "platform/Guarded.h"
 #include "platform/Paths.h"
 #include "runtime/BinaryFile.h"
+#include "runtime/SameFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -16,9 +16,8 @@ namespace {
 
 constexpr int Delay = 100; // milliseconds, for further changes to come into the same copy
 const QString Extension = QStringLiteral(".lwx");
-// In bytes. A name has 255, of which " (not saved) 999.lwx" and a temporary file's ending take
-// some.
-constexpr qsizetype LongestTitle = 228;
+// In bytes. A file's name has 255, of which " (not saved) 999.lwx" takes 20.
+constexpr qsizetype LongestTitle = 235;
 
 QString listTitle()
 {
@@ -28,7 +27,7 @@ QString listTitle()
     if (title.endsWith(Extension, Qt::CaseInsensitive))
         title.chop(Extension.size());
     while (QFile::encodeName(title).size() > LongestTitle)
-        title.chop(1);
+        title.chop(title.back().isLowSurrogate() ? 2 : 1);
     return title;
 }
 
@@ -64,7 +63,7 @@ UnsavedCopy::UnsavedCopy(QObject *window) : m_timer(window)
     m_timer.setSingleShot(true);
     m_timer.setInterval(Delay);
     m_timer.callOnTimeout([this] { timedOut(); });
-    gVocabList().setChangeHook([this] { listChanged(); });
+    gVocabList().setChangeHook([this](cVocabList::Change change) { listChanged(change); });
 }
 
 UnsavedCopy::~UnsavedCopy()
@@ -78,12 +77,19 @@ void UnsavedCopy::giveUp()
     remove();
 }
 
-void UnsavedCopy::listChanged()
+void UnsavedCopy::listChanged(cVocabList::Change change)
 {
-    if (!gVocabList().isUnsaved())
-        giveUp();
-    else if (!m_timer.isActive())
-        m_timer.start();
+    if (change == cVocabList::Change::OfEntries) {
+        if (!m_timer.isActive())
+            m_timer.start();
+        return;
+    }
+    // Without gChanged nobody was asked whether the list may go unsaved.
+    const bool isWanted = change == cVocabList::Change::Replaced && !gChanged;
+    // What was opened or saved under the copy's name is the person's.
+    if (isWanted || isSameFile(m_path, gFileName))
+        m_path.clear();
+    giveUp();
 }
 
 void UnsavedCopy::timedOut()
@@ -98,7 +104,7 @@ void UnsavedCopy::timedOut()
     try {
         write();
     } catch (const std::exception &) {
-        // The disk refuses it, or the list does not fit into a file or into memory twice.
+        // The disk refuses it, or the list does not fit into memory twice.
     }
 }
 
@@ -127,9 +133,8 @@ void UnsavedCopy::remove()
     m_path.clear();
 }
 
-// Not where the person has removed it, written over it, opened it or saved the list under its name.
+// Not where the person has removed it or written over it.
 bool UnsavedCopy::isOwnFile() const
 {
-    const QFileInfo file(m_path);
-    return !m_path.isEmpty() && file.lastModified() == m_written && file != QFileInfo(gFileName);
+    return !m_path.isEmpty() && QFileInfo(m_path).lastModified() == m_written;
 }

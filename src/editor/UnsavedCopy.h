@@ -3,9 +3,12 @@
 // that they outlive a crash, a kill and a power cut.
 //
 // It is written a moment after a change, never while a handler is at work, and removed as soon as
-// the list is saved or replaced. A copy that cannot be written is given up in silence until the
-// next change.
+// the list is saved or replaced. It stays where the list is replaced without a question about
+// saving it, as after an export. A copy that cannot be written is given up in silence until the
+// next change. A text that is too long for a list file is cut in it.
 #pragma once
+
+#include "core/cVocabList.h"
 
 #include <QDateTime>
 #include <QTimer>
@@ -22,7 +25,7 @@ public:
     void giveUp();
 
 private:
-    void listChanged();
+    void listChanged(cVocabList::Change change);
     void timedOut();
     void write();
     void remove();

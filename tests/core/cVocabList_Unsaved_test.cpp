@@ -22,54 +22,68 @@ private Q_SLOTS:
         m_list.AddVocab(u"cat"_s, u"an animal"_s, u"The cat sat."_s);
         m_list.SaveFile();
         m_calls = 0;
-        m_list.setChangeHook([this] { ++m_calls; });
+        m_list.setChangeHook([this](cVocabList::Change change) {
+            ++m_calls;
+            m_lastChange = change;
+            m_changedThen = gChanged;
+        });
     }
 
-    void everyChangeOfAnEntryMakesTheListUnsaved()
+    void everyChangeOfAnEntryIsTold()
     {
-        QVERIFY(!m_list.isUnsaved());
         m_list.AddVocab(u"dog"_s, {}, {});
-        QVERIFY(m_list.isUnsaved());
-        m_list.SaveFile();
-        QVERIFY(!m_list.isUnsaved());
+        QCOMPARE(m_calls, 1);
         m_list.Edit(u"hen"_s, {}, {});
-        QVERIFY(m_list.isUnsaved());
-        m_list.SaveFile();
+        QCOMPARE(m_calls, 2);
         m_list.DeleteVocab();
-        QVERIFY(m_list.isUnsaved());
-        QCOMPARE(m_calls, 5);
+        QCOMPARE(m_calls, 3);
+        QVERIFY(m_lastChange == cVocabList::Change::OfEntries);
     }
 
-    void aListThatTakesTheOldOnesPlaceIsNotUnsaved()
+    void aSaveIsTold()
     {
-        m_list.AddVocab(u"dog"_s, {}, {});
+        m_list.SaveFile();
+        QVERIFY(m_lastChange == cVocabList::Change::Saved);
+        QCOMPARE(m_calls, 1);
+    }
+
+    void aListThatTakesTheOldOnesPlaceIsTold_data()
+    {
+        QTest::addColumn<bool>("changed");
+        QTest::newRow("after a change") << true;
+        QTest::newRow("after none") << false;
+    }
+
+    void aListThatTakesTheOldOnesPlaceIsTold()
+    {
+        QFETCH(bool, changed);
+        gChanged = changed;
         QVERIFY(m_list.OpenFile());
-        QVERIFY(!m_list.isUnsaved());
+        QVERIFY(m_lastChange == cVocabList::Change::Replaced);
+        QCOMPARE(m_changedThen, changed);
+        QVERIFY(!gChanged);
         m_list.AddVocab(u"dog"_s, {}, {});
         m_list.ClearList();
-        QVERIFY(!m_list.isUnsaved());
-        QCOMPARE(m_calls, 4);
+        QVERIFY(m_lastChange == cVocabList::Change::Replaced);
+        QCOMPARE(m_calls, 3);
     }
 
-    void whatFailsOrDoesNothingLeavesTheListUnsaved()
+    void whatFailsOrDoesNothingIsNotTold()
     {
-        m_list.AddVocab(u"dog"_s, {}, {});
         gFileName = m_folder.filePath(u"nowhere/list.lwx"_s);
         QVERIFY_THROWS_EXCEPTION(RunTimeError, m_list.SaveFile());
         QVERIFY_THROWS_EXCEPTION(RunTimeError, static_cast<void>(m_list.OpenFile()));
         gFileName.clear();
         QVERIFY(!m_list.OpenFile());
-        QVERIFY(m_list.isUnsaved());
-        QCOMPARE(m_calls, 1);
+        QCOMPARE(m_calls, 0);
     }
 
-    void anotherListsSaveLeavesTheListUnsaved()
+    void anotherListsSaveIsNotTold()
     {
-        m_list.AddVocab(u"dog"_s, {}, {});
         cVocabList other;
         QVERIFY(other.OpenFile());
         other.SaveFile();
-        QVERIFY(m_list.isUnsaved());
+        QCOMPARE(m_calls, 0);
     }
 
     void readingAndMovingIsNoChange()
@@ -78,7 +92,6 @@ private Q_SLOTS:
         QVERIFY(m_list.Exist(u"cat"_s, 1));
         m_list.CurrentWord(1);
         QCOMPARE(m_list.Word(), u"cat"_s);
-        QVERIFY(!m_list.isUnsaved());
         QCOMPARE(m_calls, 0);
     }
 
@@ -105,6 +118,8 @@ private:
     QTemporaryDir m_folder;
     cVocabList m_list;
     int m_calls = 0;
+    cVocabList::Change m_lastChange{};
+    bool m_changedThen = false; // gChanged at the last call
 };
 
 QTEST_GUILESS_MAIN(cVocabList_Unsaved_test)

@@ -165,18 +165,52 @@ private Q_SLOTS:
     // After an export no exit asks, though the list itself was not saved.
     void anExportKeepsIt()
     {
-        m_main->answers.useForm("dlgExport", [this](QDialog &form) {
-            m_main->answers.chooseFile(m_other);
-            Controls::click(Controls::find<QPushButton>(form, "cmdBrowse"));
-            m_main->answers.expectMsgBox(u"6 words has been added to "_s + m_other);
-            Controls::click(Controls::find<QPushButton>(form, "cmdOk"));
-        });
-        m_main->choose("mnuExport");
-        QVERIFY(!gChanged);
+        exportAll();
         QVERIFY(comes(Animals));
         m_main->choose("mnuExit");
         QVERIFY(!m_main->window().isVisible());
         QVERIFY(comes(Animals));
+    }
+
+    // Neither New nor Open asks then about saving.
+    void aNewListAfterAnExportKeepsIt()
+    {
+        const QByteArray copy = readFile(path(Animals));
+        exportAll();
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        keepsAsAnEarlierRuns(copy);
+    }
+
+    void anOpenedListAfterAnExportKeepsIt()
+    {
+        const QByteArray copy = readFile(path(Animals));
+        exportAll();
+        openList(*m_main, m_other);
+        QCOMPARE(gVocabList().NumWords(), 8);
+        keepsAsAnEarlierRuns(copy);
+    }
+
+    void aNewListAfterAnImportOfNothingKeepsIt()
+    {
+        const QByteArray copy = readFile(path(Animals));
+        const QString empty = m_main->path(u"empty.lwx"_s);
+        writeFile(empty, listBytes({}));
+        m_main->answers.chooseFile(empty);
+        m_main->answers.expectMsgBox(u"0 words imported"_s);
+        m_main->choose("mnuImport");
+        QVERIFY(!gChanged);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        keepsAsAnEarlierRuns(copy);
+    }
+
+    void aSaveAfterAnExportRemovesIt()
+    {
+        exportAll();
+        m_main->answers.chooseFile(m_main->path(u"third.lwx"_s));
+        m_main->choose("mnuSaveAs");
+        QCOMPARE(names(), QStringList());
     }
 
     void aCopyOfAnEarlierRunIsOpenedEditedAndSavedLikeAnyList()
@@ -242,6 +276,33 @@ private:
         QTest::addColumn<QMessageBox::StandardButton>("save");
         QTest::newRow("not saved") << QMessageBox::No;
         QTest::newRow("saved") << QMessageBox::Yes;
+    }
+
+    // Which clears gChanged.
+    void exportAll()
+    {
+        m_main->answers.useForm("dlgExport", [this](QDialog &form) {
+            m_main->answers.chooseFile(m_other);
+            Controls::click(Controls::find<QPushButton>(form, "cmdBrowse"));
+            m_main->answers.expectMsgBox(u"6 words has been added to "_s + m_other);
+            Controls::click(Controls::find<QPushButton>(form, "cmdOk"));
+        });
+        m_main->choose("mnuExport");
+        QVERIFY(!gChanged);
+    }
+
+    // The list that took the old one's place has a copy of its own.
+    void keepsAsAnEarlierRuns(const QByteArray &copy)
+    {
+        QCOMPARE(names(), QStringList{Animals});
+        addEntry(*m_main, u"pig"_s);
+        QVERIFY(settled(*m_main));
+        QCOMPARE(names().size(), 2);
+        QCOMPARE(readFile(path(Animals)), copy);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->choose("mnuNew");
+        QCOMPARE(names(), QStringList{Animals});
     }
 
     // Answers the questions of the next New or Open as the row says.

@@ -131,7 +131,10 @@ private Q_SLOTS:
         QTest::newRow("capitals") << u"ANIMALS.LWX"_s << u"ANIMALS (not saved).lwx"_s;
         QTest::newRow("another ending") << u"animals.txt"_s << u"animals.txt (not saved).lwx"_s;
         QTest::newRow("long") << QString(250, u'a') + u".lwx"_s
-                              << QString(228, u'a') + u" (not saved).lwx"_s;
+                              << QString(235, u'a') + u" (not saved).lwx"_s;
+        // No half of a character of two code units is left at the cut.
+        QTest::newRow("long, in pairs")
+            << u"😀"_s.repeated(62) + u".lwx"_s << u"😀"_s.repeated(58) + u" (not saved).lwx"_s;
         QTest::newRow("place markers") << u"%1 %2.lwx"_s << u"%1 %2 (not saved).lwx"_s;
     }
 
@@ -250,17 +253,17 @@ private Q_SLOTS:
         QVERIFY(comes(Untitled));
     }
 
-    void aTextThatNoListFileHoldsIsGivenUpInSilence()
+    void aTextThatNoListFileHoldsIsCutAndTheOthersAreSafe()
     {
         addEntry(*m_main, u"cow"_s);
-        QVERIFY(comes(Untitled));
-        const QByteArray before = readFile(path(Untitled));
-        gVocabList().AddVocab(u"long"_s, QString(65'536, u'x'), {});
-        QVERIFY(settled(*m_main));
-        QCOMPARE(readFile(path(Untitled)), before);
-        gVocabList().DeleteVocab();
+        gVocabList().AddVocab(u"long"_s, QString(65'536, u'x'), u"A sentence."_s);
         addEntry(*m_main, u"pig"_s);
-        QVERIFY(comes(Untitled));
+        QVERIFY(settled(*m_main));
+        QCOMPARE(names(), QStringList{Untitled});
+        QCOMPARE(readFile(path(Untitled)),
+                 listBytes({addedEntry(u"cow"_s),
+                            {u"long"_s, QString(65'535, u'x'), u"A sentence."_s},
+                            addedEntry(u"pig"_s)}));
     }
 
     void anImportThatWaitsForAnAnswerHasItsWordsCopied()
@@ -289,6 +292,19 @@ private Q_SLOTS:
         });
         m_command->expectMsgBox(u"0 words imported"_s);
         m_command->importList({u"cow"_s});
+        QVERIFY(comes(Untitled));
+    }
+
+    void anImportOfTheRunsOwnCopyLeavesOneCopy()
+    {
+        addEntry(*m_main, u"cow"_s);
+        QVERIFY(comes(Untitled));
+        m_command->expectQuestion(u"cmdNo"_s, [](QDialog &) {
+            gVocabList().AddVocab(u"hen"_s, {}, {});
+            QVERIFY(comes(Untitled));
+        });
+        m_command->expectMsgBox(u"0 words imported"_s);
+        m_command->choose(path(Untitled));
         QVERIFY(comes(Untitled));
     }
 
