@@ -41,6 +41,9 @@ public:
             std::rethrow_exception(m_failure);
     }
 
+    // The function is called no more.
+    void drop() { m_write = {}; }
+
 protected:
     qint64 readData(char * /*data*/, qint64 /*size*/) override { return -1; }
     qint64 writeData(const char *data, qint64 size) override
@@ -56,7 +59,7 @@ private:
     void pass()
     {
         try {
-            if (!m_failure)
+            if (m_write && !m_failure)
                 m_write(m_gathered);
         } catch (...) {
             m_failure = std::current_exception();
@@ -73,9 +76,11 @@ private:
 class WrittenDocument : public PrintDocument
 {
 public:
-    // The painter must not outlive what it paints on.
+    // The painter must not outlive what it paints on. To end the painting writes the last sheet,
+    // which nobody wants, and what the derived class writes with is gone.
     ~WrittenDocument() override
     {
+        m_output.drop();
         if (hasSheets())
             static_cast<void>(endPainting());
     }
