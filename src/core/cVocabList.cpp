@@ -26,7 +26,7 @@ QString cVocabList::maxWordsText()
 
 void cVocabList::AddVocab(const QString &NewWord, const QString &NewDef, const QString &NewSen)
 {
-    if (m_count >= MaxWords) {
+    if (isFull()) {
         notice(maxWordsText());
         return;
     }
@@ -35,7 +35,7 @@ void cVocabList::AddVocab(const QString &NewWord, const QString &NewDef, const Q
     m_firstSlot = 1;
     m_slots.resize(static_cast<std::size_t>(m_count.toInt()));
     m_slots.push_back({NewWord, NewDef, NewSen});
-    // An empty index stands for one that nobody has asked for yet.
+    // Empty means not built yet.
     if (!m_index.isEmpty())
         m_index.append(NewWord);
     ++m_count;

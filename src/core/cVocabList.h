@@ -21,11 +21,12 @@ public:
     // Limits adding: the largest round number with which a position + 23 and the count + 1 stay
     // inside 16 bits. A file may hold more entries, up to Integer::Max.
     static constexpr int MaxWords = 32000;
+    [[nodiscard]] bool isFull() const { return m_count >= MaxWords; }
     // What adding beyond it tells.
     [[nodiscard]] static QString maxWordsText();
 
-    // Appends the texts as they are given and makes the new entry the current one. At MaxWords
-    // entries gives a notice and changes nothing.
+    // Appends the texts as they are given and makes the new entry the current one. A full
+    // list gives a notice and changes nothing.
     void AddVocab(const QString &NewWord, const QString &NewDef, const QString &NewSen);
     void ClearList();
     // Removes the current entry; the one before it becomes current.

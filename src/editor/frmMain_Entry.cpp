@@ -72,7 +72,7 @@ void frmMain::addWord()
     showMode(Mode::NewWord);
 
     const Integer count = list.NumWords();
-    const Integer top = count < 23 ? Integer(1) : count - 21;
+    const Integer top = firstOfNewWordPage(count.toInt());
     scrollTo(count);
     FillGrid(top);
     NumberRows(top);
