@@ -12,13 +12,15 @@ int firstOfLastPage(int entries)
 
 } // namespace
 
-GridPlace moved(GridPlace from, GridMove move, int entries)
+GridPlace placeAfter(GridMove move, GridPlace from, int entries)
 {
     const int lastPage = firstOfLastPage(entries);
     int first = from.first == 0 ? lastPage : from.first;
     const int lastFirst = std::max(first, lastPage);
-    // An empty page is behind the last entry.
-    int entry = from.first == 0 ? entries + 1 : std::clamp(first + from.row - 1, first, entries);
+    // The header is above the page's first entry. An empty row or page is behind the last one.
+    const int highest = move == GridMove::RowDown ? first - 1 : first;
+    const int lowest = move == GridMove::RowUp ? entries + 1 : entries;
+    int entry = from.first == 0 ? entries + 1 : std::clamp(first + from.row - 1, highest, lowest);
     switch (move) {
     case GridMove::RowUp:
         --entry;
@@ -47,6 +49,11 @@ GridPlace moved(GridPlace from, GridMove move, int entries)
     // The current row is in sight.
     first = std::clamp(first, std::max(1, entry - GridPlace::Rows + 1), entry);
     return {first, entry - first + 1};
+}
+
+int firstOfNewWordPage(int entries)
+{
+    return firstOfLastPage(entries + 1);
 }
 
 int firstAfterWheel(int first, int rows, int entries)

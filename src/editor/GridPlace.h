@@ -18,6 +18,8 @@ struct GridPlace
 };
 
 // For a list of one entry or more.
-[[nodiscard]] GridPlace moved(GridPlace from, GridMove move, int entries);
+[[nodiscard]] GridPlace placeAfter(GridMove move, GridPlace from, int entries);
+// The first entry of the page that ends with the row of the next new word.
+[[nodiscard]] int firstOfNewWordPage(int entries);
 // The first entry of the page after the wheel was turned by so many rows; downwards is positive.
 [[nodiscard]] int firstAfterWheel(int first, int rows, int entries);

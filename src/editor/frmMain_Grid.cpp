@@ -53,7 +53,7 @@ void frmMain::moveCurrentRow(GridMove move)
     if (entries == 0)
         return;
     const int shown = FirstShownItem().toInt();
-    const GridPlace place = moved({shown, m_ui->MSFlexGrid1->Row()}, move, entries);
+    const GridPlace place = placeAfter(move, {shown, m_ui->MSFlexGrid1->Row()}, entries);
     if (place.first != shown)
         scrollTo(place.first);
     m_ui->MSFlexGrid1->setCurrent(place.row, 1);

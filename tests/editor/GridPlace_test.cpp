@@ -8,7 +8,7 @@ namespace {
 GridPlace movedTimes(GridPlace place, GridMove move, int times, int entries)
 {
     for (int i = 0; i < times; ++i)
-        place = moved(place, move, entries);
+        place = placeAfter(move, place, entries);
     return place;
 }
 
@@ -25,6 +25,8 @@ private Q_SLOTS:
     void upWalksBackThroughEveryEntry();
     void theWheelLeadsTo_data();
     void theWheelLeadsTo();
+    void thePageOfANewWordEndsWithItsRow_data();
+    void thePageOfANewWordEndsWithItsRow();
 };
 
 void GridPlace_test::aKeyLeadsTo_data()
@@ -65,10 +67,12 @@ void GridPlace_test::aKeyLeadsTo_data()
     row("down on an empty page", GridMove::RowDown, 5, {0, 1}, {1, 5});
     row("end on an empty page", GridMove::Last, 5, {0, 1}, {1, 5});
     // A click may leave the current cell where no entry is.
-    row("up from below the last entry", GridMove::RowUp, 7, {1, 20}, {1, 6});
+    row("up from below the last entry", GridMove::RowUp, 7, {1, 20}, {1, 7});
     row("down from below the last entry", GridMove::RowDown, 7, {1, 20}, {1, 7});
-    row("down from the header", GridMove::RowDown, 7, {1, 0}, {1, 2});
+    row("down from the header", GridMove::RowDown, 7, {1, 0}, {1, 1});
     row("up from the header", GridMove::RowUp, 60, {5, 0}, {4, 1});
+    row("page down from the header", GridMove::PageDown, 60, {2, 0}, {25, 1});
+    row("page up from below the last entry", GridMove::PageUp, 60, {50, 20}, {27, 11});
 }
 
 void GridPlace_test::aKeyLeadsTo()
@@ -77,7 +81,7 @@ void GridPlace_test::aKeyLeadsTo()
     QFETCH(int, entries);
     QFETCH(GridPlace, from);
     QFETCH(GridPlace, to);
-    const GridPlace place = moved(from, move, entries);
+    const GridPlace place = placeAfter(move, from, entries);
     QCOMPARE(place.first, to.first);
     QCOMPARE(place.row, to.row);
 }
@@ -86,7 +90,7 @@ void GridPlace_test::downWalksThroughEveryEntryToTheLastFullPage()
 {
     GridPlace place;
     for (int entry = 2; entry <= 60; ++entry) {
-        place = moved(place, GridMove::RowDown, 60);
+        place = placeAfter(GridMove::RowDown, place, 60);
         QCOMPARE(place.first + place.row - 1, entry);
         QVERIFY(place.row <= GridPlace::Rows);
     }
@@ -98,7 +102,7 @@ void GridPlace_test::upWalksBackThroughEveryEntry()
     const GridPlace last = movedTimes({}, GridMove::Last, 1, 60);
     GridPlace place = last;
     for (int entry = 59; entry >= 1; --entry) {
-        place = moved(place, GridMove::RowUp, 60);
+        place = placeAfter(GridMove::RowUp, place, 60);
         QCOMPARE(place.first + place.row - 1, entry);
         QVERIFY(place.row >= 1);
     }
@@ -134,6 +138,23 @@ void GridPlace_test::theWheelLeadsTo()
     QFETCH(int, rows);
     QFETCH(int, entries);
     QTEST(firstAfterWheel(first, rows, entries), "expected");
+}
+
+void GridPlace_test::thePageOfANewWordEndsWithItsRow_data()
+{
+    QTest::addColumn<int>("entries");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("no entry") << 0 << 1;
+    QTest::newRow("the new word fills the page") << 22 << 1;
+    QTest::newRow("a full page") << 23 << 2;
+    QTest::newRow("many pages") << 100 << 79;
+    QTest::newRow("the longest list") << 32767 << 32746;
+}
+
+void GridPlace_test::thePageOfANewWordEndsWithItsRow()
+{
+    QFETCH(int, entries);
+    QTEST(firstOfNewWordPage(entries), "expected");
 }
 
 QTEST_APPLESS_MAIN(GridPlace_test)
