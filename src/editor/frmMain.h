@@ -87,6 +87,7 @@ private:
     void HighlightRow();
     void UnhighlightRow();
     void markRow(Integer row);
+    void showNewWordRow();
     void MarkNewRow();
 
     // frmMain_Transfer.cpp: import, export, text file, flash cards

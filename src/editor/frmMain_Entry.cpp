@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/GridPlace.h"
 #include "editor/ui_frmMain.h"
 #include "platform/MsgBox.h"
 #include "runtime/Blanks.h"
@@ -20,15 +21,12 @@ void frmMain::cmdNewWord_Click()
     gNewWord = true;
     showMode(Mode::NewWord);
     m_ui->txtWord->setFocus();
-    const Integer count = gVocabList().NumWords();
-    if (count > 0)
-        scrollTo(count < 23 ? Integer(1) : count - 21);
-    MarkNewRow();
+    showNewWordRow();
 }
 
 void frmMain::cmdAdd_Click()
 {
-    if (gNewWord && gVocabList().NumWords() >= cVocabList::MaxWords) {
+    if (gNewWord && gVocabList().isFull()) {
         MsgBox(cVocabList::maxWordsText());
         return;
     }
@@ -149,7 +147,7 @@ void frmMain::cmdSearch_Click()
 void frmMain::showHit(Integer hit)
 {
     UnhighlightRow();
-    const bool onePage = gVocabList().NumWords() < 23;
+    const bool onePage = gVocabList().NumWords() < GridPlace::Rows;
     m_shownEntry = 0; // the hit's row is marked, no other one
     scrollTo(onePage ? Integer(1) : hit);
     markRow(onePage ? hit : Integer(1));

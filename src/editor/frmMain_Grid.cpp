@@ -15,7 +15,7 @@ using namespace Module1;
 
 namespace {
 
-constexpr int LargeChange = 23;
+constexpr int LargeChange = GridPlace::Rows;
 
 } // namespace
 
@@ -82,7 +82,7 @@ void frmMain::VScroll1_Change()
         FillGrid(1);
         return;
     }
-    if (bar.value() > 22 && bar.value() > count.toInt()) {
+    if (bar.value() >= GridPlace::Rows && bar.value() > count.toInt()) {
         const QSignalBlocker onePageOnly(bar);
         bar.setValue(count.toInt());
     }
@@ -182,12 +182,20 @@ void frmMain::markRow(Integer row)
     HighlightRow();
 }
 
+void frmMain::showNewWordRow()
+{
+    const Integer count = gVocabList().NumWords();
+    if (count > 0)
+        scrollTo(firstOfNewWordPage(count.toInt()));
+    MarkNewRow();
+}
+
 void frmMain::MarkNewRow()
 {
     const Integer count = gVocabList().NumWords();
     UnhighlightRow();
-    const Integer row = count < 23 ? count + 1 : Integer(23);
+    const int row = std::min(count.toInt() + 1, GridPlace::Rows);
     if (count > 0)
-        m_ui->MSFlexGrid1->setText(row.toInt(), 0, (count + 1).toText());
+        m_ui->MSFlexGrid1->setText(row, 0, (count + 1).toText());
     markRow(row);
 }
