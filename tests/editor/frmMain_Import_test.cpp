@@ -284,6 +284,38 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("cat"), QStringLiteral("ox|a bull")}));
     }
 
+    void theRowOfTheNextNewWordIsMarkedAgain_data()
+    {
+        QTest::addColumn<int>("before");
+        QTest::addColumn<QStringList>("imported");
+        QTest::addColumn<int>("first"); // entry of the page
+        const QStringList two = {QStringLiteral("new a"), QStringLiteral("new b")};
+        QTest::newRow("nothing into an empty list") << 0 << QStringList() << 1;
+        QTest::newRow("nothing into a short list") << 5 << QStringList() << 1;
+        QTest::newRow("nothing into a long list") << 60 << QStringList() << 39;
+        QTest::newRow("words into a short list") << 5 << two << 1;
+        QTest::newRow("words that fill the page") << 20 << two << 1;
+        QTest::newRow("words into a long list") << 60 << two << 41;
+    }
+
+    void theRowOfTheNextNewWordIsMarkedAgain()
+    {
+        QFETCH(int, before);
+        QFETCH(QStringList, imported);
+        QFETCH(int, first);
+        MainWindow &main = m_command->main;
+        main.fill(before);
+        main.click("cmdNewWord");
+        m_command->expectMsgBox(Imported.arg(imported.size()));
+        m_command->importList(imported);
+        QCOMPARE(main.look(), EditorModes::newWord());
+        const int next = before + int(imported.size()) + 1;
+        const int row = next - first + 1;
+        QCOMPARE(main.markedRows(), QList<int>{row});
+        QCOMPARE(main.row(row).at(0), QString::number(next));
+        QCOMPARE(main.row(1).at(0), QString::number(first));
+    }
+
     void saveIsOfferedAfterAWordListOnly_data()
     {
         QTest::addColumn<bool>("isDif");
