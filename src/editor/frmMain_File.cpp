@@ -45,6 +45,8 @@ void frmMain::mnuSave_Click()
         return;
     }
     gVocabList().SaveFile();
+    if (gVocabList().NumWords() > 0) // an empty list writes no file
+        gOpenedFile = gFileName;
     m_ui->mnuSave->setEnabled(false);
     MsgBox(gFileName + QStringLiteral(" has been saved."));
     gChanged = false;

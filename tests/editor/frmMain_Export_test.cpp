@@ -58,6 +58,7 @@ private Q_SLOTS:
         m_main->choose("mnuSave");
         QCOMPARE(readFile(m_target), listBytes(entries));
         QCOMPARE(readFile(m_list), listBytes(entries.mid(0, 5)));
+        QCOMPARE(gOpenedFile, m_target);
     }
 
     void anUntitledListStaysUntitledInTheCaption()

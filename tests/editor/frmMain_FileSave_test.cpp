@@ -257,6 +257,26 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), m_entries);
     }
 
+    void theFileOfASaveIsTheOneThatIsOpen()
+    {
+        // The Save As of an empty list wrote no file, so no file was the open one.
+        m_main->answers.chooseFile(m_other);
+        m_main->choose("mnuSaveAs");
+        QCOMPARE(gOpenedFile, QString());
+        addEntry(*m_main, QStringLiteral("cow"));
+        m_main->answers.expectMsgBox(m_other + QStringLiteral(" has been saved."));
+        m_main->choose("mnuSave");
+        QCOMPARE(gOpenedFile, m_other);
+
+        addEntry(*m_main, QStringLiteral("dog"));
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->answers.chooseFile(m_other); // not read again
+        m_main->choose("mnuOpen");
+        QCOMPARE(openEntries(),
+                 (Entries{addedEntry(QStringLiteral("cow")), addedEntry(QStringLiteral("dog"))}));
+    }
+
     void saveAsOffersTheListsOwnName_data()
     {
         QTest::addColumn<bool>("titled");

@@ -121,8 +121,10 @@ Outcome expectSaveToOwnFile(Soak &soak, bool isTold)
         soak.expectRunTimeError(error);
         return Outcome::Failed;
     }
-    if (model.count() > 0)
+    if (model.count() > 0) {
         model.write(model.fileName, model.listBytes());
+        model.openedFile = model.fileName;
+    }
     if (isTold)
         soak.expectMsgBox(model.fileName + u" has been saved."_s);
     markAsSaved(model);
