@@ -57,6 +57,16 @@ private Q_SLOTS:
         QCOMPARE(readFile(m_path), listBytes(m_entries));
     }
 
+    void escAtTheQuestionAboutSavingMeansCancel()
+    {
+        addEntry(*m_main, QStringLiteral("cow"));
+        const OpenList before(*m_main);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.escapeMsgBox(SaveChanges);
+        m_main->choose("mnuNew");
+        QVERIFY(OpenList(*m_main) == before);
+    }
+
     void noGivesTheChangesUp()
     {
         addEntry(*m_main, QStringLiteral("cow"));

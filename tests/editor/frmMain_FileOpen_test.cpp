@@ -124,6 +124,22 @@ private Q_SLOTS:
         QCOMPARE(readFile(m_animals), listBytes(m_animalEntries));
     }
 
+    void escDoesNothingAtTheQuestionAboutSaving()
+    {
+        openList(*m_main, m_animals);
+        addEntry(*m_main, QStringLiteral("cow"));
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes, [](QMessageBox &box) {
+            QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
+            QVERIFY(box.isVisible());
+            QVERIFY(!box.close());
+        });
+        m_main->answers.expectMsgBox(m_animals + QStringLiteral(" has been saved."));
+        m_main->answers.chooseFile(m_plants);
+        m_main->choose("mnuOpen");
+        QCOMPARE(openEntries(), m_plantEntries);
+    }
+
     void yesSavesFirst()
     {
         openList(*m_main, m_animals);
