@@ -136,8 +136,8 @@ void frmMain::emptyGrid()
     setScrollRange(); // fails for the longest list there is, whose grid stays empty
 }
 
-// The page that the scroll bar stands for at `value`, also where it stands there already. What the
-// page throws ends the caller as well.
+// Shows the page that the scroll bar stands for at `value`, also if it has that value already.
+// Throws what filling the page throws.
 void frmMain::scrollTo(Integer value)
 {
     setScrollRange();

@@ -103,10 +103,13 @@ void FlashCard::fitType()
             room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), text);
         return room.contains(needed);
     };
-    // The smallest comes first: a text that is longer still is measured only once.
+    // The smallest size is tried first: a text that is too long for it is measured only once.
     const bool fitsAtAll = fits(TypeSizes.back());
-    if (fitsAtAll)
-        static_cast<void>(std::find_if(TypeSizes.begin(), TypeSizes.end(), fits));
+    if (fitsAtAll) {
+        for (const int size : TypeSizes)
+            if (fits(size))
+                break;
+    }
     setVerticalScrollBarPolicy(fitsAtAll ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     if (type != document()->defaultFont())
         document()->setDefaultFont(type);

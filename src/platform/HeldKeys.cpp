@@ -13,7 +13,8 @@ bool isAnswer(const QWidget &receiver, int key)
     switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // It breaks the line there, or is left to the window and comes here again.
+        // In a box of several lines the key breaks the line. Where it does not, the box passes the
+        // event on to its window, and the filter sees it there.
         return !qobject_cast<const EntryTextBox *>(&receiver);
     case Qt::Key_Escape:
         return true;

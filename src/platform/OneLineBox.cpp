@@ -60,7 +60,8 @@ void OneLineBox::pasteFrom(QClipboard::Mode mode)
     endUndoStep();
 }
 
-// Moving the cursor does; what is typed before and after a paste is undone by itself.
+// An undo step ends where the cursor moves, so the cursor is moved away and back. What is typed
+// before and after a paste is then undone by itself.
 void OneLineBox::endUndoStep()
 {
     const int place = cursorPosition();

@@ -47,8 +47,8 @@ public:
     // Makes the system put on the disk what was written.
     void flush() const;
 
-    // From the position on, where the next bytes may be other than zero; the size of the file
-    // where none are. Systems that cannot tell give the position.
+    // Where the first bytes at or after `position` are that may be other than zero. It is the size
+    // of the file if there are none. Systems that cannot tell give the position itself.
     [[nodiscard]] qint64 nextData(qint64 position) const;
 
 private:

@@ -19,7 +19,8 @@ struct Decimal
     qint64 pointAt = 0; // as many digits are before it; may lie outside them
 };
 
-// An exponent of more digits counts as one that no digits can make up for.
+// An exponent that does not fit 64 bits becomes one of the same sign. It is so large that no digits
+// of the number make up for it.
 qint64 exponentOf(const QString &text)
 {
     constexpr qint64 beyondAll = 1'000'000'000'000;

@@ -53,7 +53,8 @@ private:
     bool m_isTooLong = false;
 };
 
-// The way of an import through the lines, which no answer and no mistake in a value changes.
+// Goes through the lines as an import does, to find the last one that the import looks at. A
+// person's answers and mistakes in the values do not change which one that is.
 class ImportWalk
 {
 public:
