@@ -34,9 +34,10 @@ void frmMain::mnuImport_Click()
     runGuarded([this] { importWords(gFileName); });
     gFileName = openList;
     const Integer count = gVocabList().NumWords();
+    // The next new word goes behind what came in. Behind the list's end there is no page to show.
     if (m_mode == Mode::NewWord)
-        showNewWordRow(); // behind what came in
-    else                  // behind the list's end there is no page to show
+        showNewWordRow();
+    else
         FillGrid(remembered <= count ? remembered : std::min(FirstShownItem(), count));
     gVocabList().CurrentWord(1);
     returnToShownEntry();
