@@ -62,6 +62,21 @@ const std::vector<Way> AllWays{{EINTR},
                                {EACCES, Lasting::FromThenOn}};
 const std::vector<Way> MainWays{{EINTR}, {ENOSPC, Lasting::FromThenOn}, {EIO}};
 
+// Whether the system checks rights in it. The others work on what is open already.
+bool checksRights(Function function)
+{
+    switch (function) {
+    case Function::Open:
+    case Function::Rename:
+    case Function::Link:
+    case Function::Unlink:
+    case Function::Mkdir:
+        return true;
+    default:
+        return false;
+    }
+}
+
 QString reportStart(int reason)
 {
     switch (reason) {
@@ -339,6 +354,8 @@ void Faults_test::theOldFileOrTheNewOneIsThere()
     const FileCommand command = commands()[number];
     m_wrong.clear();
     std::vector<Way> ways = command.isSlow ? MainWays : AllWays;
+    if (command.isSlow && checksRights(function))
+        ways.push_back({EACCES});
     if (function == Function::Write)
         ways.push_back({FailingCall::StopsShort});
     for (const Way &way : ways) {
