@@ -62,6 +62,8 @@ void useCards(Soak &soak, QDialog &form)
             passTime(soak, form);
         else
             pressSomething(soak, form);
+        if (!form.isVisible())
+            return; // Tab to Close, Enter
         if (Controls::find<FlashCard>(form, "txtWord").text() != Module1::gVocabList().Word())
             Controls::fail(u"the card shows another word"_s);
     }
