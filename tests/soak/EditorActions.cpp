@@ -41,6 +41,9 @@ void becomeIdle(Model &model)
 
 void newWord(Soak &soak)
 {
+    const int count = soak.model.count();
+    if (count > 0)
+        soak.expectPage(count < 23 ? 1 : count - 21);
     soak.main().click(NewWordButton);
     soak.model.mode = Mode::NewWord;
     soak.model.shown = 0;
@@ -230,12 +233,15 @@ void search(Soak &soak)
     const QString typed = soak.main().text(WordBox);
     const QString wanted = withoutOuterBlanks(typed);
     const int hit = typed.isEmpty() ? 0 : model.search(wanted);
+    const bool isShown = hit != 0 && !model.overflowsOnPage(hit);
     if (hit != 0)
-        model.shown = hit;
+        model.shown = isShown ? hit : 0;
     else if (!typed.isEmpty())
         soak.expectMsgBox(wanted + u" is not in the list."_s);
+    if (hit != 0)
+        soak.expectPage(hit);
     soak.main().click(SearchButton);
-    if (hit != 0 && soak.main().text(DefinitionBox) != model.entry(hit).definition)
+    if (isShown && soak.main().text(DefinitionBox) != model.entry(hit).definition)
         Controls::fail(u"the boxes do not show entry %1"_s.arg(hit));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // File > Export.
 #include "runtime/Blanks.h"
+#include "soak/Refusals.h"
 #include "soak/Soak.h"
 
 #include <QDialog>
@@ -9,6 +10,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +32,7 @@ public:
     {
         for (int times = m_soak.roll(4); times > 0; --times)
             changeSomething();
+        keepRangeShort();
         if (m_soak.chance(25) || !exportWords())
             leave();
     }
@@ -58,13 +61,28 @@ private:
 
     void typeNumber(const char *name, int &number)
     {
-        const int typed = m_soak.roll(m_soak.model.count() + 3) - 1;
+        const int typed = std::min(m_soak.roll(m_soak.model.count() + 3) - 1, int(Integer::Max));
+        typeNumber(name, typed, number);
+    }
+
+    void typeNumber(const char *name, int typed, int &number)
+    {
         number = std::clamp(typed, 1, m_soak.model.count());
         m_soak.note(u"%1: %2"_s.arg(QLatin1String(name)).arg(typed));
         Controls::type(box(name), QString::number(typed));
         Soak::press(box(name), Qt::Key_Tab);
         if (box(name).text() != QString::number(number))
             Controls::fail(u"%1 shows %2"_s.arg(QLatin1String(name), box(name).text()));
+    }
+
+    // So that the files do not all become long ones.
+    void keepRangeShort()
+    {
+        constexpr int most = 500;
+        if (std::abs(m_end - m_start) < most)
+            return;
+        Soak::waitFor(m_form);
+        typeNumber("txtEnd", std::min(m_start + m_soak.roll(10), m_soak.model.count()), m_end);
     }
 
     // Leaving the box tells it; the number before it is typed again.
@@ -140,22 +158,35 @@ private:
             list = Model::listOf(model.disk[path]);
             if (!list || !Model::isWhole(model.disk[path]))
                 error = 321;
-            else
-                error = Model::writeError(path);
+        }
+        if (error == 0) {
+            expectWords(*list);
+            error = Model::writeError(path);
         }
         if (error != 0) {
             m_soak.expectRunTimeError(error);
             return false;
         }
-        const int step = m_end >= m_start ? 1 : -1;
-        for (int position = m_start; position != m_end + step; position += step)
-            list->push_back(model.entry(position));
         model.write(path, Model::listBytes(*list, int(list->size())));
         model.fileName = path;
         model.changed = false;
         m_soak.expectMsgBox(
-            u"%1 words has been added to %2"_s.arg((m_end - m_start) * step + 1).arg(path));
+            u"%1 words has been added to %2"_s.arg(std::abs(m_end - m_start) + 1).arg(path));
         return true;
+    }
+
+    // The words of the range come into the other list, as long as it is not full.
+    void expectWords(std::vector<Entry> &list)
+    {
+        Refusals refusals;
+        const int step = m_end >= m_start ? 1 : -1;
+        for (int position = m_start; position != m_end + step; position += step) {
+            if (int(list.size()) < cVocabList::MaxWords)
+                list.push_back(m_soak.model.entry(position));
+            else
+                refusals.expectOne(m_soak);
+        }
+        refusals.expectRest(m_soak);
     }
 
     void leave()

@@ -81,12 +81,6 @@ void compareOffered(QFileDialog &dialog, const QString &path)
         Controls::fail(u"the name \"%1\" is offered"_s.arg(offered));
 }
 
-void markAsSaved(Model &model)
-{
-    model.changed = false;
-    model.canSave = false;
-}
-
 Outcome expectSaveAs(Soak &soak)
 {
     Model &model = soak.model;
@@ -107,7 +101,7 @@ Outcome expectSaveAs(Soak &soak)
         model.write(*target, model.listBytes());
     // An empty list writes no file.
     model.openedFile = model.count() > 0 ? *target : QString();
-    markAsSaved(model);
+    model.markAsSaved();
     model.showTitle();
     return Outcome::Done;
 }
@@ -127,7 +121,7 @@ Outcome expectSaveToOwnFile(Soak &soak, bool isTold)
     }
     if (isTold)
         soak.expectMsgBox(model.fileName + u" has been saved."_s);
-    markAsSaved(model);
+    model.markAsSaved();
     return Outcome::Done;
 }
 
@@ -191,6 +185,16 @@ void newList(Soak &soak)
     soak.main().choose("mnuNew");
 }
 
+QByteArray longListFile(int count)
+{
+    std::vector<Entry> entries;
+    for (int number = 1; number <= count; ++number)
+        entries.push_back({number % 1000 == 0 ? u"apple"_s : u"word %1"_s.arg(number),
+                           u"definition %1"_s.arg(number),
+                           {}});
+    return Model::listBytes(entries, count);
+}
+
 QString chosenList(Soak &soak)
 {
     switch (soak.roll(10)) {
@@ -211,40 +215,58 @@ void becomeIdle(Model &model)
     model.shown = 0;
 }
 
-void expectOpen(Soak &soak)
+void expectCancelledOpen(Soak &soak)
+{
+    soak.answers().cancelFileDialog();
+    soak.model.fileName.clear();
+    soak.model.fileTitle.clear();
+    becomeIdle(soak.model);
+}
+
+void expectOpen(Soak &soak, const QString &chosen)
 {
     Model &model = soak.model;
-    if (soak.chance(10)) {
-        soak.answers().cancelFileDialog();
-        model.fileName.clear();
-        model.fileTitle.clear();
-        return becomeIdle(model);
-    }
-    const QString chosen = chosenList(soak);
     soak.note(chosen);
     soak.answers().chooseFile(chosen);
     const bool isLoaded = chosen == model.openedFile;
-    if (!isLoaded && Model::readError(chosen) != 0)
-        return soak.expectRunTimeError(Model::readError(chosen));
+    std::optional<std::vector<Entry>> list;
     if (!isLoaded) {
-        auto list = Model::listOf(model.read(chosen));
+        if (const int error = Model::readError(chosen))
+            return soak.expectRunTimeError(error);
+        list = Model::listOf(model.read(chosen));
         if (!list)
             return soak.expectRunTimeError(9);
-        model.replaceBy(std::move(*list));
-        model.openedFile = chosen;
-        markAsSaved(model);
     }
     model.fileName = chosen;
     model.fileTitle = QFileInfo(chosen).fileName();
-    if (!isLoaded)
-        model.showTitle();
     becomeIdle(model);
+    if (isLoaded)
+        return;
+    model.replaceBy(std::move(*list));
+    model.openedFile = chosen;
+    model.markAsSaved();
+    model.showTitle();
+    soak.expectPage(1);
 }
 
 void open(Soak &soak)
 {
+    if (expectEndOfLesson(soak, false) == Outcome::Done) {
+        if (soak.chance(10))
+            expectCancelledOpen(soak);
+        else
+            expectOpen(soak, chosenList(soak));
+    }
+    soak.main().choose("mnuOpen");
+}
+
+// More entries than can be typed, up to the most that a file can hold.
+void openLongList(Soak &soak)
+{
+    constexpr int lengths[] = {31'999, 32'000, 32'001, 32'744, 32'745, 32'766, 32'767};
+    soak.put(u"long.lwx"_s, longListFile(soak.oneOf(lengths)));
     if (expectEndOfLesson(soak, false) == Outcome::Done)
-        expectOpen(soak);
+        expectOpen(soak, soak.inLists(u"long.lwx"_s));
     soak.main().choose("mnuOpen");
 }
 
@@ -274,8 +296,10 @@ bool expectEnd(Soak &soak)
         return true;
     const auto answer = soak.chance(50) ? QMessageBox::Yes : QMessageBox::No;
     soak.expectMsgBox(u"Your changes have not been saved.  Do you want to save them?"_s, answer);
-    if (answer == QMessageBox::No)
+    if (answer == QMessageBox::No) {
+        soak.model.forgetCopy();
         return true;
+    }
     const Outcome outcome =
         soak.model.fileName.isEmpty() ? expectSaveAs(soak) : expectSaveToOwnFile(soak, false);
     return outcome != Outcome::Failed;
@@ -307,6 +331,7 @@ std::vector<Action> fileActions()
     return {
         {"File > New", 5, isEditorShown, newList},
         {"File > Open", 12, isEditorShown, open},
+        {"File > Open, a long list", 1, isEditorShown, openLongList},
         {"File > Save", 15, canSave, save},
         {"File > Save As", 6, isEditorShown, saveAs},
         {"File > Create Text File", 5, isEditorShown, createTextFile},

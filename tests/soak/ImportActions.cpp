@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // File > Import: lists and DIF files, and the dialog about words that exist already.
+#include "core/Module1.h"
+#include "core/cVocabList.h"
 #include "runtime/Blanks.h"
-#include "runtime/Windows1252.h"
+#include "soak/DifFile.h"
+#include "soak/Refusals.h"
 #include "soak/Soak.h"
 
 #include <QDialog>
@@ -16,6 +19,17 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+int currentPosition()
+{
+    return Module1::gVocabList().CurrentWord().toInt();
+}
+
+// The page from the entry that was the current one before the import.
+void expectPageAfter(Soak &soak, int position)
+{
+    soak.expectPage(position <= soak.model.count() ? position : 1);
+}
 
 // One import from its first word to its last message. It goes on in the model until the next word
 // that exists already, and from there when the person has answered.
@@ -61,9 +75,12 @@ private:
 
     void add()
     {
-        m_soak.model.add(m_soak.model.imported);
         m_soak.model.changed = true;
         ++m_added;
+        if (m_soak.model.count() < cVocabList::MaxWords)
+            m_soak.model.add(m_soak.model.imported);
+        else
+            m_refusals.expectOne(m_soak);
     }
 
     void expectQuestion()
@@ -83,6 +100,8 @@ private:
         const char *button = m_soak.oneOf(Answers);
         m_soak.note(QLatin1String(button));
         take(QLatin1String(button));
+        if (QLatin1String(button) != Close && QLatin1String(button) != QLatin1String("cmdNo"))
+            m_soak.expectPage(1); // the main window is brought up to date
         takeOrSkip(false);
         expectRest();
         if (QLatin1String(button) != Close)
@@ -127,7 +146,9 @@ private:
     void findNext(QDialog &form)
     {
         const int hit = m_soak.model.find(m_soak.model.imported.word, m_current + 1);
-        if (hit == 0)
+        if (m_current == Integer::Max)
+            m_soak.expectRunTimeError(6);
+        else if (hit == 0)
             m_soak.expectMsgBox(u"Search ended. No more words found."_s);
         else
             m_current = hit;
@@ -183,16 +204,18 @@ private:
             model.mode = Model::Mode::Idle;
             model.shown = 0;
         }
-        if (m_error != 0 && !m_stopped)
-            return m_soak.expectRunTimeError(m_error);
-        if (m_kind == Kind::List) {
+        m_refusals.expectRest(m_soak);
+        if (m_error != 0 && !m_stopped) {
+            m_soak.expectRunTimeError(m_error);
+        } else if (m_kind == Kind::List) {
             model.canSave = model.canSave || model.changed;
             m_soak.expectMsgBox(u"%1 words imported"_s.arg(m_added));
+            model.addThis = model.addAll = false;
         } else {
-            model.skipAll = false;
             m_soak.expectMsgBox(u"%1 words added"_s.arg(m_added));
+            model.addThis = model.addAll = model.skipAll = false;
         }
-        model.addThis = model.addAll = false;
+        expectPageAfter(m_soak, m_currentBefore);
     }
 
     static constexpr QLatin1String Close{"close"};
@@ -204,6 +227,8 @@ private:
     Soak &m_soak;
     Kind m_kind;
     std::vector<Entry> m_words;
+    Refusals m_refusals;
+    int m_currentBefore = currentPosition();
     int m_error = 0;
     std::size_t m_next = 0;
     int m_current = 0; // the entry that the dialog shows
@@ -217,92 +242,63 @@ bool isEditorShown(Soak &soak)
     return !soak.game();
 }
 
+// The message that refuses the whole list; empty where it comes in.
+QString refusalOfList(const Model &model, int words)
+{
+    constexpr int most = cVocabList::MaxWords;
+    if (model.count() > most)
+        return u"Cannot import any more words. Maximum number of words=%1"_s.arg(most);
+    if (model.count() + words > most)
+        return u"Cannot import words because this will exceed maximum number of words. "
+               "Maximum number of words=%1"_s.arg(most);
+    return {};
+}
+
+// So many words would take the model too long.
+bool isTooLong(const Model &model, const std::vector<Entry> &list)
+{
+    constexpr int most = 1000;
+    return int(list.size()) > most && refusalOfList(model, int(list.size())).isEmpty();
+}
+
+// Until its first word.
+void expectListImport(Soak &soak, std::vector<Entry> list)
+{
+    soak.model.changed = false;
+    const QString refusal = refusalOfList(soak.model, int(list.size()));
+    if (!refusal.isEmpty()) {
+        soak.expectMsgBox(refusal);
+        return expectPageAfter(soak, currentPosition());
+    }
+    std::erase_if(list, [](const Entry &entry) { return entry.word.isEmpty(); });
+    std::make_shared<ImportRun>(soak, ImportRun::Kind::List, std::move(list))->expectRest();
+}
+
 void importList(Soak &soak)
 {
     Model &model = soak.model;
     const QString path = soak.oneOf(soak.files(u".lwx"_s));
     soak.note(path);
+    auto list = Model::listOf(model.read(path));
+    if (list && isTooLong(model, *list))
+        return;
     soak.answers().chooseFile(path);
     model.addThis = model.addAll = model.skipAll = false;
-    const auto list = Model::listOf(model.read(path));
-    if (const int error = Model::readError(path)) {
+    int error = Model::readError(path);
+    if (error == 0 && !list)
+        error = 9;
+    if (error != 0) {
         soak.expectRunTimeError(error);
-    } else if (!list) {
-        soak.expectRunTimeError(9);
+        expectPageAfter(soak, currentPosition());
     } else {
-        model.changed = false;
-        std::vector<Entry> words = *list;
-        std::erase_if(words, [](const Entry &entry) { return entry.word.isEmpty(); });
-        std::make_shared<ImportRun>(soak, ImportRun::Kind::List, words)->expectRest();
+        expectListImport(soak, std::move(*list));
     }
     soak.main().choose("mnuImport");
 }
 
-struct DifFile
-{
-    QByteArray bytes;
-    std::vector<Entry> words; // as they come in
-    int error = 0;            // that reading it ends with
-    bool isRefused = false;   // before its first word
-};
-
-QByteArray quoted(const QString &text)
-{
-    return '"' + toWindows1252(text) + '"';
-}
-
-// `before`: the texts of the word that was imported last, which stay where a row has none.
-DifFile difFile(Soak &soak, Entry before)
-{
-    const int values = 1 + soak.roll(3);
-    QByteArrayList lines{"TABLE", "0,1",  "\"\"",   "VECTORS",
-                         "0,3",   "\"\"", "TUPLES", "0," + QByteArray::number(values),
-                         "\"\"",  "DATA", "0,0",    "\"\"",
-                         "-1,0"};
-    DifFile file;
-    for (int rows = soak.roll(12); rows > 0; --rows) {
-        before.word = fromWindows1252(toWindows1252(soak.word()));
-        lines << "BOT"
-              << "1,0" << quoted(before.word);
-        if (values > 1) {
-            const QString text = u"text %1"_s.arg(rows);
-            (values == 2 ? before.definition : before.sentence) = text;
-            lines << "1,0" << quoted(text);
-        }
-        file.words.push_back(before);
-    }
-    switch (soak.roll(6)) {
-    case 0: // cut off behind its last row
-        file.error = 9;
-        break;
-    case 1: // a value that is no text
-        lines << "BOT"
-              << "0,5"
-              << "V";
-        file.error = 5;
-        break;
-    case 2:
-        lines = {"TABLE", "0,1"};
-        file.error = 9;
-        file.isRefused = true;
-        break;
-    case 3:
-        lines[7] = "0,many";
-        file.error = 13;
-        file.isRefused = true;
-        break;
-    default:
-        lines << "EOD";
-        // In the first line of the data it is not looked for.
-        file.error = file.words.empty() ? 9 : 0;
-    }
-    file.bytes = lines.join("\r\n") + "\r\n";
-    return file;
-}
-
 void importDif(Soak &soak)
 {
-    const DifFile dif = difFile(soak, soak.model.imported);
+    const DifFile dif = someDifFile(soak, soak.model.imported);
     QFile file(soak.path(u"words.dif"_s));
     if (!file.open(QIODevice::WriteOnly) || file.write(dif.bytes) != dif.bytes.size())
         Controls::fail(u"cannot write "_s + file.fileName());
@@ -314,6 +310,7 @@ void importDif(Soak &soak)
     soak.answers().chooseFile(file.fileName());
     if (dif.isRefused) {
         soak.expectRunTimeError(dif.error);
+        expectPageAfter(soak, currentPosition());
     } else {
         const auto run = std::make_shared<ImportRun>(soak, ImportRun::Kind::Dif, dif.words);
         run->endWithError(dif.error);
@@ -328,6 +325,7 @@ void importNothing(Soak &soak)
         soak.answers().cancelFileDialog();
     } else {
         soak.answers().chooseFile(soak.inLists(u"old.txt"_s)); // no kind that can be imported
+        expectPageAfter(soak, currentPosition());
     }
     soak.main().choose("mnuImport");
 }

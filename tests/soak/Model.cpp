@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "soak/Model.h"
 
+#include "runtime/Integer.h"
 #include "runtime/Windows1252.h"
 
 #include <QFileInfo>
@@ -11,6 +12,8 @@ namespace {
 
 constexpr int PermissionDenied = 70;
 constexpr int PathNotFound = 76;
+constexpr int RowsOfPage = 23;
+const QString ListEnding = QStringLiteral(".lwx");
 
 // Reads the numbers and texts of a list file one after the other; beyond the end there are zeros.
 class Fields
@@ -54,6 +57,11 @@ QByteArray text(const QString &text)
 
 } // namespace
 
+bool Model::overflowsOnPage(int first) const
+{
+    return count() + 1 > Integer::Max || first + RowsOfPage > Integer::Max;
+}
+
 QString Model::captionOf(const QString &title)
 {
     return QStringLiteral("LexiBrook- The Tanglewit: ") +
@@ -65,18 +73,21 @@ void Model::add(const Entry &entry)
     entries.push_back(entry);
     m_behind.reset();
     m_searchPos = 0;
+    markAsUnsaved();
 }
 
 void Model::edit(int position, const Entry &entry)
 {
     entries.at(index(position)) = entry;
     m_searchPos = 0;
+    markAsUnsaved();
 }
 
 void Model::remove(int position)
 {
     m_behind = entries.back();
     entries.erase(entries.begin() + position - 1);
+    markAsUnsaved();
 }
 
 void Model::replaceBy(std::vector<Entry> newEntries)
@@ -84,6 +95,14 @@ void Model::replaceBy(std::vector<Entry> newEntries)
     entries = std::move(newEntries);
     m_behind.reset();
     m_searchPos = 0;
+    forgetCopy();
+}
+
+void Model::markAsSaved()
+{
+    changed = false;
+    canSave = false;
+    forgetCopy();
 }
 
 int Model::find(const QString &word, int start) const
@@ -127,6 +146,49 @@ void Model::write(const QString &path, const QByteArray &bytes)
 {
     QByteArray &content = disk[path];
     content = bytes + content.mid(bytes.size());
+    m_copyIsForeign = m_copyIsForeign || path == copy;
+}
+
+// Nothing is written of a list that an import or an export has marked as saved; a copy that is
+// there already follows each change.
+void Model::writeCopy(const QString &folder)
+{
+    copyIsDue = false;
+    if (!changed && copy.isEmpty())
+        return;
+    const QString title = fileTitle.isEmpty()              ? QStringLiteral("Untitled")
+                          : fileTitle.endsWith(ListEnding) ? fileTitle.chopped(ListEnding.size())
+                                                           : fileTitle;
+    QString path = copy;
+    if (copy.isEmpty() || m_copyIsForeign || title != m_copyTitle)
+        path = freePath(folder + QLatin1Char('/') + title + QStringLiteral(" (not saved)"));
+    disk[path] = listBytes(entries, count());
+    if (path != copy)
+        removeOwnCopy();
+    copy = path;
+    m_copyTitle = title;
+    m_copyIsForeign = false;
+}
+
+void Model::forgetCopy()
+{
+    removeOwnCopy();
+    copyIsDue = false;
+}
+
+void Model::removeOwnCopy()
+{
+    if (!m_copyIsForeign && copy != fileName)
+        disk.erase(copy);
+    copy.clear();
+}
+
+QString Model::freePath(const QString &start) const
+{
+    QString path = start + ListEnding;
+    for (int number = 2; disk.count(path) != 0; ++number)
+        path = start + QLatin1Char(' ') + QString::number(number) + ListEnding;
+    return path;
 }
 
 QByteArray Model::listBytes() const

@@ -45,15 +45,22 @@ public:
     // Every file of the lists' folder: full path and content.
     std::map<QString, QByteArray> disk;
 
+    // The copy of unsaved work among them; empty = there is none. It is due after a change.
+    QString copy;
+    bool copyIsDue = false;
+
     [[nodiscard]] static QString captionOf(const QString &title);
     void showTitle() { caption = captionOf(fileTitle); }
 
     [[nodiscard]] int count() const { return int(entries.size()); }
+    // Whether a page from there leads to a number beyond 16 bits.
+    [[nodiscard]] bool overflowsOnPage(int first) const;
     [[nodiscard]] const Entry &entry(int position) const { return entries.at(index(position)); }
     void add(const Entry &entry);
     void edit(int position, const Entry &entry);
     void remove(int position);
     void replaceBy(std::vector<Entry> newEntries);
+    void markAsSaved();
     // The first position from `start` on; 0 for none.
     [[nodiscard]] int find(const QString &word, int start) const;
     // As the editor's Search, which goes on behind the last hit and then wraps round.
@@ -64,6 +71,10 @@ public:
     [[nodiscard]] static int writeError(const QString &path);
     // Over the old content from its first byte, without truncating it.
     void write(const QString &path, const QByteArray &bytes);
+    // Into `folder`, when its time has come.
+    void writeCopy(const QString &folder);
+    // It is removed where it is still what was written.
+    void forgetCopy();
     // What is read from there; a missing file comes to be, empty.
     const QByteArray &read(const QString &path) { return disk[path]; }
 
@@ -79,6 +90,12 @@ public:
 private:
     [[nodiscard]] static std::size_t index(int position) { return std::size_t(position) - 1; }
 
+    void markAsUnsaved() { copyIsDue = true; }
+    void removeOwnCopy();
+    [[nodiscard]] QString freePath(const QString &start) const;
+
     std::optional<Entry> m_behind; // what a deletion left behind the last entry
     int m_searchPos = 0;
+    QString m_copyTitle;          // of the list when the copy got its name
+    bool m_copyIsForeign = false; // the person has written something else there
 };

@@ -9,13 +9,17 @@
 #include <QClipboard>
 #include <QDir>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr char CopyTimer[] = "tmrUnsavedCopy";
 
 std::vector<Action> allActions()
 {
@@ -36,6 +40,12 @@ QMessageBox::StandardButton answerOfEsc(const QMessageBox &box)
         return QMessageBox::Cancel;
     const bool isAboutSaving = box.text().contains(u" save"_s);
     return !isAboutSaving ? QMessageBox::No : QMessageBox::NoButton;
+}
+
+QString nameOf(const QWidget *window)
+{
+    return window ? QLatin1String(window->metaObject()->className()) + u' ' + window->objectName()
+                  : u"no window"_s;
 }
 
 bool isTypeable(const QString &text)
@@ -65,10 +75,13 @@ Soak::~Soak()
 
 void Soak::startAnew()
 {
-    if (m_main)
+    if (m_main) {
+        compareDisk(); // what it leaves behind
         allowFiles();
+    }
     m_main.reset();
     m_main = std::make_unique<MainWindow>(MainWindow::Start::Hidden);
+    m_main->control<QTimer>(CopyTimer).setInterval(std::chrono::hours(1));
     model = {};
     layOutFiles();
     m_main->show();
@@ -96,13 +109,29 @@ void Soak::step()
     note(QLatin1String(chosen->name));
     chosen->run(*this);
     waitFor(game() ? *game() : m_main->window());
+    if (chance(80))
+        letCopyBeWritten();
     compare();
+}
+
+// As when nothing else is to be done for a moment.
+void Soak::letCopyBeWritten()
+{
+    auto &timer = m_main->control<QTimer>(CopyTimer);
+    check(timer.isActive() == model.copyIsDue,
+          model.copyIsDue ? u"no copy is going to be written"_s : u"a copy is to be written"_s);
+    if (!timer.isActive())
+        return;
+    timer.stop();
+    QMetaObject::invokeMethod(&timer, "timeout", Qt::DirectConnection);
+    model.writeCopy(pathOf(Place::WordLists));
 }
 
 void Soak::waitFor(QWidget &window)
 {
     if (!QTest::qWaitForWindowActive(&window))
-        Controls::fail(window.objectName() + u" does not become active"_s);
+        Controls::fail(u"%1 does not become active, but %2"_s.arg(
+            window.objectName(), nameOf(QApplication::activeWindow())));
     QCoreApplication::processEvents();
 }
 
@@ -198,6 +227,13 @@ void Soak::expectRunTimeError(int number)
         if (!box.text().startsWith(start))
             Controls::fail(u"\"%1\" instead of %2"_s.arg(box.text(), start));
     });
+}
+
+void Soak::expectPage(int first)
+{
+    constexpr int overflow = 6;
+    if (model.overflowsOnPage(first))
+        expectRunTimeError(overflow);
 }
 
 bool Soak::isUsable(const QWidget &control)

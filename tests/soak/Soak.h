@@ -57,6 +57,8 @@ public:
     // A message box; it is answered in one of the ways that give this answer.
     void expectMsgBox(const QString &text, QMessageBox::StandardButton answer = QMessageBox::Ok);
     void expectRunTimeError(int number);
+    // A page of the grid that begins there; an error where the numbers give out.
+    void expectPage(int first);
     // Until the window is active again, as it is before a person can go on.
     static void waitFor(QWidget &window);
     // Whether the control is there to be used.
@@ -69,6 +71,8 @@ public:
     // A path in the lists' folder, and those of all files there that end so.
     [[nodiscard]] QString inLists(const QString &name) const;
     [[nodiscard]] QStringList files(const QString &ending) const;
+    // Puts a file there, as it comes from elsewhere.
+    void put(const QString &name, const QByteArray &bytes);
     // A path in the fresh home, outside that folder.
     [[nodiscard]] QString path(const QString &name) const { return m_main->path(name); }
 
@@ -76,6 +80,7 @@ public:
     void startAnew();
 
 private:
+    void letCopyBeWritten();
     void layOutFiles();
     void allowFiles();
     void compare();

@@ -37,12 +37,6 @@ QByteArray randomBytes(Soak &soak, int size)
 void Soak::layOutFiles()
 {
     QDir().mkpath(inLists(u"locked"_s));
-    const auto put = [this](const QString &name, const QByteArray &bytes) {
-        QFile file(inLists(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            Controls::fail(u"cannot write "_s + file.fileName());
-        model.disk[file.fileName()] = bytes;
-    };
     put(u"few.lwx"_s, listFile(*this, 1 + roll(5)));
     put(u"page.lwx"_s, listFile(*this, 20 + roll(5)));
     put(u"many.lwx"_s, listFile(*this, 40 + roll(100)));
@@ -58,6 +52,14 @@ void Soak::layOutFiles()
     QFile::setPermissions(inLists(u"readonly.lwx"_s), QFile::ReadOwner);
     QFile::setPermissions(inLists(u"secret.lwx"_s), QFile::WriteOwner);
     QFile::setPermissions(inLists(u"locked"_s), QFile::ReadOwner | QFile::ExeOwner);
+}
+
+void Soak::put(const QString &name, const QByteArray &bytes)
+{
+    QFile file(inLists(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        Controls::fail(u"cannot write "_s + file.fileName());
+    model.disk[file.fileName()] = bytes;
 }
 
 // So that they can be removed.

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The messages about words that a full list refuses in one import or export.
+#pragma once
+
+#include "core/cVocabList.h"
+#include "soak/Soak.h"
+
+class Refusals final
+{
+public:
+    // The first three are told one by one.
+    void expectOne(Soak &soak)
+    {
+        if (++m_words <= ToldOneByOne)
+            soak.expectMsgBox(cVocabList::maxWordsText());
+    }
+
+    void expectRest(Soak &soak) const
+    {
+        const int rest = m_words - ToldOneByOne;
+        if (rest > 0)
+            soak.expectMsgBox(rest == 1
+                                  ? QStringLiteral("1 more word has not been added.")
+                                  : QStringLiteral("%1 more words have not been added.").arg(rest));
+    }
+
+private:
+    static constexpr int ToldOneByOne = 3;
+
+    int m_words = 0;
+};
