@@ -2,14 +2,9 @@
 #include "core/cVocabList.h"
 
 #include "core/ListTools.h"
+#include "support/AllocatedBytes.h"
 
 #include <QTest>
-
-#include <malloc.h>
-#ifdef __SANITIZE_ADDRESS__
-// Of the compiler's run-time library; GCC comes without the header.
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-#endif
 
 using namespace Qt::StringLiterals;
 using Module1::gChanged;
@@ -24,16 +19,6 @@ qint64 bytesReadSoFar()
     if (!io.open(QIODevice::ReadOnly))
         qFatal("The test cannot tell how much was read");
     return io.readLine().mid(int(qstrlen("rchar: "))).trimmed().toLongLong();
-}
-
-std::size_t bytesInUse()
-{
-#ifdef __SANITIZE_ADDRESS__
-    return __sanitizer_get_current_allocated_bytes();
-#else
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
-#endif
 }
 
 // A list that was in use when the next file is opened: stale slot, a search under way.
@@ -241,14 +226,14 @@ private Q_SLOTS:
             return list.OpenFile() && !list.Exist(u"not there"_s, 1);
         };
         QVERIFY(open(empty));
-        const std::size_t before = bytesInUse();
+        const std::size_t before = allocatedBytes();
         QVERIFY(open(large));
-        QVERIFY(bytesInUse() > before + 3'000'000);
+        QVERIFY(allocatedBytes() > before + 3'000'000);
         if (clear)
             list.ClearList();
         else
             QVERIFY(open(empty));
-        QVERIFY(bytesInUse() < before + 50'000);
+        QVERIFY(allocatedBytes() < before + 50'000);
     }
 
     void textsRoundTrip()
