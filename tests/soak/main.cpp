@@ -5,6 +5,7 @@
 // are told.
 #include "runtime/ChildProcess.h"
 #include "soak/Soak.h"
+#include "support/AllocatedBytes.h"
 #include "support/FormTest.h"
 
 #include <QElapsedTimer>
@@ -36,8 +37,9 @@ qint64 residentKilobytes()
 
 void tellMemory(const Soak &soak, qint64 seconds)
 {
-    std::printf("%4lld s %7d steps %8lld KB resident\n", static_cast<long long>(seconds),
-                soak.steps(), static_cast<long long>(residentKilobytes()));
+    std::printf("%4lld s %7d steps %8lld KB resident %7zu KB allocated\n",
+                static_cast<long long>(seconds), soak.steps(),
+                static_cast<long long>(residentKilobytes()), allocatedBytes() / 1024);
     std::fflush(stdout);
 }
 
