@@ -82,6 +82,7 @@ void pasteByMenu(Soak & /*soak*/, QWidget &box)
         if (item->text().startsWith(u"&Paste"_s) && item->isEnabled())
             item->trigger();
     menu->close();
+    box.activateWindow(); // as a window manager does, which this display may lack
 }
 
 // Of what is selected somewhere, on displays that have that.
