@@ -209,6 +209,7 @@ QString Soak::text()
 void Soak::expectMsgBox(const QString &text, QMessageBox::StandardButton answer)
 {
     const int way = roll(3);
+    note(u"then \""_s + text + u'"');
     answers().useMsgBox(text, [answer, way](QMessageBox &box) {
         const auto esc = answerOfEsc(box);
         if (way == 1 && (esc == answer || esc == QMessageBox::NoButton))
@@ -223,6 +224,7 @@ void Soak::expectMsgBox(const QString &text, QMessageBox::StandardButton answer)
 void Soak::expectRunTimeError(int number)
 {
     const QString start = u"Run-time error '%1':"_s.arg(number);
+    note(u"then "_s + start);
     answers().expectAnyMsgBox(QMessageBox::Ok, [start](QMessageBox &box) {
         if (!box.text().startsWith(start))
             Controls::fail(u"\"%1\" instead of %2"_s.arg(box.text(), start));
