@@ -2,6 +2,7 @@
 // File > New, Open, Save, Save As, Create Text File, Exit, with the questions before them.
 #include "soak/Soak.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -70,13 +71,14 @@ std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const
     return {};
 }
 
-// The list's own file is offered, and none for an untitled list. Where its folder is missing, the
+// The list's own name is offered, and none for an untitled list. Where its folder is missing, the
 // name says so.
 void compareOffered(QFileDialog &dialog, const QString &path)
 {
+    const QFileInfo own(path);
     const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
-    const bool isOwn =
-        offered.isEmpty() ? path.isEmpty() : dialog.directory().absoluteFilePath(offered) == path;
+    const bool isOwn = own.dir().exists() ? offered == own.fileName()
+                                          : QFileInfo(offered).fileName() == own.fileName();
     if (!isOwn)
         Controls::fail(u"the name \"%1\" is offered"_s.arg(offered));
 }

@@ -129,10 +129,10 @@ void Soak::letCopyBeWritten()
 
 void Soak::waitFor(QWidget &window)
 {
+    QCoreApplication::processEvents(); // a menu that has closed may leave no window active
     if (!QTest::qWaitForWindowActive(&window))
         Controls::fail(u"%1 does not become active, but %2"_s.arg(
             window.objectName(), nameOf(QApplication::activeWindow())));
-    QCoreApplication::processEvents();
 }
 
 void Soak::note(const QString &what)
