@@ -3,10 +3,13 @@
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
+#include "runtime/FileError.h"
+#include "runtime/SystemFile.h"
 #include "runtime/TestFiles.h"
 
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +35,18 @@ template <class Action> int errorNumberWithoutPrivileges(Action &&action)
 {
     return inChildProcess(
         [&] { return dropPrivileges() ? int(errorNumberOf(action)) : NoPrivilegesToDrop; });
+}
+
+// The sanitizer looks at the first object of each type with virtual functions through a pipe, for
+// which there must still be handles.
+void showErrorsToSanitizer()
+{
+    static_cast<void>(SystemFile::existing("/missing", O_RDONLY));
+    try {
+        throwFileError(ENOENT, u"/missing"_s);
+    } catch (const RunTimeError &error) {
+        static_cast<void>(error.number());
+    }
 }
 
 } // namespace
@@ -166,6 +181,7 @@ private Q_SLOTS:
         const TestFolder folder;
         const QString path = folder.write(u"list.lwx"_s, "0123456789"_ba);
         QCOMPARE(errorNumberInChildProcess([&] {
+                     showErrorsToSanitizer();
                      allowHandles(1);
                      BinaryFile::overwrite(path, "abc");
                  }),
