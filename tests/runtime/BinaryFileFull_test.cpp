@@ -122,6 +122,7 @@ private Q_SLOTS:
         const QByteArray before = randomBytes(100, 1);
         const QString path = folder.write(Name, before);
         const int error = inChildProcess([&] {
+            showErrorsToSanitizer();
             if (!takeNothing())
                 return 254;
             return int(errorNumberOf([&] { BinaryFile::overwrite(path, randomBytes(100, 2)); }));

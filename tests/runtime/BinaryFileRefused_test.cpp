@@ -3,13 +3,10 @@
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
-#include "runtime/FileError.h"
-#include "runtime/SystemFile.h"
 #include "runtime/TestFiles.h"
 
 #include <QTest>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -35,18 +32,6 @@ template <class Action> int errorNumberWithoutPrivileges(Action &&action)
 {
     return inChildProcess(
         [&] { return dropPrivileges() ? int(errorNumberOf(action)) : NoPrivilegesToDrop; });
-}
-
-// The sanitizer looks at the first object of each type with virtual functions through a pipe, for
-// which there must still be handles.
-void showErrorsToSanitizer()
-{
-    static_cast<void>(SystemFile::existing("/missing", O_RDONLY));
-    try {
-        throwFileError(ENOENT, u"/missing"_s);
-    } catch (const RunTimeError &error) {
-        static_cast<void>(error.number());
-    }
 }
 
 } // namespace

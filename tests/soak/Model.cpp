@@ -95,6 +95,8 @@ void Model::replaceBy(std::vector<Entry> newEntries)
     entries = std::move(newEntries);
     m_behind.reset();
     m_searchPos = 0;
+    if (!changed)
+        copy.clear(); // nobody was asked about what it holds: it stays on the disk
     forgetCopy();
 }
 
