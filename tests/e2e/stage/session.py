@@ -50,6 +50,11 @@ NewClient = ctypes.CFUNCTYPE(
     number, pointer, pointer, ctypes.POINTER(ctypes.c_ulong), ctypes.POINTER(CallbackTable), pointer)
 
 
+# The libraries keep those that the first manager gave them for as long as the process runs.
+allowed = HostAllowed(lambda _: 1)
+failed = Failed(lambda _: None)
+
+
 class SessionManager:
     """For one client. Its home folder must be settled before."""
 
@@ -66,20 +71,18 @@ class SessionManager:
             for name, kind in Callbacks.items()
         }
         self._new_client_callback = NewClient(self._new_client)
-        self._allowed = HostAllowed(lambda _: 1)
-        self._failed = Failed(lambda _: None)
 
     def __enter__(self):
-        ice.IceSetIOErrorHandler(self._failed)
+        ice.IceSetIOErrorHandler(failed)
         error = ctypes.create_string_buffer(256)
-        assert sm.SmsInitialize(b"tests", b"1", self._new_client_callback, None, self._allowed,
+        assert sm.SmsInitialize(b"tests", b"1", self._new_client_callback, None, allowed,
                                 len(error), error), error.value
         self._count = number()
         self._listeners = ctypes.POINTER(pointer)()
         assert ice.IceListenForConnections(ctypes.byref(self._count), ctypes.byref(self._listeners),
                                            len(error), error), error.value
         for listener in self._listeners[:self._count.value]:
-            ice.IceSetHostBasedAuthProc(pointer(listener), self._allowed)
+            ice.IceSetHostBasedAuthProc(pointer(listener), allowed)
         os.environ["SESSION_MANAGER"] = ice.IceComposeNetworkIdList(
             self._count, self._listeners).decode()
         self._thread = threading.Thread(target=self._serve)
