@@ -90,7 +90,7 @@ void checkRecords(const Records &records, QByteArrayView bytes, bool isWhole)
 // A start of the file that is said to be enough gives the same records.
 void checkStart(QByteArrayView start, const std::optional<Records> &records)
 {
-    if (!ListFile::holdsRecords(start, MaxCount))
+    if (!ListFile::RecordsEnd(MaxCount).isIn(start))
         return;
     const std::optional<Records> early = recordsIn(start);
     require(early.has_value() == records.has_value());
@@ -110,7 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
         require(records->size() == std::size_t(count));
         checkRecords(*records, bytes, isWhole);
         if (size >= 2)
-            require(ListFile::holdsRecords(bytes, MaxCount) == isWhole);
+            require(ListFile::RecordsEnd(MaxCount).isIn(bytes) == isWhole);
     }
     if (size > 0)
         checkStart(bytes.first(qsizetype(size * data[size - 1] / 256)), records);

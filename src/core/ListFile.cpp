@@ -54,15 +54,23 @@ QByteArray ListFile::encode(Integer count, std::span<const VocabRecord> records,
     return bytes;
 }
 
-bool ListFile::holdsRecords(QByteArrayView start, Integer maxCount)
+bool ListFile::RecordsEnd::isIn(QByteArrayView start)
 {
-    ByteReader reader(start);
-    const Integer count = reader.number<qint16>();
-    if (!isCount(count, maxCount))
-        return true;
-    for (int text = 0; text < 3 * count.toInt() && !reader.ranOut(); ++text)
+    ByteReader reader(start.sliced(m_position));
+    if (m_position == 0) {
+        const Integer count = reader.number<qint16>();
+        if (reader.ranOut())
+            return false;
+        m_position = sizeof(qint16);
+        m_textsLeft = isCount(count, m_maxCount) ? 3 * count.toInt() : 0;
+    }
+    for (; m_textsLeft > 0; --m_textsLeft) {
         static_cast<void>(reader.textBytes());
-    return !reader.ranOut();
+        if (reader.ranOut())
+            return false;
+        m_position = start.size() - reader.left();
+    }
+    return true;
 }
 
 ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)

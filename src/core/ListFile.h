@@ -42,8 +42,21 @@ struct Content
     bool isWhole = true;
 };
 
-// Whether the start of a file holds all that counts: the N records, or an N that decode refuses.
-[[nodiscard]] bool holdsRecords(QByteArrayView start, Integer maxCount);
+// Looks for the end of the records in a file that is read piece by piece.
+class RecordsEnd
+{
+public:
+    explicit RecordsEnd(Integer maxCount) : m_maxCount(maxCount) {}
+
+    // Whether the start of the file holds the N records, or an N that decode refuses. Each start
+    // has to begin with the one given before: the search goes on where that ended.
+    [[nodiscard]] bool isIn(QByteArrayView start);
+
+private:
+    Integer m_maxCount;
+    qsizetype m_position = 0; // of the first text that has not been seen whole; 0 before N is known
+    int m_textsLeft = 0;
+};
 
 // The N records. A field beyond the end is zero or empty; a text cut off keeps the bytes that are
 // there. Throws RunTimeError SubscriptOutOfRange where N is negative or above `maxCount`.

@@ -113,11 +113,10 @@ void cVocabList::tell(Change change) const
 bool cVocabList::OpenFile()
 {
     if (!Module1::gFileName.isEmpty()) {
-        const auto holdsRecords = [](QByteArrayView start) {
-            return ListFile::holdsRecords(start, Integer::Max);
-        };
+        ListFile::RecordsEnd end(Integer::Max);
+        const auto isEnough = [&end](QByteArrayView start) { return end.isIn(start); };
         ListFile::Content content =
-            ListFile::decode(BinaryFile::read(Module1::gFileName, holdsRecords), Integer::Max);
+            ListFile::decode(BinaryFile::read(Module1::gFileName, isEnough), Integer::Max);
         m_index.clear();
         m_count = content.records.size();
         m_slots = std::move(content.records);

@@ -14,7 +14,9 @@
 namespace {
 
 constexpr qsizetype FirstRead = 1 << 16;
-constexpr int Growth = 4; // each attempt looks at all that was read
+constexpr int Growth = 4;
+// One block of memory for most files; what is not read into stays unused.
+constexpr qsizetype LargestReserve = 1 << 23;
 constexpr qsizetype ChunkSize = 1 << 20;
 
 // The file that a chain of symbolic links ends at, existing or not.
@@ -48,15 +50,17 @@ template <class Action> auto withFileErrors(const QString &path, Action action)
 
 QByteArray readStart(SystemFile &file, const BinaryFile::IsEnough &isEnough)
 {
+    // A byte more than the size tells the end. Some files of the system say that they are empty.
+    const qint64 toTheEnd = file.status().st_size + 1;
     QByteArray start;
-    // One byte more tells the end.
-    qsizetype wanted = std::min<qsizetype>(FirstRead, file.status().st_size + 1);
-    for (;; wanted *= Growth) {
+    start.reserve(std::min<qint64>(LargestReserve, toTheEnd));
+    for (qint64 wanted = std::min<qint64>(FirstRead, toTheEnd);;) {
         const qsizetype size = start.size();
         start.resize(wanted);
         start.truncate(size + file.read(start.data() + size, wanted - size));
         if (start.size() < wanted || (isEnough && isEnough(start)))
             return start;
+        wanted = wanted < toTheEnd ? std::min(Growth * wanted, toTheEnd) : Growth * wanted;
     }
 }
 

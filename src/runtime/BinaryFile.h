@@ -17,7 +17,8 @@ namespace BinaryFile {
 
 enum class Missing { IsCreated, IsAnError };
 
-// Tells from the start of a file whether that is all that is wanted of it.
+// Tells from the start of a file whether that is all that is wanted of it. Called with a longer
+// start each time.
 using IsEnough = std::function<bool(QByteArrayView start)>;
 
 // The start of the file, as far as isEnough wants it, at most four times as much or 64 KiB; by

@@ -159,9 +159,20 @@ private Q_SLOTS:
         const qsizetype end = whole.size() - fileRecord("behind", "the", "count").size();
         for (qsizetype size = 0; size <= whole.size(); ++size) {
             const QByteArray start = whole.first(size);
-            QCOMPARE(ListFile::holdsRecords(start, MaxCount), size >= end);
+            QCOMPARE(ListFile::RecordsEnd(MaxCount).isIn(start), size >= end);
             // No bytes at all are a list without entries.
             QCOMPARE(ListFile::decode(start, MaxCount).isWhole, size >= end || size == 0);
+        }
+    }
+
+    void theEndOfTheRecordsIsFoundPieceByPiece()
+    {
+        const QByteArray whole = severalEntries();
+        const qsizetype end = whole.size() - fileRecord("behind", "the", "count").size();
+        for (qsizetype step = 1; step <= whole.size(); ++step) {
+            ListFile::RecordsEnd records(MaxCount);
+            for (qsizetype size = 0; size <= whole.size(); size += step)
+                QCOMPARE(records.isIn(whole.first(size)), size >= end);
         }
     }
 
@@ -195,7 +206,7 @@ private Q_SLOTS:
         QFETCH(bool, accepted);
         const QByteArray bytes = fileCount(count);
         // A count that is refused is enough to know.
-        QCOMPARE(ListFile::holdsRecords(bytes, maximum), !accepted || count == 0);
+        QCOMPARE(ListFile::RecordsEnd(maximum).isIn(bytes), !accepted || count == 0);
         std::size_t records = 0;
         const auto decode = [&] {
             return records = ListFile::decode(bytes, maximum).records.size();

@@ -30,6 +30,15 @@ private Q_SLOTS:
         QCOMPARE(folder.bytes(u"list.lwx"_s), content);
     }
 
+    // Room to spare in a block of this size makes the system give new memory at each reading.
+    void readingTakesNoMoreMemoryThanTheFile()
+    {
+        const TestFolder folder;
+        const QByteArray content = randomBytes(5'000'000, 1);
+        const QByteArray read = BinaryFile::read(folder.write(u"list.lwx"_s, content));
+        QVERIFY(read.capacity() <= content.size() + 100);
+    }
+
     void readingEndsWhereItIsEnough_data()
     {
         QTest::addColumn<int>("wanted");
