@@ -11,7 +11,7 @@
 
 namespace {
 
-// A text of the storage may be a view that dies with the list's content.
+// A text of the storage may be a view of m_fileCharacters, which a change of the list frees.
 QString copyOf(const QString &text)
 {
     return QStringView(text).toString();

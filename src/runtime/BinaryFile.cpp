@@ -64,7 +64,8 @@ QByteArray readStart(SystemFile &file, const BinaryFile::IsEnough &isEnough)
     }
 }
 
-// What was never written to stays so: it takes neither time nor room.
+// Parts of the old file that were never written are skipped: copying them takes neither time nor
+// room on the disk.
 void copyRest(SystemFile &from, SystemFile &to, qint64 position)
 {
     const qint64 size = from.status().st_size;
@@ -93,7 +94,7 @@ void writeSecondFile(const QString &place, QByteArrayView content)
     newFile.takePlace();
 }
 
-// What was written over, up to the position. False where the disk refuses that as well.
+// Writes the old start and the old size back. False if this fails, too.
 bool putBack(SystemFile &file, qint64 size, const QByteArray &start)
 {
     try {

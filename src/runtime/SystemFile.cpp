@@ -87,7 +87,7 @@ void SystemFile::write(QByteArrayView bytes) const
     while (!bytes.isEmpty()) {
         const auto written =
             orThrow([&] { return ::write(m_descriptor, bytes.data(), std::size_t(bytes.size())); });
-        if (written == 0) // the next attempt would take nothing either
+        if (written == 0) // trying again would not help
             throw std::system_error(EIO, std::system_category());
         bytes = bytes.sliced(written);
     }

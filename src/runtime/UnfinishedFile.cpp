@@ -91,7 +91,7 @@ void UnfinishedFile::takePlace()
     flushFolder(m_folder);
 }
 
-// At no moment may more people read it than the old file.
+// The new file must never be readable for more people than the old one.
 mode_t UnfinishedFile::modeOfNewFile() const
 {
     return m_old ? m_old->st_mode & 0777 : 0666;
@@ -112,7 +112,7 @@ bool UnfinishedFile::makeUnnamed()
     return false;
 }
 
-// Short, so that there is room for it beside any other name.
+// The name is short, so that it fits wherever another name fits.
 template <class Make> void UnfinishedFile::makeNamed(Make make)
 {
     for (int attempts = 1;; ++attempts) {
@@ -141,7 +141,7 @@ void UnfinishedFile::link()
     });
 }
 
-// Whoever may not give a file away may still give it to a group of theirs.
+// A user who may not change the owner may still set a group that he belongs to.
 void UnfinishedFile::takeOwner()
 {
     if (!m_old)
@@ -155,7 +155,8 @@ void UnfinishedFile::takeOwner()
         static_cast<void>(give(static_cast<uid_t>(-1)));
 }
 
-// Last, since a new owner and each write take set-id bits away. Those mean the old owner.
+// After all else, because a new owner and each write clear the set-id bits. These are kept only for
+// the old owner.
 void UnfinishedFile::takePermissions()
 {
     if (!m_old)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A second file in the folder of another one, whose place it takes in one step once it is complete.
-// Where it does not come that far, nothing of it stays.
+// If it is never completed, it is removed.
 //
 // Throws std::system_error, and NoSecondFile where the folder admits no second file or refuses the
 // swap.
@@ -27,7 +27,7 @@ public:
     ~UnfinishedFile();
     Q_DISABLE_COPY_MOVE(UnfinishedFile)
 
-    // Until it takes the other one's place.
+    // Only before takePlace.
     [[nodiscard]] SystemFile &file() { return *m_file; }
     // It is on the disk when this returns.
     void takePlace();

@@ -139,7 +139,7 @@ void dlgWordExist::cmdDelete_Click()
     m_ui->txtCurWord->clear();
     m_ui->txtCurDef->setText({});
     m_ui->txtCurSen->setText({});
-    // The current entry is another one now, which nobody has seen here.
+    // The current entry is now another one, which is not shown here.
     enableEditing(false);
 }
 
