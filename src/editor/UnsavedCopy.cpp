@@ -47,14 +47,6 @@ QString freePath(const QString &folder, const QString &title)
     return path;
 }
 
-// In one step: what was there before is whole until the new file is.
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    BinaryFile::Replacement file(path);
-    file.write(bytes);
-    file.takePlace();
-}
-
 } // namespace
 
 UnsavedCopy::UnsavedCopy(QObject *window) : m_timer(window)
@@ -118,7 +110,7 @@ void UnsavedCopy::write()
         QDir().mkpath(folder);
         path = freePath(folder, title);
     }
-    writeFile(path, bytes);
+    BinaryFile::replace(path, bytes);
     if (path != m_path)
         remove();
     m_path = path;

@@ -1,38 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One document on its way out. It arrives as a whole: nothing of it is in the queue or in its
-// place on the disk before finish, and nothing ever where that fails or is not called.
+// A document of printed sheets, made as a PDF file in memory.
 #pragma once
 
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPainter>
-
-#include <memory>
-
-class QPagedPaintDevice;
-class QPrinter;
-
-class PrintDocument
-{
-public:
-    virtual ~PrintDocument() = default;
-    Q_DISABLE_COPY_MOVE(PrintDocument)
-
-    // Begins the first or the next sheet and returns its painter: a unit is a dot, the origin the
-    // corner of the printable area. Null where the printer fails.
-    [[nodiscard]] QPainter *nextSheet();
-    [[nodiscard]] bool hasSheets() const { return m_painter.isActive(); }
-    // Throws RunTimeError: PrinterFault, or a file's error.
-    virtual void finish() = 0;
-
-protected:
-    PrintDocument() = default;
-    [[nodiscard]] virtual QPagedPaintDevice &device() = 0;
-    // False where what was drawn cannot be completed.
-    [[nodiscard]] bool endPainting() { return m_painter.end(); }
-
-private:
-    QPainter m_painter;
-};
+#include <QPdfWriter>
 
 struct PrintedPaper
 {
@@ -45,9 +18,27 @@ struct PrintedPaper
 [[nodiscard]] QSizeF sheetSize(const QPageLayout &layout);
 [[nodiscard]] QRectF printableArea(const QPageLayout &layout);
 
-// A PDF file in place of whatever has that name. Throws a file's RunTimeError.
-[[nodiscard]] std::unique_ptr<PrintDocument> pdfDocument(const QString &path,
-                                                         const PrintedPaper &paper);
-// A job for the printer, which is set up with paper and copies and outlives the document.
-[[nodiscard]] std::unique_ptr<PrintDocument> printerDocument(QPrinter &printer,
-                                                             const PrintedPaper &paper);
+class PrintDocument
+{
+public:
+    // Far more than a printer takes, far less than the machine has.
+    static constexpr qsizetype MostBytes = qsizetype(1) << 30;
+
+    explicit PrintDocument(const PrintedPaper &paper, qsizetype mostBytes = MostBytes);
+
+    // Begins the first or the next sheet. Throws RunTimeError OutOfMemory where the document is
+    // larger than `mostBytes`.
+    void nextSheet();
+    [[nodiscard]] bool hasSheets() const { return m_painter.isActive(); }
+    // Of the sheet: a unit is a dot, the origin the corner of the printable area.
+    [[nodiscard]] QPainter &painter() { return m_painter; }
+    // Ends the document and returns the PDF file.
+    [[nodiscard]] QByteArray finish();
+
+private:
+    qsizetype m_mostBytes;
+    // Each of them writes to the one before, also when it is destroyed.
+    QBuffer m_file;
+    QPdfWriter m_writer{&m_file};
+    QPainter m_painter;
+};

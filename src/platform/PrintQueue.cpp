@@ -1,44 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/PrintQueue.h"
 
-#include <QFile>
 #include <QLibrary>
+#include <QPrinter>
+#include <QTemporaryFile>
 
 #include <array>
+#include <cups/cups.h>
 
 namespace {
 
-struct Option
+// Loaded at the first print job. A program linked with it starts several milliseconds later, since
+// the library brings encryption and network services with it.
+decltype(&cupsPrintFile) printFile()
 {
-    const char *name;
-    const char *value;
-};
-
-using PrintFile = int (*)(const char *queue, const char *file, const char *title, int optionCount,
-                          const Option *options);
-
-// Looked up at the first print job: the library costs time that no start should pay.
-PrintFile printFile()
-{
-    static const auto function =
-        reinterpret_cast<PrintFile>(QLibrary::resolve(QStringLiteral("cups"), 2, "cupsPrintFile"));
+    static const auto function = reinterpret_cast<decltype(&cupsPrintFile)>(
+        QLibrary::resolve(QStringLiteral("cups"), 2, "cupsPrintFile"));
     return function;
+}
+
+QByteArray sides(const QPrinter &printer)
+{
+    if (printer.duplex() == QPrinter::DuplexNone)
+        return CUPS_SIDES_ONE_SIDED;
+    const bool landscape = printer.pageLayout().orientation() == QPageLayout::Landscape;
+    const bool shortEdge = printer.duplex() == QPrinter::DuplexShortSide ||
+                           (printer.duplex() == QPrinter::DuplexAuto && landscape);
+    return shortEdge ? CUPS_SIDES_TWO_SIDED_LANDSCAPE : CUPS_SIDES_TWO_SIDED_PORTRAIT;
 }
 
 } // namespace
 
-bool PrintQueue::takesFiles()
+bool PrintQueue::submit(const QPrinter &printer, const QByteArray &pdf)
 {
-    return printFile() != nullptr;
-}
-
-bool PrintQueue::submit(const Job &job)
-{
-    const QByteArray copies = QByteArray::number(job.copies);
-    const std::array options{Option{"copies", copies.constData()},
-                             Option{"media", job.paper.constData()},
-                             Option{"sides", job.sides.constData()}};
-    return printFile()(job.queue.toUtf8().constData(), QFile::encodeName(job.file).constData(),
-                       job.title.toUtf8().constData(), static_cast<int>(options.size()),
+    QTemporaryFile file;
+    if (!file.open() || file.write(pdf) != pdf.size() || !file.flush())
+        return false;
+    QByteArray names[] = {CUPS_COPIES, CUPS_MEDIA, CUPS_SIDES};
+    QByteArray values[] = {QByteArray::number(printer.copyCount()),
+                           printer.pageLayout().pageSize().key().toUtf8(), sides(printer)};
+    std::array<cups_option_t, 3> options{};
+    for (std::size_t i = 0; i < options.size(); ++i)
+        options[i] = {names[i].data(), values[i].data()};
+    return printFile() != nullptr &&
+           printFile()(printer.printerName().toUtf8(), QFile::encodeName(file.fileName()),
+                       printer.docName().toUtf8(), static_cast<int>(options.size()),
                        options.data()) != 0;
 }

@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The system's print queues, where they are those of CUPS.
+// The queues of CUPS, the system's print server.
+//
+// A PDF file is handed over, and nothing drawn on QPrinter, because Qt's engine for CUPS also
+// prints a document that was given up or not written to its end, and reports no error.
 #pragma once
 
-#include <QString>
+#include <QByteArray>
+
+class QPrinter;
 
 namespace PrintQueue {
 
-struct Job
-{
-    QString queue;
-    QString title;
-    QString file;     // a PDF document
-    QByteArray paper; // the queue's name for the size of the paper
-    QByteArray sides; // its word for printing on one side of it or on both
-    int copies = 1;
-};
-
-// Whether documents go into the queues as files. Elsewhere the toolkit draws on the printer.
-[[nodiscard]] bool takesFiles();
-
-// Hands the document over as a whole. False where the queue does not take it.
-[[nodiscard]] bool submit(const Job &job);
+// Hands a PDF file over to the queue of the printer, with its document name, paper, sides and
+// copies. False where the queue does not take it.
+[[nodiscard]] bool submit(const QPrinter &printer, const QByteArray &pdf);
 
 } // namespace PrintQueue

@@ -4,6 +4,8 @@
 #include "platform/Paths.h"
 #include "platform/PrintDocument.h"
 #include "platform/PrintMetrics.h"
+#include "platform/PrintQueue.h"
+#include "runtime/BinaryFile.h"
 #include "runtime/RunTimeError.h"
 
 #include <QDialogButtonBox>
@@ -134,31 +136,37 @@ bool SystemPrinter::showPageSetup(QWidget *parent)
 
 bool SystemPrinter::StartDoc(QWidget *parent, const QString &title)
 {
-    const auto paper = [this, &title] {
-        return PrintedPaper{m_device->pageLayout(), m_device->resolution(), title};
-    };
-    if (!printsToFile()) {
-        const QPrinterInfo printer = QPrinterInfo::printerInfo(m_deviceName);
-        if (printer.isNull() || printer.state() == QPrinter::Error)
-            throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
-        // The device kept its former printer if this one was gone when it was selected.
-        if (m_device->printerName() != m_deviceName)
-            select(m_deviceName);
-        if (m_device->printerName() != m_deviceName)
-            throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
-        m_device->setCopyCount(Copies.toInt());
-        m_document = printerDocument(*m_device, paper());
-        return true;
-    }
+    if (!printsToFile())
+        checkQueue();
+    else if (!askForFile(parent, title))
+        return false;
+    m_device->setCopyCount(Copies.toInt());
+    m_device->setDocName(title);
+    m_document = std::make_unique<PrintDocument>(
+        PrintedPaper{m_device->pageLayout(), m_device->resolution(), title});
+    return true;
+}
+
+void SystemPrinter::checkQueue()
+{
+    const QPrinterInfo printer = QPrinterInfo::printerInfo(m_deviceName);
+    if (printer.isNull() || printer.state() == QPrinter::Error)
+        throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
+    // The device kept its former printer if this one was gone when it was selected.
+    if (m_device->printerName() != m_deviceName)
+        select(m_deviceName);
+    if (m_device->printerName() != m_deviceName)
+        throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
+}
+
+bool SystemPrinter::askForFile(QWidget *parent, const QString &title)
+{
     m_fileDialog.DialogTitle = printToPdf();
     m_fileDialog.Filter = QStringLiteral("PDF (*.pdf)|*.pdf|All files (*.*)|*.*");
     m_fileDialog.DefaultExt = QStringLiteral("pdf");
     m_fileDialog.OverwritePrompt = true;
     m_fileDialog.FileName = QFileInfo(title).completeBaseName() + QStringLiteral(".pdf");
-    if (!m_fileDialog.ShowSave(parent))
-        return false;
-    m_document = pdfDocument(m_fileDialog.FileName, paper());
-    return true;
+    return m_fileDialog.ShowSave(parent);
 }
 
 double SystemPrinter::widthOf(QStringView text, const PrintStyle &style) const
@@ -173,26 +181,27 @@ double SystemPrinter::lineHeight(const PrintStyle &style) const
 
 void SystemPrinter::beginSheet()
 {
-    m_sheet = m_document ? m_document->nextSheet() : nullptr;
-    if (!m_sheet)
-        throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
+    m_document->nextSheet();
 }
 
 void SystemPrinter::drawText(QPointF topLeft, const QString &text, const PrintStyle &style)
 {
-    m_metrics->draw(*m_sheet, topLeft, text, style);
+    m_metrics->draw(m_document->painter(), topLeft, text, style);
 }
 
 void SystemPrinter::endDocument()
 {
     const std::unique_ptr<PrintDocument> document = std::exchange(m_document, nullptr);
-    m_sheet = nullptr;
-    if (document && document->hasSheets())
-        document->finish();
+    if (!document || !document->hasSheets())
+        return;
+    const QByteArray pdf = document->finish();
+    if (printsToFile())
+        BinaryFile::replace(m_fileDialog.FileName, pdf);
+    else if (!PrintQueue::submit(*m_device, pdf))
+        throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
 }
 
 void SystemPrinter::dropDocument()
 {
     m_document.reset();
-    m_sheet = nullptr;
 }

@@ -12,7 +12,6 @@
 
 class PrintDocument;
 class PrintMetrics;
-class QPainter;
 class QPrinter;
 class QWidget;
 
@@ -63,11 +62,12 @@ protected:
 private:
     [[nodiscard]] bool printsToFile() const { return m_deviceName == printToPdf(); }
     void measure();
+    void checkQueue();
+    [[nodiscard]] bool askForFile(QWidget *parent, const QString &title);
 
     std::unique_ptr<QPrinter> m_device;
     QString m_deviceName;
     std::shared_ptr<const PrintMetrics> m_metrics;
     CommonDialog m_fileDialog;
     std::unique_ptr<PrintDocument> m_document;
-    QPainter *m_sheet = nullptr; // of the document
 };

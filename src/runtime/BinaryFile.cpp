@@ -83,12 +83,15 @@ void copyRest(SystemFile &from, SystemFile &to, qint64 position)
     to.truncate(size);
 }
 
-void writeSecondFile(const QString &place, QByteArrayView content)
+// What the old file holds beyond the length of the new content.
+enum class OldTail { Stays, Goes };
+
+void writeSecondFile(const QString &place, QByteArrayView content, OldTail tail)
 {
     auto oldFile = SystemFile::existing(QFile::encodeName(place), O_RDWR);
     UnfinishedFile newFile(place, oldFile ? &*oldFile : nullptr);
     newFile.file().write(content);
-    if (oldFile)
+    if (oldFile && tail == OldTail::Stays)
         copyRest(*oldFile, newFile.file(), content.size());
     oldFile.reset();
     newFile.takePlace();
@@ -162,30 +165,15 @@ void BinaryFile::overwrite(const QString &path, QByteArrayView content)
     const QString place = placeOf(path);
     withFileErrors(path, [&] {
         try {
-            writeSecondFile(place, content);
+            writeSecondFile(place, content, OldTail::Stays);
         } catch (const NoSecondFile &) {
             writeInPlace(path, place, content);
         }
     });
 }
 
-BinaryFile::Replacement::Replacement(const QString &path) : m_path(path)
+void BinaryFile::replace(const QString &path, QByteArrayView content)
 {
     const QString place = placeOf(path);
-    withFileErrors(path, [&] {
-        const auto oldFile = SystemFile::existing(QFile::encodeName(place), O_RDWR);
-        m_file = std::make_unique<UnfinishedFile>(place, oldFile ? &*oldFile : nullptr);
-    });
-}
-
-BinaryFile::Replacement::~Replacement() = default;
-
-void BinaryFile::Replacement::write(QByteArrayView bytes)
-{
-    withFileErrors(m_path, [&] { m_file->file().write(bytes); });
-}
-
-void BinaryFile::Replacement::takePlace()
-{
-    withFileErrors(m_path, [this] { m_file->takePlace(); });
+    withFileErrors(path, [&] { writeSecondFile(place, content, OldTail::Goes); });
 }

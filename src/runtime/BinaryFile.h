@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files opened for binary access: read from the start, written over from their first byte.
+// Files opened for binary access: read from the start, written over from their first byte,
+// or replaced.
 //
-// Both throw RunTimeError with the path and the system's reason, under the number that fits that
+// All throw RunTimeError with the path and the system's reason, under the number that fits that
 // (fileError); a folder or a device in the file's place is Path/File access error.
 #pragma once
 
@@ -9,9 +10,6 @@
 #include <QString>
 
 #include <functional>
-#include <memory>
-
-class UnfinishedFile;
 
 namespace BinaryFile {
 
@@ -32,23 +30,8 @@ using IsEnough = std::function<bool(QByteArrayView start)>;
 // where the folder admits no second file are the bytes written in place.
 void overwrite(const QString &path, QByteArrayView content);
 
-// A new content for a file, of which nothing old stays, in pieces. It takes the place of the old
-// file, if there is one, in one step once it is complete, and is gone where it is not. Throws
-// RunTimeError as above.
-class Replacement final
-{
-public:
-    explicit Replacement(const QString &path);
-    ~Replacement();
-    Q_DISABLE_COPY_MOVE(Replacement)
-
-    void write(QByteArrayView bytes);
-    // It is on the disk when this returns.
-    void takePlace();
-
-private:
-    QString m_path;
-    std::unique_ptr<UnfinishedFile> m_file;
-};
+// Puts a file with this content alone in the file's place, in one step. Otherwise as above, except
+// that a folder that admits no second file is an error.
+void replace(const QString &path, QByteArrayView content);
 
 } // namespace BinaryFile

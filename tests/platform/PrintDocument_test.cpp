@@ -1,15 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Documents that cannot be written, or are given up.
 #include "platform/PrintDocument.h"
 
-#include "platform/PrintingToFile.h"
-#include "runtime/ChildProcess.h"
-#include "runtime/TestFiles.h"
+#include "runtime/ErrorNumber.h"
 
-#include <QPrinter>
 #include <QTest>
-
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -18,10 +12,10 @@ namespace {
 const PrintedPaper Paper{QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}), 600,
                          u"list"_s};
 
-// Lines of which no two are alike, more than a document keeps in memory.
+// Lines of which no two are alike, so that they cannot be made smaller.
 void drawMuch(QPainter &sheet)
 {
-    for (int line = 0; line < 20'000; ++line)
+    for (int line = 0; line < 2'000; ++line)
         sheet.drawLine(line % 4987, line * line % 4999, line * 17 % 3001, line * 29 % 6007);
 }
 
@@ -32,45 +26,31 @@ class PrintDocument_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aPlaceThatTakesNoFileIsRefused()
+    void theDocumentIsAPdfFile()
     {
-        const TestFolder folder;
-        QCOMPARE(errorOfPrinting(folder.path(u"list.pdf"_s), 1), int(NoRunTimeError));
-        QVERIFY(folder.bytes(u"list.pdf"_s).startsWith("%PDF-"));
-        QCOMPARE(errorOfPrinting(folder.path(u"none/list.pdf"_s), 1),
-                 int(RunTimeError::PathNotFound));
-        QCOMPARE(errorOfPrinting(folder.path(), 1), int(RunTimeError::PathFileAccess));
-        QVERIFY(folder.setMode(0500));
-        QCOMPARE(inChildProcess([&] {
-                     return dropPrivileges() ? errorOfPrinting(folder.path(u"new.pdf"_s), 1) : 255;
-                 }),
-                 int(RunTimeError::PermissionDenied));
-        QVERIFY(folder.setMode(0700));
-        QCOMPARE(folder.names(), QStringList(u"list.pdf"_s));
+        PrintDocument document(Paper);
+        QVERIFY(!document.hasSheets());
+        document.nextSheet();
+        document.nextSheet();
+        QVERIFY(document.hasSheets());
+        const QByteArray pdf = document.finish();
+        QVERIFY(pdf.startsWith("%PDF-"));
+        QVERIFY(pdf.contains("/Count 2"));
+        QVERIFY(pdf.endsWith("%%EOF\n"));
     }
 
-    void aJobThatIsGivenUpIsNotWrittenToItsEnd()
+    void aDocumentThatIsTooLargeGetsNoFurtherSheet()
     {
-        const TestFolder folder;
-        const QByteArray before = qgetenv("TMPDIR");
-        qputenv("TMPDIR", QFile::encodeName(folder.path()));
-        const auto putBack = qScopeGuard(
-            [&before] { before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before); });
-        QPrinter printer;
-        auto document = printerDocument(printer, Paper);
-        QCOMPARE(folder.names().size(), 1);
-        // A second name, since the document removes the first one.
-        const QString job = folder.path(u"job"_s);
-        std::filesystem::create_hard_link(folder.path(folder.names().constFirst()).toStdString(),
-                                          job.toStdString());
-        drawMuch(*document->nextSheet());
-        QPainter *sheet = document->nextSheet();
-        const qint64 written = QFileInfo(job).size();
-        QVERIFY(written > 0);
-        drawMuch(*sheet);
-        document.reset();
-        QCOMPARE(QFileInfo(job).size(), written);
-        QCOMPARE(folder.names(), QStringList(u"job"_s));
+        PrintDocument document(Paper, 10'000);
+        const auto drawSheet = [&document] {
+            document.nextSheet();
+            drawMuch(document.painter());
+        };
+        QCOMPARE(errorNumberOf(drawSheet), NoRunTimeError);
+        // Only a sheet that is complete is written.
+        QCOMPARE(errorNumberOf(drawSheet), NoRunTimeError);
+        QCOMPARE(errorNumberOf(drawSheet), RunTimeError::OutOfMemory);
+        QVERIFY(document.hasSheets());
     }
 };
 

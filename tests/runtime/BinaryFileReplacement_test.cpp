@@ -28,11 +28,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, old);
         const TestFolder folder;
         const QString path = folder.write(u"list.pdf"_s, old);
-        BinaryFile::Replacement file(path);
-        file.write("abc");
-        file.write("de");
-        QCOMPARE(folder.bytes(u"list.pdf"_s), old);
-        file.takePlace();
+        BinaryFile::replace(path, "abcde");
         QCOMPARE(folder.bytes(u"list.pdf"_s), "abcde"_ba);
         QCOMPARE(folder.names(), QStringList(u"list.pdf"_s));
     }
@@ -40,21 +36,8 @@ private Q_SLOTS:
     void aMissingFileIsMade()
     {
         const TestFolder folder;
-        BinaryFile::Replacement file(folder.path(u"list.pdf"_s));
-        file.write("abc");
-        QVERIFY(!QFile::exists(folder.path(u"list.pdf"_s)));
-        file.takePlace();
+        BinaryFile::replace(folder.path(u"list.pdf"_s), "abc");
         QCOMPARE(folder.bytes(u"list.pdf"_s), "abc"_ba);
-    }
-
-    void whatIsNotCompletedLeavesNothing()
-    {
-        const TestFolder folder;
-        const QString path = folder.write(u"list.pdf"_s, "old");
-        BinaryFile::Replacement(path).write("abc");
-        BinaryFile::Replacement(folder.path(u"new.pdf"_s)).write("abc");
-        QCOMPARE(folder.bytes(u"list.pdf"_s), "old"_ba);
-        QCOMPARE(folder.names(), QStringList(u"list.pdf"_s));
     }
 
     void thePermissionsStay()
@@ -62,8 +45,7 @@ private Q_SLOTS:
         const TestFolder folder;
         const QString path = folder.write(u"list.pdf"_s, "old");
         QCOMPARE(chmod(QFile::encodeName(path).constData(), 0640), 0);
-        BinaryFile::Replacement file(path);
-        file.takePlace();
+        BinaryFile::replace(path, "new");
         struct stat status
         {
         };
@@ -77,9 +59,7 @@ private Q_SLOTS:
         const QString target = folder.write(u"target.pdf"_s, "old");
         const QString link = folder.path(u"link.pdf"_s);
         QVERIFY(QFile::link(target, link));
-        BinaryFile::Replacement file(link);
-        file.write("abc");
-        file.takePlace();
+        BinaryFile::replace(link, "abc");
         QCOMPARE(folder.bytes(u"target.pdf"_s), "abc"_ba);
         QVERIFY(QFileInfo(link).isSymLink());
     }
@@ -87,9 +67,9 @@ private Q_SLOTS:
     void aPlaceThatTakesNoFileIsRefused()
     {
         const TestFolder folder;
-        QCOMPARE(errorNumberOf([&] { BinaryFile::Replacement(folder.path(u"none/a.pdf"_s)); }),
+        QCOMPARE(errorNumberOf([&] { BinaryFile::replace(folder.path(u"none/a.pdf"_s), "a"); }),
                  RunTimeError::PathNotFound);
-        QCOMPARE(errorNumberOf([&] { BinaryFile::Replacement(folder.path()); }),
+        QCOMPARE(errorNumberOf([&] { BinaryFile::replace(folder.path(), "a"); }),
                  RunTimeError::PathFileAccess);
         QCOMPARE(folder.names(), QStringList());
     }

@@ -84,6 +84,23 @@ private Q_SLOTS:
         QCOMPARE(outside.bytes(u"names"_s), full ? "filler\n" + Name.toUtf8() : Name.toUtf8());
     }
 
+    void aFileWhoseReplacementDoesNotFitStaysWhole()
+    {
+        const TestFolder outside;
+        QVERIFY(QDir(outside.path()).mkdir(u"disk"_s));
+        const QString disk = outside.path(u"disk/"_s);
+        const QByteArray before = randomBytes(40'000, 1);
+        const int error = inChildProcess([&] {
+            if (!mountSmallDisk(disk) || !writeTo(disk + Name, before))
+                return CannotMount;
+            const int number = errorNumberOf([&] { BinaryFile::replace(disk + Name, before); });
+            const bool isAlone = QDir(disk).entryList(QDir::Files | QDir::Hidden).size() == 1;
+            return isAlone && QFile::copy(disk + Name, outside.path(u"found"_s)) ? number : 253;
+        });
+        QCOMPARE(error, int(RunTimeError::DiskFull));
+        QCOMPARE(outside.bytes(u"found"_s), before);
+    }
+
     void aNewFileThatDoesNotFitIsNotLeftBehind()
     {
         const TestFolder outside;
@@ -135,6 +152,7 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&] { return BinaryFile::read(disk + u"new.lwx"_s); }), denied);
         QCOMPARE(errorOf([&] { BinaryFile::overwrite(disk + Name, "abc"); }), denied);
         QCOMPARE(errorOf([&] { BinaryFile::overwrite(disk + u"new.lwx"_s, "abc"); }), denied);
+        QCOMPARE(errorOf([&] { BinaryFile::replace(disk + Name, "abc"); }), denied);
     }
 
     void aFileOfTheWholeDiskFitsInPlace()
