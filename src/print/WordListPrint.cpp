@@ -6,29 +6,9 @@
 #include "platform/Printer.h"
 #include "print/PrintNumbers.h"
 
+#include <QScopeGuard>
+
 #include <cstdlib>
-
-namespace {
-
-// Drops the document that is not completed.
-class DocumentKeeper
-{
-public:
-    explicit DocumentKeeper(Printer &printer) : m_printer(printer) {}
-    Q_DISABLE_COPY_MOVE(DocumentKeeper)
-    ~DocumentKeeper()
-    {
-        if (!m_done)
-            m_printer.KillDoc();
-    }
-    void done() { m_done = true; }
-
-private:
-    Printer &m_printer;
-    bool m_done = false;
-};
-
-} // namespace
 
 WordListPrint WordListPrint::chosen()
 {
@@ -94,7 +74,7 @@ void WordListPrint::printEntry(Printer &printer, Integer position, const VocabRe
 
 bool WordListPrint::print(Printer &printer, cVocabList &list, const GoOn &goOn) const
 {
-    DocumentKeeper keeper(printer);
+    auto drop = qScopeGuard([&printer] { printer.KillDoc(); });
     const int total = entries() * printer.Copies.toInt();
     int done = 0;
     for (Integer pass = 0; pass < printer.Copies; ++pass) {
@@ -108,7 +88,7 @@ bool WordListPrint::print(Printer &printer, cVocabList &list, const GoOn &goOn) 
         }
         printer.NewPage();
     }
-    keeper.done();
+    drop.dismiss();
     printer.EndDoc();
     return true;
 }
