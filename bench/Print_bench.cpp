@@ -121,7 +121,7 @@ double memoryOfFirstDialog()
     for (const int margin : {11, 10}) {
         bar.setValue(margin);
         benchmark::DoNotOptimize(preview.grab());
-        preview.goToLast();
+        preview.goTo(PagePreview::Page::Last);
         while (!preview.isLast()) {
             QCoreApplication::processEvents();
             most = std::max(most, residentMemory() - before);

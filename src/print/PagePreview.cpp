@@ -120,7 +120,28 @@ QString PagePreview::pageText() const
         .arg(count);
 }
 
-void PagePreview::goTo(int page)
+void PagePreview::goTo(Page page)
+{
+    switch (page) {
+    case Page::First:
+        goToNumber(1);
+        break;
+    case Page::Previous:
+        goToNumber(m_page - 1);
+        break;
+    case Page::Next:
+        goToNumber(m_page + 1);
+        break;
+    case Page::Last:
+        if (!m_pages)
+            break;
+        goToNumber(m_pages->count());
+        m_toLast = !m_pages->isComplete();
+        break;
+    }
+}
+
+void PagePreview::goToNumber(int page)
 {
     const int last = m_pages ? std::max(m_page, m_pages->count()) : 0;
     const int shown = std::clamp(page, std::min(1, last), last);
@@ -133,12 +154,9 @@ void PagePreview::goTo(int page)
     Q_EMIT changed();
 }
 
-void PagePreview::goToLast()
+void PagePreview::toggleZoom()
 {
-    if (!m_pages)
-        return;
-    goTo(m_pages->count());
-    m_toLast = !m_pages->isComplete();
+    setZoom(m_zoom == Zoom::WholePage ? Zoom::ActualSize : Zoom::WholePage);
 }
 
 void PagePreview::setZoom(Zoom zoom)
@@ -226,37 +244,39 @@ void PagePreview::takeKey(QKeyEvent &event)
     const bool whole = m_zoom == Zoom::WholePage;
     switch (event.key()) {
     case Qt::Key_PageDown:
-        goTo(m_page + 1);
+        goTo(Page::Next);
         return;
     case Qt::Key_PageUp:
-        goTo(m_page - 1);
+        goTo(Page::Previous);
         return;
     case Qt::Key_Home:
-        goTo(1);
+        goTo(Page::First);
         return;
     case Qt::Key_End:
-        goToLast();
+        goTo(Page::Last);
         return;
     case Qt::Key_Right:
         if (whole) {
-            goTo(m_page + 1);
+            goTo(Page::Next);
             return;
         }
         break;
     case Qt::Key_Left:
         if (whole) {
-            goTo(m_page - 1);
+            goTo(Page::Previous);
             return;
         }
         break;
     case Qt::Key_Plus:
+        setZoom(Zoom::ActualSize);
+        return;
     case Qt::Key_Minus:
-        setZoom(event.key() == Qt::Key_Plus ? Zoom::ActualSize : Zoom::WholePage);
+        setZoom(Zoom::WholePage);
         return;
     default:
         break;
     }
-    QAbstractScrollArea::keyPressEvent(&event); // the arrows scroll
+    QAbstractScrollArea::keyPressEvent(&event); // the arrow keys scroll
 }
 
 // Turns the page where there is nothing left to scroll.
@@ -266,7 +286,7 @@ void PagePreview::wheelEvent(QWheelEvent *event)
     const int turned = event->angleDelta().y();
     if ((turned < 0 && bar.value() == bar.maximum()) ||
         (turned > 0 && bar.value() == bar.minimum()))
-        runGuarded([this, turned] { goTo(m_page - m_wheel.turned(turned)); });
+        runGuarded([this, turned] { goToNumber(m_page - m_wheel.turned(turned)); });
     else
         QAbstractScrollArea::wheelEvent(event);
     event->accept();
@@ -274,5 +294,5 @@ void PagePreview::wheelEvent(QWheelEvent *event)
 
 void PagePreview::mouseDoubleClickEvent(QMouseEvent * /*event*/)
 {
-    setZoom(m_zoom == Zoom::WholePage ? Zoom::ActualSize : Zoom::WholePage);
+    toggleZoom();
 }

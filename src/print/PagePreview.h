@@ -15,6 +15,7 @@ class PagePreview final : public QAbstractScrollArea
 
 public:
     enum class Zoom { WholePage, ActualSize };
+    enum class Page { First, Previous, Next, Last };
 
     // Nothing is laid out in idle moments while there is one.
     class Pause
@@ -40,10 +41,9 @@ public:
     // "Page 2 of 7", or "Page 2 of about 7" while the pages are being counted.
     [[nodiscard]] QString pageText() const;
 
-    void goTo(int page);
-    void goToLast();
+    void goTo(Page page);
     [[nodiscard]] Zoom zoom() const { return m_zoom; }
-    void setZoom(Zoom zoom);
+    void toggleZoom();
 
 Q_SIGNALS:
     // Another page is shown, or more is known of how many there are.
@@ -60,6 +60,8 @@ private:
     void layOutWhenIdle();
     void layOutMore();
     void afterLayout();
+    void goToNumber(int page);
+    void setZoom(Zoom zoom);
     void takeKey(QKeyEvent &event);
     void placeSheet();
     void showTexts();

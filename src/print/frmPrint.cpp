@@ -3,13 +3,10 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "platform/LostFocus.h"
 #include "platform/SystemPrinter.h"
 #include "print/PrintJob.h"
 #include "print/WordListPrint.h"
 #include "print/ui_frmPrint.h"
-
-#include <QShortcut>
 
 #include <initializer_list>
 
@@ -43,37 +40,10 @@ void frmPrint::connectHandlers()
     onClick(m_ui->chkPrintItemNumber, &frmPrint::chkPrintItemNumber_Click);
     onClick(m_ui->cmdPrint, &frmPrint::cmdPrint_Click);
     onClick(m_ui->cmdCancel, &frmPrint::cmdCancel_Click);
-    onClick(m_ui->cmdFirstPage, &frmPrint::cmdFirstPage_Click);
-    onClick(m_ui->cmdPreviousPage, &frmPrint::cmdPreviousPage_Click);
-    onClick(m_ui->cmdNextPage, &frmPrint::cmdNextPage_Click);
-    onClick(m_ui->cmdLastPage, &frmPrint::cmdLastPage_Click);
-    onClick(m_ui->cmdZoom, &frmPrint::cmdZoom_Click);
-
-    const auto onChange = [this](StepBar *bar, void (frmPrint::*handler)()) {
-        connect(bar, &StepBar::valueChanged, this, guarded(this, handler));
-    };
-    onChange(m_ui->vsc_TopMargin, &frmPrint::vsc_TopMargin_Change);
-    onChange(m_ui->vsc_BottomMargin, &frmPrint::vsc_BottomMargin_Change);
-    onChange(m_ui->vsc_LeftMargin, &frmPrint::vsc_LeftMargin_Change);
-    onChange(m_ui->vsc_RightMargin, &frmPrint::vsc_RightMargin_Change);
-    onChange(m_ui->vsc_Copies, &frmPrint::vsc_Copies_Change);
-
-    new LostFocus(m_ui->txtFromWord, [this] { txtFromWord_LostFocus(); });
-    new LostFocus(m_ui->txtToWord, [this] { txtToWord_LostFocus(); });
-    new LostFocus(m_ui->txtTopMargin, [this] { txtTopMargin_LostFocus(); });
-    new LostFocus(m_ui->txtBottomMargin, [this] { txtBottomMargin_LostFocus(); });
-    new LostFocus(m_ui->txtLeftMargin, [this] { txtLeftMargin_LostFocus(); });
-    new LostFocus(m_ui->txtRightMargin, [this] { txtRightMargin_LostFocus(); });
-    new LostFocus(m_ui->vsc_BottomMargin, [this] { vsc_BottomMargin_LostFocus(); });
-
     connect(m_ui->lstPrinter, &QListWidget::itemSelectionChanged, this,
             guarded(this, &frmPrint::lstPrinter_Click));
-    connect(m_ui->preview, &PagePreview::changed, this, guarded(this, &frmPrint::showPage));
-    const auto onKey = [this](const QKeySequence &keys, QAbstractButton *button) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, button, &QAbstractButton::click);
-    };
-    onKey(Qt::CTRL | Qt::Key_PageUp, m_ui->cmdPreviousPage);
-    onKey(Qt::CTRL | Qt::Key_PageDown, m_ui->cmdNextPage);
+    connectBoxes();
+    connectPreview();
 }
 
 void frmPrint::Form_Load()

@@ -6,6 +6,7 @@
 #include "platform/DialogForm.h"
 #include "runtime/Currency.h"
 
+#include <array>
 #include <memory>
 
 class QLineEdit;
@@ -31,6 +32,20 @@ protected:
     void Form_Terminate() override;
 
 private:
+    // A row of the print range: where the setting is typed.
+    struct Position
+    {
+        QLineEdit &box;
+        Integer &setting;
+    };
+    // A margin: where it is typed and stepped.
+    struct Margin
+    {
+        QLineEdit &box;
+        StepBar &bar;
+        Currency &setting;
+    };
+
     // frmPrint.cpp: the dialog, and what is chosen by a click
     void connectHandlers();
     void fillPrinters();
@@ -45,30 +60,23 @@ private:
     void cmdCancel_Click();
 
     // frmPrint_Boxes.cpp: range, margins and copies
-    void txtFromWord_LostFocus();
-    void txtToWord_LostFocus();
-    void takePosition(QLineEdit &box, Integer &position);
+    [[nodiscard]] std::array<Position, 2> positions() const;
+    [[nodiscard]] std::array<Margin, 4> margins() const;
+    void connectBoxes();
     void showMargins();
-    void txtTopMargin_LostFocus();
-    void txtBottomMargin_LostFocus();
-    void txtLeftMargin_LostFocus();
-    void txtRightMargin_LostFocus();
-    void takeMargin(QLineEdit &box, StepBar &bar, Currency &margin);
-    void vsc_TopMargin_Change();
-    void vsc_BottomMargin_Change();
-    void vsc_BottomMargin_LostFocus();
-    void vsc_LeftMargin_Change();
-    void vsc_RightMargin_Change();
-    void takeStep(QLineEdit &box, const StepBar &bar, Currency &margin);
+    // txtFromWord_LostFocus and txtToWord_LostFocus
+    void txtPosition_LostFocus(const Position &position);
+    // txtTopMargin_LostFocus, txtBottomMargin_LostFocus, txtLeftMargin_LostFocus and
+    // txtRightMargin_LostFocus; vsc_BottomMargin_LostFocus, too
+    void txtMargin_LostFocus(const Margin &margin);
+    // vsc_TopMargin_Change, vsc_BottomMargin_Change, vsc_LeftMargin_Change and
+    // vsc_RightMargin_Change
+    void vscMargin_Change(const Margin &margin);
     void vsc_Copies_Change();
     void takeTypedText();
 
     // frmPrint_Preview.cpp: the pages beside the settings
-    void cmdFirstPage_Click();
-    void cmdPreviousPage_Click();
-    void cmdNextPage_Click();
-    void cmdLastPage_Click();
-    void cmdZoom_Click();
+    void connectPreview();
     void showPreview();
     void showPage();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "platform/LostFocus.h"
 #include "platform/SystemPrinter.h"
 #include "print/PrintNumbers.h"
 #include "print/frmPrint.h"
@@ -14,106 +15,82 @@ namespace {
 
 constexpr int StepsPerInch = 10; // of a margin's scroll bar
 
+int stepsOf(Currency margin)
+{
+    return (margin * StepsPerInch).toInteger().toInt();
+}
+
 } // namespace
+
+std::array<frmPrint::Position, 2> frmPrint::positions() const
+{
+    return {Position{*m_ui->txtFromWord, FromWord}, Position{*m_ui->txtToWord, ToWord}};
+}
+
+std::array<frmPrint::Margin, 4> frmPrint::margins() const
+{
+    return {Margin{*m_ui->txtTopMargin, *m_ui->vsc_TopMargin, TopMargin},
+            Margin{*m_ui->txtBottomMargin, *m_ui->vsc_BottomMargin, BottomMargin},
+            Margin{*m_ui->txtLeftMargin, *m_ui->vsc_LeftMargin, LeftMargin},
+            Margin{*m_ui->txtRightMargin, *m_ui->vsc_RightMargin, RightMargin}};
+}
+
+void frmPrint::connectBoxes()
+{
+    for (const Position &position : positions())
+        new LostFocus(&position.box, [this, position] { txtPosition_LostFocus(position); });
+    for (const Margin &margin : margins()) {
+        margin.bar.setRange(stepsOf(SmallestMargin), stepsOf(LargestMargin));
+        new LostFocus(&margin.box, [this, margin] { txtMargin_LostFocus(margin); });
+        if (&margin.bar == m_ui->vsc_BottomMargin) // alone among the bars
+            new LostFocus(&margin.bar, [this, margin] { txtMargin_LostFocus(margin); });
+        connect(&margin.bar, &StepBar::valueChanged, this,
+                [this, margin] { runGuarded([this, &margin] { vscMargin_Change(margin); }); });
+    }
+    m_ui->vsc_Copies->setRange(1, Integer::Max);
+    connect(m_ui->vsc_Copies, &StepBar::valueChanged, this,
+            guarded(this, &frmPrint::vsc_Copies_Change));
+}
 
 void frmPrint::showMargins()
 {
-    const auto showMargin = [](QLineEdit *box, StepBar *bar, Currency margin) {
-        box->setText(margin.toText());
-        // The margin keeps its hundredths.
-        const QSignalBlocker unchanged(bar);
-        bar->setValue((margin * StepsPerInch).toInteger().toInt());
-    };
-    showMargin(m_ui->txtBottomMargin, m_ui->vsc_BottomMargin, BottomMargin);
-    showMargin(m_ui->txtLeftMargin, m_ui->vsc_LeftMargin, LeftMargin);
-    showMargin(m_ui->txtRightMargin, m_ui->vsc_RightMargin, RightMargin);
-    showMargin(m_ui->txtTopMargin, m_ui->vsc_TopMargin, TopMargin);
+    for (const Margin &margin : margins()) {
+        margin.box.setText(margin.setting.toText());
+        // vscMargin_Change would round the margin to tenths.
+        const QSignalBlocker unchanged(&margin.bar);
+        margin.bar.setValue(stepsOf(margin.setting));
+    }
 }
 
-void frmPrint::txtFromWord_LostFocus()
+void frmPrint::txtPosition_LostFocus(const Position &position)
 {
-    takePosition(*m_ui->txtFromWord, FromWord);
-}
-
-void frmPrint::txtToWord_LostFocus()
-{
-    takePosition(*m_ui->txtToWord, ToWord);
-}
-
-void frmPrint::takePosition(QLineEdit &box, Integer &position)
-{
-    if (box.text().isEmpty())
+    if (position.box.text().isEmpty())
         return;
-    if (const auto typed = positionFromText(box.text()))
-        position = positionInList(*typed, gVocabList().NumWords());
-    box.setText(position.toText());
+    if (const auto typed = positionFromText(position.box.text()))
+        position.setting = positionInList(*typed, gVocabList().NumWords());
+    position.box.setText(position.setting.toText());
     showPreview();
 }
 
-void frmPrint::txtTopMargin_LostFocus()
+void frmPrint::txtMargin_LostFocus(const Margin &margin)
 {
-    takeMargin(*m_ui->txtTopMargin, *m_ui->vsc_TopMargin, TopMargin);
-}
-
-void frmPrint::txtBottomMargin_LostFocus()
-{
-    takeMargin(*m_ui->txtBottomMargin, *m_ui->vsc_BottomMargin, BottomMargin);
-}
-
-void frmPrint::txtLeftMargin_LostFocus()
-{
-    takeMargin(*m_ui->txtLeftMargin, *m_ui->vsc_LeftMargin, LeftMargin);
-}
-
-void frmPrint::txtRightMargin_LostFocus()
-{
-    takeMargin(*m_ui->txtRightMargin, *m_ui->vsc_RightMargin, RightMargin);
-}
-
-// A margin that the scroll bar does not follow keeps its hundredths, and the box what was typed.
-void frmPrint::takeMargin(QLineEdit &box, StepBar &bar, Currency &margin)
-{
-    const auto typed = marginFromText(box.text());
+    const auto typed = marginFromText(margin.box.text());
     if (!typed) {
-        box.setText(margin.toText());
+        margin.box.setText(margin.setting.toText());
         return;
     }
-    margin = std::clamp(*typed, SmallestMargin, LargestMargin);
-    if (margin != *typed)
-        box.setText(margin.toText());
-    bar.setValue((margin * StepsPerInch).toInteger().toInt());
+    margin.setting = std::clamp(*typed, SmallestMargin, LargestMargin);
+    if (margin.setting != *typed)
+        margin.box.setText(margin.setting.toText());
+    // If the bar stays where it is, the margin keeps its hundredths and the box its text.
+    margin.bar.setValue(stepsOf(margin.setting));
     showPreview();
 }
 
-void frmPrint::vsc_TopMargin_Change()
+void frmPrint::vscMargin_Change(const Margin &margin)
 {
-    takeStep(*m_ui->txtTopMargin, *m_ui->vsc_TopMargin, TopMargin);
-}
-
-void frmPrint::vsc_BottomMargin_Change()
-{
-    takeStep(*m_ui->txtBottomMargin, *m_ui->vsc_BottomMargin, BottomMargin);
-}
-
-void frmPrint::vsc_BottomMargin_LostFocus()
-{
-    txtBottomMargin_LostFocus();
-}
-
-void frmPrint::vsc_LeftMargin_Change()
-{
-    takeStep(*m_ui->txtLeftMargin, *m_ui->vsc_LeftMargin, LeftMargin);
-}
-
-void frmPrint::vsc_RightMargin_Change()
-{
-    takeStep(*m_ui->txtRightMargin, *m_ui->vsc_RightMargin, RightMargin);
-}
-
-void frmPrint::takeStep(QLineEdit &box, const StepBar &bar, Currency &margin)
-{
-    margin = Currency(static_cast<double>(bar.value()) / StepsPerInch);
-    box.setText(margin.toText());
+    margin.setting = Currency(static_cast<double>(margin.bar.value()) / StepsPerInch);
+    margin.box.setText(margin.setting.toText());
     showPreview();
 }
 
@@ -125,20 +102,13 @@ void frmPrint::vsc_Copies_Change()
     showPreview();
 }
 
-// Enter, Esc and the buttons' keys do not leave the box.
+// Enter, Esc and the shortcuts of the buttons leave the focus in the box.
 void frmPrint::takeTypedText()
 {
-    const QWidget *box = focusWidget();
-    if (box == m_ui->txtFromWord)
-        txtFromWord_LostFocus();
-    else if (box == m_ui->txtToWord)
-        txtToWord_LostFocus();
-    else if (box == m_ui->txtTopMargin)
-        txtTopMargin_LostFocus();
-    else if (box == m_ui->txtBottomMargin)
-        txtBottomMargin_LostFocus();
-    else if (box == m_ui->txtLeftMargin)
-        txtLeftMargin_LostFocus();
-    else if (box == m_ui->txtRightMargin)
-        txtRightMargin_LostFocus();
+    for (const Position &position : positions())
+        if (focusWidget() == &position.box)
+            txtPosition_LostFocus(position);
+    for (const Margin &margin : margins())
+        if (focusWidget() == &margin.box)
+            txtMargin_LostFocus(margin);
 }

@@ -6,31 +6,28 @@
 #include "print/frmPrint.h"
 #include "print/ui_frmPrint.h"
 
-void frmPrint::cmdFirstPage_Click()
-{
-    m_ui->preview->goTo(1);
-}
+#include <QShortcut>
 
-void frmPrint::cmdPreviousPage_Click()
+void frmPrint::connectPreview()
 {
-    m_ui->preview->goTo(m_ui->preview->page() - 1);
-}
+    PagePreview *preview = m_ui->preview;
+    const auto turnsTo = [preview](QAbstractButton *button, PagePreview::Page page) {
+        connect(button, &QAbstractButton::clicked, preview,
+                [preview, page] { runGuarded([preview, page] { preview->goTo(page); }); });
+    };
+    turnsTo(m_ui->cmdFirstPage, PagePreview::Page::First);
+    turnsTo(m_ui->cmdPreviousPage, PagePreview::Page::Previous);
+    turnsTo(m_ui->cmdNextPage, PagePreview::Page::Next);
+    turnsTo(m_ui->cmdLastPage, PagePreview::Page::Last);
+    connect(m_ui->cmdZoom, &QAbstractButton::clicked, preview,
+            guarded(preview, &PagePreview::toggleZoom));
+    connect(preview, &PagePreview::changed, this, guarded(this, &frmPrint::showPage));
 
-void frmPrint::cmdNextPage_Click()
-{
-    m_ui->preview->goTo(m_ui->preview->page() + 1);
-}
-
-void frmPrint::cmdLastPage_Click()
-{
-    m_ui->preview->goToLast();
-}
-
-void frmPrint::cmdZoom_Click()
-{
-    PagePreview &preview = *m_ui->preview;
-    preview.setZoom(preview.zoom() == PagePreview::Zoom::WholePage ? PagePreview::Zoom::ActualSize
-                                                                   : PagePreview::Zoom::WholePage);
+    const auto onKey = [this](const QKeySequence &keys, QAbstractButton *button) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, button, &QAbstractButton::click);
+    };
+    onKey(Qt::CTRL | Qt::Key_PageUp, m_ui->cmdPreviousPage);
+    onKey(Qt::CTRL | Qt::Key_PageDown, m_ui->cmdNextPage);
 }
 
 void frmPrint::showPreview()
@@ -44,7 +41,7 @@ void frmPrint::showPage()
     const PagePreview &preview = *m_ui->preview;
     if (const QString text = preview.pageText(); text != m_ui->lblPage->text()) {
         m_ui->lblPage->setText(text);
-        m_ui->preview->setAccessibleDescription(text); // is told to who does not see it, each time
+        m_ui->preview->setAccessibleDescription(text); // for screen readers
     }
     m_ui->cmdFirstPage->setEnabled(!preview.isFirst());
     m_ui->cmdPreviousPage->setEnabled(!preview.isFirst());

@@ -68,7 +68,7 @@ private Q_SLOTS:
     void theLastPageIsFoundThoughThePagesAreNotCounted()
     {
         setPages();
-        m_preview->goToLast();
+        m_preview->goTo(PagePreview::Page::Last);
         QTRY_VERIFY(m_preview->isLast());
         QCOMPARE(m_preview->page(), count());
     }
@@ -99,11 +99,11 @@ private Q_SLOTS:
         const PagePreview::Pause pause(*m_preview);
         setPages();
         QVERIFY(!isCounted());
-        m_preview->goToLast();
+        m_preview->goTo(PagePreview::Page::Last);
         QVERIFY(m_preview->page() > 1);
         QVERIFY(darkPixelsInTheMiddle() > 0);
         // The first page is known; its lines end above the middle.
-        m_preview->goTo(1);
+        m_preview->goTo(PagePreview::Page::First);
         QCOMPARE(darkPixelsInTheMiddle(), 0);
     }
 
@@ -159,7 +159,7 @@ private Q_SLOTS:
 
     void fewerPagesShowTheirLastInPlaceOfOneThatIsGone()
     {
-        m_preview->goToLast();
+        m_preview->goTo(PagePreview::Page::Last);
         ToWord = 20;
         setPages();
         QTRY_VERIFY(isCounted());
