@@ -84,12 +84,10 @@ void frmPrint::fillPrinters()
 {
     QListWidget &list = *m_ui->lstPrinter;
     const QSignalBlocker filling(&list);
+    const QStringList names = SystemPrinter::installed();
     list.clear();
-    for (const QString &name : SystemPrinter::installed()) {
-        list.addItem(name);
-        if (name == m_printer.DeviceName())
-            list.setCurrentRow(list.count() - 1);
-    }
+    list.addItems(names);
+    list.setCurrentRow(static_cast<int>(names.lastIndexOf(m_printer.DeviceName())));
 }
 
 void frmPrint::enableRange(bool enabled)
@@ -109,9 +107,8 @@ void frmPrint::lstPrinter_Click()
         const QSignalBlocker marking(m_ui->lstPrinter);
         chosen->setSelected(true);
     }
-    for (const QString &name : SystemPrinter::installed())
-        if (name == chosen->text())
-            m_printer.select(name);
+    if (SystemPrinter::installed().contains(chosen->text()))
+        m_printer.select(chosen->text());
     showPreview();
 }
 

@@ -133,6 +133,20 @@ private Q_SLOTS:
         QCOMPARE(names, QStringList({Paper, PostScript, u"Print to PDF"_s}));
     }
 
+    void thePrinterIsChosenByItsNameAndNotByItsRow()
+    {
+        QueueForm form(Paper, frenchWords());
+        auto &list = form.control<QListWidget>("lstPrinter");
+        list.insertItem(0, PostScript);
+        for (const int row : {0, 2}) {
+            form.printer.select(Paper);
+            list.setCurrentRow(row);
+            QCOMPARE(list.currentItem()->text(), PostScript);
+            QCOMPARE(form.printer.DeviceName(), PostScript);
+            list.setCurrentRow(1);
+        }
+    }
+
     void theTextCanBeReadBackInItsOrder()
     {
         QueueForm form(Paper, frenchWords());
