@@ -6,7 +6,6 @@
 #include "print/PrintJob.h"
 #include "print/WordListPrint.h"
 #include "print/frmPrint.h"
-#include "runtime/RunTimeError.h"
 
 namespace {
 
@@ -30,17 +29,13 @@ SystemPrinter &frmMain::printer()
 void frmMain::mnuPrint_Click()
 {
     SystemPrinter &printer = this->printer();
-    try {
-        tellPrinterError(printer, [this, &printer] {
-            printer.Copies = m_printerDialog.Copies;
-            printer.setOrientation(m_printerDialog.Orientation);
-            setScale(printer);
-            frmPrint dialog(printer, this);
-            dialog.exec();
-        });
-    } catch (const RunTimeError &) {
-        return; // any other error ends the command without a word
-    }
+    tellPrinterErrorOnly(printer, [this, &printer] {
+        printer.Copies = m_printerDialog.Copies;
+        printer.setOrientation(m_printerDialog.Orientation);
+        setScale(printer);
+        frmPrint dialog(printer, this);
+        dialog.exec();
+    });
 }
 
 void frmMain::mnuPrinterSetup_Click()

@@ -37,3 +37,12 @@ void tellPrinterError(const SystemPrinter &printer, const std::function<void()> 
         MsgBox(printer.DeviceName() + QStringLiteral(" has encountered an error"));
     }
 }
+
+void tellPrinterErrorOnly(const SystemPrinter &printer, const std::function<void()> &action)
+{
+    try {
+        tellPrinterError(printer, action);
+    } catch (const RunTimeError &) {
+        return;
+    }
+}

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Print commands as the person gives them: with progress, Cancel and the printer's errors.
+// What the printing commands have in common: progress, Cancel and the report of errors.
 #pragma once
 
 #include <functional>
@@ -8,10 +8,13 @@ class QWidget;
 class SystemPrinter;
 struct WordListPrint;
 
-// Prints entries of the open list. Tells where the list is empty; shows progress over the window,
-// with Cancel, when it takes a while.
+// Prints entries of the open list, or shows a message if the list is empty. A job that takes a
+// while shows its progress over the window, with Cancel.
 void printWordList(QWidget *window, SystemPrinter &printer, const WordListPrint &job);
 
-// Runs the action. A printer's error ends it and is told with the printer's name; other errors
-// pass.
+// Runs the action. RunTimeError PrinterFault ends it with a message that names the printer; other
+// errors pass.
 void tellPrinterError(const SystemPrinter &printer, const std::function<void()> &action);
+
+// As above, but any other RunTimeError ends the action without a message.
+void tellPrinterErrorOnly(const SystemPrinter &printer, const std::function<void()> &action);
