@@ -16,13 +16,7 @@ QString madeFolder(QStandardPaths::StandardLocation location, const QString &nam
 
 QString userData()
 {
-#ifdef Q_OS_WIN
-    const QString folder = QStringLiteral("C:/Program Files/Lexibrook");
-    QDir().mkpath(folder);
-    return folder;
-#else
     return madeFolder(QStandardPaths::GenericDataLocation, QStringLiteral("Lexibrook"));
-#endif
 }
 
 // A folder that comes with the program: where the installation puts it; in a build beside the
@@ -36,15 +30,6 @@ QString ownFolder(const QString &installed, const QString &name)
     return QDir::cleanPath(program.filePath(installed));
 }
 
-QString audio()
-{
-#ifdef Q_OS_WIN
-    return QStringLiteral("C:/Program Files/Lexibrook/Audio");
-#else
-    return ownFolder(QStringLiteral(TANGLEWIT_DATA_FROM_PROGRAM "/Audio"), QStringLiteral("Audio"));
-#endif
-}
-
 } // namespace
 
 QString pathOf(Place place)
@@ -53,15 +38,15 @@ QString pathOf(Place place)
     case Place::UserData:
         return userData();
     case Place::InstanceLock:
-        return madeFolder(QStandardPaths::GenericDataLocation, QStringLiteral("Lexibrook")) +
-               QStringLiteral("/tanglewit.lock");
+        return userData() + QStringLiteral("/tanglewit.lock");
     case Place::Top10:
         return userData() + QStringLiteral("/top10.bin");
     case Place::WordLists:
         return madeFolder(QStandardPaths::DocumentsLocation, QStringLiteral("Lexibrook")) +
                QStringLiteral("/MyLists");
     case Place::Audio:
-        return audio();
+        return ownFolder(QStringLiteral(TANGLEWIT_DATA_FROM_PROGRAM "/Audio"),
+                         QStringLiteral("Audio"));
     case Place::Plugins:
         return ownFolder(QStringLiteral(TANGLEWIT_PLUGINS_FROM_PROGRAM), QStringLiteral("plugins"));
     }
