@@ -48,7 +48,7 @@ QRectF printableArea(const QPageLayout &layout)
     QPageLayout inches = layout;
     inches.setUnits(QPageLayout::Inch);
     QMarginsF borders = inches.minimumMargins();
-    // Qt gives the borders of the upright sheet, which a queue may turn either way.
+    // Qt gives the borders in portrait. A queue may turn the sheet to either side.
     if (layout.orientation() == QPageLayout::Landscape) {
         const double sides = std::max(borders.top(), borders.bottom());
         const double ends = std::max(borders.left(), borders.right());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A document of printed sheets, made as a PDF file in memory.
+// A printed document, made as a PDF file in memory.
 #pragma once
 
 #include <QBuffer>
@@ -21,23 +21,24 @@ struct PrintedPaper
 class PrintDocument
 {
 public:
-    // Far more than a printer takes, far less than the machine has.
+    // More than any sensible job; without a limit, many copies of a long list would use up memory.
     static constexpr qsizetype MostBytes = qsizetype(1) << 30;
 
     explicit PrintDocument(const PrintedPaper &paper, qsizetype mostBytes = MostBytes);
 
-    // Begins the first or the next sheet. Throws RunTimeError OutOfMemory where the document is
-    // larger than `mostBytes`.
+    // Begins the first or the next sheet. Throws RunTimeError OutOfMemory if the document is larger
+    // than `mostBytes`.
     void nextSheet();
     [[nodiscard]] bool hasSheets() const { return m_painter.isActive(); }
-    // Of the sheet: a unit is a dot, the origin the corner of the printable area.
+    // Paints on the current sheet. One unit is one dot; the origin is the top left corner of the
+    // printable area.
     [[nodiscard]] QPainter &painter() { return m_painter; }
     // Ends the document and returns the PDF file.
     [[nodiscard]] QByteArray finish();
 
 private:
     qsizetype m_mostBytes;
-    // Each of them writes to the one before, also when it is destroyed.
+    // In this order: the painter writes to the writer and that to the file, also when destroyed.
     QBuffer m_file;
     QPdfWriter m_writer{&m_file};
     QPainter m_painter;

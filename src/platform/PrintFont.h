@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What printed text is set in.
+// Font and style of printed text.
 #pragma once
 
 #include <QString>

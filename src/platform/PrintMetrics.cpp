@@ -13,7 +13,7 @@ namespace {
 
 constexpr double MetresPerInch = 0.0254;
 
-// Characters whose width never depends on their neighbours, once kerning and ligatures are off.
+// Whether the width of a character never depends on its neighbours, without kerning and ligatures.
 bool standsAlone(QChar c)
 {
     const char16_t code = c.unicode();
@@ -22,7 +22,7 @@ bool standsAlone(QChar c)
 }
 constexpr std::size_t Widths = 0x2123;
 
-// A control character has no picture of its own; on paper it is a blank.
+// Control characters have no glyph and are printed as blanks.
 QString printable(QStringView text)
 {
     QString shown = text.toString();
@@ -37,7 +37,7 @@ QFont fontOf(const PrintStyle &style, double size)
     font.setPointSizeF(size);
     font.setBold(style.bold);
     font.setItalic(style.italic);
-    // Pairs and ligatures would be narrower than their characters are.
+    // With kerning or ligatures a text would not be as wide as its characters together.
     font.setKerning(false);
     font.setStyleStrategy(QFont::PreferNoShaping);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -46,7 +46,7 @@ QFont fontOf(const PrintStyle &style, double size)
 
 } // namespace
 
-// One style with the widths that are known so far.
+// A style with the widths that were measured so far.
 struct PrintMetrics::Face
 {
     Face(const PrintStyle &faceStyle, const QImage &device)
@@ -65,7 +65,7 @@ struct PrintMetrics::Face
 
     PrintStyle style;
     QFontMetricsF metrics;
-    std::array<double, Widths> widths{}; // below 0: not yet known
+    std::array<double, Widths> widths{}; // negative: not measured yet
 };
 
 PrintMetrics::PrintMetrics(QSizeF sheet, const QRectF &area, int resolution)
@@ -107,7 +107,7 @@ double PrintMetrics::lineHeight(const PrintStyle &style) const
 void PrintMetrics::draw(QPainter &painter, QPointF topLeft, const QString &text,
                         const PrintStyle &style) const
 {
-    // The font has as many dots as on the printer, whatever the painter's device takes a point for.
+    // As large in dots as on the printer, whatever the resolution of the painter's device.
     painter.setFont(
         fontOf(style, style.font.Size * m_resolution / painter.device()->logicalDpiY()));
     const double baseline = topLeft.y() * m_resolution + face(style).metrics.ascent();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Measures and draws printed text for the resolution of a printer, so that a picture of a page on
-// the screen has exactly the lines of the page on paper.
+// Measures and draws text at the resolution of a printer, so that a page on the screen has the same
+// lines as on paper.
 #pragma once
 
 #include "platform/PrintFont.h"
@@ -16,9 +16,8 @@ class QPainter;
 class PrintMetrics
 {
 public:
-    // A sheet and the printable area on it in inches, and dots per inch. The resolution has to be
-    // that of the device which is printed on: the widths of characters differ from one resolution
-    // to another, and lines would end elsewhere.
+    // Sheet and printable area in inches, resolution in dots per inch. The resolution must be the
+    // printer's: at another one characters have other widths, and lines break at other places.
     PrintMetrics(QSizeF sheet, const QRectF &area, int resolution);
     ~PrintMetrics();
     Q_DISABLE_COPY_MOVE(PrintMetrics)
@@ -27,12 +26,13 @@ public:
     [[nodiscard]] QRectF area() const { return m_area; }
     [[nodiscard]] int resolution() const { return m_resolution; }
 
-    // In inches. A text's width is the sum of its characters' widths, except where a script asks
-    // for more.
+    // In inches. The width of a text is the sum of the widths of its characters, except in scripts
+    // that need shaping.
     [[nodiscard]] double widthOf(QStringView text, const PrintStyle &style) const;
     [[nodiscard]] double lineHeight(const PrintStyle &style) const;
 
-    // Where the painter's unit is one dot and its origin the corner of the printable area.
+    // topLeft is in inches. The painter's unit must be one dot, its origin the top left corner of
+    // the printable area.
     void draw(QPainter &painter, QPointF topLeft, const QString &text,
               const PrintStyle &style) const;
 
@@ -43,6 +43,6 @@ private:
     QSizeF m_sheet;
     QRectF m_area;
     int m_resolution;
-    QImage m_device; // stands for the printer where fonts are measured
-    mutable std::vector<std::unique_ptr<Face>> m_faces; // those in use
+    QImage m_device; // has the resolution at which fonts are measured
+    mutable std::vector<std::unique_ptr<Face>> m_faces; // used so far
 };

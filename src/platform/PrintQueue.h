@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The queues of CUPS, the system's print server.
 //
-// A PDF file is handed over, and nothing drawn on QPrinter, because Qt's engine for CUPS also
-// prints a document that was given up or not written to its end, and reports no error.
+// The program hands over PDF files instead of drawing on QPrinter, because Qt's engine for CUPS
+// also prints a document that was cancelled or not written completely, and reports no errors.
 #pragma once
 
 #include <QByteArray>
@@ -11,8 +11,8 @@ class QPrinter;
 
 namespace PrintQueue {
 
-// Hands a PDF file over to the queue of the printer, with its document name, paper, sides and
-// copies. False where the queue does not take it.
+// Sends a PDF file to the printer's queue with the document name, paper, sides and copies that the
+// printer is set to. False if the queue does not accept it.
 [[nodiscard]] bool submit(const QPrinter &printer, const QByteArray &pdf);
 
 } // namespace PrintQueue

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A printer with a print position: texts are put on one sheet after the other. What becomes of
-// the sheets (paper, a file, a picture on the screen, a record) is its derived class's.
+// A printer with a print position, which prints texts on one sheet after the other. Derived classes
+// print on a device, draw a preview or record.
 //
-// All measures are inches from the top left corner of a sheet's printable area.
+// All measures are in inches from the top left corner of the printable area.
 #pragma once
 
 #include "platform/PrintFont.h"
@@ -24,27 +24,26 @@ public:
     bool FontItalic = false;
 
     Scale ScaleMode = Scale::Inches;
-    double ScaleLeft = 0; // coordinates of the corner
+    double ScaleLeft = 0; // coordinates of the top left corner
     double ScaleTop = 0;
-    double CurrentX = 0; // where the next text's top left corner comes
+    double CurrentX = 0; // the top left corner of the next text
     double CurrentY = 0;
 
-    // How often a job prints its range, and what the printer itself is set to.
+    // A job prints its range so many times, and the printer itself is set to it as well.
     Integer Copies = 1;
 
     [[nodiscard]] virtual double ScaleWidth() const = 0; // of the printable area
     [[nodiscard]] virtual double ScaleHeight() const = 0;
     // In the current font.
     [[nodiscard]] double TextWidth(QStringView text) const;
-    [[nodiscard]] double TextHeight() const; // of one line, with the space to the next one
+    [[nodiscard]] double TextHeight() const; // from one line to the next
 
-    // The next text goes to the start of the next line, or right behind this one.
+    // `end` says where the next text goes: to the start of the next line, or right after this one.
     void Print(const QString &text, LineEnd end = LineEnd::NextLine);
-    // Ends the sheet, if anything is on it. A sheet comes into being with the first text that can
-    // be seen.
+    // Ends the sheet, if anything is printed on it. A sheet begins with its first visible text.
     void NewPage();
     void EndDoc();
-    // Drops the document: nothing of it is printed.
+    // Drops the document without printing it.
     void KillDoc();
 
 protected:
@@ -58,7 +57,7 @@ protected:
     [[nodiscard]] virtual double lineHeight(const PrintStyle &style) const = 0;
     virtual void beginSheet() = 0; // the first or the next one
     virtual void drawText(QPointF topLeft, const QString &text, const PrintStyle &style) = 0;
-    // The document may be without a sheet.
+    // Also called for a document without sheets.
     virtual void endDocument() = 0;
     virtual void dropDocument() = 0;
 

@@ -12,8 +12,8 @@ public:
     Integer Copies = 1;
     SystemPrinter::Orientation Orientation = SystemPrinter::Orientation::Portrait;
 
-    // Lets the person set up the printer and choose another one; the copies are kept here alone.
-    // False where the person cancelled; the properties are as before then.
+    // Lets the person set up the printer or choose another one. The copies are kept only here.
+    // False if the dialog is cancelled; the properties are unchanged then.
     [[nodiscard]] bool ShowPrinter(QWidget *parent, SystemPrinter &printer)
     {
         const auto copies = printer.showSetup(parent, DialogTitle, Copies);

@@ -23,13 +23,13 @@
 
 namespace {
 
-// The dialog wants a new file for a PDF document. Which file, is asked when there is something to
-// print.
+// Hides the choice of a PDF file, which the program asks for at the time of printing. The dialog
+// insists on a file name.
 void hideFile(QPrintDialog &dialog, const QString &newFile)
 {
     if (auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("filename")))
         box->setText(newFile);
-    // The dialog shows its controls anew, but none in what is hidden.
+    // The dialog shows these controls again, so their parent is hidden instead.
     auto *hidden = new QWidget(&dialog);
     hidden->hide();
     for (const char *name : {"lOutput", "filename", "fileBrowser"})
@@ -84,7 +84,7 @@ void SystemPrinter::setOrientation(Orientation orientation)
 {
     m_device->setPageOrientation(orientation == Orientation::Landscape ? QPageLayout::Landscape
                                                                        : QPageLayout::Portrait);
-    // What the printer cannot reach of the sheet turns with it.
+    // Setting the size again turns the borders that the printer cannot reach.
     m_device->setPageSize(m_device->pageLayout().pageSize());
     measure();
 }
@@ -113,7 +113,7 @@ std::optional<Integer> SystemPrinter::showSetup(QWidget *parent, const QString &
     QPrintDialog dialog(m_device.get(), parent);
     dialog.setWindowTitle(title);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    // The dialog takes it that printing comes next.
+    // Qt calls the button "Print".
     if (auto *buttons = dialog.findChild<QDialogButtonBox *>())
         buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&OK"));
     const QTemporaryDir folder;
@@ -152,7 +152,7 @@ void SystemPrinter::checkQueue()
     const QPrinterInfo printer = QPrinterInfo::printerInfo(m_deviceName);
     if (printer.isNull() || printer.state() == QPrinter::Error)
         throw RunTimeError(RunTimeError::PrinterFault, m_deviceName);
-    // The device kept its former printer if this one was gone when it was selected.
+    // If the printer was missing when it was selected, the device has kept the one before.
     if (m_device->printerName() != m_deviceName)
         select(m_deviceName);
     if (m_device->printerName() != m_deviceName)

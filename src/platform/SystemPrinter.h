@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's printer: one of those that are installed, or a PDF file.
+// The program's printer: an installed printer, or a PDF file.
 //
-// Making it asks the system for its printers, which may take a moment.
+// The constructor asks the system for its printers, which may take a while.
 #pragma once
 
 #include "platform/CommonDialog.h"
@@ -20,16 +20,16 @@ class SystemPrinter final : public Printer
 public:
     enum class Orientation { Portrait = 1, Landscape = 2 };
 
-    // The default printer, or else the first one.
+    // Selects the default printer, or the first one if there is no default.
     SystemPrinter();
     ~SystemPrinter() override;
 
-    // The device name that stands for a PDF file, last of the installed ones.
+    // The device name of the PDF file, the last of the installed printers.
     [[nodiscard]] static QString printToPdf();
     [[nodiscard]] static QStringList installed();
 
     [[nodiscard]] QString DeviceName() const { return m_deviceName; }
-    // Makes an installed printer the current one; paper, orientation and copies stay.
+    // Selects an installed printer. Paper, orientation and copies stay.
     void select(const QString &deviceName);
 
     [[nodiscard]] Orientation orientation() const;
@@ -37,18 +37,17 @@ public:
 
     [[nodiscard]] double ScaleWidth() const override;
     [[nodiscard]] double ScaleHeight() const override;
-    // How texts come out on the current printer and paper; never null.
+    // For the current printer and paper; never null.
     [[nodiscard]] std::shared_ptr<const PrintMetrics> metrics() const { return m_metrics; }
 
-    // The system's dialogs for the current printer, which the first may change for another one.
-    // Nothing or false where the person cancelled. The copies are asked for and returned only: the
-    // printer's own stay.
+    // Qt's dialogs for the current printer; showSetup also lets the person choose another one.
+    // Nothing or false if cancelled. showSetup returns the copies, but does not set them.
     [[nodiscard]] std::optional<Integer> showSetup(QWidget *parent, const QString &title,
                                                    Integer copies);
     [[nodiscard]] bool showPageSetup(QWidget *parent);
 
-    // To be called before a document's first text. False where the person did not say which file
-    // to print to. A printer that is gone or stopped throws RunTimeError PrinterFault.
+    // Call this before the first text of a document. False if the person cancels the choice of a
+    // PDF file. Throws RunTimeError PrinterFault if the printer is missing or stopped.
     [[nodiscard]] bool StartDoc(QWidget *parent, const QString &title);
 
 protected:

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int LongestWait = 20; // milliseconds for the page that is to be shown
+constexpr int LongestWait = 20; // for the page in view, in milliseconds
 constexpr int IdleSlice = 8;
 constexpr int Border = 16; // pixels around the sheet
 constexpr int Step = 40;   // pixels of one step of a scroll bar
@@ -78,7 +78,7 @@ void PagePreview::layOutWhenIdle()
 
 void PagePreview::layOutMore()
 {
-    m_idle.stop(); // what fails is told once
+    m_idle.stop(); // an error is reported once only
     m_pages->layOut(IdleSlice);
     m_idle.start();
     afterLayout();
@@ -162,7 +162,7 @@ void PagePreview::toggleZoom()
 void PagePreview::setZoom(Zoom zoom)
 {
     m_zoom = zoom;
-    // A bar that comes or goes changes the room of the other one.
+    // Scroll bars that come and go would change the size of the viewport.
     const auto policy = zoom == Zoom::WholePage ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn;
     setHorizontalScrollBarPolicy(policy);
     setVerticalScrollBarPolicy(policy);
@@ -279,7 +279,7 @@ void PagePreview::takeKey(QKeyEvent &event)
     QAbstractScrollArea::keyPressEvent(&event); // the arrow keys scroll
 }
 
-// Turns the page where there is nothing left to scroll.
+// Shows the next or previous page when the page in view is scrolled to its end.
 void PagePreview::wheelEvent(QWheelEvent *event)
 {
     const QScrollBar &bar = *verticalScrollBar();

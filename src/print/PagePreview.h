@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One page of a print job after the other as a picture of its sheet: as a whole, or in its actual
-// size.
+// Shows one page of a print job at a time, as a whole or in its actual size.
 #pragma once
 
 #include "platform/WheelSteps.h"
@@ -17,7 +16,7 @@ public:
     enum class Zoom { WholePage, ActualSize };
     enum class Page { First, Previous, Next, Last };
 
-    // Nothing is laid out in idle moments while there is one.
+    // While it exists, no pages are laid out in the background.
     class Pause
     {
     public:
@@ -31,11 +30,11 @@ public:
 
     explicit PagePreview(QWidget *parent = nullptr);
 
-    // Shows other pages in place of those before, at the same page number as far as there is one.
+    // Replaces the pages. The page number stays if the new job has so many pages.
     void setPages(std::unique_ptr<PreviewPages> pages);
-    // Until pages are set again; lays out nothing meanwhile.
+    // Shows no pages and lays out none until they are set again.
     void dropPages();
-    [[nodiscard]] int page() const { return m_page; } // from 1; 0 = there is none
+    [[nodiscard]] int page() const { return m_page; } // from 1; 0 = none
     [[nodiscard]] bool isFirst() const { return m_page <= 1; }
     [[nodiscard]] bool isLast() const;
     // "Page 2 of 7", or "Page 2 of about 7" while the pages are being counted.
@@ -46,7 +45,7 @@ public:
     void toggleZoom();
 
 Q_SIGNALS:
-    // Another page is shown, or more is known of how many there are.
+    // Another page or zoom is shown, or the number of pages is known better.
     void changed();
 
 protected:
@@ -69,12 +68,12 @@ private:
 
     std::unique_ptr<PreviewPages> m_pages;
     int m_page = 0;
-    bool m_toLast = false; // the last page is to be shown when it is known
+    bool m_toLast = false; // go to the last page once it is known
     Zoom m_zoom = Zoom::WholePage;
     QTimer m_idle;
     bool m_paused = false;
     WheelSteps m_wheel;
-    QRectF m_sheet; // on the viewport, not scrolled
+    QRectF m_sheet; // in the viewport when it is not scrolled
     bool m_textsKnown = false;
-    std::vector<PreviewPages::Text> m_texts; // of the page
+    std::vector<PreviewPages::Text> m_texts; // of the page in view
 };

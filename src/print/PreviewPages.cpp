@@ -15,19 +15,19 @@
 struct PreviewPages::Position
 {
     int entry = 0; // index in the pass
-    int pages = 0; // begun before it
+    int pages = 0; // that have begun before the entry
     bool onPage = false;
     double y = 0;
 };
 
-// Prints nowhere: counts the pages and keeps the texts of one.
+// Counts the pages and keeps the texts of one, without printing.
 class PreviewPages::Recorder final : public Printer
 {
 public:
     explicit Recorder(const PrintMetrics &metrics) : m_metrics(metrics) {}
 
     int pages = 0;
-    int keptPage = 0; // 0 = none
+    int keptPage = 0; // whose texts are kept; 0 = none
     std::vector<Text> texts;
 
     [[nodiscard]] Position position(int entry) const
@@ -84,7 +84,7 @@ bool PreviewPages::isComplete() const
 
 void PreviewPages::layOut(int milliseconds)
 {
-    constexpr int EntriesAtATime = 16; // between two looks at the clock
+    constexpr int EntriesAtATime = 16; // before the time is checked
     QElapsedTimer clock;
     clock.start();
     while (!isComplete() && !clock.hasExpired(milliseconds))
@@ -105,12 +105,13 @@ int PreviewPages::count() const
 {
     const auto begun = static_cast<double>(m_pageStart.size());
     const double ofPass = isComplete() ? begun : begun * m_job.entries() / std::max(1, m_laidOut);
-    // Copies of a long list are more than can be counted; one more is still a number.
+    // Copies of a long list may have more pages than an int can count. One more page must not
+    // overflow either.
     constexpr qint64 Most = std::numeric_limits<int>::max() - 1;
     return static_cast<int>(std::min(static_cast<qint64>(std::ceil(ofPass)) * m_copies, Most));
 }
 
-// All passes look the same.
+// All passes have the same pages.
 int PreviewPages::pageOfPass(int page) const
 {
     return isComplete() ? (page - 1) % static_cast<int>(m_pageStart.size()) + 1 : page;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The pages that a print job would give, laid out bit by bit by the code that prints them. What is
-// kept of a page is only where it begins.
+// The pages of a print job, laid out step by step with the code that prints them. Only the start of
+// each page is kept.
 #pragma once
 
 #include "platform/PrintFont.h"
@@ -23,26 +23,26 @@ public:
         PrintStyle style;
     };
 
-    // The list must outlive the object and may not change meanwhile; its current entry stays.
+    // The list must outlive the object and must not change meanwhile. Its current entry stays.
     PreviewPages(std::shared_ptr<const PrintMetrics> metrics, const cVocabList &list,
                  const WordListPrint &job, Integer copies);
     ~PreviewPages();
     Q_DISABLE_COPY_MOVE(PreviewPages)
 
-    // Lays out further pages for about that time.
+    // Lays out more pages for about this time.
     void layOut(int milliseconds);
     [[nodiscard]] bool isComplete() const;
 
     // All pages of the job; an estimate until the layout is complete.
     [[nodiscard]] int count() const;
-    // Whether the page's texts can be had already. Pages count from 1.
+    // Whether the page is laid out. Pages count from 1.
     [[nodiscard]] bool knows(int page) const;
     [[nodiscard]] std::vector<Text> texts(int page) const;
     [[nodiscard]] const PrintMetrics &metrics() const { return *m_metrics; }
 
 private:
     class Recorder;
-    struct Position; // of the print position between two entries
+    struct Position; // the print position between two entries
 
     [[nodiscard]] int pageOfPass(int page) const;
     void layOutEntry();
@@ -52,6 +52,6 @@ private:
     WordListPrint m_job;
     int m_copies;
     std::unique_ptr<Recorder> m_layout;
-    int m_laidOut = 0;                 // entries of the first pass
-    std::vector<Position> m_pageStart; // before the entry in which each page of a pass begins
+    int m_laidOut = 0;                 // entries of the first pass so far
+    std::vector<Position> m_pageStart; // of each page: before the entry in which it begins
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-// What the text is converted to, or the end of the range that it lies beyond.
+// The converted text. A number beyond the range of its type becomes the end of the range.
 template <class Number, class Convert>
 std::optional<Number> converted(const QString &text, Number smallest, Number largest,
                                 Convert convert)

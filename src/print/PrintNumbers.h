@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a person types for the numbers of the print settings.
+// The numbers that are typed in the print dialog.
 //
-// Nothing where the text is no number; a number beyond its type is the nearest one of the type.
+// Nothing if the text is not a number. A number beyond the range of its type becomes the nearest
+// number of that type.
 #pragma once
 
 #include "runtime/Currency.h"
@@ -11,7 +12,7 @@
 [[nodiscard]] std::optional<Currency> marginFromText(const QString &text);
 [[nodiscard]] std::optional<Integer> positionFromText(const QString &text);
 
-// Brought into 1 to NumWords; 1 where the list is empty.
+// The nearest position from 1 to NumWords; 1 if the list is empty.
 [[nodiscard]] Integer positionInList(Integer position, Integer NumWords);
 
 inline constexpr Currency SmallestMargin = 0; // inches

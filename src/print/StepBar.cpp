@@ -10,11 +10,11 @@ StepBar::StepBar(QWidget *parent) : QScrollBar(Qt::Vertical, parent)
 {
     setInvertedAppearance(true);
     setFocusPolicy(Qt::StrongFocus);
-    setFixedSize(22, 34); // beside a text box there is room for the arrows alone
+    setFixedSize(22, 34); // as high as a text box: only the arrows fit
     connect(this, &QAbstractSlider::actionTriggered, this, &StepBar::raiseUpwards);
 }
 
-// A scroll bar's upper arrow goes to smaller numbers even where the largest is at the top.
+// QScrollBar's upper arrow lowers the value, even with an inverted appearance.
 void StepBar::raiseUpwards(int action)
 {
     switch (action) {

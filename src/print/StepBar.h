@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A vertical scroll bar for a number: the largest is at the top, and whatever points upwards, an
-// arrow, a key or the wheel, raises it.
+// A vertical scroll bar for a number, with the largest at the top. The upper arrow, the Up key and
+// the wheel turned upwards raise it.
 #pragma once
 
 #include "platform/WheelSteps.h"

@@ -16,7 +16,7 @@ WordListPrint WordListPrint::chosen()
     WordListPrint job;
     job.frame = {TopMargin.toDouble(), BottomMargin.toDouble(), LeftMargin.toDouble(),
                  RightMargin.toDouble(), PageFrame::Break::ToMargins};
-    // The range may be that of a longer list.
+    // The range may have been set for a longer list.
     job.first = positionInList(FromWord, gVocabList().NumWords());
     job.last = positionInList(ToWord, gVocabList().NumWords());
     if (FromWord <= ToWord)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The printed word list: which entries are printed in which order, and what each looks like.
+// A print job of the word list: which entries it prints in which order, and how they look.
 #pragma once
 
 #include "core/VocabRecord.h"
@@ -12,21 +12,21 @@ class cVocabList;
 
 struct WordListPrint
 {
-    // NumberApart: the number, then the word behind it. NumberWithin: both in one text.
+    // NumberApart prints number and word as two texts, NumberWithin as one.
     enum class Header { WordOnly, NumberApart, NumberWithin };
-    // Where a pass through the range begins: each at the top margin of its page, or the first one
-    // only, and the others in the corner of theirs.
+    // Where a pass through the range begins on its page: at the margins, or (all but the first
+    // pass) in the corner of the printable area.
     enum class Passes { AtMargins, AtCornerAfterTheFirst };
 
     PageFrame frame;
-    Integer first; // list positions; below `first`, `last` makes the range run downwards
+    Integer first; // list positions; if `last` is below `first`, the range runs downwards
     Integer last;
     Header header = Header::NumberWithin;
     Passes passes = Passes::AtMargins;
 
-    // As the print settings of Module1 say.
+    // From the print settings in Module1.
     [[nodiscard]] static WordListPrint chosen();
-    // The whole list with margins of an inch.
+    // The whole list with margins of one inch.
     [[nodiscard]] static WordListPrint wholeList();
 
     [[nodiscard]] int entries() const; // of one pass
@@ -35,9 +35,9 @@ struct WordListPrint
     void startPass(Printer &printer, Integer pass) const;
     void printEntry(Printer &printer, Integer position, const VocabRecord &entry) const;
 
-    // Told how many entries of how many are printed; false cancels.
+    // Called after each entry. False cancels the job.
     using GoOn = std::function<bool(int done, int total)>;
-    // Prints the range Copies times and ends the document; each entry becomes the list's current
-    // one. Cancelled or failed, the document is dropped. Returns whether it was completed.
+    // Prints the range Copies times and ends the document. Each printed entry becomes the list's
+    // current one. A job that is cancelled or fails drops the document. False if cancelled.
     bool print(Printer &printer, cVocabList &list, const GoOn &goOn) const;
 };

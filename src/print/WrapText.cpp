@@ -8,7 +8,7 @@
 
 namespace {
 
-// How many of the first characters are at most that wide together. Looks only some lines ahead.
+// How many characters from the start fit into the width. Measures only some lines ahead.
 qsizetype charactersWithin(const Printer &printer, QStringView text, double width)
 {
     qsizetype fitting = 0;
@@ -30,7 +30,7 @@ struct LineBreak
     qsizetype next; // where the next line begins
 };
 
-// `fitting` characters are within the width, one more is not.
+// `fitting` characters fit into the width, one more does not.
 LineBreak lineBreak(const Printer &printer, QStringView text, qsizetype fitting, double width)
 {
     qsizetype filled = fitting + 1;
@@ -42,7 +42,7 @@ LineBreak lineBreak(const Printer &printer, QStringView text, qsizetype fitting,
     qsizetype end = std::max<qsizetype>(fitting, 1);
     const bool cutsPair =
         end < text.size() && text[end - 1].isHighSurrogate() && text[end].isLowSurrogate();
-    if (cutsPair) // the two halves of a character stay together
+    if (cutsPair) // both surrogates of a character stay on one line
         end += end > 1 ? -1 : 1;
     return {end, end};
 }
@@ -74,7 +74,7 @@ void keepLineOnSheet(Printer &printer, const PageFrame &frame)
         return;
     printer.NewPage();
     printer.CurrentX = frame.left;
-    // A sheet may be shorter than its top margin.
+    // The sheet may be shorter than the top margin.
     printer.CurrentY = std::min(frame.top, std::max(lastTop, 0.0));
 }
 
@@ -82,7 +82,7 @@ void printParagraphs(Printer &printer, QStringView text, const PageFrame &frame)
 {
     while (!text.isEmpty()) {
         const qsizetype lineFeed = text.indexOf(QLatin1Char('\n'));
-        // The character before the line feed is its carriage return.
+        // The character before the line feed is taken for a carriage return.
         const QStringView paragraph =
             lineFeed < 0 ? text : text.first(std::max<qsizetype>(lineFeed - 1, 0));
         text = lineFeed < 0 ? QStringView() : text.sliced(lineFeed + 1);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Paragraphs set between the margins of a sheet, with their line and page breaks.
+// Prints paragraphs between the margins, with line and page breaks.
 #pragma once
 
 #include <QStringView>
 
 class Printer;
 
-// Where text may stand on a sheet, in inches.
+// The margins of a page in inches.
 struct PageFrame
 {
-    // ToMargins: a paragraph that comes to a new sheet goes on at its top and left margins.
-    // ToCorner: it goes on in the sheet's corner, without a top margin.
+    // Where a paragraph continues after a page break: at the top and left margins, or in the corner
+    // of the printable area.
     enum class Break { ToMargins, ToCorner };
 
     double top = 0;
@@ -20,14 +20,14 @@ struct PageFrame
     Break pageBreak = Break::ToMargins;
 };
 
-// Moves to a new sheet where a line would not fit on what is left of this one, margins or not.
+// Begins a new page if a line would not fit into the printable area, whatever the margins.
 void keepLineOnSheet(Printer &printer, const PageFrame &frame);
 
-// Each paragraph of a text, ended by a carriage return and a line feed, from the left margin on.
+// Prints each paragraph from the left margin. Carriage return and line feed separate paragraphs.
 void printParagraphs(Printer &printer, QStringView text, const PageFrame &frame);
 
-// One paragraph from the print position on. A line reaches at least up to the right margin and is
-// broken at its last blank, which is printed on neither line; other leading and trailing blanks
-// stay, but for those of the last line. What has no blank is broken where it would cross the
-// right margin.
+// Prints one paragraph from the print position. A line is filled up to the right margin and broken
+// at its last blank, which is not printed. A line without a blank is broken before the character
+// that would cross the margin. Only the last line is trimmed; other lines keep leading and trailing
+// blanks.
 void printWrapped(Printer &printer, QStringView paragraph, const PageFrame &frame);

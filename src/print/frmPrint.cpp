@@ -68,7 +68,7 @@ void frmPrint::Form_Load()
     m_ui->lstPrinter->setFocus();
 }
 
-// Every change stays, whichever way the dialog is left.
+// Changes stay, however the dialog is closed.
 bool frmPrint::Form_QueryUnload()
 {
     takeTypedText();
@@ -103,7 +103,7 @@ void frmPrint::lstPrinter_Click()
     if (!chosen)
         return;
     {
-        // A click with Ctrl would take the mark away from the current printer.
+        // Ctrl+click would deselect the current printer.
         const QSignalBlocker marking(m_ui->lstPrinter);
         chosen->setSelected(true);
     }
@@ -150,7 +150,7 @@ void frmPrint::cmdPrint_Click()
     takeTypedText();
     bool printed = false;
     tellPrinterError(m_printer, [this, &printed] {
-        const PagePreview::Pause pause(*m_ui->preview); // the job gets all the time
+        const PagePreview::Pause pause(*m_ui->preview); // no layout while the job prints
         printWordList(this, m_printer, WordListPrint::chosen());
         printed = true;
     });

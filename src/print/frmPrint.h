@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The print settings, which take effect as they are made, and beside them the pages that Print
-// would give.
+// The print dialog: settings, which take effect at once, and a preview of the pages.
 #pragma once
 
 #include "platform/DialogForm.h"
@@ -32,13 +31,12 @@ protected:
     void Form_Terminate() override;
 
 private:
-    // A row of the print range: where the setting is typed.
+    // One end of the print range.
     struct Position
     {
         QLineEdit &box;
         Integer &setting;
     };
-    // A margin: where it is typed and stepped.
     struct Margin
     {
         QLineEdit &box;
@@ -46,7 +44,7 @@ private:
         Currency &setting;
     };
 
-    // frmPrint.cpp: the dialog, and what is chosen by a click
+    // frmPrint.cpp: the dialog and the choices
     void connectHandlers();
     void fillPrinters();
     void lstPrinter_Click();
@@ -66,8 +64,8 @@ private:
     void showMargins();
     // txtFromWord_LostFocus and txtToWord_LostFocus
     void txtPosition_LostFocus(const Position &position);
-    // txtTopMargin_LostFocus, txtBottomMargin_LostFocus, txtLeftMargin_LostFocus and
-    // txtRightMargin_LostFocus; vsc_BottomMargin_LostFocus, too
+    // txtTopMargin_LostFocus, txtBottomMargin_LostFocus, txtLeftMargin_LostFocus,
+    // txtRightMargin_LostFocus and vsc_BottomMargin_LostFocus
     void txtMargin_LostFocus(const Margin &margin);
     // vsc_TopMargin_Change, vsc_BottomMargin_Change, vsc_LeftMargin_Change and
     // vsc_RightMargin_Change
@@ -75,7 +73,7 @@ private:
     void vsc_Copies_Change();
     void takeTypedText();
 
-    // frmPrint_Preview.cpp: the pages beside the settings
+    // frmPrint_Preview.cpp: the preview
     void connectPreview();
     void showPreview();
     void showPage();

@@ -13,7 +13,7 @@ using namespace Module1;
 
 namespace {
 
-constexpr int StepsPerInch = 10; // of a margin's scroll bar
+constexpr int StepsPerInch = 10; // of a margin's bar
 
 int stepsOf(Currency margin)
 {
@@ -42,7 +42,7 @@ void frmPrint::connectBoxes()
     for (const Margin &margin : margins()) {
         margin.bar.setRange(stepsOf(SmallestMargin), stepsOf(LargestMargin));
         new LostFocus(&margin.box, [this, margin] { txtMargin_LostFocus(margin); });
-        if (&margin.bar == m_ui->vsc_BottomMargin) // alone among the bars
+        if (&margin.bar == m_ui->vsc_BottomMargin) // the only bar with such a handler
             new LostFocus(&margin.bar, [this, margin] { txtMargin_LostFocus(margin); });
         connect(&margin.bar, &StepBar::valueChanged, this,
                 [this, margin] { runGuarded([this, &margin] { vscMargin_Change(margin); }); });
@@ -56,7 +56,7 @@ void frmPrint::showMargins()
 {
     for (const Margin &margin : margins()) {
         margin.box.setText(margin.setting.toText());
-        // vscMargin_Change would round the margin to tenths.
+        // The handler would round the margin to tenths.
         const QSignalBlocker unchanged(&margin.bar);
         margin.bar.setValue(stepsOf(margin.setting));
     }

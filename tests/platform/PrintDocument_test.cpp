@@ -12,7 +12,7 @@ namespace {
 const PrintedPaper Paper{QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}), 600,
                          u"list"_s};
 
-// Lines of which no two are alike, so that they cannot be made smaller.
+// Draws lines that are all different, so that they hardly compress.
 void drawMuch(QPainter &sheet)
 {
     for (int line = 0; line < 2'000; ++line)
@@ -47,7 +47,7 @@ private Q_SLOTS:
             drawMuch(document.painter());
         };
         QCOMPARE(errorNumberOf(drawSheet), NoRunTimeError);
-        // Only a sheet that is complete is written.
+        // A sheet is written when the next one begins.
         QCOMPARE(errorNumberOf(drawSheet), NoRunTimeError);
         QCOMPARE(errorNumberOf(drawSheet), RunTimeError::OutOfMemory);
         QVERIFY(document.hasSheets());

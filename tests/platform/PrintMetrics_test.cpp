@@ -92,7 +92,7 @@ private Q_SLOTS:
                  metrics.widthOf(u"a b"_s, style(false, false)));
     }
 
-    // Drawn at a quarter of the printer's dots, a text has a quarter of its size there.
+    // At a quarter of the printer's resolution a text has a quarter of its size in dots.
     void aTextIsDrawnWhereItIsMeasured()
     {
         const PrintMetrics metrics({8, 11}, {0, 0, 8, 11}, Resolution);

@@ -102,7 +102,7 @@ private Q_SLOTS:
         m_preview->goTo(PagePreview::Page::Last);
         QVERIFY(m_preview->page() > 1);
         QVERIFY(darkPixelsInTheMiddle() > 0);
-        // The first page is known; its lines end above the middle.
+        // The first page is laid out. Its lines end above the middle.
         m_preview->goTo(PagePreview::Page::First);
         QCOMPARE(darkPixelsInTheMiddle(), 0);
     }
@@ -115,13 +115,13 @@ private Q_SLOTS:
             setPages();
             QVERIFY(!isCounted());
             gVocabList().ClearList();
-            gVocabList().AddVocab(u"word"_s, {}, {}); // too short a list for the job
+            gVocabList().AddVocab(u"word"_s, {}, {}); // the job expects more entries
         }
         DialogAnswers answers;
         answers.expectMsgBox(u"Run-time error '9':\n\nSubscript out of range"_s);
         QTRY_COMPARE(answers.seen(), 1);
         for (int i = 0; i < 100; ++i)
-            QCoreApplication::processEvents(); // idle moments, in which nothing more may fail
+            QCoreApplication::processEvents(); // must not fail again in the background
         QVERIFY(answers.allSeen());
         QVERIFY(!isCounted());
     }
@@ -196,7 +196,7 @@ private Q_SLOTS:
         palette.setColor(QPalette::Window, window);
         m_preview->setPalette(palette);
         const QImage picture = m_preview->viewport()->grab().toImage();
-        // The corner of the view, and the sheet's lower right part, where no text is.
+        // The corner of the viewport, and the lower right part of the sheet, which has no text.
         const QColor ground = picture.pixelColor(2, 2);
         const QColor paper = picture.pixelColor(picture.width() / 2, picture.height() - 40);
         QCOMPARE(paper, QColor(Qt::white));
@@ -212,7 +212,7 @@ private:
         m_preview->setPages(
             std::make_unique<PreviewPages>(metrics, gVocabList(), WordListPrint::chosen(), 1));
     }
-    // Its entries leave the middle of the sheet free.
+    // No text is in the middle of the sheet.
     void makeLongList()
     {
         for (int i = gVocabList().NumWords().toInt(); i < 30'000; ++i)

@@ -20,7 +20,7 @@ std::shared_ptr<const PrintMetrics> metrics()
     return std::make_shared<PrintMetrics>(QSizeF(8, 5), QRectF(0.25, 0.25, 7.5, 4.5), 600);
 }
 
-// What is really printed with these metrics.
+// What a job really prints with these metrics.
 class PrintedPages final : public Printer
 {
 public:
@@ -79,7 +79,7 @@ private Q_SLOTS:
         for (int i = 1; i <= 60; ++i)
             gVocabList().AddVocab(u"word %1"_s.arg(i), prose.repeated(i % 7),
                                   prose.repeated(i % 5) + u"\r\n\r\nend"_s);
-        // One that fills pages alone.
+        // An entry that fills several pages.
         gVocabList().AddVocab(u"long"_s, prose.repeated(60), prose);
         gVocabList().AddVocab(u"last"_s, {}, {});
         gVocabList().CurrentWord(3);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         for (int i = 0; i < 2'000; ++i)
             gVocabList().AddVocab(u"word"_s, u"line\r\n"_s.repeated(40), {});
         ToWord = 2'000;
-        // A sheet that holds a line and no more.
+        // A sheet of one line.
         const auto slip = std::make_shared<PrintMetrics>(QSizeF(8, 0.3), QRectF(0, 0, 8, 0.3), 600);
         TopMargin = BottomMargin = 0;
         PreviewPages preview(slip, gVocabList(), WordListPrint::chosen(), 32767);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The print dialog over a list of "w1", "w2", … as its tests use it.
+// The print dialog with a list of "w1", "w2", … for its tests.
 #pragma once
 
 #include "core/ListTools.h"
@@ -38,7 +38,7 @@ public:
         open();
     }
 
-    // Shows a new dialog in place of the one before.
+    // Replaces the dialog by a new one and shows it.
     void open()
     {
         m_dialog = std::make_unique<frmPrint>(printer);
@@ -67,7 +67,7 @@ public:
     {
         Controls::type(control<QLineEdit>(box), text);
     }
-    // Types and goes on to the next control.
+    // Types and moves the focus to the next control.
     void typeAndLeave(const char *box, const QString &text)
     {
         type(box, text);

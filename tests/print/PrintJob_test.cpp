@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How the printing commands end where an error stops them.
+// How printing commands end on errors.
 #include "print/PrintJob.h"
 
 #include "platform/SystemPrinter.h"

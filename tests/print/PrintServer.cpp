@@ -33,7 +33,7 @@ Printcap
 FileDevice Yes
 )";
 
-// Whoever reaches the socket may do everything.
+// Everyone who can open the socket has all rights.
 constexpr const char *Rights = R"(Listen FOLDER/socket
 Browsing No
 WebInterface No
@@ -57,7 +57,7 @@ DefaultAuthType None
 
 PrintServer::PrintServer()
 {
-    // Its filters run as a user who has no rights of their own here.
+    // The server's filters run as another user.
     QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                                QFile::ExeGroup | QFile::ExeOther);
     configure();

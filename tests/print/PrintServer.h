@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A print server of the test's own, with queues that print into files. The system's server is not
-// touched. It ends with the object, and with this process.
+// A print server for the test, with queues that print into files. It does not touch the system's
+// server, and ends with the object or with this process.
 #pragma once
 
 #include <QProcess>
@@ -10,8 +10,7 @@
 class PrintServer final
 {
 public:
-    // Programs and libraries of this process take it for the system's server from now on, so it
-    // has to be there before they ask for one.
+    // Sets CUPS_SERVER for this process. Create the server before anything asks for printers.
     PrintServer();
     ~PrintServer();
     Q_DISABLE_COPY_MOVE(PrintServer)
@@ -22,9 +21,9 @@ public:
     void tell(const QString &command, const QString &queue);
     void stop();
 
-    // How many jobs the queue was ever given.
+    // All jobs that the queue has received.
     [[nodiscard]] qsizetype jobs(const QString &queue) const;
-    // Waits for the end of the queue's jobs. Where the last one was printed to.
+    // Waits until the queue has printed its jobs. Returns the file of the last one.
     [[nodiscard]] QString printed(const QString &queue) const;
 
 private:
@@ -36,5 +35,5 @@ private:
     QProcess m_process;
 };
 
-// What a program prints on its standard output. Ends the test where it fails.
+// The standard output of a program. Ends the test if the program fails.
 [[nodiscard]] QByteArray outputOf(const QString &program, const QStringList &arguments);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lists printed through the dialog into real queues, and what comes out of them.
+// Prints lists through the dialog into real queues and reads the result.
 #include "print/PrintForm.h"
 #include "print/PrintServer.h"
 #include "print/PrintedPages.h"
@@ -15,21 +15,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What the test's own driver says of its A4 sheet, in points.
+// The A4 sheet of Paper.ppd, in points.
 constexpr QSizeF Sheet(595, 842);
 constexpr QMarginsF Borders(18, 54, 30, 36); // left, top, right, bottom
-// On a sheet that a queue turns either way.
+// In landscape, where the queue may turn the sheet to either side.
 constexpr QMarginsF TurnedBorders(54, 30, 54, 30);
 constexpr double PointsPerInch = 72;
 constexpr double FontSize = 10;
-constexpr double Nearly = 1; // of positions, in points
+constexpr double Nearly = 1; // tolerance in points
 
 const QString LongWord = u"Donaudampfschifffahrtsgesellschaft"_s.repeated(6);
 
 const QString Paper = u"Paper"_s;
 const QString PostScript = u"PostScript"_s;
 
-// The dialog before a list, printing into a queue.
+// The print dialog with a list and a queue.
 class QueueForm final : public PrintForm
 {
 public:
@@ -68,7 +68,7 @@ std::vector<VocabRecord> frenchWords()
             {u"œuvre"_s, u"a work"_s, u"Ses œuvres coûtent 20 €."_s}};
 }
 
-// No file of this process can grow beyond a few bytes while there is one.
+// While it exists, no file of this process can grow beyond a few bytes.
 class SmallFiles final
 {
 public:
@@ -101,7 +101,7 @@ QStringList textsOf(const std::vector<PrintedWord> &printed)
     return texts;
 }
 
-// Where a box on the upright sheet is for who holds the sheet to read it.
+// A box on the portrait sheet as seen when the sheet is turned to landscape.
 QRectF turned(const QRectF &box)
 {
     return {Sheet.height() - box.bottom(), box.left(), box.height(), box.width()};
@@ -202,7 +202,7 @@ private Q_SLOTS:
                                 .marginsRemoved(QMarginsF(0.4, 1.5, 1.1, 0.7) * PointsPerInch);
         double left = body.right();
         double right = 0;
-        int begun = 0; // pages
+        int begun = 0; // pages so far
         for (const PrintedWord &word : printed) {
             QCOMPARE(word.sheet, Sheet);
             const QRectF box = landscape ? turned(word.box) : word.box;
@@ -216,7 +216,7 @@ private Q_SLOTS:
                 QVERIFY(std::abs(box.top() - body.top()) < Nearly);
         }
         QVERIFY(std::abs(left - body.left()) < Nearly);
-        // The long word leaves room for less than one of its letters.
+        // A line of the long word ends less than one letter before the margin.
         QVERIFY(right > body.right() - FontSize);
     }
 
@@ -252,7 +252,7 @@ private Q_SLOTS:
         QCOMPARE(breaks, 4);
     }
 
-    // As often as the program repeats the range, times as often as the queue repeats the job.
+    // The program repeats the range, and the queue repeats the job.
     void copiesAreMadeByTheProgramAndByTheQueue()
     {
         QueueForm form(Paper, frenchWords());
@@ -338,7 +338,7 @@ private Q_SLOTS:
         m_server->removeQueue(queue);
     }
 
-    // As when the disk for temporary files is full.
+    // As on a full disk for temporary files.
     void aDocumentThatWasNotWrittenAsAWholeIsNotPrinted()
     {
         QueueForm form(Paper, frenchWords());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A printed PDF file read back with poppler's tools.
+// Reads a printed PDF file with poppler's tools.
 #pragma once
 
 #include "print/PrintServer.h"
@@ -10,7 +10,7 @@
 
 #include <vector>
 
-// A word as its reader sees it; the box in points from the top left corner of the sheet.
+// A word on a page; its box is in points from the top left corner of the sheet.
 struct PrintedWord
 {
     int page = 0; // from 1

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A printer whose characters differ in width and whose styles differ in line height, so that it
-// shows what was measured in which style, empty lines included.
+// A printer whose characters have different widths and whose styles have different line heights.
+// So its places show in which style a text or an empty line was measured.
 #pragma once
 
 #include "platform/Printer.h"
@@ -16,11 +16,11 @@ public:
     // The printable area in units.
     explicit UnevenPrinter(int width, int height = 100'000) : m_area(width * Unit, height * Unit) {}
 
-    // "sheet: x,y text" of each text that can be seen, in units.
+    // "sheet: x,y text" of each visible text, in units.
     QStringList places;
     int sheets = 0;
 
-    // In units; bold characters are a unit wider. An accent of its own takes no room.
+    // In units. Bold characters are one unit wider; a combining accent has no width.
     [[nodiscard]] static int widthOf(QChar c, bool bold)
     {
         switch (c.unicode()) {

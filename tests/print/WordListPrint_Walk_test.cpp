@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which entries a job walks through, in which styles, from which place of a page.
+// Which entries a job prints, in which styles and at which places.
 #include "print/WordListPrint.h"
 
 #include "core/ListTools.h"
@@ -34,7 +34,7 @@ QStringList headersOf(const WordListPrint &job)
     return headers(printer);
 }
 
-// The positions that become current one after the other.
+// The positions that become the current one, in order.
 QList<int> walkOf(const WordListPrint &job, Integer copies = 1)
 {
     RecordingPrinter printer;
@@ -116,7 +116,7 @@ private Q_SLOTS:
         FromWord = from;
         ToWord = to;
         QTEST(headersOf(WordListPrint::chosen()), "headers");
-        // The settings themselves wait for the longer list.
+        // The settings keep the longer range.
         QCOMPARE(FromWord, Integer(from));
         QCOMPARE(ToWord, Integer(to));
     }
@@ -132,8 +132,8 @@ private Q_SLOTS:
         PrintItemNumber = true;
         UnevenPrinter printer(100);
         QVERIFY(WordListPrint::chosen().print(printer, gVocabList(), GoOn));
-        // A bold line is 5 high, a regular one 2, an italic one and the empty one after it 3; the
-        // number " 1. " is 12 wide in bold.
+        // Bold lines are 5 units high, regular ones 2, italic and empty ones 3. The number " 1. "
+        // is 12 units wide in bold.
         QCOMPARE(printer.places,
                  QStringList({u"1: 0,0  1. "_s, u"1: 12,0 wi:  "_s, u"1: 0,5 a"_s, u"1: 0,9 b"_s,
                               u"1: 0,11 i"_s, u"1: 0,14 w"_s, u"1: 0,20  2. "_s, u"1: 12,20 a:  "_s,
@@ -156,7 +156,7 @@ private Q_SLOTS:
 
     void aHeaderIsPrintedBelowTheBottomMarginAndItsTextsOnTheNextPage()
     {
-        // Lines begin down to the 2nd; the 4th is the sheet's last.
+        // From 0: paragraphs may begin on line 2 at the lowest, line 4 is the last of the sheet.
         RecordingPrinter printer(40, 5);
         FromWord = 1;
         ToWord = 2;
@@ -170,7 +170,7 @@ private Q_SLOTS:
 
     void aHeaderOfTheFixedLayoutThatHasNoRoomGoesToTheMarginsOfTheNextSheet()
     {
-        // Texts begin down to the 9th line, the 12th is the sheet's last.
+        // From 0: paragraphs may begin on line 9 at the lowest, line 12 is the last of the sheet.
         RecordingPrinter printer(40, 13);
         fill(3);
         QVERIFY(WordListPrint::wholeList().print(printer, gVocabList(), GoOn));
@@ -178,7 +178,8 @@ private Q_SLOTS:
                  QStringList({u"1: 8,4  1. w1:  "_s, u"1: 8,5 d1"_s, u"1: 8,6 s1"_s,
                               u"1: 8,8  2. w2:  "_s, u"1: 8,9 d2"_s, u"2: 0,0 s2"_s,
                               u"2: 8,2  3. w3:  "_s, u"2: 8,3 d3"_s, u"2: 8,4 s3"_s}));
-        // Empty texts bring a header to the foot: the empty line after it is the last that fits.
+        // Without texts a header comes to the foot of the sheet, with the last empty line that
+        // fits.
         gVocabList().ClearList();
         for (int i = 1; i <= 6; ++i)
             gVocabList().AddVocab(u"w%1"_s.arg(i), {}, {});
@@ -234,7 +235,7 @@ private Q_SLOTS:
         RecordingPrinter printer;
         printer.Copies = 3;
         QVERIFY(WordListPrint::wholeList().print(printer, gVocabList(), GoOn));
-        // Each line is put at the left margin; the top margin is the first pass's alone.
+        // Each line begins at the left margin. Only the first pass begins at the top margin.
         QCOMPARE(printer.places(),
                  QStringList({u"1: 8,4  1. w1:  "_s, u"1: 8,5 d1"_s, u"1: 8,6 s1"_s,
                               u"2: 8,0  1. w1:  "_s, u"2: 8,1 d1"_s, u"2: 8,2 s1"_s,

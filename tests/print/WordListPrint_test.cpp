@@ -131,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(WordListPrint::wholeList().print(printer, gVocabList(), goOn));
         QCOMPARE(printer.places().mid(0, 3),
                  QStringList({u"1: 8,4  1. w1:  "_s, u"1: 8,5 d1"_s, u"1: 8,6 s1"_s}));
-        // Below the bottom margin a header is printed still; a paragraph goes to the next corner.
+        // A header is printed below the bottom margin, too; a paragraph goes to the next corner.
         QCOMPARE(printer.places().mid(6, 5),
                  QStringList({u"1: 8,12  3. w3:  "_s, u"2: 0,0 d3"_s, u"2: 8,1 s3"_s,
                               u"2: 8,3  4. w4:  "_s, u"2: 8,4 d4"_s}));

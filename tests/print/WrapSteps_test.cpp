@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The wrapping of random paragraphs against the plainest way to do it: character by character.
+// Compares the wrapping of random paragraphs with wrapping character by character.
 #include "print/WrapText.h"
 
 #include "print/UnevenPrinter.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr double Unit = UnevenPrinter::Unit;
 constexpr QChar Blank = u' ';
 
-// Fills the line until it is as wide as the room, then backs up over its last blank.
+// Fills the line up to the width, then goes back before its last blank.
 QString takeLine(const Printer &printer, QString &unprinted, double width)
 {
     const QString text = unprinted;
@@ -31,7 +31,7 @@ QString takeLine(const Printer &printer, QString &unprinted, double width)
             return line;
         unprinted.prepend(last);
     }
-    // Without a blank the line ends behind the last character that fits.
+    // Without a blank the line ends after the last character that fits.
     qsizetype end = 1;
     while (end < text.size() && printer.TextWidth(text.first(end + 1)) <= width)
         ++end;
@@ -115,7 +115,7 @@ private Q_SLOTS:
     {
         UnevenPrinter printer(10);
         printWrapped(printer, u"wia\u0301a ia"_s, {});
-        // The blank behind it is beyond the width: it begins the last line and goes.
+        // The blank after it is beyond the width. It begins the last line, which is trimmed.
         QCOMPARE(printer.places, QStringList({u"1: 0,0 wia\u0301a"_s, u"1: 0,2 ia"_s}));
     }
 
@@ -130,7 +130,7 @@ private Q_SLOTS:
     void blanksAloneAreBrokenToo()
     {
         UnevenPrinter printer(4);
-        // Three lines of which nothing can be seen, the last of them trimmed.
+        // Three lines of blanks, the last one trimmed.
         printWrapped(printer, u"       "_s, {});
         QCOMPARE(printer.places, QStringList());
         QCOMPARE(printer.CurrentY, 4 * UnevenPrinter::RegularHeight * Unit);
@@ -154,7 +154,7 @@ private Q_SLOTS:
     {
         QFETCH(int, y);
         UnevenPrinter printer(8, 20);
-        // A line is printed down to 8 units from the top.
+        // Lines begin no lower than 8 units from the top.
         const PageFrame frame{3 * Unit, 12 * Unit, Unit, 2 * Unit};
         printer.CurrentX = Unit;
         printer.CurrentY = y * Unit;
@@ -169,7 +169,7 @@ private Q_SLOTS:
         printer.CurrentX = 1;
         printer.CurrentY = 1;
         printParagraphs(printer, u"aa aaa bbb ccc ddd eee fff ggg hhh iii"_s, frame);
-        // Lines are 8 units wide and begin down to 14 units from the top.
+        // Lines are 8 units wide and begin no lower than 14 units from the top.
         QCOMPARE(printer.places.mid(0, 4), QStringList({u"1: 8,8 aa"_s, u"1: 8,10 aaa"_s,
                                                         u"1: 8,12 bbb"_s, u"1: 8,14 ccc"_s}));
         QCOMPARE(printer.places.mid(4),

@@ -12,7 +12,7 @@ namespace {
 constexpr double Character = RecordingPrinter::CharacterWidth;
 constexpr double Line = RecordingPrinter::LineHeight;
 
-// The lines of a paragraph that has room for so many characters.
+// The lines of a paragraph in a frame of so many characters.
 QStringList wrapped(const QString &text, int characters)
 {
     RecordingPrinter printer(characters, 1000);
@@ -43,8 +43,8 @@ private Q_SLOTS:
         row("one too many", u"abcd fghijk"_s, {u"abcd"_s, u"fghijk"_s});
         row("the blank is the one that reaches the width", u"abcdefghi k"_s,
             {u"abcdefghi"_s, u"k"_s});
-        // A line that is just as wide as the room counts as filled: the blank behind it is the
-        // next line's.
+        // A line that is exactly as wide as the frame is full: the blank after it belongs to the
+        // next line.
         row("a word that fills the line after a blank", u"abcd fghij klm"_s,
             {u"abcd"_s, u"fghij klm"_s});
         row("trimmed where it fits", u"  abc  "_s, {u"abc"_s});
@@ -132,7 +132,7 @@ private Q_SLOTS:
     {
         RecordingPrinter printer(Characters, 6);
         const PageFrame frame{Line, 3 * Line, Character, 0};
-        // On the margin itself a line is still printed.
+        // A line that begins exactly on the margin is still printed.
         printer.CurrentY = 2 * Line;
         printParagraphs(printer, u"a\r\nb\r\nc\r\nd"_s, frame);
         QCOMPARE(printer.places(),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the print dialog looks like, and its use by keyboard.
+// Layout, colours and keyboard use of the print dialog.
 #include "platform/Appearance.h"
 #include "print/PrintForm.h"
 #include "support/FormTest.h"
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// All controls but the frames around them and the parts that they consist of.
+// All visible controls, without frames and without parts of controls.
 QList<QWidget *> controlsOf(const QWidget &dialog)
 {
     QList<QWidget *> controls;
@@ -51,7 +51,7 @@ double contrast(const QColor &a, const QColor &b)
     return (light + 0.05) / (dark + 0.05);
 }
 
-// Of the colour that covers most of the picture and the one that differs most from it.
+// Between the most frequent colour and the one that differs most from it.
 double contrastIn(const QImage &picture)
 {
     std::map<QRgb, int> pixels;
@@ -76,7 +76,7 @@ QPalette darkPalette()
     return palette;
 }
 
-// The application's font and palette while it lives.
+// Sets the application's font and palette while it exists.
 class Looks final
 {
 public:
@@ -185,7 +185,7 @@ private Q_SLOTS:
                                  qobject_cast<const QListWidget *>(control);
             if (!hasText)
                 continue;
-            // Inside the border of a button or a box.
+            // Without the border of a button or box.
             const QRect inside = placeOf(*control).adjusted(3, 3, -3, -3);
             const double read = contrastIn(picture.copy(inside));
             QVERIFY2(read >= (control->isEnabled() ? 4.5 : 2.5),
@@ -199,7 +199,7 @@ private Q_SLOTS:
         form.click("optSubset");
         form.control<QWidget>("lstPrinter").setFocus();
         const QStringList order = Controls::tabRound(Qt::Key_Tab);
-        // Of the option buttons only the chosen one; of the page buttons those that lead on.
+        // Only the checked option buttons and the enabled page buttons can have the focus.
         QCOMPARE(order,
                  QStringList({u"lstPrinter"_s,      u"optPortrait"_s,        u"txtCopies"_s,
                               u"vsc_Copies"_s,      u"optSubset"_s,          u"txtFromWord"_s,

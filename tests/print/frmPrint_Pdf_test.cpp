@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Print to PDF through the real dialog, the file read back with poppler's tools.
+// Prints to PDF through the dialog and reads the file with poppler's tools.
 #include "platform/PrintMetrics.h"
 #include "print/PreviewPages.h"
 #include "print/PrintForm.h"
@@ -81,7 +81,7 @@ private:
     QString m_path;
 };
 
-// What the preview has on each page, word by word.
+// The words on each page of the preview.
 std::vector<QStringList> previewOf(SystemPrinter &printer)
 {
     PreviewPages preview(printer.metrics(), gVocabList(), WordListPrint::chosen(), printer.Copies);
@@ -178,7 +178,7 @@ private Q_SLOTS:
         const QSizeF sheet = pdf.pages.front().size;
         QVERIFY(pdf.pages.size() > 2);
         QCOMPARE(pdf.words.front().text, u"entry1:"_s);
-        // The line's top is somewhat above the box that is told.
+        // The top of the line is slightly above the box that pdftotext reports.
         QVERIFY(std::abs(pdf.words.front().place.left() - (area.left() + 1.5)) < 0.02);
         QVERIFY(std::abs(pdf.words.front().place.top() - (area.top() + 1)) < 0.06);
         constexpr double Line = 0.17;
@@ -187,7 +187,7 @@ private Q_SLOTS:
             QVERIFY2(word.place.left() >= area.left() + 1.5 - 0.02, text);
             QVERIFY2(word.place.right() <= area.right() - 1.2 + 0.02, text);
             QVERIFY2(word.place.top() >= area.top() + 1 - 0.06, text);
-            // A line begins on the bottom margin at the latest; a header a line or two below.
+            // Lines begin at the bottom margin at the latest, a header up to two lines below.
             QVERIFY2(word.place.top() <= area.bottom() - 0.8 + 2 * Line, text);
         }
         QVERIFY(sheet.width() < sheet.height());
@@ -271,7 +271,7 @@ private Q_SLOTS:
     void aFileThatCannotBeWrittenIsTold()
     {
         PrintForm form;
-        // No file can be made here, whoever asks.
+        // Nobody can create a file here.
         const QString path = u"/sys/list.pdf"_s;
         form.answers.chooseFile(path);
         form.answers.expectAnyMsgBox(QMessageBox::Ok, [path](QMessageBox &box) {
@@ -281,7 +281,7 @@ private Q_SLOTS:
         });
         form.click("cmdPrint");
         QVERIFY(form.answers.allSeen());
-        // Nothing is lost: another file can be chosen at once.
+        // The dialog stays open for another file.
         QVERIFY(form.dialog().isVisible());
         QCOMPARE(gVocabList().NumWords(), Integer(20));
         const Pdf pdf(print(form));
@@ -300,7 +300,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, old);
         PrintForm form;
         fillWithProse(150);
-        // So long that only Cancel ends it.
+        // Only Cancel ends such a long job.
         form.control<StepBar>("vsc_Copies").setValue(32767);
         const QString path = form.path(u"list.pdf"_s);
         form.answers.chooseFile(path);
@@ -319,7 +319,7 @@ private Q_SLOTS:
         QVERIFY(form.answers.allSeen());
         QCOMPARE(contentOf(path), old);
         QCOMPARE(pdfFiles(form).size(), old.isEmpty() ? 0 : 1);
-        // What was set up stays, and the printer prints again.
+        // The settings stay, and the next job is printed.
         form.printer.Copies = 1;
         ToWord = 2;
         form.open();
@@ -342,7 +342,7 @@ private Q_SLOTS:
     }
 
 private:
-    // Everything that a job of the whole list in its order says.
+    // The text of a job of the whole list.
     static QString contentText()
     {
         QString text;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the print dialog makes of the settings: at its opening, while boxes and bars are used, and
-// after it is gone.
+// The settings of the print dialog: when it opens, while it is used, and after it is closed.
 #include "print/PrintForm.h"
 #include "support/FormTest.h"
 
@@ -257,7 +256,7 @@ private Q_SLOTS:
         QCOMPARE(ToWord, Integer(20));
         for (const char *name : {"txtFromWord", "txtToWord", "lblFrom", "lblTo"})
             QVERIFY2(!form.isEnabled(name), name);
-        // The boxes still show what was chosen before.
+        // The boxes still show the range before.
         QCOMPARE(form.text("txtFromWord"), u"3"_s);
         QCOMPARE(form.text("txtToWord"), u"7"_s);
         form.click("optSubset");
