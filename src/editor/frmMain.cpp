@@ -48,9 +48,6 @@ frmMain::~frmMain() = default;
 
 void frmMain::connectHandlers()
 {
-    const auto onClick = [this](QPushButton *button, void (frmMain::*handler)()) {
-        connect(button, &QPushButton::clicked, this, guarded(this, handler));
-    };
     onClick(m_ui->cmdNewWord, &frmMain::cmdNewWord_Click);
     onClick(m_ui->cmdAdd, &frmMain::cmdAdd_Click);
     onClick(m_ui->cmdAbort, &frmMain::cmdAbort_Click);

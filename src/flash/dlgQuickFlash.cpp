@@ -29,9 +29,6 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
         policy.setRetainSizeWhenHidden(true);
         button->setSizePolicy(policy);
     }
-    const auto onClick = [this](QPushButton *button, void (dlgQuickFlash::*handler)()) {
-        connect(button, &QPushButton::clicked, this, guarded(this, handler));
-    };
     onClick(m_ui->cmdNext, &dlgQuickFlash::cmdNext_Click);
     onClick(m_ui->cmdPrevious, &dlgQuickFlash::cmdPrevious_Click);
     onClick(m_ui->cmdAutoFlash, &dlgQuickFlash::cmdAutoFlash_Click);

@@ -29,12 +29,9 @@ dlgGameOver::dlgGameOver(Music &music, QWidget *parent)
 {
     m_ui->setupUi(this);
     makeRows();
-    connect(m_ui->cmdEnter, &QPushButton::clicked, this,
-            guarded(this, &dlgGameOver::cmdEnter_Click));
-    connect(m_ui->cmdReset, &QPushButton::clicked, this,
-            guarded(this, &dlgGameOver::cmdReset_Click));
-    connect(m_ui->cmdClose, &QPushButton::clicked, this,
-            guarded(this, &dlgGameOver::cmdClose_Click));
+    onClick(m_ui->cmdEnter, &dlgGameOver::cmdEnter_Click);
+    onClick(m_ui->cmdReset, &dlgGameOver::cmdReset_Click);
+    onClick(m_ui->cmdClose, &dlgGameOver::cmdClose_Click);
 }
 
 dlgGameOver::~dlgGameOver() = default;

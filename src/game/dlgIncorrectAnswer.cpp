@@ -19,12 +19,9 @@ dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgIncorrectAnswer>())
 {
     m_ui->setupUi(this);
-    connect(m_ui->cmdOK, &QPushButton::clicked, this,
-            guarded(this, &dlgIncorrectAnswer::cmdOK_Click));
-    connect(m_ui->cmdUp, &QPushButton::clicked, this,
-            guarded(this, &dlgIncorrectAnswer::cmdUp_Click));
-    connect(m_ui->cmdDown, &QPushButton::clicked, this,
-            guarded(this, &dlgIncorrectAnswer::cmdDown_Click));
+    onClick(m_ui->cmdOK, &dlgIncorrectAnswer::cmdOK_Click);
+    onClick(m_ui->cmdUp, &dlgIncorrectAnswer::cmdUp_Click);
+    onClick(m_ui->cmdDown, &dlgIncorrectAnswer::cmdDown_Click);
     // For a word with letters that the keyboard lacks.
     auto *copy = new QAction(QStringLiteral("&Copy Word"), m_ui->lblAnswerIs);
     connect(copy, &QAction::triggered, this,

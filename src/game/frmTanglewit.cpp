@@ -43,9 +43,6 @@ frmTanglewit::~frmTanglewit() = default;
 
 void frmTanglewit::connectHandlers()
 {
-    const auto onClick = [this](QPushButton *button, void (frmTanglewit::*handler)()) {
-        connect(button, &QPushButton::clicked, this, guarded(this, handler));
-    };
     onClick(m_ui->cmdStart, &frmTanglewit::cmdStart_Click);
     onClick(m_ui->cmdEnter, &frmTanglewit::cmdEnter_Click);
     onClick(m_ui->cmdRestart, &frmTanglewit::cmdRestart_Click);

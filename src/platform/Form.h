@@ -8,6 +8,7 @@
 
 #include "platform/Guarded.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QFocusEvent>
 #include <QShowEvent>
@@ -19,6 +20,14 @@ public:
     using Window::Window;
 
 protected:
+    // Connects the button's clicks with the form's handler, guarded:
+    //   onClick(m_ui->cmdAdd, &frmMain::cmdAdd_Click);
+    template <class Class> void onClick(QAbstractButton *button, void (Class::*handler)())
+    {
+        Class *const form = static_cast<Class *>(this);
+        QObject::connect(button, &QAbstractButton::clicked, form, guarded(form, handler));
+    }
+
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_GotFocus() {}

@@ -30,9 +30,6 @@ frmPrint::~frmPrint() = default;
 
 void frmPrint::connectHandlers()
 {
-    const auto onClick = [this](QAbstractButton *button, void (frmPrint::*handler)()) {
-        connect(button, &QAbstractButton::clicked, this, guarded(this, handler));
-    };
     onClick(m_ui->optPortrait, &frmPrint::optPortrait_Click);
     onClick(m_ui->optLandscape, &frmPrint::optLandscape_Click);
     onClick(m_ui->optPrintAllWords, &frmPrint::optPrintAllWords_Click);

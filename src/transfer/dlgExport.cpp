@@ -76,9 +76,6 @@ dlgExport::dlgExport(const QString &startFolder, QWidget *parent)
     m_ui->setupUi(this);
     new LostFocus(m_ui->txtStart, [this] { txtStart_LostFocus(); });
     new LostFocus(m_ui->txtEnd, [this] { txtEnd_LostFocus(); });
-    const auto onClick = [this](QPushButton *button, void (dlgExport::*handler)()) {
-        connect(button, &QPushButton::clicked, this, guarded(this, handler));
-    };
     onClick(m_ui->cmdBrowse, &dlgExport::cmdBrowse_Click);
     onClick(m_ui->cmdOk, &dlgExport::cmdOK_Click);
     onClick(m_ui->cmdCancel, &dlgExport::cmdCancel_Click);

@@ -27,9 +27,6 @@ dlgWordExist::dlgWordExist(QWidget *parent)
 {
     m_ui->setupUi(this);
     restoreGeometry(lastGeometry());
-    const auto onClick = [this](QPushButton *button, void (dlgWordExist::*handler)()) {
-        connect(button, &QPushButton::clicked, this, guarded(this, handler));
-    };
     onClick(m_ui->cmdYes, &dlgWordExist::cmdYes_Click);
     onClick(m_ui->cmdNo, &dlgWordExist::cmdNo_Click);
     onClick(m_ui->cmdYesToAll, &dlgWordExist::cmdYesToAll_Click);

@@ -8,6 +8,7 @@
 
 #include <QDialog>
 #include <QMainWindow>
+#include <QPushButton>
 
 #include <utility>
 
@@ -52,6 +53,23 @@ private:
 };
 
 using Window = NotingForm<Form<QWidget>>;
+
+// A form with a button whose handler counts the clicks and fails at the first one.
+class ClickedForm final : public Form<QWidget>
+{
+public:
+    ClickedForm() { onClick(&button, &ClickedForm::button_Click); }
+
+    QPushButton button{this};
+    int clicks = 0;
+
+private:
+    void button_Click()
+    {
+        if (++clicks == 1)
+            throw RunTimeError(RunTimeError::SubscriptOutOfRange);
+    }
+};
 
 const QStringList Unloading = {QStringLiteral("QueryUnload"), QStringLiteral("Unload"),
                                QStringLiteral("Terminate")};
@@ -218,6 +236,18 @@ private Q_SLOTS:
         QVERIFY(answers.allSeen());
         QVERIFY(form.isVisible());
         QVERIFY(form.close());
+    }
+
+    void anErrorInTheHandlerOfAClickIsReported()
+    {
+        DialogAnswers answers;
+        ClickedForm form;
+        showActive(form);
+        answers.expectMsgBox(Report);
+        QTest::mouseClick(&form.button, Qt::LeftButton);
+        QVERIFY(answers.allSeen());
+        QTest::mouseClick(&form.button, Qt::LeftButton);
+        QCOMPARE(form.clicks, 2);
     }
 
     void aDialogAndAMainWindowAreFormsToo()
