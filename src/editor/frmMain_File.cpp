@@ -7,6 +7,8 @@
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 
+#include <QScopeGuard>
+
 #include <utility>
 
 using namespace Module1;
@@ -15,26 +17,14 @@ namespace {
 
 const QString ListFilter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*");
 
-// Puts the open list's name back where what it was changed for fails.
-class FileNameKeeper
+// Puts the open list's name back at the end of the scope, unless it is dismissed.
+auto fileNameRestorer()
 {
-public:
-    FileNameKeeper() = default;
-    Q_DISABLE_COPY_MOVE(FileNameKeeper)
-    ~FileNameKeeper()
-    {
-        if (m_done)
-            return;
-        gFileName = m_fileName;
-        gFileTitle = m_fileTitle;
-    }
-    void done() { m_done = true; }
-
-private:
-    QString m_fileName = gFileName;
-    QString m_fileTitle = gFileTitle;
-    bool m_done = false;
-};
+    return qScopeGuard([fileName = gFileName, fileTitle = gFileTitle] {
+        gFileName = fileName;
+        gFileTitle = fileTitle;
+    });
+}
 
 } // namespace
 
@@ -67,11 +57,11 @@ void frmMain::mnuSaveAs_Click()
         m_fileDialog.FileName = lastUsed;
         return;
     }
-    FileNameKeeper keeper;
+    auto restorer = fileNameRestorer();
     gFileName = m_fileDialog.FileName;
     gFileTitle = m_fileDialog.FileTitle;
     gVocabList().SaveFile();
-    keeper.done();
+    restorer.dismiss();
     // An empty list writes no file: opening one by that name has to read it.
     gOpenedFile = gVocabList().NumWords() > 0 ? gFileName : QString();
     m_ui->mnuSave->setEnabled(false);
@@ -137,11 +127,11 @@ bool frmMain::openFile()
     m_fileDialog.InitDir = pathOf(Place::WordLists);
     m_fileDialog.FileName.clear();
     const bool chosen = m_fileDialog.ShowOpen(this);
-    FileNameKeeper keeper;
+    auto restorer = fileNameRestorer();
     gFileName = chosen ? m_fileDialog.FileName : QString();
     gFileTitle = chosen ? m_fileDialog.FileTitle : QString();
     const bool isRead = !gFileName.isEmpty() && gFileName != gOpenedFile && gVocabList().OpenFile();
-    keeper.done();
+    restorer.dismiss();
     if (!isRead)
         return false;
     gOpenedFile = gFileName;
