@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Text of the program's files: one byte a character, code page Windows-1252.
 //
-// The mapping is ICU's converter "windows-1252". All 256 bytes round-trip, the five that have no
-// character (81 8D 8F 90 9D) as the control characters of the same number. A character that the
-// code page lacks is written as one "?".
+// All 256 bytes round-trip. The five bytes that have no character (81 8D 8F 90 9D) are read as the
+// control characters of the same number. A character that is not in the code page is written as
+// one "?".
 #pragma once
 
 #include <QByteArray>
