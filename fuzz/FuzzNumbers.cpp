@@ -139,8 +139,8 @@ Wide units(const Decimal &decimal, int decimals)
     return decimal.negative ? -number : number;
 }
 
-constexpr Wide Min64 = std::numeric_limits<std::int64_t>::min();
-constexpr Wide Max64 = std::numeric_limits<std::int64_t>::max();
+constexpr Wide Smallest = Currency::smallest().scaled();
+constexpr Wide Largest = Currency::largest().scaled();
 
 Outcome<Integer> asInteger(Wide number)
 {
@@ -151,7 +151,7 @@ Outcome<Integer> asInteger(Wide number)
 
 Outcome<Currency> asCurrency(Wide scaled)
 {
-    if (scaled < Min64 || scaled > Max64)
+    if (scaled < Smallest || scaled > Largest)
         return {{}, RunTimeError::Overflow};
     return {Currency::fromScaled(std::int64_t(scaled)), 0};
 }
@@ -197,7 +197,7 @@ void checkNumber(const QString &text, const Decimal &decimal)
     const Wide scaled = units(decimal, 4);
     require(outcomeOf([&] { return Currency::fromText(text); }) == asCurrency(scaled));
     require(marginFromText(text) ==
-            Currency::fromScaled(std::int64_t(std::clamp(scaled, Min64, Max64))));
+            Currency::fromScaled(std::int64_t(std::clamp(scaled, Smallest, Largest))));
 }
 
 void checkText(const std::u16string &characters)
@@ -246,7 +246,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     if (size >= sizeof tenThousandths + sizeof factor) {
         std::memcpy(&tenThousandths, data, sizeof tenThousandths);
         std::memcpy(&factor, data + sizeof tenThousandths, sizeof factor);
-        checkAmount(tenThousandths, factor);
+        checkAmount(tenThousandths % (Currency::largest().scaled() + 1), factor);
     }
     return 0;
 }

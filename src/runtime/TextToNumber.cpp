@@ -19,20 +19,6 @@ struct Decimal
     qint64 pointAt = 0; // as many digits are before it; may lie outside them
 };
 
-// An exponent that does not fit 64 bits becomes one of the same sign. It is so large that no digits
-// of the number make up for it.
-qint64 exponentOf(const QString &text)
-{
-    constexpr qint64 beyondAll = 1'000'000'000'000;
-    if (text.isEmpty())
-        return 0;
-    bool fits = false;
-    const qint64 exponent = text.toLongLong(&fits);
-    if (!fits)
-        return text.startsWith(QLatin1Char('-')) ? -beyondAll : beyondAll;
-    return std::clamp(exponent, -beyondAll, beyondAll);
-}
-
 // The library would also take groups of digits, other blanks and the digits of other scripts.
 Decimal decimalOf(const QString &text)
 {
@@ -44,34 +30,11 @@ Decimal decimalOf(const QString &text)
     const QString digits = whole + match.captured(3);
     if (!match.hasMatch() || digits.isEmpty())
         throw RunTimeError(RunTimeError::TypeMismatch);
+    // Larger than any number of digits could make up for.
+    constexpr double beyondAll = 1e12;
+    const double exponent = std::clamp(match.captured(4).toDouble(), -beyondAll, beyondAll);
     return {inner, match.captured(1) == QLatin1Char('-'), digits,
-            whole.size() + exponentOf(match.captured(4))};
-}
-
-bool isZero(const QString &digits)
-{
-    return digits.count(QLatin1Char('0')) == digits.size();
-}
-
-// The digits before the given place, rounded by those after it, halves to even.
-QString roundedDigits(const QString &digits, qint64 place)
-{
-    QString kept = digits.left(std::max<qint64>(place, 0));
-    if (place < 0 || place >= digits.size())
-        return kept;
-    const QString rest = digits.mid(place);
-    const bool restIsHalf = rest.front() == QLatin1Char('5') && isZero(rest.mid(1));
-    const bool lastIsOdd = !kept.isEmpty() && kept.back().digitValue() % 2 != 0;
-    if (restIsHalf ? !lastIsOdd : rest.front() < QLatin1Char('5'))
-        return kept;
-    qsizetype i = kept.size();
-    while (i > 0 && kept[i - 1] == QLatin1Char('9'))
-        kept[--i] = QLatin1Char('0');
-    if (i == 0)
-        kept.prepend(QLatin1Char('1'));
-    else
-        kept[i - 1] = QChar(kept[i - 1].unicode() + 1);
-    return kept;
+            whole.size() + static_cast<qint64>(exponent)};
 }
 
 } // namespace
@@ -92,21 +55,22 @@ Integer toInteger(const QString &text)
 
 std::int64_t toUnits(const QString &text, int decimals)
 {
+    constexpr qint64 moreDigitsThanFit = 20;
+    constexpr std::int64_t tooLarge = 1'000'000'000'000'000'000;
     const Decimal decimal = decimalOf(text);
-    if (isZero(decimal.digits))
-        return 0;
     const qint64 place = decimal.pointAt + decimals;
-    QString units = roundedDigits(decimal.digits, place);
-    if (units.isEmpty())
+    if (place < 0)
         return 0;
-    if (place > decimal.digits.size()) {
-        constexpr qint64 moreThanFit = 20;
-        units += QString(std::min(place - decimal.digits.size(), moreThanFit), QLatin1Char('0'));
-    }
-    bool fits = false;
-    const std::int64_t value =
-        ((decimal.isNegative ? QStringLiteral("-") : QString()) + units).toLongLong(&fits);
-    if (!fits)
+    const qint64 wholeDigits = std::min(place, decimal.digits.size() + moreDigitsThanFit);
+    const QString whole = decimal.digits.left(wholeDigits).leftJustified(wholeDigits, u'0');
+    bool fits = true;
+    std::int64_t units = whole.isEmpty() ? 0 : whole.toLongLong(&fits);
+    if (!fits || units >= tooLarge)
         throw RunTimeError(RunTimeError::Overflow);
-    return value;
+    // Digits of the same number compare as their texts do.
+    const QString rest = decimal.digits.mid(wholeDigits);
+    const QString half = QStringLiteral("5").leftJustified(rest.size(), u'0');
+    if (rest > half || (rest == half && units % 2 != 0))
+        ++units;
+    return decimal.isNegative ? -units : units;
 }

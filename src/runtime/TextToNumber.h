@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Texts that a person or a file gives for numbers.
+// Conversion of texts that a person types or a file holds to numbers.
 //
-// A number is written with the digits 0 to 9, a point, a sign and an exponent, without groups.
-// Outer blanks (U+0020) do not count. A text that is no number throws RunTimeError TypeMismatch,
-// one beyond all range Overflow.
+// A number is written with the digits 0 to 9, a point, a sign and an exponent, without group
+// separators. Blanks (U+0020) around it are ignored. Any other text throws RunTimeError
+// TypeMismatch; a number that is out of range throws Overflow.
 #pragma once
 
 #include "runtime/Integer.h"
@@ -13,9 +13,9 @@
 // The nearest double; 0 for a number too small for one.
 [[nodiscard]] double toNumber(const QString &text);
 
-// Rounded to the nearest whole number, halves to even; Overflow where that does not fit. All
-// digits count, however many there are.
+// The nearest whole number, halves to even. All digits count, however many there are.
 [[nodiscard]] Integer toInteger(const QString &text);
 
-// In the same way the number times ten to the power of `decimals`.
+// The nearest whole number to the number times ten to the power of `decimals`. Overflow where that
+// has more than 18 digits before the point.
 [[nodiscard]] std::int64_t toUnits(const QString &text, int decimals);

@@ -41,8 +41,8 @@ private Q_SLOTS:
         row("1e-300", 0);
         row("1e-400", 0);
         row("0000000000000000000000001", 10'000);
-        row("922337203685477.5807", std::numeric_limits<qint64>::max());
-        row("-922337203685477.5808", std::numeric_limits<qint64>::min());
+        row("9999999999.9999", 99'999'999'999'999);
+        row("-9999999999.99994", -99'999'999'999'999);
     }
 
     void aTextKeepsFourDecimalsHalvesGoToTheEvenOne()
@@ -54,8 +54,8 @@ private Q_SLOTS:
     void aTextBeyondTheRangeOverflows_data()
     {
         QTest::addColumn<QString>("text");
-        for (const char *text : {"922337203685477.5808", "922337203685477.58075",
-                                 "-922337203685477.5809", "1e15", "1e300", "-1e400"})
+        for (const char *text : {"10000000000", "9999999999.99995", "-9999999999.99995",
+                                 "922337203685478", "1e15", "1e300", "-1e400"})
             QTest::newRow(text) << QString::fromLatin1(text);
     }
 
@@ -127,22 +127,19 @@ private Q_SLOTS:
         QCOMPARE(Currency::fromText(QStringLiteral("1.26")) * Integer(10),
                  Currency::fromText(QStringLiteral("12.6")));
         QCOMPARE(Currency(0) * Integer(-3), Currency(0));
-        QCOMPARE(errorNumberOf([] { return Currency::largest() * Integer(2); }),
-                 RunTimeError::Overflow);
-        QCOMPARE(errorNumberOf([] { return Currency::smallest() * Integer(2); }),
-                 RunTimeError::Overflow);
-        QCOMPARE(errorNumberOf([] { return Currency::smallest() * Integer(-1); }),
-                 RunTimeError::Overflow);
-        constexpr qint64 half = qint64(1) << 62;
-        QCOMPARE(Currency::fromScaled(half) * Integer(-2), Currency::smallest());
-        QCOMPARE(Currency::smallest() * Integer(1), Currency::smallest());
+        QCOMPARE(Currency::largest() * Integer(-1), Currency::smallest());
+        for (const int factor : {2, -2, Integer::Max, Integer::Min}) {
+            QCOMPARE(errorNumberOf([&] { return Currency::largest() * Integer(factor); }),
+                     RunTimeError::Overflow);
+            QCOMPARE(errorNumberOf([&] { return Currency::smallest() * Integer(factor); }),
+                     RunTimeError::Overflow);
+        }
     }
 
     void theyAreInOrder()
     {
         QVERIFY(Currency(3) < Currency::fromText(QStringLiteral("3.0001")));
         QVERIFY(Currency(-1) < Currency(0));
-        QCOMPARE(Currency(Integer(3)), Currency(3));
     }
 };
 
