@@ -4,25 +4,14 @@
 #include "game/LetterTiles.h"
 
 #include <algorithm>
-#include <array>
-
-Integer timeLimitOf(Integer level)
-{
-    static constexpr std::array<int, GameState::LastLevel> Seconds{30, 25, 20, 15, 10,
-                                                                   9,  8,  7,  6,  5};
-    if (level < 1 || level > GameState::LastLevel)
-        throw RunTimeError(RunTimeError::SubscriptOutOfRange);
-    return Seconds[static_cast<std::size_t>(level.toInt() - 1)];
-}
 
 void GameState::changeStartLevel(int step)
 {
     Level = std::clamp(Level.toInt() + step, 1, LastLevel);
-    TimeLimit = timeLimitOf(Level);
-    CountDown = TimeLimit;
+    beginCountdown();
 }
 
-GameState::Tick GameState::tick(Integer letters)
+bool GameState::tick(Integer letters)
 {
     if (CountDown < 1) {
         TicksSinceReveal = 0;
@@ -31,21 +20,32 @@ GameState::Tick GameState::tick(Integer letters)
         --CountDown;
         ++TicksSinceReveal;
     }
-    return {TicksSinceReveal == revealEvery(letters), CountDown == 0};
+    if (TicksSinceReveal == revealEvery(letters)) {
+        ++NextLetter;
+        TicksSinceReveal = 0;
+    }
+    if (CountDown > 0)
+        return false;
+    loseLife();
+    NextLetter = std::max(NextLetter, letters + 1);
+    return true;
 }
 
 bool GameState::countHit()
 {
     ++HitCount;
     ++LevelHits;
-    return Level < LastLevel && LevelHits == HitsPerLevel;
-}
-
-void GameState::raiseLevel()
-{
+    if (Level == LastLevel || LevelHits < HitsPerLevel)
+        return false;
     ++Level;
     LevelHits = 0;
-    TimeLimit = timeLimitOf(Level);
+    return true;
+}
+
+void GameState::beginCountdown()
+{
+    TimeLimit = Seconds.at(static_cast<std::size_t>(Level.toInt() - 1));
+    CountDown = TimeLimit;
 }
 
 void GameState::coverLetters()

@@ -29,24 +29,23 @@ TileRack::TileRack(QWidget *parent) : QWidget(parent)
 
 void TileRack::prepare(Integer letters)
 {
-    coverAll();
+    uncover(0, {});
     m_letters = std::min(letters, Integer(LetterTiles));
     place();
     update();
 }
 
-void TileRack::uncover(Integer position, const QString &word)
+void TileRack::uncover(Integer count, const QString &word)
 {
-    const Integer tile = position + tileOffset(word.size());
-    if (position <= word.size() && tile <= LetterTiles)
-        m_cmdLetters[static_cast<std::size_t>(tile.toInt() - 1)]->turnUp(
-            word.mid(position.toInt() - 1, 1));
-}
-
-void TileRack::coverAll()
-{
-    for (LetterTile *tile : m_cmdLetters)
-        tile->hide();
+    const int offset = tileOffset(word.size()).toInt();
+    for (int i = 0; i < LetterTiles; ++i) {
+        LetterTile &tile = *m_cmdLetters[static_cast<std::size_t>(i)];
+        const int letter = i - offset;
+        if (letter < 0 || letter >= count.toInt() || letter >= word.size())
+            tile.hide();
+        else if (tile.isHidden())
+            tile.turnUp(word.mid(letter, 1));
+    }
 }
 
 void TileRack::resizeEvent(QResizeEvent * /*event*/)

@@ -20,9 +20,9 @@ public:
 
     // Covers all tiles and makes room for a word of so many letters; for 0 the rack is empty.
     void prepare(Integer letters);
-    // Uncovers letter `position` of the word; one that it lacks or that has no tile is left out.
-    void uncover(Integer position, const QString &word);
-    void coverAll();
+    // Turns up the tiles of the word's first `count` letters, as far as there are tiles, and
+    // covers the others.
+    void uncover(Integer count, const QString &word);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -32,5 +32,5 @@ private:
     void place();
 
     std::vector<LetterTile *> m_cmdLetters; // 1 to 30
-    Integer m_letters;                      // of the word; 0 = no word yet
+    Integer m_letters;                      // of the word; 0 = none
 };

@@ -4,6 +4,9 @@
 
 #include <QtGlobal>
 
+class QLabel;
+class QString;
+
 struct TypeSize
 {
     int points;
@@ -28,7 +31,15 @@ struct TypeSize
     return {characters <= 150 ? 14 : 12, false};
 }
 
+// After a miss there is room enough for a longer definition.
+[[nodiscard]] constexpr TypeSize missedDefinitionTypeSize(qsizetype characters)
+{
+    return {characters <= 100 ? 18 : 14, false};
+}
+
 [[nodiscard]] constexpr TypeSize sentenceTypeSize(qsizetype characters)
 {
     return {characters <= 150 ? 14 : 12, false};
 }
+
+void showText(QLabel &label, const QString &text, TypeSize size);

@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "game/TypeSizes.h"
 #include "game/TypedWord.h"
 #include "game/ui_dlgIncorrectAnswer.h"
 #include "platform/MsgBox.h"
@@ -35,7 +36,6 @@ dlgIncorrectAnswer::~dlgIncorrectAnswer() = default;
 
 void dlgIncorrectAnswer::Form_Load()
 {
-    constexpr qsizetype longDefinition = 100;
     showWord(true);
     const QString word = gVocabList().Word();
     m_ui->lblAnswerIs->setText(QStringLiteral("The correct answer is: ") + word);
@@ -43,10 +43,7 @@ void dlgIncorrectAnswer::Form_Load()
     m_ui->txtUserAnswer->setMaxLength(
         std::max(m_ui->txtUserAnswer->maxLength(), static_cast<int>(word.size())));
     const QString definition = gVocabList().Definition();
-    QFont type = m_ui->lblDefinition->font();
-    type.setPointSize(definition.size() > longDefinition ? 14 : 18);
-    m_ui->lblDefinition->setFont(type);
-    m_ui->lblDefinition->setText(definition);
+    showText(*m_ui->lblDefinition, definition, missedDefinitionTypeSize(definition.size()));
     m_ui->txtUserAnswer->setFocus();
 }
 
@@ -61,8 +58,7 @@ void dlgIncorrectAnswer::keyPressEvent(QKeyEvent *event)
 void dlgIncorrectAnswer::cmdDown_Click()
 {
     showWord(false);
-    if (m_ui->txtUserAnswer->isEnabled())
-        m_ui->txtUserAnswer->setFocus();
+    m_ui->txtUserAnswer->setFocus();
 }
 
 void dlgIncorrectAnswer::cmdUp_Click()

@@ -4,6 +4,8 @@
 #include "core/Module1.h"
 #include "core/WordOrder.h"
 #include "core/cVocabList.h"
+#include "game/Scramble.h"
+#include "game/TypeSizes.h"
 #include "game/dlgGameOver.h"
 #include "game/ui_frmTanglewit.h"
 #include "platform/Screen.h"
@@ -17,10 +19,31 @@ using namespace Module1;
 
 namespace {
 
-constexpr int NarrowScreen = 12000; // twips
-constexpr QSize LargestWindow(1200, 900);
+constexpr int NarrowScreen = 12000;       // twips
+constexpr QSize LargestWindow(1200, 900); // pixels
 
 const QString StartPrompt = QStringLiteral("Please click Start to begin.");
+const QString RestartPrompt = QStringLiteral("Please click Restart to shuffle.");
+
+// The whole width of a narrow screen; else most of the screen, 4 to 3.
+void takeSize(QWidget &window)
+{
+    const QSize wholeScreen = screenInTwips(window);
+    if (wholeScreen.width() <= NarrowScreen) {
+        window.resize(pixels(wholeScreen.width()), window.height());
+        window.setWindowState(window.windowState() | Qt::WindowMaximized);
+        return;
+    }
+    const QRect room = window.screen()->availableGeometry();
+    const QSize proportion = QSize(4, 3).scaled(room.size() * 0.9, Qt::KeepAspectRatio);
+    window.resize(proportion.boundedTo(LargestWindow).expandedTo(window.minimumSize()));
+    window.move(room.center() - window.rect().center());
+}
+
+void showPrompt(QLabel &clue, const QString &prompt)
+{
+    showText(clue, prompt, definitionTypeSize(prompt.size()));
+}
 
 } // namespace
 
@@ -31,7 +54,7 @@ frmTanglewit::frmTanglewit(MusicMenu menu, QWidget *mainWindow)
     m_Timer1.setParent(this);
     m_Timer1.setObjectName(QStringLiteral("Timer1"));
     connectHandlers();
-    // The two share one place and size.
+    // They share one place and size.
     for (QPushButton *button : {m_ui->cmdShow, m_ui->cmdHide}) {
         QSizePolicy policy = button->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
@@ -57,8 +80,7 @@ void frmTanglewit::connectHandlers()
 
 void frmTanglewit::Form_Load()
 {
-    takeSize();
-    m_Timer1.stop();
+    takeSize(*this);
     m_Timer1.setInterval(1000);
     newGame();
     ResetBoard();
@@ -69,25 +91,9 @@ void frmTanglewit::Form_Load()
     m_music.fillTracks();
 }
 
-// On a narrow screen all of it; else most of it, 4 to 3.
-void frmTanglewit::takeSize()
-{
-    const QSize wholeScreen = screenInTwips(*this);
-    if (wholeScreen.width() <= NarrowScreen) {
-        resize(pixels(wholeScreen.width()), height());
-        setWindowState(windowState() | Qt::WindowMaximized);
-        return;
-    }
-    const QRect room = screen()->availableGeometry();
-    const QSize proportion = QSize(4, 3).scaled(room.size() * 0.9, Qt::KeepAspectRatio);
-    resize(proportion.boundedTo(LargestWindow).expandedTo(minimumSize()));
-    move(room.center() - rect().center());
-}
-
 void frmTanglewit::newGame()
 {
     m_game = {};
-    m_ui->frmHits->setTitle(QStringLiteral("Hits"));
     m_ui->lstHits->clear();
     m_ui->lstMisses->clear();
 }
@@ -122,9 +128,10 @@ void frmTanglewit::VScroll1_Change()
 
 void frmTanglewit::cmdStart_Click()
 {
-    showPlaying();
-    if (!ShowFirstWord())
-        return;
+    showMode(Mode::Playing);
+    ShowFirstWord();
+    if (isTooShortToScramble(gVocabList().Word()))
+        return; // only Restart, Quit and the close box go on
     m_ui->txtUserAnswer->setEnabled(true);
     m_Timer1.start();
     gScore = 0;
@@ -138,10 +145,9 @@ void frmTanglewit::cmdRestart_Click()
 {
     gOrderIndex = 1;
     Shuffle();
-    m_Timer1.stop();
     newGame();
-    gScore = 0;
-    showReady(QStringLiteral("Word List has been shuffled. ") + StartPrompt);
+    ResetBoard();
+    showPrompt(*m_ui->lblClue, QStringLiteral("Word List has been shuffled. ") + StartPrompt);
 }
 
 void frmTanglewit::cmdQuit_Click()
@@ -156,16 +162,17 @@ void frmTanglewit::cmdQuit_Click()
     Q_EMIT left();
 }
 
+// The answer box, while it is disabled, does not take the focus.
 void frmTanglewit::cmdShow_Click()
 {
     showWordSwitch(true);
-    focusAnswer();
+    m_ui->txtUserAnswer->setFocus();
 }
 
 void frmTanglewit::cmdHide_Click()
 {
     showWordSwitch(false);
-    focusAnswer();
+    m_ui->txtUserAnswer->setFocus();
 }
 
 void frmTanglewit::cmdViewTop10_Click()
@@ -173,7 +180,7 @@ void frmTanglewit::cmdViewTop10_Click()
     gViewTop10Only = true;
     dlgGameOver(m_music, this).exec();
     gViewTop10Only = false;
-    showGame(); // Close ends the score
+    showGame(); // the dialog's Close sets the score to 0
 }
 
 // Leaves lives, level and lists as they are.
@@ -181,48 +188,31 @@ void frmTanglewit::ResetBoard()
 {
     m_Timer1.stop();
     gScore = 0;
-    showReady(StartPrompt);
-}
-
-void frmTanglewit::showReady(const QString &prompt)
-{
     showGame();
-    m_ui->lblScrambledWord->clear();
-    showPrompt(prompt);
+    showMode(Mode::Ready);
     m_ui->lblSentence->clear();
-    m_ui->tileRack->prepare(0);
-    m_ui->txtUserAnswer->clear();
-    m_ui->txtUserAnswer->setEnabled(false);
-    m_ui->cmdEnter->hide();
-    m_ui->cmdEnter->setEnabled(false);
-    m_ui->cmdStart->show();
-    m_ui->cmdStart->setEnabled(true);
     m_ui->VScroll1->setEnabled(true);
-    m_defaultButton.set(m_ui->cmdStart);
-    m_ui->cmdStart->setFocus();
 }
 
-// The answer box follows when there is a word to answer.
-void frmTanglewit::showPlaying()
+// Start enables the answer box and disables the level switch when its word is shown.
+void frmTanglewit::showMode(Mode mode)
 {
-    m_ui->cmdEnter->setEnabled(true);
-    m_ui->cmdEnter->show();
-    m_defaultButton.set(m_ui->cmdEnter);
-    m_ui->cmdStart->hide();
-    m_ui->cmdStart->setEnabled(false);
-}
-
-void frmTanglewit::showOver()
-{
-    m_ui->lblScrambledWord->clear();
-    m_ui->tileRack->prepare(0);
-    showPrompt(QStringLiteral("Please click Restart to shuffle."));
-    m_ui->txtUserAnswer->clear();
-    m_ui->txtUserAnswer->setEnabled(false);
-    m_ui->cmdStart->setEnabled(false);
-    m_ui->cmdEnter->setEnabled(false);
-    m_defaultButton.set(nullptr);
-    m_ui->cmdRestart->setFocus();
+    const bool isReady = mode == Mode::Ready;
+    const bool isPlaying = mode == Mode::Playing;
+    if (!isPlaying) {
+        m_ui->lblScrambledWord->clear();
+        showPrompt(*m_ui->lblClue, isReady ? StartPrompt : RestartPrompt);
+        m_ui->tileRack->prepare(0);
+        m_ui->txtUserAnswer->clear();
+        m_ui->txtUserAnswer->setEnabled(false);
+    }
+    m_ui->cmdEnter->setEnabled(isPlaying);
+    m_ui->cmdEnter->setVisible(!isReady);
+    m_ui->cmdStart->setVisible(isReady);
+    m_ui->cmdStart->setEnabled(isReady);
+    m_defaultButton.set(isReady ? m_ui->cmdStart : isPlaying ? m_ui->cmdEnter : nullptr);
+    if (!isPlaying)
+        (isReady ? m_ui->cmdStart : m_ui->cmdRestart)->setFocus();
 }
 
 void frmTanglewit::showWordSwitch(bool wordIsShown)
@@ -234,20 +224,15 @@ void frmTanglewit::showWordSwitch(bool wordIsShown)
 
 void frmTanglewit::showGame()
 {
+    const Integer hits = m_game.HitCount;
+    m_ui->frmHits->setTitle(hits == 0 ? QStringLiteral("Hits")
+                                      : QStringLiteral("Hits: ") + hits.toText());
     m_ui->lblScore->setText(gScore.toText());
     m_ui->lblLevel->setText(m_game.Level.toText());
     m_ui->lblNumLifes->setText(m_game.NumLifes.toText());
     m_ui->lifeHearts->setLives(m_game.NumLifes);
-    showCountDown();
-}
-
-void frmTanglewit::showCountDown()
-{
     m_ui->lblCountDown->setSeconds(m_game.CountDown, m_game.TimeLimit);
-}
-
-void frmTanglewit::focusAnswer()
-{
-    if (m_ui->txtUserAnswer->isEnabled())
-        m_ui->txtUserAnswer->setFocus();
+    // Without an uncovered letter there may be no word yet.
+    const Integer uncovered = m_game.NextLetter - 1;
+    m_ui->tileRack->uncover(uncovered, uncovered == 0 ? QString() : gVocabList().Word());
 }

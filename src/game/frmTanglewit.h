@@ -22,7 +22,7 @@ class frmTanglewit final : public Form<QWidget>
     Q_OBJECT
 
 public:
-    // mainWindow: what the good-bye dialog stands over.
+    // mainWindow: the parent of the good-bye dialog.
     frmTanglewit(MusicMenu menu, QWidget *mainWindow);
     ~frmTanglewit() override;
 
@@ -30,7 +30,7 @@ public:
     void Shuffle();
 
 Q_SIGNALS:
-    // The game is left; the main window should be shown. Comes more than once.
+    // The game is left; the main window should be shown. Emitted more than once.
     void left();
 
 protected:
@@ -40,9 +40,12 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    // What can be used: Start; the answer box and Enter; only Restart, Quit and View Top 10.
+    enum class Mode { Ready, Playing, Over };
+    enum class After { Start, Answer, TimeOut };
+
     // frmTanglewit.cpp: the window and its buttons
     void connectHandlers();
-    void takeSize();
     void newGame();
     void cmdStart_Click();
     void cmdRestart_Click();
@@ -52,32 +55,23 @@ private:
     void cmdViewTop10_Click();
     void VScroll1_Change();
     void ResetBoard();
-    void showReady(const QString &prompt);
-    void showPlaying();
-    void showOver();
+    void showMode(Mode mode);
     void showWordSwitch(bool wordIsShown);
     void showGame();
-    void showCountDown();
-    void focusAnswer();
 
     // frmTanglewit_Round.cpp: the countdown and the answers
     void Timer1_Timer();
     void cmdEnter_Click();
     void hit();
     void miss(const QString &answer);
-    void raiseLevel();
     void timeOut();
     void gameOver();
 
-    // frmTanglewit_Word.cpp: the word on show. Where one of the three answers false, the word
-    // cannot be scrambled, and the handler goes no further.
-    [[nodiscard]] bool ShowFirstWord();
-    [[nodiscard]] bool showWord();
-    [[nodiscard]] bool showNextWord(bool maskSentence);
+    // frmTanglewit_Word.cpp: the word on show
+    void ShowFirstWord();
+    void showNextWord(After event);
+    void showWord(After event);
     void MaskSentence();
-    void setTypeSizes();
-    void showPrompt(const QString &prompt);
-    void uncoverNextLetter();
 
     std::unique_ptr<Ui::frmTanglewit> m_ui;
     QTimer m_Timer1;
@@ -85,5 +79,5 @@ private:
     GameState m_game;
     Music m_music;
     QWidget *m_mainWindow;
-    bool m_isQuitting = false; // the good-bye dialog is still to come, and ends the music
+    bool m_isQuitting = false; // the good-bye dialog follows, and ends the music
 };

@@ -40,8 +40,7 @@ QString turnedUp(const TileRack &rack)
 
 void uncoverAll(TileRack &rack, const QString &word)
 {
-    for (int position = 1; position <= word.size(); ++position)
-        rack.uncover(position, word);
+    rack.uncover(word.size(), word);
 }
 
 int turnsOf(const QWidget &widget)
@@ -90,7 +89,7 @@ private Q_SLOTS:
         QTEST(turnedUp(rack), "tiles");
     }
 
-    void lettersAreTurnedUpOneByOne()
+    void theFirstLettersAreTurnedUpAndTheOthersCovered()
     {
         TileRack rack;
         rack.prepare(3);
@@ -98,10 +97,13 @@ private Q_SLOTS:
         QCOMPARE(turnedUp(rack), u"15c"_s);
         rack.uncover(2, u"cat"_s);
         QCOMPARE(turnedUp(rack), u"15c 16a"_s);
-        rack.coverAll();
+        rack.uncover(4, u"cat"_s);
+        QCOMPARE(turnedUp(rack), u"15c 16a 17t"_s);
+        rack.uncover(1, u"cat"_s);
+        QCOMPARE(turnedUp(rack), u"15c"_s);
+        rack.uncover(0, u"cat"_s);
         QCOMPARE(turnedUp(rack), QString());
         rack.uncover(3, u"cat"_s);
-        QCOMPARE(turnedUp(rack), u"17t"_s);
         rack.prepare(4);
         QCOMPARE(turnedUp(rack), QString());
     }
@@ -211,10 +213,20 @@ private Q_SLOTS:
         rack->uncover(1, u"cat"_s);
         QCOMPARE(turnsOf(tile(*rack, 15)), 1);
         QCOMPARE(turnsOf(*rack), 1);
-        // Its letter counts at once, and the motion goes away by itself.
+        // The letter is set at once, and the motion ends by itself.
         QCOMPARE(turnedUp(*rack), u"15c"_s);
         QTRY_COMPARE(turnsOf(*rack), 0);
         QCOMPARE(turnedUp(*rack), u"15c"_s);
+    }
+
+    void onlyTheNewLetterIsSeenToTurn()
+    {
+        const auto rack = shownRack(10'000);
+        rack->uncover(1, u"cat"_s);
+        CardTurn::end(tile(*rack, 15));
+        rack->uncover(2, u"cat"_s);
+        QCOMPARE(turnsOf(tile(*rack, 15)), 0);
+        QCOMPARE(turnsOf(tile(*rack, 16)), 1);
     }
 
     void withoutMotionATileLiesThereAtOnce()
@@ -229,7 +241,7 @@ private Q_SLOTS:
     {
         const auto rack = shownRack(10'000);
         rack->uncover(1, u"cat"_s);
-        rack->coverAll();
+        rack->uncover(0, {});
         QCOMPARE(turnsOf(*rack), 0);
         QCOMPARE(turnedUp(*rack), QString());
     }

@@ -29,6 +29,14 @@ private Q_SLOTS:
         QCOMPARE(definitionTypeSize(65535).points, 12);
     }
 
+    void definitionsAfterAMissShrinkInTwoSteps()
+    {
+        for (qsizetype length = 0; length <= 300; ++length) {
+            QCOMPARE(missedDefinitionTypeSize(length).points, length < 101 ? 18 : 14);
+            QVERIFY(!missedDefinitionTypeSize(length).bold);
+        }
+    }
+
     void sentencesShrinkInTwoSteps()
     {
         for (qsizetype length = 0; length <= 300; ++length) {

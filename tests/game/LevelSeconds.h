@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The seconds for each word at each level, as the tests expect them.
+#pragma once
+
+#include <array>
+
+[[nodiscard]] constexpr int levelSeconds(int level)
+{
+    return std::array{30, 25, 20, 15, 10, 9, 8, 7, 6, 5}.at(static_cast<std::size_t>(level - 1));
+}
