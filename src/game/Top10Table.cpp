@@ -24,6 +24,8 @@ Top10Table emptyTop10(QDate day)
 
 Integer rowOfScore(const Top10Table &table, Integer score)
 {
+    if (score == 0)
+        return 0;
     if (table.front().Points == 0)
         return 1;
     Integer row = 1;

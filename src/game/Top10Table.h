@@ -5,15 +5,16 @@
 
 #include "core/Module1.h"
 
-using Top10Table = std::array<Top10Entry, 10>;
+using Top10Table = decltype(Module1::gTop10);
 
 // Ten unused rows of that day.
 [[nodiscard]] Top10Table emptyTop10(QDate day);
 
-// The row that the score takes, below its equals; 0 = it does not enter the table.
+// The row that the score takes, below its equals; 0 = it does not enter the table, as a score of 0
+// never does.
 [[nodiscard]] Integer rowOfScore(const Top10Table &table, Integer score);
 // Puts the score, still without a name, into the row. The rows from there on move down and the
-// last is dropped; where row 1 is unused the whole table begins anew that day.
+// last is dropped; where row 1 is unused, all ten rows are first made unused rows of that day.
 void enterScore(Top10Table &table, Integer row, Integer score, QDate day);
 // No names and no points; the dates stay.
 void resetScores(Top10Table &table);

@@ -16,6 +16,8 @@ namespace {
 constexpr int RankColumn = 0;
 constexpr int RowColumn = 1;
 constexpr int NameColumn = 2;
+constexpr int LabelOnly = 1; // columns of a row
+constexpr int LabelAndName = 2;
 
 std::size_t indexOf(Integer row)
 {
@@ -53,43 +55,41 @@ void dlgGameOver::makeRows()
         label->setMinimumWidth(1); // a long name is cut, the dialog keeps its size
         m_lblTop10[indexOf(row)] = label;
         m_ui->rowLayout->addWidget(rank, row - 1, RankColumn);
-        m_ui->rowLayout->addWidget(label, row - 1, RowColumn, 1, 2);
+        placeRow(row, LabelAndName);
     }
     m_ui->rowLayout->setColumnStretch(NameColumn, 1);
 }
 
 void dlgGameOver::Form_Load()
 {
-    m_newRow = gViewTop10Only || gScore == 0 ? Integer(0) : rowOfScore(gTop10, gScore);
-    if (m_newRow != 0)
-        enterScoreInto(m_newRow);
+    m_newRow = gViewTop10Only ? Integer(0) : rowOfScore(gTop10, gScore);
+    if (m_newRow != 0) {
+        enterScore(gTop10, m_newRow, gScore, QDate::currentDate());
+        placeRow(m_newRow, LabelOnly);
+        m_ui->rowLayout->addWidget(m_ui->txtName, m_newRow.toInt() - 1, NameColumn);
+    }
     showRows();
     showNaming(m_newRow != 0);
 }
 
-void dlgGameOver::enterScoreInto(Integer row)
+// The row's label takes so many columns; with one there is room for the name box beside it.
+void dlgGameOver::placeRow(Integer row, int columns)
 {
-    enterScore(gTop10, row, gScore, QDate::currentDate());
-    // The name is typed where it will stand.
     QLabel *label = m_lblTop10[indexOf(row)];
     m_ui->rowLayout->removeWidget(label);
-    m_ui->rowLayout->addWidget(label, row.toInt() - 1, RowColumn);
-    m_ui->rowLayout->addWidget(m_ui->txtName, row.toInt() - 1, NameColumn);
+    m_ui->rowLayout->addWidget(label, row.toInt() - 1, RowColumn, 1, columns);
 }
 
 void dlgGameOver::Form_Activate()
 {
-    if (m_ui->txtName->isEnabled())
-        m_ui->txtName->setFocus();
+    m_ui->txtName->setFocus();
 }
 
 void dlgGameOver::cmdEnter_Click()
 {
     gTop10[indexOf(m_newRow)].PlayerName = withoutOuterBlanks(m_ui->txtName->text());
     Top10File::write(pathOf(Place::Top10), gTop10);
-    QLabel *label = m_lblTop10[indexOf(m_newRow)];
-    m_ui->rowLayout->removeWidget(label);
-    m_ui->rowLayout->addWidget(label, m_newRow.toInt() - 1, RowColumn, 1, 2);
+    placeRow(m_newRow, LabelAndName);
     m_newRow = 0;
     showRows();
     showNaming(false);

@@ -2,8 +2,8 @@
 // The Top 10 table: takes the name of a new score in it, or only shows it.
 #pragma once
 
+#include "game/Top10Table.h"
 #include "platform/DialogForm.h"
-#include "runtime/Integer.h"
 
 #include <array>
 #include <memory>
@@ -20,7 +20,7 @@ class dlgGameOver final : public DialogForm
     Q_OBJECT
 
 public:
-    // music: ends when the dialog closes.
+    // music: stopped when the dialog closes.
     dlgGameOver(Music &music, QWidget *parent);
     ~dlgGameOver() override;
 
@@ -37,12 +37,12 @@ private:
     void cmdClose_Click();
 
     void makeRows();
-    void enterScoreInto(Integer row);
+    void placeRow(Integer row, int columns);
     void showRows();
     void showNaming(bool naming);
 
     std::unique_ptr<Ui::dlgGameOver> m_ui;
-    std::array<QLabel *, 10> m_lblTop10{};
+    std::array<QLabel *, std::tuple_size_v<Top10Table>> m_lblTop10{};
     Integer m_newRow; // whose name is being typed; 0 = none
     Music &m_music;
 };

@@ -32,6 +32,9 @@ private Q_SLOTS:
         const QList<int> full{100, 90, 80, 70, 60, 50, 40, 30, 20, 10};
         QTest::newRow("empty table") << QList<int>{} << 7 << 1;
         QTest::newRow("empty table, 1 point") << QList<int>{} << 1 << 1;
+        QTest::newRow("empty table, no points") << QList<int>{} << 0 << 0;
+        QTest::newRow("unused rows, no points") << QList<int>{50, 40} << 0 << 0;
+        QTest::newRow("negative row, no points") << QList<int>{50, -1} << 0 << 0;
         QTest::newRow("best") << full << 101 << 1;
         QTest::newRow("as the best") << full << 100 << 2;
         QTest::newRow("below the best") << full << 99 << 2;
