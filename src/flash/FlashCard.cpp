@@ -13,8 +13,14 @@
 
 namespace {
 
-// Sizes of the type in points, the largest that fits is taken.
-constexpr std::array TypeSizes{32, 28, 24, 20, 18, 16, 14, 12};
+constexpr std::array TypeSizes{32, 28, 24, 20, 18, 16, 14, 12}; // points
+
+QString withoutBlanksAtEnd(QString text)
+{
+    while (!text.isEmpty() && text.back().isSpace())
+        text.chop(1);
+    return text;
+}
 
 } // namespace
 
@@ -38,8 +44,7 @@ void FlashCard::setText(const QString &text, Side side)
         m_side = side;
         style()->polish(this);
     }
-    m_text = text;
-    setPlainText(text.trimmed());
+    setPlainText(text);
     fitType();
 }
 
@@ -66,13 +71,13 @@ void FlashCard::keyPressEvent(QKeyEvent *event)
 
 void FlashCard::mouseReleaseEvent(QMouseEvent *event)
 {
-    // Accepted, so that it does not come to the card a second time.
+    // Otherwise Qt would send it to the card itself, too.
     event->accept();
     if (event->button() == Qt::LeftButton && viewport()->rect().contains(event->pos()))
         Q_EMIT Click();
 }
 
-// Above and below the text the card is no part of the viewport.
+// The margins above and below the text do not belong to the viewport.
 bool FlashCard::event(QEvent *event)
 {
     const bool pressed = event->type() == QEvent::MouseButtonPress;
@@ -94,7 +99,7 @@ void FlashCard::fitType()
 {
     const int padding = 2 * int(document()->documentMargin());
     const QRect room = contentsRect().adjusted(0, 0, -padding, -padding);
-    const QString text = toPlainText();
+    const QString text = withoutBlanksAtEnd(toPlainText());
     QRect needed;
     QFont type = font();
     const auto fits = [&](int size) {
@@ -103,7 +108,7 @@ void FlashCard::fitType()
             room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), text);
         return room.contains(needed);
     };
-    // The smallest size is tried first: a text that is too long for it is measured only once.
+    // The smallest size first: a text that is too long for it is measured only once.
     const bool fitsAtAll = fits(TypeSizes.back());
     if (fitsAtAll) {
         for (const int size : TypeSizes)

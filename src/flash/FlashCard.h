@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A card with a plain front and a coloured back: large type in the middle, which shrinks so that a
-// long text still fits and scrolls only where the smallest type does not. A click, Enter or Space
-// on it is its Click event.
+// A card with a plain front and a coloured back. Its text is centred in the largest type that fits
+// and scrolls where the smallest type does not. A click, Enter or Space on it emits Click.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -16,10 +15,9 @@ public:
 
     explicit FlashCard(QWidget *parent = nullptr);
 
-    [[nodiscard]] QString text() const { return m_text; }
     [[nodiscard]] bool isBack() const { return m_side == Side::Back; }
     void setText(const QString &text, Side side);
-    // As setText, but the card is seen to turn, unless the style asks for no motion.
+    // As setText, but animated where the side changes and the style allows animations.
     void turnTo(const QString &text, Side side);
 
 Q_SIGNALS:
@@ -34,6 +32,5 @@ protected:
 private:
     void fitType();
 
-    QString m_text;
     Side m_side = Side::Front;
 };

@@ -23,7 +23,7 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgQuickFlash>())
 {
     m_ui->setupUi(this);
-    // The two buttons share one place and size.
+    // They share one place and size.
     for (QPushButton *button : {m_ui->cmdAutoFlash, m_ui->cmdStop}) {
         QSizePolicy policy = button->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
@@ -107,13 +107,18 @@ void dlgQuickFlash::txtDef_Click()
 
 void dlgQuickFlash::cmdAutoFlash_Click()
 {
+    startWordPhase();
+    showRun(Run::Automatic);
+}
+
+void dlgQuickFlash::startWordPhase()
+{
     cmdNext_Click();
     m_ui->txtDef->setText({}, FlashCard::Side::Back);
-    showRun(Run::Automatic);
     m_tmrWord.start();
 }
 
-// A timer stops before anything can fail, or the error would be reported again and again.
+// The timer is stopped first, so that an error is reported only once.
 void dlgQuickFlash::tmrWord_Timer()
 {
     m_tmrWord.stop();
@@ -125,9 +130,7 @@ void dlgQuickFlash::tmrWord_Timer()
 void dlgQuickFlash::tmrDef_Timer()
 {
     m_tmrDef.stop();
-    cmdNext_Click();
-    m_ui->txtDef->setText({}, FlashCard::Side::Back);
-    m_tmrWord.start();
+    startWordPhase();
 }
 
 void dlgQuickFlash::cmdStop_Click()
@@ -142,7 +145,7 @@ void dlgQuickFlash::CancelButton_Click()
     close();
 }
 
-// The keyboard stays with the button that is there.
+// The focus goes from the hidden button to the one that takes its place.
 void dlgQuickFlash::showRun(Run run)
 {
     const bool automatic = run == Run::Automatic;

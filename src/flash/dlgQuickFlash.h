@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The flash-card drill: a word card and a closed definition card, by hand or running by itself.
+// The flash-card drill: a word card and a closed definition card, turned by hand or automatically.
 #pragma once
 
 #include "platform/DialogForm.h"
@@ -42,6 +42,7 @@ private:
 
     void ShuffleCards();
     void showCard();
+    void startWordPhase();
     void showRun(Run run);
 
     std::unique_ptr<Ui::dlgQuickFlash> m_ui;

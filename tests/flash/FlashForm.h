@@ -47,8 +47,8 @@ public:
     [[nodiscard]] QPushButton &button(const char *name) { return control<QPushButton>(name); }
     [[nodiscard]] QTimer &timer(const char *name) { return control<QTimer>(name); }
     [[nodiscard]] FlashCard &card(const char *name) { return control<FlashCard>(name); }
-    [[nodiscard]] QString word() { return card("txtWord").text(); }
-    [[nodiscard]] QString definition() { return card("txtDef").text(); }
+    [[nodiscard]] QString word() { return card("txtWord").toPlainText(); }
+    [[nodiscard]] QString definition() { return card("txtDef").toPlainText(); }
 
     void click(const char *name) { Controls::click(button(name)); }
     void clickCard() { QTest::mouseClick(card("txtDef").viewport(), Qt::LeftButton); }

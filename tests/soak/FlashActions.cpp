@@ -6,6 +6,7 @@
 #include "soak/Soak.h"
 
 #include <QDialog>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -64,7 +65,9 @@ void useCards(Soak &soak, QDialog &form)
             pressSomething(soak, form);
         if (!form.isVisible())
             return; // Tab to Close, Enter
-        if (Controls::find<FlashCard>(form, "txtWord").text() != Module1::gVocabList().Word())
+        // Line breaks and hard blanks as a text box has them.
+        const QString word = QPlainTextEdit(Module1::gVocabList().Word()).toPlainText();
+        if (Controls::find<FlashCard>(form, "txtWord").toPlainText() != word)
             Controls::fail(u"the card shows another word"_s);
     }
     if (soak.chance(50))
