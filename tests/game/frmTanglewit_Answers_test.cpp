@@ -34,10 +34,12 @@ private Q_SLOTS:
         m_form->start();
         m_form->passTime(9);
         const QString word = GameForm::word();
+        const int run = m_form->timer().timerId(); // another one after a restart
         if (byKey)
             Controls::press(Qt::Key_Return);
         else
             m_form->click("cmdEnter");
+        QCOMPARE(m_form->timer().timerId(), run);
         QCOMPARE(GameForm::word(), word);
         QCOMPARE(m_form->numbers(), u"0 1 21 5"_s);
         QCOMPARE(m_form->tiles().size(), 1);

@@ -84,12 +84,15 @@ private Q_SLOTS:
         QVERIFY(!m_form->window().findChild<QWidget *>(u"cmdLetters_31"_s));
     }
 
-    void aWindowThatIsNotShownHasNotLoaded()
+    void theWindowLoadsWhenItIsShown()
     {
         gScore = 7;
         gOrderIndex = 9;
+        const QAction item;
+        frmTanglewit window({item, item, item}, nullptr);
         QCOMPARE(gScore, Integer(7));
-        m_form->open();
+        QCOMPARE(gOrderIndex, Integer(9));
+        window.show();
         QCOMPARE(gScore, Integer(0));
         QCOMPARE(gOrderIndex, Integer(1));
     }
