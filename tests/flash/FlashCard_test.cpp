@@ -3,7 +3,7 @@
 #include "flash/FlashCard.h"
 
 #include "flash/FlashForm.h"
-#include "platform/CardTurn.h"
+#include "support/CardTurns.h"
 #include "support/FormTest.h"
 #include "support/MotionStyle.h"
 
@@ -210,13 +210,7 @@ private:
         card().setStyle(style);
     }
 
-    [[nodiscard]] int turns()
-    {
-        int shown = 0;
-        for (const CardTurn *turn : card().findChildren<CardTurn *>())
-            shown += turn->isVisible() ? 1 : 0;
-        return shown;
-    }
+    [[nodiscard]] int turns() { return cardTurns(card()); }
 
     std::unique_ptr<FlashForm> m_form;
 };

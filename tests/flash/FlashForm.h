@@ -17,6 +17,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 class FlashForm final
 {
     FreshState m_state;
@@ -28,14 +30,13 @@ public:
     explicit FlashForm(int entries = 5)
     {
         for (int i = 1; i <= entries; ++i)
-            Module1::gVocabList().AddVocab(QStringLiteral("word %1").arg(i),
-                                           QStringLiteral("definition %1").arg(i), {});
+            Module1::gVocabList().AddVocab(u"word %1"_s.arg(i), u"definition %1"_s.arg(i), {});
         open();
     }
     // A single word with this definition.
     explicit FlashForm(const QString &definition)
     {
-        Module1::gVocabList().AddVocab(QStringLiteral("word 1"), definition, {});
+        Module1::gVocabList().AddVocab(u"word 1"_s, definition, {});
         open();
     }
 
@@ -58,23 +59,23 @@ public:
     {
         QTimer &running = timer(name);
         if (!running.isActive())
-            Controls::fail(QLatin1String(name) + QStringLiteral(" does not run"));
+            Controls::fail(QLatin1String(name) + u" does not run"_s);
         const int interval = running.interval();
         QSignalSpy fired(&running, &QTimer::timeout);
         running.setInterval(1);
         if (!fired.wait())
-            Controls::fail(QLatin1String(name) + QStringLiteral(" does not fire"));
+            Controls::fail(QLatin1String(name) + u" does not fire"_s);
         running.setInterval(interval);
     }
 
     // Word of the deck's card.
     [[nodiscard]] static QString wordOfCard(int card)
     {
-        return QStringLiteral("word %1").arg(Module1::gWordOrder(card).toInt());
+        return u"word %1"_s.arg(Module1::gWordOrder(card).toInt());
     }
     [[nodiscard]] static QString definitionOfCard(int card)
     {
-        return QStringLiteral("definition %1").arg(Module1::gWordOrder(card).toInt());
+        return u"definition %1"_s.arg(Module1::gWordOrder(card).toInt());
     }
 
     // Visible and enabled buttons, and timers that run.
@@ -92,13 +93,12 @@ public:
     }
     [[nodiscard]] static QStringList byHand()
     {
-        return {QStringLiteral("cmdNext"), QStringLiteral("cmdPrevious"),
-                QStringLiteral("cmdAutoFlash"), QStringLiteral("CancelButton")};
+        return {u"cmdNext"_s, u"cmdPrevious"_s, u"cmdAutoFlash"_s, u"CancelButton"_s};
     }
     // Running, with the timer of the phase; empty = none runs.
     [[nodiscard]] static QStringList automatic(const QString &timer)
     {
-        QStringList look{QStringLiteral("cmdStop"), QStringLiteral("CancelButton")};
+        QStringList look{u"cmdStop"_s, u"CancelButton"_s};
         if (!timer.isEmpty())
             look += timer;
         return look;
@@ -110,7 +110,7 @@ private:
         m_dialog = std::make_unique<dlgQuickFlash>();
         m_dialog->show();
         if (!QTest::qWaitForWindowActive(m_dialog.get()))
-            Controls::fail(QStringLiteral("the dialog does not become active"));
+            Controls::fail(u"the dialog does not become active"_s);
     }
 
     std::unique_ptr<dlgQuickFlash> m_dialog;

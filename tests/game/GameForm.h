@@ -5,17 +5,15 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "game/SoundRequests.h"
 #include "game/Top10Table.h"
 #include "game/frmTanglewit.h"
-#include "platform/sndPlaySoundA.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
 #include "support/FreshState.h"
 
 #include <QAction>
 #include <QDialog>
-#include <QDir>
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,6 +28,8 @@
 #include <functional>
 #include <memory>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 class GameForm final
 {
@@ -47,20 +47,31 @@ public:
         for (QAction *item : {&m_mnuUpbeat, &m_mnuSoothing, &m_mnuMusicOff})
             item->setCheckable(true);
         m_mnuMusicOff.setChecked(true);
-        setSoundPlayer([this](const QString &file, unsigned flags) {
-            m_sounds += QStringLiteral("%1 %2").arg(soundName(file)).arg(flags);
-        });
         m_window = std::make_unique<frmTanglewit>(
             MusicMenu{m_mnuUpbeat, m_mnuSoothing, m_mnuMusicOff}, &m_mainWindow);
         QObject::connect(m_window.get(), &frmTanglewit::left, &m_mainWindow, &QWidget::show);
     }
-    ~GameForm() { setSoundPlayer({}); }
+    ~GameForm() = default;
     Q_DISABLE_COPY_MOVE(GameForm)
 
     [[nodiscard]] static QStringList fiveWords()
     {
-        return {QStringLiteral("apple"), QStringLiteral("bread"), QStringLiteral("cream"),
-                QStringLiteral("dough"), QStringLiteral("flour")};
+        return {u"apple"_s, u"bread"_s, u"cream"_s, u"dough"_s, u"flour"_s};
+    }
+    // A word of so many letters, each one different from its neighbours.
+    [[nodiscard]] static QString longWord(int letters)
+    {
+        QString word;
+        for (int i = 0; i < letters; ++i)
+            word += QChar(u'a' + i % 26);
+        return word;
+    }
+    // Rows for the states of the game.
+    static void addStates(std::initializer_list<const char *> states)
+    {
+        QTest::addColumn<QString>("state");
+        for (const char *state : states)
+            QTest::newRow(state) << QString::fromLatin1(state);
     }
     // Replaces the list's entries by these words, each with a definition and a sentence.
     static void fill(const QStringList &words)
@@ -72,13 +83,13 @@ public:
     }
     [[nodiscard]] static QString definitionOf(const QString &word)
     {
-        return QStringLiteral("definition of ") + word;
+        return u"definition of "_s + word;
     }
     [[nodiscard]] static QString sentenceOf(const QString &word)
     {
-        return QStringLiteral("Here is ") + word + QStringLiteral(".");
+        return u"Here is "_s + word + u"."_s;
     }
-    [[nodiscard]] static QString blankedSentence() { return QStringLiteral("Here is _____."); }
+    [[nodiscard]] static QString blankedSentence() { return u"Here is _____."_s; }
     // The word that is asked.
     [[nodiscard]] static QString word() { return Module1::gVocabList().Word(); }
 
@@ -121,7 +132,7 @@ public:
     void waitForWindow()
     {
         if (!QTest::qWaitForWindowActive(m_window.get()))
-            Controls::fail(QStringLiteral("the game window does not become active"));
+            Controls::fail(u"the game window does not become active"_s);
     }
     // The arrow, so many times.
     void raiseStartLevel(int times)
@@ -140,7 +151,7 @@ public:
     {
         for (; seconds > 0; --seconds) {
             if (!timer().isActive())
-                Controls::fail(QStringLiteral("Timer1 does not run"));
+                Controls::fail(u"Timer1 does not run"_s);
             QMetaObject::invokeMethod(&timer(), "timeout", Qt::DirectConnection);
         }
     }
@@ -164,7 +175,7 @@ public:
             answer(word());
     }
     // The wrong word; the dialog that follows is answered.
-    void answerWrong(const QString &wrong = QStringLiteral("wrong"))
+    void answerWrong(const QString &wrong = u"wrong"_s)
     {
         expectMiss();
         answer(wrong);
@@ -200,7 +211,7 @@ public:
             Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
         });
     }
-    void expectLevel(int level) { answers.expectMsgBox(QStringLiteral("Level %1").arg(level)); }
+    void expectLevel(int level) { answers.expectMsgBox(u"Level %1"_s.arg(level)); }
 
     // Wrong answers until the game is over. A score must not enter the table, or the name is for
     // it.
@@ -213,7 +224,7 @@ public:
             expectTop10();
         else
             expectTop10Entry(name);
-        answer(QStringLiteral("wrong"));
+        answer(u"wrong"_s);
         waitForWindow();
     }
 
@@ -222,31 +233,37 @@ public:
         for (QAction *item : {&m_mnuUpbeat, &m_mnuSoothing, &m_mnuMusicOff})
             item->setChecked(false);
         const QLatin1String chosen(music);
-        (chosen == QLatin1String("mnuUpbeat")     ? m_mnuUpbeat
-         : chosen == QLatin1String("mnuSoothing") ? m_mnuSoothing
-                                                  : m_mnuMusicOff)
+        (chosen == u"mnuUpbeat"     ? m_mnuUpbeat
+         : chosen == u"mnuSoothing" ? m_mnuSoothing
+                                    : m_mnuMusicOff)
             .setChecked(true);
         Module1::gUpbeatMusic = m_mnuUpbeat.isChecked();
         Module1::gMusicOff = m_mnuMusicOff.isChecked();
     }
     // The requests for sound since the last call: set, file and flags, or the name and flags.
-    QStringList sounds() { return std::exchange(m_sounds, {}); }
+    QStringList sounds()
+    {
+        QStringList sounds = m_sounds.take();
+        for (QString &sound : sounds)
+            sound = sound.section(u'/', -2);
+        return sounds;
+    }
 
     // Score, level, countdown and lives as the window shows them.
     [[nodiscard]] QString numbers()
     {
         return QStringList{text("lblScore"), text("lblLevel"), text("lblCountDown"),
                            text("lblNumLifes")}
-            .join(QLatin1Char(' '));
+            .join(u' ');
     }
     // The letter tiles in sight, each with its number.
     [[nodiscard]] QStringList tiles()
     {
         QStringList tiles;
         for (int i = 1; i <= 30; ++i) {
-            const auto &tile = button(QStringLiteral("cmdLetters_%1").arg(i).toLatin1());
+            const auto &tile = button(u"cmdLetters_%1"_s.arg(i).toLatin1());
             if (tile.isVisible())
-                tiles += QStringLiteral("%1 %2").arg(i).arg(tile.text());
+                tiles += u"%1 %2"_s.arg(i).arg(tile.text());
         }
         return tiles;
     }
@@ -261,7 +278,7 @@ public:
                 look += QLatin1String(name);
         }
         if (timer().isActive())
-            look += QStringLiteral("Timer1");
+            look += u"Timer1"_s;
         return look;
     }
     [[nodiscard]] static QStringList ready()
@@ -287,14 +304,6 @@ private:
         return names;
     }
 
-    [[nodiscard]] static QString soundName(const QString &file)
-    {
-        const QFileInfo track(file);
-        return file.contains(QLatin1Char('/'))
-                   ? track.dir().dirName() + QLatin1Char('/') + track.fileName()
-                   : file;
-    }
-
     void clickArrow(QStyle::SubControl arrow)
     {
         QScrollBar &bar = levelSwitch();
@@ -310,14 +319,14 @@ private:
         option.pageStep = bar.pageStep();
         const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, arrow, &bar);
         if (place.isEmpty() || !bar.rect().contains(place.center()))
-            Controls::fail(QStringLiteral("the level switch has no such arrow"));
+            Controls::fail(u"the level switch has no such arrow"_s);
         QTest::mouseClick(&bar, Qt::LeftButton, {}, place.center());
     }
 
     QAction m_mnuUpbeat;
     QAction m_mnuSoothing;
     QAction m_mnuMusicOff;
-    QStringList m_sounds;
+    SoundRequests m_sounds;
     QWidget m_mainWindow;
     std::unique_ptr<frmTanglewit> m_window;
 };

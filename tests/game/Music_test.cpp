@@ -3,8 +3,8 @@
 #include "game/Music.h"
 
 #include "core/Module1.h"
+#include "game/SoundRequests.h"
 #include "platform/Paths.h"
-#include "platform/sndPlaySoundA.h"
 #include "support/FormTest.h"
 #include "support/MainWindow.h"
 
@@ -61,10 +61,7 @@ private Q_SLOTS:
         m_music = std::make_unique<Music>(MusicMenu{m_window->action("mnuUpbeat"),
                                                     m_window->action("mnuSoothing"),
                                                     m_window->action("mnuMusicOff")});
-        m_requests.clear();
-        setSoundPlayer([this](const QString &fileName, unsigned flags) {
-            m_requests << fileName + u' ' + QString::number(flags);
-        });
+        m_requests = std::make_unique<SoundRequests>();
     }
 
     void cleanup()
@@ -72,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(m_window->answers.allSeen());
         m_music.reset();
         m_window.reset();
-        setSoundPlayer({});
+        m_requests.reset();
     }
 
     void musicIsOffAtFirst()
@@ -116,7 +113,7 @@ private Q_SLOTS:
                 QCOMPARE(gMusicOff, off);
             }
         }
-        QCOMPARE(m_requests, QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
     }
 
     void theTracksAreNamedInTheOrderOfTheLevels_data()
@@ -133,7 +130,7 @@ private Q_SLOTS:
         m_music->fillTracks();
         QCOMPARE(trackNames(gFastBeatTracks), allTracks(u"fastbeat"_s));
         QCOMPARE(trackNames(gSoftBeatTracks), allTracks(u"softbeat"_s));
-        QCOMPARE(m_requests, QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
     }
 
     void withoutMusicTheTrackListsStayAsTheyWere()
@@ -173,11 +170,11 @@ private Q_SLOTS:
     {
         chooseAndFill("mnuUpbeat");
         m_music->startGame();
-        QCOMPARE(takeRequests(), QStringList{playing(u"fastbeat"_s, 1)});
+        QCOMPARE(m_requests->take(), QStringList{playing(u"fastbeat"_s, 1)});
         QVERIFY(!gMusicOff);
         m_window->choose("mnuSoothing");
         m_music->startGame();
-        QCOMPARE(takeRequests(), QStringList{playing(u"softbeat"_s, 1)});
+        QCOMPARE(m_requests->take(), QStringList{playing(u"softbeat"_s, 1)});
         QVERIFY(!gMusicOff);
     }
 
@@ -193,7 +190,7 @@ private Q_SLOTS:
         m_music->changeLevel(2);
         m_music->stop();
         QVERIFY(gMusicOff);
-        QCOMPARE(m_requests, QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
     }
 
     void eachLevelHasItsTrack_data()
@@ -210,10 +207,10 @@ private Q_SLOTS:
         QFETCH(QString, set);
         chooseAndFill(item.constData());
         m_music->startGame();
-        QCOMPARE(takeRequests(), QStringList{playing(set, 1)});
+        QCOMPARE(m_requests->take(), QStringList{playing(set, 1)});
         for (int level = 2; level <= 10; ++level) {
             m_music->changeLevel(level);
-            QCOMPARE(takeRequests(), (QStringList{Stop, playing(set, level)}));
+            QCOMPARE(m_requests->take(), (QStringList{Stop, playing(set, level)}));
         }
     }
 
@@ -222,43 +219,43 @@ private Q_SLOTS:
         chooseAndFill("mnuUpbeat");
         m_music->startGame();
         m_music->changeLevel(2);
-        takeRequests();
+        m_requests->take();
         m_window->choose("mnuSoothing");
-        QCOMPARE(takeRequests(), QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
         m_music->changeLevel(3);
-        QCOMPARE(takeRequests(), (QStringList{Stop, playing(u"softbeat"_s, 3)}));
+        QCOMPARE(m_requests->take(), (QStringList{Stop, playing(u"softbeat"_s, 3)}));
     }
 
     void musicOffInAGameLeavesTheTrackUntilTheEnd()
     {
         chooseAndFill("mnuUpbeat");
         m_music->startGame();
-        takeRequests();
+        m_requests->take();
         m_window->choose("mnuMusicOff");
         m_music->changeLevel(2);
         m_music->changeLevel(3);
-        QCOMPARE(takeRequests(), QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
         m_music->stop();
-        QCOMPARE(takeRequests(), QStringList{Stop});
+        QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(gMusicOff);
         m_music->stop();
-        QCOMPARE(takeRequests(), QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
     }
 
     void theEndSilencesUntilTheNextGame()
     {
         chooseAndFill("mnuSoothing");
         m_music->startGame();
-        takeRequests();
+        m_requests->take();
         m_music->stop();
-        QCOMPARE(takeRequests(), QStringList{Stop});
+        QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(gMusicOff);
         m_music->changeLevel(2);
         m_music->stop();
-        QCOMPARE(takeRequests(), QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
         QCOMPARE(checkedItems(), QStringList{u"mnuSoothing"_s});
         m_music->startGame();
-        QCOMPARE(takeRequests(), QStringList{playing(u"softbeat"_s, 1)});
+        QCOMPARE(m_requests->take(), QStringList{playing(u"softbeat"_s, 1)});
         QVERIFY(!gMusicOff);
     }
 
@@ -266,7 +263,7 @@ private Q_SLOTS:
     {
         m_window->choose("mnuUpbeat");
         m_music->stop();
-        QCOMPARE(m_requests, QStringList{Stop});
+        QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(gMusicOff);
     }
 
@@ -274,11 +271,11 @@ private Q_SLOTS:
     {
         m_window->choose("mnuUpbeat");
         m_music->startGame();
-        QCOMPARE(m_requests, QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
         m_music->changeLevel(2);
         m_window->choose("mnuSoothing");
         m_music->changeLevel(3);
-        QCOMPARE(m_requests.filter(u" 9"_s), QStringList());
+        QCOMPARE(m_requests->take().filter(u" 9"_s), QStringList());
     }
 
     // Of the real windows, from here on.
@@ -291,7 +288,7 @@ private Q_SLOTS:
         openGame("mnuSoothing");
         QCOMPARE(trackNames(gFastBeatTracks), allTracks(u"fastbeat"_s));
         QCOMPARE(trackNames(gSoftBeatTracks), allTracks(u"softbeat"_s));
-        QCOMPARE(m_requests, QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
         closeGame();
     }
 
@@ -299,17 +296,17 @@ private Q_SLOTS:
     {
         openGame("mnuUpbeat");
         clickInGame("cmdStart");
-        QCOMPARE(takeRequests(), QStringList{playing(u"fastbeat"_s, 1)});
+        QCOMPARE(m_requests->take(), QStringList{playing(u"fastbeat"_s, 1)});
         m_window->answers.useForm("dlgGameOver", [](QDialog &dialog) {
             Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
         });
         clickInGame("cmdViewTop10");
-        QCOMPARE(takeRequests(), QStringList{Stop});
+        QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(gMusicOff);
         clickInGame("cmdRestart");
-        QCOMPARE(takeRequests(), QStringList());
+        QCOMPARE(m_requests->take(), QStringList());
         clickInGame("cmdStart");
-        QCOMPARE(takeRequests(), QStringList{playing(u"fastbeat"_s, 1)});
+        QCOMPARE(m_requests->take(), QStringList{playing(u"fastbeat"_s, 1)});
         closeGame();
     }
 
@@ -317,13 +314,13 @@ private Q_SLOTS:
     {
         openGame("mnuSoothing");
         clickInGame("cmdStart");
-        QCOMPARE(takeRequests(), QStringList{playing(u"softbeat"_s, 1)});
+        QCOMPARE(m_requests->take(), QStringList{playing(u"softbeat"_s, 1)});
         m_window->answers.useForm("dlgGameOver", [this](QDialog &dialog) {
-            QCOMPARE(m_requests, QStringList());
+            QCOMPARE(m_requests->take(), QStringList());
             dialog.close();
         });
         clickInGame("cmdQuit");
-        QCOMPARE(takeRequests(), QStringList{Stop});
+        QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(gMusicOff);
     }
 
@@ -339,11 +336,11 @@ private Q_SLOTS:
         QFETCH(bool, turnedOffBefore);
         openGame("mnuUpbeat");
         clickInGame("cmdStart");
-        takeRequests();
+        m_requests->take();
         if (turnedOffBefore)
             m_window->choose("mnuMusicOff");
         closeGame();
-        QCOMPARE(takeRequests(), QStringList{Stop});
+        QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(gMusicOff);
     }
 
@@ -356,8 +353,6 @@ private:
                 checked << QString::fromLatin1(item);
         return checked;
     }
-
-    QStringList takeRequests() { return std::exchange(m_requests, {}); }
 
     void chooseAndFill(const char *item)
     {
@@ -394,7 +389,7 @@ private:
 
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<Music> m_music;
-    QStringList m_requests; // file name and flags of each
+    std::unique_ptr<SoundRequests> m_requests;
 };
 
 int main(int argc, char *argv[])

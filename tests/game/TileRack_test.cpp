@@ -2,7 +2,7 @@
 #include "game/TileRack.h"
 
 #include "game/LetterTile.h"
-#include "platform/CardTurn.h"
+#include "support/CardTurns.h"
 #include "support/Controls.h"
 #include "support/MotionStyle.h"
 
@@ -41,14 +41,6 @@ QString turnedUp(const TileRack &rack)
 void uncoverAll(TileRack &rack, const QString &word)
 {
     rack.uncover(word.size(), word);
-}
-
-int turnsOf(const QWidget &widget)
-{
-    int shown = 0;
-    for (const CardTurn *turn : widget.findChildren<CardTurn *>())
-        shown += turn->isVisible() ? 1 : 0;
-    return shown;
 }
 
 } // namespace
@@ -211,11 +203,11 @@ private Q_SLOTS:
     {
         const auto rack = shownRack(50);
         rack->uncover(1, u"cat"_s);
-        QCOMPARE(turnsOf(tile(*rack, 15)), 1);
-        QCOMPARE(turnsOf(*rack), 1);
+        QCOMPARE(cardTurns(tile(*rack, 15)), 1);
+        QCOMPARE(cardTurns(*rack), 1);
         // The letter is set at once, and the motion ends by itself.
         QCOMPARE(turnedUp(*rack), u"15c"_s);
-        QTRY_COMPARE(turnsOf(*rack), 0);
+        QTRY_COMPARE(cardTurns(*rack), 0);
         QCOMPARE(turnedUp(*rack), u"15c"_s);
     }
 
@@ -225,15 +217,15 @@ private Q_SLOTS:
         rack->uncover(1, u"cat"_s);
         CardTurn::end(tile(*rack, 15));
         rack->uncover(2, u"cat"_s);
-        QCOMPARE(turnsOf(tile(*rack, 15)), 0);
-        QCOMPARE(turnsOf(tile(*rack, 16)), 1);
+        QCOMPARE(cardTurns(tile(*rack, 15)), 0);
+        QCOMPARE(cardTurns(tile(*rack, 16)), 1);
     }
 
     void withoutMotionATileLiesThereAtOnce()
     {
         const auto rack = shownRack(0);
         uncoverAll(*rack, u"cat"_s);
-        QCOMPARE(turnsOf(*rack), 0);
+        QCOMPARE(cardTurns(*rack), 0);
         QCOMPARE(turnedUp(*rack), u"15c 16a 17t"_s);
     }
 
@@ -242,7 +234,7 @@ private Q_SLOTS:
         const auto rack = shownRack(10'000);
         rack->uncover(1, u"cat"_s);
         rack->uncover(0, {});
-        QCOMPARE(turnsOf(*rack), 0);
+        QCOMPARE(cardTurns(*rack), 0);
         QCOMPARE(turnedUp(*rack), QString());
     }
 

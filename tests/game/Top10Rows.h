@@ -5,9 +5,18 @@
 #include "game/Top10Table.h"
 
 #include <QByteArray>
+#include <QLocale>
 #include <QStringList>
 
 #include <bit>
+
+using namespace Qt::StringLiterals;
+
+// The date as a row shows it.
+[[nodiscard]] inline QString dateText(QDate day)
+{
+    return QLocale::system().toString(day, QLocale::ShortFormat);
+}
 
 // A row as the file holds it.
 [[nodiscard]] inline QByteArray fileRow(double days, const QByteArray &name, int points)
@@ -29,7 +38,7 @@
 {
     return QStringList{entry.EntryDate.toString(Qt::ISODate), entry.PlayerName,
                        entry.Points.toText()}
-        .join(QLatin1Char('|'));
+        .join(u'|');
 }
 
 [[nodiscard]] inline QStringList fieldsOf(const Top10Table &table)
@@ -46,10 +55,9 @@
 {
     Top10Table table;
     for (int i = 0; i < 10; ++i)
-        table[std::size_t(i)] = i < points.size()
-                                    ? Top10Entry{QDate(2020, 1, 1).addDays(i),
-                                                 QStringLiteral("Player %1").arg(i + 1), points[i]}
-                                    : Top10Entry{QDate(2020, 2, 1), {}, 0};
+        table[std::size_t(i)] = i < points.size() ? Top10Entry{QDate(2020, 1, 1).addDays(i),
+                                                               u"Player %1"_s.arg(i + 1), points[i]}
+                                                  : Top10Entry{QDate(2020, 2, 1), {}, 0};
     return table;
 }
 

@@ -2,11 +2,11 @@
 #include "game/dlgGameOver.h"
 
 #include "game/Music.h"
+#include "game/OpenDialog.h"
+#include "game/SoundRequests.h"
 #include "game/Top10File.h"
 #include "game/Top10Rows.h"
 #include "platform/Paths.h"
-#include "platform/sndPlaySoundA.h"
-#include "support/Controls.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
 #include "support/FreshState.h"
@@ -14,10 +14,6 @@
 #include <QAction>
 #include <QFile>
 #include <QFileInfo>
-#include <QLabel>
-#include <QLineEdit>
-#include <QLocale>
-#include <QPushButton>
 #include <QScreen>
 
 #include <memory>
@@ -27,19 +23,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The open dialog, found by a look into it.
-struct OverForm
+struct OverForm : OpenDialog
 {
-    explicit OverForm(QDialog &dialog) : form(dialog) {}
+    using OpenDialog::OpenDialog;
 
-    [[nodiscard]] QPushButton &button(const char *name) const
-    {
-        return Controls::find<QPushButton>(form, name);
-    }
     [[nodiscard]] QLineEdit &name() const { return Controls::find<QLineEdit>(form, "txtName"); }
     [[nodiscard]] QLabel &row(int row) const
     {
-        return Controls::find<QLabel>(form, QByteArray("lblTop10_") + QByteArray::number(row));
+        return label(QByteArray("lblTop10_") + QByteArray::number(row));
     }
     [[nodiscard]] QStringList rows() const
     {
@@ -48,19 +39,9 @@ struct OverForm
             texts << row(i).text();
         return texts;
     }
-    [[nodiscard]] QString title() const { return Controls::find<QLabel>(form, "lblTitle").text(); }
+    [[nodiscard]] QString title() const { return label("lblTitle").text(); }
 
-    void click(const char *name) const { Controls::click(button(name)); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QTest::keyClick(modifiers == Qt::NoModifier ? form.focusWidget() : &form, key, modifiers);
-    }
-    void typeName(const QString &text) const
-    {
-        name().setFocus();
-        name().selectAll();
-        name().insert(text);
-    }
+    void typeName(const QString &text) const { insert(name(), text); }
 
     // What is in sight and can be used, and what Enter presses.
     [[nodiscard]] QStringList state() const
@@ -76,17 +57,10 @@ struct OverForm
                 state += QLatin1String(control) + u" default"_s;
         return state;
     }
-
-    QDialog &form;
 };
 
 const QStringList Naming{u"txtName"_s, u"cmdEnter"_s, u"cmdEnter default"_s};
 const QStringList Viewing{u"cmdClose"_s, u"cmdReset"_s, u"cmdClose default"_s};
-
-QString dateText(QDate day)
-{
-    return QLocale::system().toString(day, QLocale::ShortFormat);
-}
 
 // The rows as they should read, worked out from the table's points and names.
 QStringList rowTexts(const Top10Table &table)
@@ -132,16 +106,13 @@ private Q_SLOTS:
         m_upbeat.setCheckable(true);
         m_upbeat.setChecked(false);
         m_music = std::make_unique<Music>(MusicMenu{m_upbeat, m_soothing, m_musicOff});
-        m_sounds.clear();
-        setSoundPlayer([this](const QString &fileName, unsigned flags) {
-            m_sounds << fileName + u' ' + QString::number(flags);
-        });
+        m_sounds = std::make_unique<SoundRequests>();
     }
 
     void cleanup()
     {
         QVERIFY(m_answers->allSeen());
-        setSoundPlayer({});
+        m_sounds.reset();
         m_answers.reset();
         m_state.reset();
     }
@@ -419,17 +390,17 @@ private Q_SLOTS:
         QFETCH(QString, way);
         gMusicOff = false;
         show([&](const OverForm &form) {
-            QCOMPARE(m_sounds, QStringList());
+            QCOMPARE(m_sounds->take(), QStringList());
             leave(form, way);
         });
-        QCOMPARE(m_sounds, QStringList{u"NULL 0"_s});
+        QCOMPARE(m_sounds->take(), QStringList{u"NULL 0"_s});
         QVERIFY(gMusicOff);
     }
 
     void withMusicOffNothingIsAskedFor()
     {
         show([](const OverForm &form) { form.click("cmdClose"); });
-        QCOMPARE(m_sounds, QStringList());
+        QCOMPARE(m_sounds->take(), QStringList());
         QVERIFY(gMusicOff);
     }
 
@@ -490,7 +461,7 @@ private Q_SLOTS:
             QVERIFY(form.form.isVisible());
             leave(form, way);
         });
-        QCOMPARE(m_sounds, QStringList{u"NULL 0"_s});
+        QCOMPARE(m_sounds->take(), QStringList{u"NULL 0"_s});
         QCOMPARE(gTop10[0].Points, Integer(7));
         QCOMPARE(gTop10[0].PlayerName, u"Ann"_s);
         QVERIFY(QFileInfo(path).isDir());
@@ -604,7 +575,7 @@ private:
     std::unique_ptr<FreshState> m_state;
     std::unique_ptr<DialogAnswers> m_answers;
     std::unique_ptr<Music> m_music;
-    QStringList m_sounds;
+    std::unique_ptr<SoundRequests> m_sounds;
 };
 
 int main(int argc, char *argv[])

@@ -3,7 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "support/Controls.h"
+#include "game/OpenDialog.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
 #include "support/FreshState.h"
@@ -11,9 +11,6 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -25,35 +22,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The open dialog, found by a look into it.
-struct AnswerForm
+struct AnswerForm : OpenDialog
 {
-    explicit AnswerForm(QDialog &dialog) : form(dialog) {}
+    using OpenDialog::OpenDialog;
 
-    [[nodiscard]] QLabel &label(const char *name) const
-    {
-        return Controls::find<QLabel>(form, name);
-    }
-    [[nodiscard]] QPushButton &button(const char *name) const
-    {
-        return Controls::find<QPushButton>(form, name);
-    }
     [[nodiscard]] QLineEdit &box() const
     {
         return Controls::find<QLineEdit>(form, "txtUserAnswer");
     }
 
-    void click(const char *name) const { Controls::click(button(name)); }
-    void type(const QString &text) const
-    {
-        box().setFocus();
-        box().selectAll();
-        box().insert(text);
-    }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QTest::keyClick(modifiers == Qt::NoModifier ? form.focusWidget() : &form, key, modifiers);
-    }
+    void type(const QString &text) const { insert(box(), text); }
     void answer(const QString &word) const
     {
         type(word);
@@ -73,8 +51,6 @@ struct AnswerForm
                 state += QLatin1String(name) + u" default"_s;
         return state;
     }
-
-    QDialog &form;
 };
 
 const QStringList WordShown{u"lblAnswerIs"_s, u"lblDefinition"_s, u"txtUserAnswer"_s, u"cmdOK"_s,

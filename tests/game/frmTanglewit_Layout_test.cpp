@@ -37,11 +37,8 @@ void checkNothingIsCut(QWidget &window)
     // A window that grows with its texts lays itself out again.
     for (int i = 0; i < 5; ++i)
         QApplication::processEvents();
-    const QByteArray size = QStringLiteral("%1 %2x%3")
-                                .arg(window.objectName())
-                                .arg(window.width())
-                                .arg(window.height())
-                                .toUtf8();
+    const QByteArray size =
+        u"%1 %2x%3"_s.arg(window.objectName()).arg(window.width()).arg(window.height()).toUtf8();
     QVERIFY2(window.screen()->geometry().contains(window.geometry()), size);
     const QList<QWidget *> controls = visibleControls(window);
     QVERIFY(controls.size() > 4);
@@ -198,10 +195,7 @@ private Q_SLOTS:
     void everyOpenTileLiesOnTheRack()
     {
         QFETCH(int, letters);
-        QString word;
-        for (int i = 0; i < letters; ++i)
-            word += QChar(u'a' + i % 26);
-        m_form = std::make_unique<GameForm>(QStringList{word});
+        m_form = std::make_unique<GameForm>(QStringList{GameForm::longWord(letters)});
         m_form->start();
         m_form->expectMiss([this, letters](QDialog &) {
             QCOMPARE(m_form->tiles().size(), std::min(letters, 30));

@@ -16,9 +16,7 @@ const QString GoodBye = u"Good bye. Thank you for playing The Tanglewit!!!"_s;
 
 void addStates()
 {
-    QTest::addColumn<QString>("state");
-    for (const char *state : {"ready", "playing", "new pass at 0", "over"})
-        QTest::newRow(state) << QString::fromLatin1(state);
+    GameForm::addStates({"ready", "playing", "new pass at 0", "over"});
 }
 
 } // namespace

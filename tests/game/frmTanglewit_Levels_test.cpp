@@ -3,6 +3,7 @@
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
+#include "game/LevelSeconds.h"
 #include "support/FormTest.h"
 
 using namespace Module1;
@@ -93,24 +94,23 @@ private Q_SLOTS:
 
     void aWholeGameGoesUpToLevelTen()
     {
-        constexpr int limits[] = {30, 25, 20, 15, 10, 9, 8, 7, 6, 5};
         m_form->choose("mnuUpbeat");
         m_form->start();
         QCOMPARE(m_form->sounds(), QStringList{u"fastbeat/Track01.wav 9"_s});
         for (int level = 1; level < 10; ++level) {
             m_form->answerRight(19);
             QCOMPARE(m_form->numbers(),
-                     u"%1 %2 %3 5"_s.arg(level * 80 - 4).arg(level).arg(limits[level - 1]));
+                     u"%1 %2 %3 5"_s.arg(level * 80 - 4).arg(level).arg(levelSeconds(level)));
             QCOMPARE(m_form->sounds(), QStringList());
             m_form->expectLevel(level + 1);
             m_form->answerRight();
             QVERIFY(m_form->answers.allSeen());
             QCOMPARE(m_form->numbers(),
-                     u"%1 %2 %3 5"_s.arg(level * 80).arg(level + 1).arg(limits[level]));
+                     u"%1 %2 %3 5"_s.arg(level * 80).arg(level + 1).arg(levelSeconds(level + 1)));
             QCOMPARE(m_form->hitsTitle(), u"Hits: %1"_s.arg(level * 20));
             QCOMPARE(m_form->sounds(),
-                     (QStringList{u"NULL 0"_s, u"fastbeat/Track%1.wav 9"_s.arg(level + 1, 2, 10,
-                                                                               QLatin1Char('0'))}));
+                     (QStringList{u"NULL 0"_s,
+                                  u"fastbeat/Track%1.wav 9"_s.arg(level + 1, 2, 10, QChar(u'0'))}));
         }
         m_form->answerRight(20);
         QCOMPARE(m_form->numbers(), u"800 10 5 5"_s);

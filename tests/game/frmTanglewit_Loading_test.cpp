@@ -18,14 +18,6 @@ QStringList numberedWords(int count)
     return words;
 }
 
-// Every way in which a game can have ended before.
-void addEndings()
-{
-    QTest::addColumn<QString>("ending");
-    for (const char *ending : {"ready", "playing", "over"})
-        QTest::newRow(ending) << QString::fromLatin1(ending);
-}
-
 } // namespace
 
 class frmTanglewit_Loading_test final : public QObject
@@ -159,21 +151,24 @@ private Q_SLOTS:
         QCOMPARE(gWordOrder(1001), Integer(0));
     }
 
-    void theWindowIsReadyAgainWhenItComesBack_data() { addEndings(); }
+    void theWindowIsReadyAgainWhenItComesBack_data()
+    {
+        GameForm::addStates({"ready", "playing", "over"});
+    }
 
     void theWindowIsReadyAgainWhenItComesBack()
     {
-        QFETCH(QString, ending);
+        QFETCH(QString, state);
         m_form->open();
         m_form->raiseStartLevel(2);
-        if (ending != u"ready"_s) {
+        if (state != u"ready"_s) {
             m_form->click("cmdStart");
             m_form->answerRight();
             m_form->answerWrong();
             m_form->passTime(9);
             m_form->click("cmdHide");
         }
-        if (ending == u"over"_s)
+        if (state == u"over"_s)
             m_form->loseAllLives(u"Ann"_s);
         m_form->window().close();
         m_form->open();

@@ -184,12 +184,7 @@ private Q_SLOTS:
         QCOMPARE(gTop10[2].PlayerName, u"Game 1"_s);
     }
 
-    void theTop10CanBeSeenInEveryState_data()
-    {
-        QTest::addColumn<QString>("state");
-        for (const char *state : {"ready", "playing", "over"})
-            QTest::newRow(state) << QString::fromLatin1(state);
-    }
+    void theTop10CanBeSeenInEveryState_data() { GameForm::addStates({"ready", "playing", "over"}); }
 
     void theTop10CanBeSeenInEveryState()
     {

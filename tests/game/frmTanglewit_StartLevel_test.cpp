@@ -3,6 +3,7 @@
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
+#include "game/LevelSeconds.h"
 #include "support/FormTest.h"
 
 using namespace Module1;
@@ -10,12 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Level and countdown, from level 1 up.
-constexpr int Limits[] = {30, 25, 20, 15, 10, 9, 8, 7, 6, 5};
-
 QString numbersAt(int level)
 {
-    return u"0 %1 %2 5"_s.arg(level).arg(Limits[level - 1]);
+    return u"0 %1 %2 5"_s.arg(level).arg(levelSeconds(level));
 }
 
 } // namespace

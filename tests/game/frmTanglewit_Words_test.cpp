@@ -6,21 +6,12 @@
 #include "runtime/RandomNumbers.h"
 #include "support/FormTest.h"
 
-#include <array>
+#include <vector>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// So many letters, each one different from its neighbours.
-QString longWord(int letters)
-{
-    QString word;
-    for (int i = 0; i < letters; ++i)
-        word += QChar(u'a' + i % 26);
-    return word;
-}
 
 QString typeOf(const QWidget &label)
 {
@@ -92,7 +83,8 @@ private Q_SLOTS:
         QFETCH(int, sentence);
         QFETCH(QString, types);
         gVocabList().ClearList();
-        gVocabList().AddVocab(longWord(word), QString(definition, u'x'), QString(sentence, u'y'));
+        gVocabList().AddVocab(GameForm::longWord(word), QString(definition, u'x'),
+                              QString(sentence, u'y'));
         m_form->start();
         QCOMPARE(shownTypes(), types);
         QCOMPARE(m_form->text("lblClue"), QString(definition, u'x'));
@@ -111,7 +103,7 @@ private Q_SLOTS:
     void theTypeChangesWithTheWord()
     {
         QFETCH(bool, byTimeOut);
-        GameForm::fill({u"apple"_s, longWord(28)});
+        GameForm::fill({u"apple"_s, GameForm::longWord(28)});
         m_form->start();
         for (int i = 0; i < 4; ++i) {
             QCOMPARE(shownTypes(),
@@ -162,9 +154,7 @@ private Q_SLOTS:
 
     void showAndHideSwitchTheScrambledWordInEveryState_data()
     {
-        QTest::addColumn<QString>("state");
-        for (const char *state : {"ready", "playing", "over"})
-            QTest::newRow(state) << QString::fromLatin1(state);
+        GameForm::addStates({"ready", "playing", "over"});
     }
 
     void showAndHideSwitchTheScrambledWordInEveryState()
@@ -206,7 +196,7 @@ private Q_SLOTS:
     void noTileIsTouchedBehindTheThirtieth()
     {
         QFETCH(int, letters);
-        const QString word = longWord(letters);
+        const QString word = GameForm::longWord(letters);
         GameForm::fill({word});
         m_form->start();
         QCOMPARE(m_form->text("lblScrambledWord").size(), letters);
@@ -222,7 +212,7 @@ private Q_SLOTS:
 
     void theLettersOfALongWordCountAllOfThem()
     {
-        GameForm::fill({longWord(45)});
+        GameForm::fill({GameForm::longWord(45)});
         m_form->start();
         m_form->answerRight();
         QCOMPARE(gScore, Integer(44));
@@ -296,7 +286,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, byTimeOut);
         GameForm::fill({u"apple"_s, u"ab"_s});
-        startInOrder();
+        startInOrder({0.0F, 0.9F});
         if (byTimeOut) {
             m_form->timeOut();
         } else {
@@ -322,14 +312,7 @@ private Q_SLOTS:
     void theLastLifeEndsTheGameBeforeAShortWord()
     {
         GameForm::fill(GameForm::fiveWords() << u"ab"_s);
-        m_form->open();
-        // The words in their order, then a scramble.
-        constexpr std::array numbers{0.0F, 0.2F, 0.4F, 0.6F, 0.7F, 0.9F,
-                                     0.0F, 0.9F, 0.3F, 0.7F, 0.5F};
-        std::size_t drawn = 0;
-        RandomNumbers::setSource([&] { return numbers[drawn++ % numbers.size()]; });
-        m_form->click("cmdStart");
-        RandomNumbers::setSource({});
+        startInOrder({0.0F, 0.2F, 0.4F, 0.6F, 0.7F, 0.9F});
         m_form->loseAllLives();
         QCOMPARE(GameForm::word(), u"ab"_s);
         QCOMPARE(m_form->look(), GameForm::over());
@@ -338,7 +321,7 @@ private Q_SLOTS:
     void anEmptyWordAfterAnotherIsReportedAndTheWindowLives()
     {
         GameForm::fill({u"apple"_s, QString()});
-        startInOrder();
+        startInOrder({0.0F, 0.9F});
         expectNoWord();
         m_form->answerRight();
         QVERIFY(m_form->answers.allSeen());
@@ -377,10 +360,11 @@ private:
         QVERIFY(!m_form->timer().isActive());
     }
 
-    // Starts with the list's two words in the list's order.
-    void startInOrder()
+    // Starts with the list's words in the list's order, drawn by these random numbers.
+    void startInOrder(std::vector<float> numbers)
     {
-        constexpr std::array numbers{0.0F, 0.9F, 0.3F, 0.7F, 0.5F};
+        for (const float forTheScramble : {0.0F, 0.9F, 0.3F, 0.7F, 0.5F})
+            numbers.push_back(forTheScramble);
         m_form->open();
         std::size_t drawn = 0;
         RandomNumbers::setSource([&] { return numbers[drawn++ % numbers.size()]; });
