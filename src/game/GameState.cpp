@@ -27,7 +27,7 @@ bool GameState::tick(Integer letters)
     if (CountDown > 0)
         return false;
     loseLife();
-    NextLetter = std::max(NextLetter, letters + 1);
+    NextLetter = letters + 1;
     return true;
 }
 
