@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-// In milliseconds: 200 for each character, 3000 at least, 10000 at most. The product is an
-// Integer: from 164 characters on it throws Overflow.
+// In milliseconds: 200 for each character, but at least 3000 and at most 10000. Throws RunTimeError
+// Overflow for 164 characters or more, whose product does not fit into an Integer.
 [[nodiscard]] constexpr Integer definitionTime(Integer characters)
 {
     return std::clamp(characters * 200, Integer(3000), Integer(10000));

@@ -21,7 +21,7 @@ public:
     ~dlgQuickFlash() override;
 
 Q_SIGNALS:
-    // The dialog is unloaded; the main window should be shown.
+    // The dialog was closed; the main window should be shown.
     void terminated();
 
 protected:

@@ -9,12 +9,12 @@ namespace {
 
 constexpr QLatin1String Blank("_____");
 constexpr QLatin1String Delimiters(" .,;!?");
-constexpr int LettersLeftOff = 2; // of the word in the last attempt
+constexpr int LettersLeftOff = 2; // at most, from the end of the word
 
-// What counts at the start of a word, in the order in which it is tried.
+// The beginnings of a word that are looked for, in this order.
 using Forms = std::array<QString, 3>;
 
-// Letter by letter, so that no text changes its length.
+// Letter by letter: QString::toUpper makes "SS" of a sharp s.
 QString upperCase(QString text)
 {
     for (QChar &character : text)
@@ -27,7 +27,7 @@ bool isDelimiter(QChar character)
     return Delimiters.contains(character);
 }
 
-// The length of the form that the sentence has at the position; 0 = none.
+// The length of the form found at the position; 0 = none.
 qsizetype formAt(const QString &sentence, qsizetype position, const Forms &forms)
 {
     const QStringView rest = QStringView(sentence).sliced(position);
@@ -37,12 +37,12 @@ qsizetype formAt(const QString &sentence, qsizetype position, const Forms &forms
     return 0;
 }
 
-// Nothing where none of the forms begins a word of the sentence.
+// Nothing if no word of the sentence begins with one of the forms.
 std::optional<QString> blanked(const QString &sentence, const Forms &forms)
 {
     std::optional<QString> result;
     QString shown;
-    qsizetype scanned = 0; // what is before it is blanked or kept for good
+    qsizetype scanned = 0; // all before it is in `shown`
     for (qsizetype i = 0; i < sentence.size();) {
         const bool wordStart = i == scanned || isDelimiter(sentence[i - 1]);
         const qsizetype length = wordStart ? formAt(sentence, i, forms) : 0;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The example sentence as the game shows it: with the word that is asked for blanked out.
+// The example sentence with the asked word blanked out.
 #pragma once
 
 #include <QString>
 
-// Every word of the sentence that begins with the asked word becomes "_____": with its first
-// letter in upper case, as it is written, or in capital letters, character for character. Where
-// that blanks nothing the asked word without its last letter is tried, then without its last two,
-// so that inflected forms are found. Words end at a blank or one of ".,;!?". A sentence without
-// the word comes back as it is.
+// Replaces every word of the sentence that begins with the asked word by "_____". The beginning
+// must equal the asked word character for character: as it is written, in capital letters, or with
+// a capital first letter. If nothing is found, the asked word is tried without its last letter,
+// then without its last two, so that inflected forms are found; the form with a capital first
+// letter is always tried whole. Words end at a blank or one of ".,;!?". A sentence in which nothing
+// is found is returned unchanged.
 [[nodiscard]] QString blankedSentence(const QString &sentence, const QString &word);

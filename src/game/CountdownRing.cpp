@@ -9,13 +9,15 @@
 
 namespace {
 
-constexpr int RingSide = 84; // pixels, as the measures below
+// Pixels.
+constexpr int RingSide = 84;
 constexpr int RingWidth = 8;
 constexpr int NumberHeight = 30;
 constexpr int LastNumberHeight = 42;
+
 constexpr int LastSeconds = 5;
 
-constexpr QColor Alarm(0xC6, 0x28, 0x28); // white on it reads 5.6 to 1
+constexpr QColor Alarm(0xC6, 0x28, 0x28); // contrast to white 5.6 to 1
 
 } // namespace
 

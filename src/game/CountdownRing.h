@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The countdown: its seconds as a number in a ring that shrinks with them. In the last five the
-// ring is a full disc with a larger number.
+// The countdown: a number of seconds in a ring that gets shorter with them. In the last five
+// seconds it is a filled disc with a larger number.
 #pragma once
 
 #include "runtime/Integer.h"

@@ -14,7 +14,7 @@ void FittedLabel::paintEvent(QPaintEvent * /*event*/)
     const double share = std::min(room.width() / needed.width(), room.height() / needed.height());
     if (share < 1)
         type.setPointSizeF(std::max(type.pointSizeF() * share, smallestType));
-    // Letters do not shrink quite as their type does.
+    // The width of a text is not quite in proportion to the size of its type.
     const auto shown = [&] {
         return QFontMetrics(type).elidedText(text(), Qt::ElideRight, room.width());
     };

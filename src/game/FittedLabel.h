@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A label of one line in the middle of its place. Where its type would not fit there, it is drawn
-// smaller, and a text that is longer still ends in an ellipsis.
+// A label of one centred line. A text that does not fit is drawn in smaller type; if it does not
+// fit in the smallest type either, it is cut and ends in an ellipsis.
 #pragma once
 
 #include <QLabel>

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The same in a dark palette: wood is wood.
+// The same in light and dark palettes.
 constexpr QColor Wood(0xF6, 0xE3, 0xB8);
 constexpr QColor WoodLight(0xFD, 0xF3, 0xD9);
 constexpr QColor WoodEdge(0xC4, 0x9A, 0x55);
@@ -35,7 +35,7 @@ void LetterTile::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double edge = height() / 12.0; // of the wood, seen below the face
+    const double edge = height() / 12.0; // visible side of the tile below its face
     const double radius = height() / 7.0;
     const QRectF whole = QRectF(rect()).adjusted(1, 1, -1, -1);
     const QRectF face = whole.adjusted(0, 0, 0, -edge);

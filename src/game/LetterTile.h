@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A letter tile: a button that looks like a piece of wood with a letter, turned up where it lies.
+// A letter tile: a wooden piece with a letter. It takes neither mouse nor keyboard.
 #pragma once
 
 #include <QPushButton>
@@ -11,7 +11,7 @@ class LetterTile final : public QPushButton
 public:
     explicit LetterTile(QWidget *parent);
 
-    // Shows the tile with the letter; it is seen to turn, unless the style asks for no motion.
+    // Shows the tile with the letter, animated if the style allows animations.
     void turnUp(const QString &letter);
 
 protected:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The lives as a row of hearts: full ones are left, outlines are lost.
+// The lives as a row of hearts: a filled heart for each life left, an outline for each lost one.
 #pragma once
 
 #include "runtime/Integer.h"

@@ -58,7 +58,7 @@ void Music::changeLevel(Integer level)
     play(level);
 }
 
-// A track that plays is ended also after Music Off was chosen in the middle of it.
+// After Music Off is chosen during a game, gMusicOff is true while the track still plays.
 void Music::stop()
 {
     if (gMusicOff && !m_isPlaying)
@@ -76,7 +76,7 @@ void Music::play(Integer level)
     m_isPlaying = true;
 }
 
-// This name is no file; asking for it ends the sound before it.
+// There is no file of this name, and every request ends the sound that is playing.
 void Music::requestSilence()
 {
     sndPlaySoundA(QStringLiteral("NULL"), 0);

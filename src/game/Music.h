@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The game's background music: which track loops when, as the Music menu chooses.
+// The game's background music: starts, changes and stops the tracks that the Music menu chooses.
 #pragma once
 
 #include "runtime/Integer.h"
 
 class QAction;
 
-// The main window's menu items, of which one is checked.
+// The items of the main window's Music menu, one of which is checked.
 struct MusicMenu
 {
     const QAction &mnuUpbeat;
@@ -22,13 +22,13 @@ class Music final
 public:
     explicit Music(MusicMenu menu) : m_menu(menu) {}
 
-    // Names the tracks of both lists, if there is to be music.
+    // Fills gFastBeatTracks and gSoftBeatTracks, unless the music is off or the menu is disabled.
     void fillTracks() const;
-    // Plays track 1, if there is to be music in this game.
+    // Plays track 1, unless Music Off is checked.
     void startGame();
-    // Changes to the level's track, unless the music is off.
+    // Plays the level's track of the set that is now chosen, unless the music is off.
     void changeLevel(Integer level);
-    // Ends what plays; the music is off until the next game starts.
+    // Stops the track. The music is off until the next game starts.
     void stop();
 
 private:

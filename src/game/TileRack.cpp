@@ -12,7 +12,7 @@ namespace {
 
 // Pixels.
 constexpr int LargestTile = 52;
-constexpr int Rim = 6; // of the rack, round the tiles
+constexpr int Rim = 6; // around the tiles
 constexpr int Gap = 2; // between two tiles
 
 } // namespace
@@ -53,8 +53,8 @@ void TileRack::resizeEvent(QResizeEvent * /*event*/)
     place();
 }
 
-// The row of 30 is centred in the rack; a word can lie half a tile beside its middle. Tiles that
-// the word does not use may lie outside.
+// The row of 30 tiles is centred, so a word with an odd number of letters lies half a tile beside
+// the middle. Tiles that the word does not use may lie outside the rack.
 void TileRack::place()
 {
     const int pitch = std::min((width() - 2 * Rim) / (m_letters.toInt() + 1), LargestTile + Gap);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The rack of the letter tiles, made for the word on show: as many places as it has letters, and
-// tiles as large as that allows.
+// The rack of the letter tiles. It has as many places as the word has letters; the tiles are as
+// large as this allows.
 #pragma once
 
 #include "runtime/Integer.h"
@@ -18,7 +18,7 @@ class TileRack final : public QWidget
 public:
     explicit TileRack(QWidget *parent = nullptr);
 
-    // Covers all tiles and makes room for a word of so many letters; for 0 the rack is empty.
+    // Covers all tiles and makes places for a word with this number of letters.
     void prepare(Integer letters);
     // Turns up the tiles of the word's first `count` letters, as far as there are tiles, and
     // covers the others.

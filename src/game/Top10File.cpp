@@ -16,7 +16,7 @@ QDate dateOfDayCount(double days)
 {
     constexpr double earliest = -657434; // 1 January 100
     constexpr double latest = 2958465;   // 31 December 9999
-    // The day is the whole part, on both sides of zero.
+    // The fraction is the time of day, also for negative numbers.
     if (!(days > earliest - 1 && days < latest + 1))
         return {};
     return DayZero.addDays(static_cast<qint64>(days));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The file of the Top 10 table.
 //
-// Ten records, best first, without header or padding; bytes behind the tenth mean nothing. Each:
+// Ten records, best first, without header or padding; bytes after the tenth are ignored. Each:
 //
 //   offset  size
 //   0       8     EntryDate   IEEE-754 double: days since 30 December 1899
@@ -18,17 +18,17 @@
 
 namespace Top10File {
 
-// The rows that the bytes hold over those of `defaults`: a row that begins beyond the end stays
-// as it is there, a field that is cut off is zero or what is left of the text. A day count that
-// is no date gives an invalid date.
+// The rows in the bytes; rows that are missing at the end are those of `defaults`. In a row that is
+// cut off, missing numbers are 0 and the name is what there is of it. A day count outside the years
+// 100 to 9999 becomes an invalid date.
 [[nodiscard]] Top10Table decode(QByteArrayView bytes, const Top10Table &defaults);
 
-// The table of the file at `path`, which is made empty where it is missing. Throws what
-// BinaryFile::read throws.
+// The table in the file at `path`. A missing file is created empty. Throws what BinaryFile::read
+// throws.
 [[nodiscard]] Top10Table read(const QString &path, const Top10Table &defaults);
 
-// A date that is none becomes a day count that is no number. Throws RunTimeError Overflow for a
-// name of more than 65535 characters.
+// An invalid date is written as NaN. Throws RunTimeError Overflow for a name of more than 65535
+// characters.
 [[nodiscard]] QByteArray encode(const Top10Table &table);
 
 // Writes over the file from its first byte. Throws what encode and BinaryFile::overwrite throw.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The sizes of type in which the game shows a word, chosen by the lengths of its texts.
+// The type sizes of the game's texts, by the lengths of the texts in characters.
 #pragma once
 
 #include <QtGlobal>
@@ -31,7 +31,7 @@ struct TypeSize
     return {characters <= 150 ? 14 : 12, false};
 }
 
-// After a miss there is room enough for a longer definition.
+// In dlgIncorrectAnswer.
 [[nodiscard]] constexpr TypeSize missedDefinitionTypeSize(qsizetype characters)
 {
     return {characters <= 100 ? 18 : 14, false};

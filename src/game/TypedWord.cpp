@@ -15,7 +15,7 @@ QString typeable(QString text)
         return category == QChar::Other_Control || category == QChar::Separator_Line ||
                category == QChar::Separator_Paragraph || character == QChar::Nbsp;
     };
-    text.replace(QStringLiteral("\r\n"), QStringLiteral(" ")); // one line break, one blank
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
     std::replace_if(text.begin(), text.end(), hasNoKey, QChar(QLatin1Char(' ')));
     return withoutOuterBlanks(text);
 }

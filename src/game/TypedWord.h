@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whether a person typed a word of the list: character for character, blanks round it left out.
+// Whether a typed text is a word of the list, compared character for character without the blanks
+// around both.
 #pragma once
 
 #include <QString>
 
-// A line break, a tab or a hard blank in the word, which a file may hold and no key gives, may be
-// typed as a blank.
+// Line breaks, tabs and no-break spaces in the word cannot be typed; a blank is accepted for each.
 [[nodiscard]] bool isWord(const QString &typed, const QString &word);

@@ -16,7 +16,8 @@ namespace {
 constexpr int RankColumn = 0;
 constexpr int RowColumn = 1;
 constexpr int NameColumn = 2;
-constexpr int LabelOnly = 1; // columns of a row
+// Columns that a row's label takes.
+constexpr int LabelOnly = 1;
 constexpr int LabelAndName = 2;
 
 std::size_t indexOf(Integer row)
@@ -52,7 +53,7 @@ void dlgGameOver::makeRows()
         auto *label = new QLabel(m_ui->rowPanel);
         label->setObjectName(QStringLiteral("lblTop10_%1").arg(row));
         label->setTextFormat(Qt::PlainText);
-        label->setMinimumWidth(1); // a long name is cut, the dialog keeps its size
+        label->setMinimumWidth(1); // a long name is cut off instead of widening the dialog
         m_lblTop10[indexOf(row)] = label;
         m_ui->rowLayout->addWidget(rank, row - 1, RankColumn);
         placeRow(row, LabelAndName);
@@ -72,7 +73,7 @@ void dlgGameOver::Form_Load()
     showNaming(m_newRow != 0);
 }
 
-// The row's label takes so many columns; with one there is room for the name box beside it.
+// With LabelOnly there is room for the name box beside the label.
 void dlgGameOver::placeRow(Integer row, int columns)
 {
     QLabel *label = m_lblTop10[indexOf(row)];

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The Top 10 table: takes the name of a new score in it, or only shows it.
+// Shows the Top 10 table. Enters the game's score, if it is high enough, and takes its name.
 #pragma once
 
 #include "game/Top10Table.h"
@@ -43,6 +43,6 @@ private:
 
     std::unique_ptr<Ui::dlgGameOver> m_ui;
     std::array<QLabel *, std::tuple_size_v<Top10Table>> m_lblTop10{};
-    Integer m_newRow; // whose name is being typed; 0 = none
+    Integer m_newRow; // the row whose name is being typed; 0 = none
     Music &m_music;
 };

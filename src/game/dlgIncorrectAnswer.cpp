@@ -23,7 +23,7 @@ dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
     onClick(m_ui->cmdOK, &dlgIncorrectAnswer::cmdOK_Click);
     onClick(m_ui->cmdUp, &dlgIncorrectAnswer::cmdUp_Click);
     onClick(m_ui->cmdDown, &dlgIncorrectAnswer::cmdDown_Click);
-    // For a word with letters that the keyboard lacks.
+    // For letters that are not on the keyboard.
     auto *copy = new QAction(QStringLiteral("&Copy Word"), m_ui->lblAnswerIs);
     connect(copy, &QAction::triggered, this,
             [] { runGuarded([] { QGuiApplication::clipboard()->setText(gVocabList().Word()); }); });
@@ -39,7 +39,7 @@ void dlgIncorrectAnswer::Form_Load()
     showWord(true);
     const QString word = gVocabList().Word();
     m_ui->lblAnswerIs->setText(QStringLiteral("The correct answer is: ") + word);
-    // The dialog goes only when the word is in the box, which may be made for shorter ones.
+    // The box must take the whole word, or the dialog could never be closed.
     m_ui->txtUserAnswer->setMaxLength(
         std::max(m_ui->txtUserAnswer->maxLength(), static_cast<int>(word.size())));
     const QString definition = gVocabList().Definition();
@@ -47,8 +47,8 @@ void dlgIncorrectAnswer::Form_Load()
     m_ui->txtUserAnswer->setFocus();
 }
 
-// Enter is left to the default button, which there is only while the word is hidden, and to the
-// button that has the keyboard.
+// Enter presses the button that has the focus, else the default button, which exists only while
+// the word is hidden.
 void dlgIncorrectAnswer::keyPressEvent(QKeyEvent *event)
 {
     if (!m_defaultButton.press(*event, focusWidget()))

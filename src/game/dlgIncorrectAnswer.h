@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// After a miss: shows the right word and its definition, and closes only when the word has been
-// typed.
+// Shows the right word and its definition after a miss. Closes only after the word was typed.
 #pragma once
 
 #include "platform/DefaultButton.h"
@@ -33,5 +32,5 @@ private:
 
     std::unique_ptr<Ui::dlgIncorrectAnswer> m_ui;
     DefaultButton m_defaultButton;
-    bool m_isTyped = false; // the right word
+    bool m_isTyped = false; // the right word has been typed
 };

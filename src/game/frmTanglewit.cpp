@@ -25,7 +25,7 @@ constexpr QSize LargestWindow(1200, 900); // pixels
 const QString StartPrompt = QStringLiteral("Please click Start to begin.");
 const QString RestartPrompt = QStringLiteral("Please click Restart to shuffle.");
 
-// The whole width of a narrow screen; else most of the screen, 4 to 3.
+// Maximised on a narrow screen; else up to nine tenths of the screen, in proportion 4 to 3.
 void takeSize(QWidget &window)
 {
     const QSize wholeScreen = screenInTwips(window);
@@ -117,7 +117,7 @@ void frmTanglewit::keyPressEvent(QKeyEvent *event)
         Form::keyPressEvent(event);
 }
 
-// A value of 1 is the lower arrow, -1 the upper one; the bar goes back to 0 each time.
+// The bar rests at 0. The lower arrow sets it to 1, the upper one to -1.
 void frmTanglewit::VScroll1_Change()
 {
     const int value = m_ui->VScroll1->value();
@@ -131,7 +131,7 @@ void frmTanglewit::cmdStart_Click()
     showMode(Mode::Playing);
     ShowFirstWord();
     if (isTooShortToScramble(gVocabList().Word()))
-        return; // only Restart, Quit and the close box go on
+        return; // the game waits for Restart, Quit or the close box
     m_ui->txtUserAnswer->setEnabled(true);
     m_Timer1.start();
     gScore = 0;
@@ -162,7 +162,7 @@ void frmTanglewit::cmdQuit_Click()
     Q_EMIT left();
 }
 
-// The answer box, while it is disabled, does not take the focus.
+// setFocus does nothing while the answer box is disabled.
 void frmTanglewit::cmdShow_Click()
 {
     showWordSwitch(true);
@@ -183,7 +183,7 @@ void frmTanglewit::cmdViewTop10_Click()
     showGame(); // the dialog's Close sets the score to 0
 }
 
-// Leaves lives, level and lists as they are.
+// Does not change lives, level and lists.
 void frmTanglewit::ResetBoard()
 {
     m_Timer1.stop();
@@ -194,7 +194,7 @@ void frmTanglewit::ResetBoard()
     m_ui->VScroll1->setEnabled(true);
 }
 
-// Start enables the answer box and disables the level switch when its word is shown.
+// In Playing the answer box is enabled, and the level switch disabled, once a word is shown.
 void frmTanglewit::showMode(Mode mode)
 {
     const bool isReady = mode == Mode::Ready;
@@ -232,7 +232,7 @@ void frmTanglewit::showGame()
     m_ui->lblNumLifes->setText(m_game.NumLifes.toText());
     m_ui->lifeHearts->setLives(m_game.NumLifes);
     m_ui->lblCountDown->setSeconds(m_game.CountDown, m_game.TimeLimit);
-    // Without an uncovered letter there may be no word yet.
+    // While no letter is uncovered, the list may have no current word.
     const Integer uncovered = m_game.NextLetter - 1;
     m_ui->tileRack->uncover(uncovered, uncovered == 0 ? QString() : gVocabList().Word());
 }

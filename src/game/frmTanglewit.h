@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The game: a scrambled word of the list with its clue and its blanked sentence, against the
-// clock, over ten levels and five lives.
+// The game: the player types each word of the list from its scrambled letters, its definition and
+// its blanked example sentence before a countdown ends. There are ten levels and five lives.
 #pragma once
 
 #include "game/GameState.h"
@@ -26,7 +26,7 @@ public:
     frmTanglewit(MusicMenu menu, QWidget *mainWindow);
     ~frmTanglewit() override;
 
-    // A new order of the list's words.
+    // Draws a new order of the list's words.
     void Shuffle();
 
 Q_SIGNALS:
@@ -40,7 +40,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    // What can be used: Start; the answer box and Enter; only Restart, Quit and View Top 10.
+    // Ready: Start can be pressed. Playing: the answer can be entered. Over: neither.
     enum class Mode { Ready, Playing, Over };
     enum class After { Start, Answer, TimeOut };
 
@@ -79,5 +79,5 @@ private:
     GameState m_game;
     Music m_music;
     QWidget *m_mainWindow;
-    bool m_isQuitting = false; // the good-bye dialog follows, and ends the music
+    bool m_isQuitting = false; // the good-bye dialog will follow and stop the music
 };

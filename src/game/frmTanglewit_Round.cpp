@@ -32,7 +32,7 @@ void addLine(QListWidget &list, const QString &line)
 
 void frmTanglewit::Timer1_Timer()
 {
-    // The countdown stands still behind a dialog.
+    // The countdown is paused while a dialog is open.
     if (QApplication::activeModalWidget())
         return;
     // A word that is too long for an Integer is reported once, not each second.

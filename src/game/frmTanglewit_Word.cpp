@@ -25,8 +25,8 @@ void frmTanglewit::ShowFirstWord()
     showWord(After::Start);
 }
 
-// The first word of a new pass is shown as at the start. After a time-out the countdown then
-// stands at 0 until the next tick.
+// After the last word of the order a new pass begins as at the start of the game. If it begins
+// after a time-out, the countdown stays at 0 until the next tick.
 void frmTanglewit::showNextWord(After event)
 {
     ++gOrderIndex;
@@ -41,8 +41,8 @@ void frmTanglewit::showNextWord(After event)
     showWord(event);
 }
 
-// The word at gOrderIndex. Where it is too short to be scrambled, it is asked, but the texts of
-// the word before stay.
+// Makes the word at gOrderIndex the current word and shows it. If it is too short to be scrambled,
+// it can be answered, but the texts of the word before stay.
 void frmTanglewit::showWord(After event)
 {
     cVocabList &list = gVocabList();
