@@ -15,6 +15,8 @@ int wholeTwips(double twips)
 MainLayout mainLayout(int windowWidth, int windowHeight)
 {
     MainLayout layout;
+    layout.windowWidth = windowWidth;
+    layout.numberWidth = 960;
     layout.columnWidths = {wholeTwips(windowWidth / 7.0), wholeTwips(windowWidth / 3.0),
                            wholeTwips(windowWidth / 2.315)};
     layout.gridHeight = windowHeight / 2;

@@ -3,9 +3,9 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "editor/GridPlace.h"
 #include "editor/MainLayout.h"
 #include "editor/UnsavedCopy.h"
+#include "editor/WordPage.h"
 #include "editor/ui_frmMain.h"
 #include "game/Top10File.h"
 #include "game/frmTanglewit.h"
@@ -21,11 +21,6 @@
 
 namespace {
 
-constexpr int GridRows = 25;
-constexpr int VisibleRows = 1 + GridPlace::Rows;
-
-constexpr int NumberWidth = 960; // twips, of the item numbers' column
-
 constexpr int Spacing = 8;     // pixels, as all measures below
 constexpr int LineHeight = 32; // of a one-line box or a button
 constexpr int ButtonWidth = 116;
@@ -38,6 +33,7 @@ frmMain::frmMain()
       m_unsavedCopy(std::make_unique<UnsavedCopy>(this))
 {
     m_ui->setupUi(this);
+    m_page = std::make_unique<WordPage>(*m_ui->MSFlexGrid1, *m_ui->VScroll1);
     for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep})
         separator->setSeparator(true);
     connectHandlers();
@@ -84,10 +80,6 @@ void frmMain::connectHandlers()
             guarded(this, &frmMain::txtSentence_Change));
     connect(m_ui->MSFlexGrid1, &MSFlexGrid::Click, this,
             guarded(this, &frmMain::MSFlexGrid1_Click));
-    connect(m_ui->MSFlexGrid1, &MSFlexGrid::moved, this, guarded(this, &frmMain::moveCurrentRow));
-    connect(m_ui->MSFlexGrid1, &MSFlexGrid::wheeled, this, guarded(this, &frmMain::turnPage));
-    connect(m_ui->VScroll1, &QScrollBar::valueChanged, this,
-            guarded(this, &frmMain::VScroll1_Change));
 }
 
 void frmMain::addShortcuts()
@@ -110,22 +102,12 @@ void frmMain::Form_Load()
     gVocabList().ClearList();
     gFileName.clear();
     gOpenedFile.clear();
-    m_shownEntry = 0;
 
-    MSFlexGrid &grid = *m_ui->MSFlexGrid1;
-    grid.setSize(GridRows, 4);
-    grid.setVisibleRows(VisibleRows);
     gNewWord = gWordSelected = gChanged = false;
 
     fitToWindow();
-    emptyGrid();
-
-    gLastItem = 1;
-    NumberRows(1);
+    m_page->showNoEntries();
     ClearEntryBoxes();
-    txtDefinition_Change();
-    txtSentence_Change();
-    gHighlightRow = 0;
     loadTop10();
     DisableEntryBoxes();
     gUpbeatMusic = true;
@@ -190,22 +172,8 @@ void frmMain::fitToWindow()
     // The grid gives way before the entry area is cut.
     const int room = std::max(0, inside.height() - SmallestEntryArea * TwipsPerPixel);
     layout.gridHeight = layout.frameTop = std::min(layout.gridHeight, room);
-    place(layout, centralWidget()->height() - pixels(layout.frameTop));
-    Module1::gRowHeight = m_ui->MSFlexGrid1->RowHeight(1);
-}
-
-void frmMain::place(const MainLayout &layout, int entryHeight)
-{
-    MSFlexGrid &grid = *m_ui->MSFlexGrid1;
-    int column = 0;
-    grid.setColWidth(column, NumberWidth);
-    for (const int width : layout.columnWidths)
-        grid.setColWidth(++column, width);
-    const int windowWidth = pixels(layout.frameWidth + 200);
-    const int barWidth = m_ui->VScroll1->sizeHint().width();
-    const int gridHeight = pixels(layout.gridHeight);
-    grid.setGeometry(0, 0, windowWidth - barWidth, gridHeight);
-    m_ui->VScroll1->setGeometry(windowWidth - barWidth, 0, barWidth, gridHeight);
+    m_page->place(layout);
+    const int entryHeight = centralWidget()->height() - pixels(layout.frameTop);
     m_ui->Frame1->setGeometry(0, pixels(layout.frameTop), pixels(layout.frameWidth), entryHeight);
     placeEntryArea(layout, entryHeight);
 }

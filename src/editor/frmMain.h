@@ -15,8 +15,8 @@
 
 class QAction;
 class UnsavedCopy;
+class WordPage;
 class frmTanglewit;
-enum class GridMove;
 enum class MsgBoxButtons;
 struct MainLayout;
 
@@ -47,7 +47,6 @@ private:
     void addShortcuts();
     void loadTop10();
     void fitToWindow();
-    void place(const MainLayout &layout, int entryHeight);
     void placeEntryArea(const MainLayout &layout, int height);
     void showMode(Mode mode);
     void showCaption();
@@ -69,26 +68,11 @@ private:
     void ClearEntryBoxes();
     void DisableEntryBoxes();
     void EnableEntryBoxes();
-    void returnToShownEntry();
     void letShownEntryGo();
     [[nodiscard]] bool isCurrentWordAnEntry() const;
 
-    // frmMain_Grid.cpp: the grid and its scroll bar
     void MSFlexGrid1_Click(int row, int column);
-    void moveCurrentRow(GridMove move);
-    void turnPage(int rows);
-    void VScroll1_Change();
-    void FillGrid(Integer top);
-    void NumberRows(Integer top);
-    void emptyGrid();
-    void scrollTo(Integer value);
-    void setScrollRange();
-    [[nodiscard]] Integer FirstShownItem() const;
-    void HighlightRow();
-    void UnhighlightRow();
-    void markRow(Integer row);
     void showNewWordRow();
-    void MarkNewRow();
 
     // frmMain_Transfer.cpp: import, export, text file, flash cards
     void mnuImport_Click();
@@ -123,6 +107,7 @@ private:
     [[nodiscard]] bool mayEndLesson(MsgBoxButtons saveAnswers);
 
     std::unique_ptr<Ui::frmMain> m_ui;
+    std::unique_ptr<WordPage> m_page;
     std::unique_ptr<frmTanglewit> m_frmTanglewit; // made for the first game
     DefaultButton m_defaultButton;
     CommonDialog m_fileDialog;
@@ -131,5 +116,4 @@ private:
     std::unique_ptr<UnsavedCopy> m_unsavedCopy;
 
     Mode m_mode = Mode::Idle;
-    Integer m_shownEntry; // position of the entry in the boxes, picked or found; 0 = none
 };

@@ -3,12 +3,10 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "editor/GridPlace.h"
+#include "editor/WordPage.h"
 #include "editor/ui_frmMain.h"
 #include "platform/MsgBox.h"
 #include "runtime/Blanks.h"
-
-#include <algorithm>
 
 using namespace Module1;
 
@@ -42,7 +40,7 @@ void frmMain::cmdAdd_Click()
 
 void frmMain::updateWord()
 {
-    returnToShownEntry();
+    m_page->returnToChosen();
     gVocabList().Edit(withoutOuterBlanks(m_ui->txtWord->text()),
                       withoutOuterBlanks(m_ui->txtDefinition->text()),
                       withoutOuterBlanks(m_ui->txtSentence->text()));
@@ -51,7 +49,7 @@ void frmMain::updateWord()
     gWordSelected = false;
     showMode(Mode::Idle);
     m_ui->cmdNewWord->setFocus();
-    FillGrid(FirstShownItem());
+    m_page->FillGrid(m_page->FirstShownItem());
 }
 
 // Unlike an update, an addition keeps outer blanks.
@@ -70,13 +68,13 @@ void frmMain::addWord()
     showMode(Mode::NewWord);
 
     const Integer count = list.NumWords();
-    const Integer top = firstOfNewWordPage(count.toInt());
-    scrollTo(count);
-    FillGrid(top);
-    NumberRows(top);
+    const Integer top = placeOfNewWord(count.toInt()).first;
+    m_page->scrollTo(count);
+    m_page->FillGrid(top);
+    m_page->NumberRows(top);
     ClearEntryBoxes();
     m_ui->txtWord->setFocus();
-    MarkNewRow();
+    m_page->MarkNewRow();
 }
 
 void frmMain::cmdAbort_Click()
@@ -89,8 +87,8 @@ void frmMain::cmdAbort_Click()
 void frmMain::cmdDelete_Click()
 {
     cVocabList &list = gVocabList();
-    const Integer top = FirstShownItem();
-    returnToShownEntry();
+    const Integer top = m_page->FirstShownItem();
+    m_page->returnToChosen();
     if (!isCurrentWordAnEntry() || m_ui->txtWord->text() != list.Word()) {
         MsgBox(QStringLiteral("Please select a word to delete or execute a search first."));
         return;
@@ -107,13 +105,16 @@ void frmMain::cmdDelete_Click()
     showMode(Mode::Idle);
     m_ui->MSFlexGrid1->setFocus();
     const Integer count = list.NumWords();
-    if (count == 0)
-        emptyGrid();
-    else if (top > count)
-        scrollTo(count); // the page would be an empty one behind the list
+    if (count == 0) {
+        m_page->showNoEntries();
+        return;
+    }
+    const Integer first = firstAfterDelete(top.toInt(), count.toInt());
+    if (first != top)
+        m_page->scrollTo(first);
     else
-        FillGrid(top);
-    NumberRows(count > 0 ? std::min(top, count) : top);
+        m_page->FillGrid(first);
+    m_page->NumberRows(first);
 }
 
 void frmMain::mnuDeleteWord_Click()
@@ -129,7 +130,7 @@ void frmMain::cmdSearch_Click()
     showMode(Mode::Search);
     m_ui->txtWord->setFocus();
     if (m_ui->txtWord->text().isEmpty()) {
-        UnhighlightRow();
+        m_page->UnhighlightRow();
         return;
     }
     cVocabList &list = gVocabList();
@@ -146,11 +147,11 @@ void frmMain::cmdSearch_Click()
 
 void frmMain::showHit(Integer hit)
 {
-    UnhighlightRow();
-    const bool onePage = gVocabList().NumWords() < GridPlace::Rows;
-    m_shownEntry = 0; // the hit's row is marked, no other one
-    scrollTo(onePage ? Integer(1) : hit);
-    markRow(onePage ? hit : Integer(1));
+    m_page->UnhighlightRow();
+    m_page->choose(0); // the hit's row is marked, no other one
+    const GridPlace place = placeOfHit(hit.toInt(), gVocabList().NumWords().toInt());
+    m_page->scrollTo(place.first);
+    m_page->markRow(place.row);
     gVocabList().CurrentWord(hit);
     showEntry();
     m_ui->cmdDelete->setEnabled(true);
@@ -173,12 +174,12 @@ void frmMain::showEntry()
     m_ui->txtWord->setText(list.Word());
     m_ui->txtDefinition->setText(list.Definition());
     m_ui->txtSentence->setText(list.Sentence());
-    m_shownEntry = list.CurrentWord();
+    m_page->choose(list.CurrentWord());
 }
 
 void frmMain::ClearEntryBoxes()
 {
-    m_shownEntry = 0;
+    m_page->choose(0);
     m_ui->txtWord->setText({}); // clear() could be undone
     m_ui->txtDefinition->setText({});
     m_ui->txtSentence->setText({});
@@ -200,18 +201,11 @@ void frmMain::EnableEntryBoxes()
         box->setEnabled(true);
 }
 
-// Other windows may have moved the current position since the entry was picked or found.
-void frmMain::returnToShownEntry()
-{
-    if (m_shownEntry != 0)
-        gVocabList().CurrentWord(m_shownEntry);
-}
-
 void frmMain::letShownEntryGo()
 {
-    if (m_shownEntry == 0)
+    if (!m_page->isChosen())
         return;
-    UnhighlightRow();
+    m_page->UnhighlightRow();
     cmdAbort_Click();
 }
 
@@ -219,4 +213,37 @@ bool frmMain::isCurrentWordAnEntry() const
 {
     const Integer position = gVocabList().CurrentWord();
     return position >= 1 && position <= gVocabList().NumWords();
+}
+
+void frmMain::MSFlexGrid1_Click(int row, int column)
+{
+    const int item = m_page->itemIn(row);
+    if (item < 1 || item > gVocabList().NumWords().toInt())
+        return;
+    gVocabList().CurrentWord(item);
+    m_ui->MSFlexGrid1->setCurrent(row, 1);
+    gWordSelected = true;
+    gNewWord = false;
+    showEntry();
+    showMode(Mode::Editing);
+    switch (column) {
+    case 2:
+        m_ui->txtDefinition->setFocus();
+        break;
+    case 3:
+        m_ui->txtSentence->setFocus();
+        break;
+    default:
+        m_ui->txtWord->setFocus();
+    }
+    m_page->UnhighlightRow();
+    m_page->markRow(row);
+}
+
+void frmMain::showNewWordRow()
+{
+    const int count = gVocabList().NumWords().toInt();
+    if (count > 0)
+        m_page->scrollTo(placeOfNewWord(count).first);
+    m_page->MarkNewRow();
 }

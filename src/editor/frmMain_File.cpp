@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/WordPage.h"
 #include "editor/ui_frmMain.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
@@ -81,9 +82,7 @@ void frmMain::mnuNew_Click()
     m_fileDialog.FileName.clear();
     showCaption();
     ClearEntryBoxes();
-    emptyGrid();
-    gLastItem = 1;
-    NumberRows(1);
+    m_page->showNoEntries();
     showMode(Mode::NewList);
     m_ui->txtWord->setFocus();
     gNewWord = true;
@@ -146,7 +145,7 @@ bool frmMain::openFile()
 void frmMain::showFirstPage()
 {
     gLastItem = 1;
-    FillGrid(1);
-    scrollTo(1);
+    m_page->FillGrid(1);
+    m_page->scrollTo(1);
     gVocabList().CurrentWord(1);
 }

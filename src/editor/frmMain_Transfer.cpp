@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/WordPage.h"
 #include "editor/ui_frmMain.h"
 #include "flash/dlgQuickFlash.h"
 #include "platform/MsgBox.h"
@@ -13,8 +14,6 @@
 #include "transfer/Import.h"
 #include "transfer/TextFile.h"
 #include "transfer/dlgExport.h"
-
-#include <algorithm>
 
 using namespace Module1;
 
@@ -33,19 +32,19 @@ void frmMain::mnuImport_Click()
     gFileName = m_fileDialog.FileName;
     runGuarded([this] { importWords(gFileName); });
     gFileName = openList;
-    const Integer count = gVocabList().NumWords();
-    // The next new word goes behind what came in. Behind the list's end there is no page to show.
+    // The next new word goes behind what came in.
     if (m_mode == Mode::NewWord)
         showNewWordRow();
     else
-        FillGrid(remembered <= count ? remembered : std::min(FirstShownItem(), count));
+        m_page->FillGrid(firstAfterImport(remembered.toInt(), m_page->FirstShownItem().toInt(),
+                                          gVocabList().NumWords().toInt()));
     gVocabList().CurrentWord(1);
-    returnToShownEntry();
+    m_page->returnToChosen();
 }
 
 void frmMain::refresh()
 {
-    FillGrid(FirstShownItem());
+    m_page->FillGrid(m_page->FirstShownItem());
     repaint();
 }
 

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The page of the list that the grid shows, and the pages that the scroll bar, keys, the wheel and
+// the editor's commands lead to.
+//
+// Entries and rows count from 1; row 0 is the header. The scroll bar goes as far as the page that
+// begins with the last entry; in a short list one further, to a page without an entry. Keys and
+// the wheel go no further than the last full page.
+#pragma once
+
+#include "platform/GridMove.h"
+#include "runtime/Integer.h"
+
+struct GridPage
+{
+    static constexpr int Rows = 23; // of a full page
+    // With the header, and one row below the grid's edge that shows an entry as well.
+    static constexpr int GridRows = 1 + Rows + 1;
+
+    int first = 0;        // item in row 1; 0 = the page is empty
+    int last = 0;         // item in the last row that was filled
+    int numberedRows = 0; // rows with an item number, filled or not
+
+    bool operator==(const GridPage &) const = default;
+
+    // 0 where the row has no number.
+    [[nodiscard]] int itemIn(int row) const;
+    // 0 where no row is filled with the entry.
+    [[nodiscard]] int rowOf(int entry) const;
+    // Numbers all rows of a full page.
+    void numberFrom(int top);
+    void numberUpTo(int row);
+};
+
+// The page from the item `top` on, 0 meaning 1; the one row of an empty list has a number alone.
+// Throws Overflow where a full page leaves 16 bits.
+[[nodiscard]] GridPage pageFrom(Integer top, Integer entries);
+
+// The scroll bar goes from 0 to this. Throws Overflow for the longest list.
+[[nodiscard]] Integer scrollMaximum(Integer entries);
+// What the scroll bar goes on to when it is brought to this value.
+[[nodiscard]] int scrollValue(int value, int entries);
+
+// A row on a page.
+struct GridPlace
+{
+    int first = 1; // item in row 1; 0 = the page is empty
+    int row = 1;
+
+    bool operator==(const GridPlace &) const = default;
+};
+
+// Where a key leads from the current row, in a list that is not empty.
+[[nodiscard]] GridPlace placeAfter(GridMove move, GridPlace from, int entries);
+// The row of the next new word.
+[[nodiscard]] GridPlace placeOfNewWord(int entries);
+[[nodiscard]] GridPlace placeOfHit(int hit, int entries);
+
+// The first item of the page after ...
+// ... the wheel was turned by so many rows; downwards is positive.
+[[nodiscard]] int firstAfterWheel(int first, int rows, int entries);
+// ... a deletion that left so many entries.
+[[nodiscard]] int firstAfterDelete(int first, int entries);
+// ... an import, before which `position` was the current one.
+[[nodiscard]] int firstAfterImport(int position, int first, int entries);
