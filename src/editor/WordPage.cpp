@@ -105,7 +105,7 @@ void WordPage::emptyGrid()
     m_grid.setText(0, Sentence, QStringLiteral("Sentence"));
     for (int column = Word; column < Columns; ++column)
         m_grid.setCellBold(0, column, true);
-    m_grid.setCurrent(1, Word);
+    makeCurrent(1);
     gHighlightRow = 0;
     setScrollRange(); // fails for the longest list there is, whose grid stays empty
 }
@@ -149,7 +149,7 @@ void WordPage::moveCurrentRow(GridMove move)
     const GridPlace place = placeAfter(move, {m_page.first, m_grid.Row()}, count);
     if (place.first != m_page.first)
         scrollTo(place.first);
-    m_grid.setCurrent(place.row, Word);
+    makeCurrent(place.row);
 }
 
 void WordPage::turnPage(int rows)
@@ -160,6 +160,11 @@ void WordPage::turnPage(int rows)
     const int first = firstAfterWheel(m_page.first, rows, count);
     if (first != m_page.first)
         scrollTo(first);
+}
+
+void WordPage::makeCurrent(int row)
+{
+    m_grid.setCurrent(row, Word);
 }
 
 void WordPage::HighlightRow()

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] Integer FirstShownItem() const { return m_page.first; }
     [[nodiscard]] int itemIn(int row) const { return m_page.itemIn(row); }
 
+    // The row of the current cell.
+    void makeCurrent(int row);
     void HighlightRow();
     void UnhighlightRow();
     void markRow(Integer row);

@@ -3,10 +3,15 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "editor/WordPage.h"
-#include "editor/ui_frmMain.h"
+#include "editor/WordEditor.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
+#include "platform/ProgressShown.h"
+#include "runtime/BinaryFile.h"
+#include "runtime/SameFile.h"
+#include "transfer/Import.h"
+#include "transfer/TextFile.h"
+#include "transfer/dlgExport.h"
 
 #include <QScopeGuard>
 
@@ -18,12 +23,12 @@ namespace {
 
 const QString ListFilter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*");
 
-// Puts the open list's name back at the end of the scope, unless it is dismissed.
-auto fileNameRestorer()
+// Puts the open list's name back where the scope is left.
+[[nodiscard]] auto nameKeeper()
 {
-    return qScopeGuard([fileName = gFileName, fileTitle = gFileTitle] {
-        gFileName = fileName;
-        gFileTitle = fileTitle;
+    return qScopeGuard([name = gFileName, title = gFileTitle] {
+        gFileName = name;
+        gFileTitle = title;
     });
 }
 
@@ -38,9 +43,8 @@ void frmMain::mnuSave_Click()
     gVocabList().SaveFile();
     if (gVocabList().NumWords() > 0) // an empty list writes no file
         gOpenedFile = gFileName;
-    m_ui->mnuSave->setEnabled(false);
+    noteUnchanged();
     MsgBox(gFileName + QStringLiteral(" has been saved."));
-    gChanged = false;
     gSaved = true;
 }
 
@@ -58,15 +62,14 @@ void frmMain::mnuSaveAs_Click()
         m_fileDialog.FileName = lastUsed;
         return;
     }
-    auto restorer = fileNameRestorer();
+    auto keeper = nameKeeper();
     gFileName = m_fileDialog.FileName;
     gFileTitle = m_fileDialog.FileTitle;
     gVocabList().SaveFile();
-    restorer.dismiss();
+    keeper.dismiss();
     // An empty list writes no file: opening one by that name has to read it.
     gOpenedFile = gVocabList().NumWords() > 0 ? gFileName : QString();
-    m_ui->mnuSave->setEnabled(false);
-    gChanged = false;
+    noteUnchanged();
     showCaption();
     gSaved = true;
 }
@@ -81,10 +84,7 @@ void frmMain::mnuNew_Click()
     gFileTitle.clear();
     m_fileDialog.FileName.clear();
     showCaption();
-    ClearEntryBoxes();
-    m_page->showNoEntries();
-    showMode(Mode::NewList);
-    m_ui->txtWord->setFocus();
+    m_editor->showEmptyList(EditorMode::NewList);
     gNewWord = true;
     gWordSelected = false;
     gChanged = false;
@@ -95,9 +95,9 @@ void frmMain::mnuOpen_Click()
     if (!mayEndLesson(MsgBoxButtons::YesNo))
         return;
     const bool isRead = openFile();
-    cmdAbort_Click();
+    m_editor->cmdAbort_Click();
     if (isRead)
-        showFirstPage();
+        m_editor->showFirstPage();
 }
 
 // Asks whether the list in work may go, and saves it where the person wants that. False where it
@@ -126,26 +126,95 @@ bool frmMain::openFile()
     m_fileDialog.InitDir = pathOf(Place::WordLists);
     m_fileDialog.FileName.clear();
     const bool chosen = m_fileDialog.ShowOpen(this);
-    auto restorer = fileNameRestorer();
+    auto keeper = nameKeeper();
     gFileName = chosen ? m_fileDialog.FileName : QString();
     gFileTitle = chosen ? m_fileDialog.FileTitle : QString();
     const bool isRead = !gFileName.isEmpty() && gFileName != gOpenedFile && gVocabList().OpenFile();
-    restorer.dismiss();
+    keeper.dismiss();
     if (!isRead)
         return false;
     gOpenedFile = gFileName;
     showCaption();
-    gChanged = false;
-    m_ui->mnuSave->setEnabled(false);
+    noteUnchanged();
     // Here, so that the first search answers as fast as the others.
     gVocabList().prepareLookup();
     return true;
 }
 
-void frmMain::showFirstPage()
+void frmMain::mnuImport_Click()
 {
-    gLastItem = 1;
-    m_page->FillGrid(1);
-    m_page->scrollTo(1);
-    gVocabList().CurrentWord(1);
+    const Integer position = gVocabList().CurrentWord();
+    m_fileDialog.Filter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|Data Interchange Format (*.dif)|"
+                                         "*.dif|All files (*.*)|*.*");
+    m_fileDialog.DialogTitle = QStringLiteral("Import words");
+    m_fileDialog.DefaultExt.clear();
+    m_fileDialog.InitDir.clear();
+    m_fileDialog.FileName.clear();
+    if (!m_fileDialog.ShowOpen(this))
+        return;
+    const auto keeper = nameKeeper();
+    gFileName = m_fileDialog.FileName;
+    runGuarded([this] { importWords(gFileName); });
+    m_editor->showImported(position);
+}
+
+void frmMain::refresh()
+{
+    m_editor->showShownPage();
+    repaint();
+}
+
+// The kind of the file is what follows the first dot of its whole path.
+void frmMain::importWords(const QString &path)
+{
+    const QString kind = path.mid(path.indexOf(QLatin1Char('.')) + 1, 3);
+    Import import(this);
+    ProgressShown progress(this);
+    connect(&import, &Import::refresh, this, guarded(this, &frmMain::refresh));
+    // The entries behind a deleted one move up.
+    connect(&import, &Import::deleted, m_editor.get(),
+            guarded(m_editor.get(), &WordEditor::letEntryGo));
+    connect(&import, &Import::changed, m_editor.get(), &WordEditor::changed);
+    connect(&import, &Import::progress, &progress, &ProgressShown::show);
+    connect(&import, &Import::paused, &progress, &ProgressShown::pause);
+    if (kind == QLatin1String("lwx"))
+        import.ImportWordList();
+    else if (kind == QLatin1String("dif"))
+        import.ImportDif();
+}
+
+void frmMain::mnuExport_Click()
+{
+    if (gVocabList().NumWords() == 0) {
+        MsgBox(QStringLiteral("Cannot export: Your current wordlist is empty"));
+        return;
+    }
+    dlgExport dialog(pathOf(Place::WordLists), this);
+    dialog.exec();
+}
+
+void frmMain::mnuCreateTextFile_Click()
+{
+    if (gVocabList().NumWords() == 0) {
+        MsgBox(QStringLiteral("File not created: Your current wordlist is empty."));
+        return;
+    }
+    m_fileDialog.DefaultExt = QStringLiteral("txt");
+    m_fileDialog.OverwritePrompt = true;
+    m_fileDialog.InitDir.clear();
+    m_fileDialog.DialogTitle = QStringLiteral("Create Text File");
+    m_fileDialog.Filter = QStringLiteral("Text (*.txt)|*.txt");
+    const bool chosen = m_fileDialog.ShowSave(this);
+    gSaved = gSaved && chosen; // a write that fails leaves it as it is
+    if (!chosen)
+        return;
+    for (const QString &listFile : {gOpenedFile, gFileName}) {
+        if (isSameFile(m_fileDialog.FileName, listFile)) {
+            MsgBox(listFile + QStringLiteral(" file is currently in use."));
+            return;
+        }
+    }
+    BinaryFile::overwrite(m_fileDialog.FileName, textOfList(gVocabList()));
+    showCaption();
+    gSaved = true;
 }

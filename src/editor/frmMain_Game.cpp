@@ -3,6 +3,7 @@
 #include "core/cVocabList.h"
 #include "editor/frmMain.h"
 #include "editor/ui_frmMain.h"
+#include "flash/dlgQuickFlash.h"
 #include "game/frmTanglewit.h"
 #include "platform/MsgBox.h"
 
@@ -50,9 +51,13 @@ void frmMain::checkMusic(const QAction *chosen)
         item->setChecked(item == chosen);
 }
 
-// Ends its music, too.
-void frmMain::unloadGame()
+void frmMain::cmdQuickFlash_Click()
 {
-    if (m_frmTanglewit)
-        m_frmTanglewit->close();
+    if (gVocabList().NumWords() == 0) {
+        MsgBox(QStringLiteral("Your current wordlist is empty"));
+        return;
+    }
+    dlgQuickFlash dialog(this);
+    connect(&dialog, &dlgQuickFlash::terminated, this, &frmMain::show);
+    dialog.exec();
 }

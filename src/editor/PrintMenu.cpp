@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/frmMain.h"
+#include "editor/PrintMenu.h"
 
 #include "core/Module1.h"
+#include "editor/ui_frmMain.h"
+#include "platform/Guarded.h"
 #include "platform/SystemPrinter.h"
 #include "print/PrintJob.h"
 #include "print/WordListPrint.h"
@@ -18,47 +20,59 @@ void setScale(Printer &printer)
 
 } // namespace
 
-// Made at the first printing command: no start has to wait for the system's printers.
-SystemPrinter &frmMain::printer()
+PrintMenu::PrintMenu(const Ui::frmMain &ui, QWidget *window) : m_window(window)
+{
+    const auto onChoice = [this](QAction *item, void (PrintMenu::*handler)()) {
+        connect(item, &QAction::triggered, this, guarded(this, handler));
+    };
+    onChoice(ui.mnuPageSetup, &PrintMenu::mnuPageSetup_Click);
+    onChoice(ui.mnuPrinterSetup, &PrintMenu::mnuPrinterSetup_Click);
+    onChoice(ui.mnuPrint, &PrintMenu::mnuPrint_Click);
+    onChoice(ui.mnuPrintWholeList, &PrintMenu::mnuPrintWholeList_Click);
+}
+
+// So that the start does not wait for the system's printers.
+SystemPrinter &PrintMenu::printer()
 {
     if (!m_printer)
         m_printer = std::make_unique<SystemPrinter>();
     return *m_printer;
 }
 
-void frmMain::mnuPrint_Click()
+void PrintMenu::mnuPrint_Click()
 {
     SystemPrinter &printer = this->printer();
     tellPrinterErrorOnly(printer, [this, &printer] {
         printer.Copies = m_printerDialog.Copies;
         printer.setOrientation(m_printerDialog.Orientation);
         setScale(printer);
-        frmPrint dialog(printer, this);
+        frmPrint dialog(printer, m_window);
         dialog.exec();
     });
 }
 
-void frmMain::mnuPrinterSetup_Click()
+void PrintMenu::mnuPrinterSetup_Click()
 {
     m_printerDialog.DialogTitle = QStringLiteral("Printer Setup");
-    if (m_printerDialog.ShowPrinter(this, printer()))
+    if (m_printerDialog.ShowPrinter(m_window, printer()))
         printer().setOrientation(m_printerDialog.Orientation);
 }
 
 // frmPrint opens with the orientation that was chosen last, here as well.
-void frmMain::mnuPageSetup_Click()
+void PrintMenu::mnuPageSetup_Click()
 {
-    if (!printer().showPageSetup(this))
+    if (!printer().showPageSetup(m_window))
         return;
     Module1::PrintOrientation = printer().orientation() == SystemPrinter::Orientation::Landscape
                                     ? QStringLiteral("Landscape")
                                     : QStringLiteral("Portrait");
 }
 
-void frmMain::mnuPrintWholeList_Click()
+void PrintMenu::mnuPrintWholeList_Click()
 {
     SystemPrinter &printer = this->printer();
     setScale(printer);
-    tellPrinterError(
-        printer, [this, &printer] { printWordList(this, printer, WordListPrint::wholeList()); });
+    tellPrinterError(printer, [this, &printer] {
+        printWordList(m_window, printer, WordListPrint::wholeList());
+    });
 }

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The boxes that hold one entry and the buttons below them, in the lower half of the main window.
+#pragma once
+
+#include "core/VocabRecord.h"
+#include "editor/EditorMode.h"
+#include "platform/DefaultButton.h"
+
+#include <QObject>
+
+class QKeyEvent;
+struct MainLayout;
+
+namespace Ui {
+class frmMain;
+}
+
+class EntryArea final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit EntryArea(Ui::frmMain &ui);
+
+    void place(const MainLayout &layout, int height);
+
+    // Gives the keyboard to the control that the mode names, or to another one.
+    void show(EditorMode mode) { show(mode, lookOf(mode).focus); }
+    void show(EditorMode mode, EntryFocus focus);
+    [[nodiscard]] EditorMode mode() const { return m_mode; }
+    void giveFocus(EntryFocus control);
+    // True where the key was Enter, which presses the default button.
+    bool press(const QKeyEvent &event, QWidget *focus) const;
+
+    void showEntry(const VocabRecord &entry);
+    // As it is typed, outer blanks included.
+    [[nodiscard]] VocabRecord entry() const;
+    [[nodiscard]] QString word() const;
+    void selectWord();
+    void ClearEntryBoxes();
+
+private:
+    void EnableEntryBoxes();
+    void DisableEntryBoxes();
+    void txtDefinition_Change();
+    void txtSentence_Change();
+
+    Ui::frmMain &m_ui;
+    DefaultButton m_defaultButton;
+    EditorMode m_mode = EditorMode::Idle;
+};

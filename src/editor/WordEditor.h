@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The editor of the open list: adds, picks, changes, finds and deletes entries, in the entry area
+// and the page of the list above it.
+#pragma once
+
+#include "editor/EntryArea.h"
+#include "editor/WordPage.h"
+
+class WordEditor final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit WordEditor(Ui::frmMain &ui);
+
+    void place(const MainLayout &layout, int entryHeight);
+    // True where the key was Enter, which presses the default button.
+    bool press(const QKeyEvent &event, QWidget *focus) const;
+
+    // What the window shows of a list that is ...
+    void showEmptyList(EditorMode mode);       // ... empty,
+    void showFirstPage();                      // ... opened,
+    void showShownPage();                      // ... changed elsewhere,
+    void showImported(Integer positionBefore); // ... longer by what was imported.
+    // Where one is picked or found, because entries have moved.
+    void letEntryGo();
+
+    void cmdAbort_Click();
+    void mnuDeleteWord_Click();
+
+Q_SIGNALS:
+    // There are changes to save.
+    void changed();
+
+private:
+    void cmdNewWord_Click();
+    void cmdAdd_Click();
+    void cmdDelete_Click();
+    void cmdSearch_Click();
+    void MSFlexGrid1_Click(int row, int column);
+    void addWord();
+    void updateWord();
+    void showNewWordRow();
+    void showHit(Integer hit);
+    void showEntry();
+    void clearBoxes();
+
+    EntryArea m_area;
+    WordPage m_page;
+};
