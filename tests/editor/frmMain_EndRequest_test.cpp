@@ -204,12 +204,13 @@ void frmMain_EndRequest_test::anImportEndsAndTheListIsSavedUnderItsOwnName()
         raise(SIGTERM);
         QTRY_VERIFY(!dialog.isVisible());
     });
-    // The other words are not asked about.
-    m_main->answers.seeOtherMsgBoxes([this](const QString &text) {
-        QCOMPARE(text, u"1 words imported"_s);
-        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-    });
+    // The other words are not asked about. The box that counts them may be closed before it is
+    // seen here. The last question's default button is Yes.
+    QStringList boxes;
+    m_main->answers.seeOtherMsgBoxes([&boxes](const QString &text) { boxes += text; });
     QCOMPARE(run([this] { m_main->choose("mnuImport"); }), 0);
+    boxes.removeOne(u"1 words imported"_s);
+    QCOMPARE(boxes, QStringList{LastQuestion});
     QCOMPARE(readFile(m_list), listBytes(before + Entries{words[0]}));
     QCOMPARE(readFile(source), listBytes(words));
 }
