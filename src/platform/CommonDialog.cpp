@@ -20,6 +20,22 @@ QStringList nameFilters(const QString &filter)
     return filters;
 }
 
+// The folder itself, or where it is missing the nearest one above it.
+QString existingFolder(const QString &path)
+{
+    QString folder = QDir(path).absolutePath();
+    while (!QFileInfo(folder).isDir())
+        folder = QFileInfo(folder).absolutePath();
+    return folder;
+}
+
+// In a folder that is missing the name of the file alone is offered; Qt would show the path.
+void offer(QFileDialog &dialog, const QString &path)
+{
+    const QFileInfo file(path);
+    dialog.selectFile(file.dir().exists() ? path : dialog.directory().filePath(file.fileName()));
+}
+
 } // namespace
 
 bool CommonDialog::ShowOpen(QWidget *parent)
@@ -44,9 +60,9 @@ bool CommonDialog::show(QWidget *parent, Purpose purpose)
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !OverwritePrompt);
     dialog.setDefaultSuffix(DefaultExt);
-    dialog.setDirectory(!InitDir.isEmpty() ? InitDir : m_lastFolder);
+    dialog.setDirectory(existingFolder(!InitDir.isEmpty() ? InitDir : m_lastFolder));
     if (!FileName.isEmpty())
-        dialog.selectFile(FileName);
+        offer(dialog, FileName);
     if (dialog.exec() != QDialog::Accepted)
         return false;
     const QFileInfo chosen(dialog.selectedFiles().constFirst());

@@ -225,6 +225,35 @@ private Q_SLOTS:
         QCOMPARE(m_dialog->FileName, path("second/cat.lwx"));
     }
 
+    void theNameSetBeforehandIsOfferedWithoutAFolderThatIsMissing()
+    {
+        m_dialog->FileName = path("gone/cat.lwx");
+        m_answers->acceptFileDialog([this](QFileDialog &dialog) {
+            QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx"));
+            QCOMPARE(dialog.directory().absolutePath(), path("first"));
+        });
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        QCOMPARE(m_dialog->FileName, path("first/cat.lwx"));
+    }
+
+    void whereTheFolderIsMissingTheDialogStartsInTheNearestOneAbove()
+    {
+        QVERIFY(QDir(path("first")).mkpath(QStringLiteral("class/week")));
+        m_dialog->OverwritePrompt = false;
+        m_answers->chooseFile(path("first/class/week/cat.lwx"));
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        QVERIFY(QDir(path("first/class")).removeRecursively());
+        const auto inspect = [this](QFileDialog &dialog) {
+            QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx"));
+            QCOMPARE(dialog.directory().absolutePath(), path("first"));
+        };
+        m_answers->cancelFileDialog(inspect);
+        QVERIFY(!m_dialog->ShowSave(nullptr));
+        m_dialog->InitDir = path("first/class");
+        m_answers->cancelFileDialog(inspect);
+        QVERIFY(!m_dialog->ShowOpen(nullptr));
+    }
+
     void theLastNameIsOfferedAgain()
     {
         m_answers->chooseFile(QStringLiteral("cat.lwx"));

@@ -71,25 +71,20 @@ std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const
     return {};
 }
 
-// The list's own name is offered, and none for an untitled list. Where its folder is missing, the
-// name says so.
-void compareOffered(QFileDialog &dialog, const QString &path)
+// The list's own name is offered, and none for an untitled list.
+void compareOffered(QFileDialog &dialog, const QString &name)
 {
-    const QFileInfo own(path);
     const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
-    const bool isOwn = own.dir().exists() ? offered == own.fileName()
-                                          : QFileInfo(offered).fileName() == own.fileName();
-    if (!isOwn)
+    if (offered != name)
         Controls::fail(u"the name \"%1\" is offered"_s.arg(offered));
 }
 
 Outcome expectSaveAs(Soak &soak)
 {
     Model &model = soak.model;
-    const auto target =
-        expectSaveDialog(soak, u".lwx"_s, [ownFile = model.fileName](QFileDialog &dialog) {
-            compareOffered(dialog, ownFile);
-        });
+    const QString ownName = QFileInfo(model.fileName).fileName();
+    const auto target = expectSaveDialog(
+        soak, u".lwx"_s, [ownName](QFileDialog &dialog) { compareOffered(dialog, ownName); });
     if (!target)
         return Outcome::Declined;
     const int error = model.count() > 0 ? Model::writeError(*target) : 0;
