@@ -3,6 +3,8 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QPixmapCache>
+#include <QScopeGuard>
 
 namespace {
 
@@ -50,6 +52,11 @@ bool CommonDialog::ShowSave(QWidget *parent)
 
 bool CommonDialog::show(QWidget *parent, Purpose purpose)
 {
+    // Each file dialog makes its icons anew, and Qt caches how they are drawn under names that no
+    // other dialog asks for. The cache would fill up with them, and the names would stay for good.
+    const auto restore =
+        qScopeGuard([limit = QPixmapCache::cacheLimit()] { QPixmapCache::setCacheLimit(limit); });
+    QPixmapCache::setCacheLimit(0);
     QFileDialog dialog(parent, DialogTitle);
     dialog.resize(900, 560);
     dialog.setObjectName(QStringLiteral("CommonDialog"));

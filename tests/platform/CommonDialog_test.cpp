@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/CommonDialog.h"
 
+#include "support/AllocatedBytes.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
@@ -286,6 +287,22 @@ private Q_SLOTS:
             QCOMPARE(m_dialog->DefaultExt, QStringLiteral("lwx"));
             QVERIFY(m_dialog->OverwritePrompt);
         }
+    }
+
+    void openingItAgainAndAgainTakesNoMoreMemory()
+    {
+        const auto open = [this](int times) {
+            for (int i = 0; i < times; ++i) {
+                m_answers->cancelFileDialog();
+                QVERIFY(!m_dialog->ShowOpen(nullptr));
+            }
+        };
+        constexpr int times = 20;
+        constexpr std::size_t most = 2048; // bytes for each
+        open(times);
+        const std::size_t before = allocatedBytes();
+        open(times);
+        QVERIFY(allocatedBytes() < before + times * most);
     }
 
 private:
