@@ -42,8 +42,10 @@ bool PrintQueue::submit(const QPrinter &printer, const QByteArray &pdf)
     std::array<cups_option_t, 3> options{};
     for (std::size_t i = 0; i < options.size(); ++i)
         options[i] = {names[i].data(), values[i].data()};
+    // A name may end with an instance, a set of options for the same queue: "queue/instance".
+    const QString queue = printer.printerName().section(QLatin1Char('/'), 0, 0);
     return printFile() != nullptr &&
-           printFile()(printer.printerName().toUtf8(), QFile::encodeName(file.fileName()),
+           printFile()(queue.toUtf8(), QFile::encodeName(file.fileName()),
                        printer.docName().toUtf8(), static_cast<int>(options.size()),
                        options.data()) != 0;
 }

@@ -62,6 +62,7 @@ PrintServer::PrintServer()
                                                QFile::ExeGroup | QFile::ExeOther);
     configure();
     qputenv("CUPS_SERVER", QFile::encodeName(path(QStringLiteral("socket"))));
+    qputenv("CUPS_SERVERROOT", QFile::encodeName(path(QStringLiteral("root"))));
     m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.start(QStringLiteral("/usr/sbin/cupsd"),
                     {QStringLiteral("-f"), QStringLiteral("-c"), path(QStringLiteral("cupsd.conf")),
@@ -103,6 +104,12 @@ void PrintServer::addQueue(const QString &queue, const QString &driver)
         {QStringLiteral("-p"), queue, QStringLiteral("-E"), QStringLiteral("-P"), driver,
          QStringLiteral("-v"), QStringLiteral("file://") + path(QStringLiteral("printed/")) + queue,
          QStringLiteral("-o"), QStringLiteral("PageSize=A4")}));
+}
+
+void PrintServer::addInstance(const QString &queue, const QString &instance)
+{
+    write(path(QStringLiteral("root/lpoptions")),
+          QStringLiteral("Dest %1/%2 sides=one-sided\n").arg(queue, instance).toUtf8());
 }
 
 void PrintServer::removeQueue(const QString &queue)

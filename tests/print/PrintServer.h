@@ -10,12 +10,15 @@
 class PrintServer final
 {
 public:
-    // Sets CUPS_SERVER for this process. Create the server before anything asks for printers.
+    // Sets CUPS's environment variables for this process. Create the server before anything asks
+    // for printers.
     PrintServer();
     ~PrintServer();
     Q_DISABLE_COPY_MOVE(PrintServer)
 
     void addQueue(const QString &queue, const QString &driver);
+    // A further printer "queue/instance" that prints into the same queue with options of its own.
+    void addInstance(const QString &queue, const QString &instance);
     void removeQueue(const QString &queue);
     // "cupsdisable", "cupsenable", "cupsreject" or "cupsaccept"
     void tell(const QString &command, const QString &queue);

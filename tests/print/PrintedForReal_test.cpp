@@ -27,6 +27,7 @@ constexpr double Nearly = 1; // tolerance in points
 const QString LongWord = u"Donaudampfschifffahrtsgesellschaft"_s.repeated(6);
 
 const QString Paper = u"Paper"_s;
+const QString Draft = u"Paper/draft"_s;
 const QString PostScript = u"PostScript"_s;
 
 // The print dialog with a list and a queue.
@@ -119,6 +120,7 @@ private Q_SLOTS:
         m_server = std::make_unique<PrintServer>();
         m_server->addQueue(Paper, QStringLiteral(TANGLEWIT_TESTS_FOLDER "/print/Paper.ppd"));
         m_server->addQueue(PostScript, u"/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd"_s);
+        m_server->addInstance(Paper, u"draft"_s);
     }
 
     void cleanupTestCase() { m_server.reset(); }
@@ -130,7 +132,7 @@ private Q_SLOTS:
         QStringList names;
         for (int row = 0; row < list.count(); ++row)
             names += list.item(row)->text();
-        QCOMPARE(names, QStringList({Paper, PostScript, u"Print to PDF"_s}));
+        QCOMPARE(names, QStringList({Paper, Draft, PostScript, u"Print to PDF"_s}));
     }
 
     void thePrinterIsChosenByItsNameAndNotByItsRow()
@@ -138,7 +140,7 @@ private Q_SLOTS:
         QueueForm form(Paper, frenchWords());
         auto &list = form.control<QListWidget>("lstPrinter");
         list.insertItem(0, PostScript);
-        for (const int row : {0, 2}) {
+        for (const int row : {0, 3}) {
             form.printer.select(Paper);
             list.setCurrentRow(row);
             QCOMPARE(list.currentItem()->text(), PostScript);
@@ -274,6 +276,16 @@ private Q_SLOTS:
         QVERIFY(document.startsWith("%!PS"));
         QVERIFY(document.contains("numcopies(3)"));
         QCOMPARE(document.count("\n%%Page: "), 3);
+    }
+
+    void anInstanceOfAPrinterPrintsIntoItsQueue()
+    {
+        QueueForm form(Draft, frenchWords());
+        const qsizetype before = m_server->jobs(Paper);
+        form.click("cmdPrint");
+        QVERIFY(form.answers.allSeen());
+        QCOMPARE(m_server->jobs(Paper), before + 1);
+        static_cast<void>(m_server->printed(Paper));
     }
 
     void aQueueThatTakesNoJobIsTold_data()
