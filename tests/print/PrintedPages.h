@@ -57,9 +57,3 @@ struct PrintedWord
         texts += match.captured(1);
     return texts;
 }
-
-[[nodiscard]] inline int pagesOf(const QString &file)
-{
-    const QString facts = QString::fromUtf8(outputOf(QStringLiteral("pdfinfo"), {file}));
-    return facts.section(QStringLiteral("Pages:"), 1).section(u'\n', 0, 0).trimmed().toInt();
-}
