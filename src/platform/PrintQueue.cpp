@@ -36,9 +36,10 @@ bool PrintQueue::submit(const QPrinter &printer, const QByteArray &pdf)
     QTemporaryFile file;
     if (!file.open() || file.write(pdf) != pdf.size() || !file.flush())
         return false;
-    QByteArray names[] = {CUPS_COPIES, CUPS_MEDIA, CUPS_SIDES};
-    QByteArray values[] = {QByteArray::number(printer.copyCount()),
-                           printer.pageLayout().pageSize().key().toUtf8(), sides(printer)};
+    std::array<QByteArray, 3> names{CUPS_COPIES, CUPS_MEDIA, CUPS_SIDES};
+    std::array<QByteArray, 3> values{QByteArray::number(printer.copyCount()),
+                                     printer.pageLayout().pageSize().key().toUtf8(),
+                                     sides(printer)};
     std::array<cups_option_t, 3> options{};
     for (std::size_t i = 0; i < options.size(); ++i)
         options[i] = {names[i].data(), values[i].data()};
