@@ -71,7 +71,7 @@ function(tanglewit_test name)
   target_compile_definitions(${name} PRIVATE TANGLEWIT_TESTS_FOLDER="${PROJECT_SOURCE_DIR}/tests")
   # Only what is compiled in the same way can share precompiled headers.
   set(links ${arg_LINKS})
-  list(REMOVE_ITEM links tanglewit_runtime tanglewit_core tanglewit_wave)
+  list(REMOVE_ITEM links tanglewit_runtime tanglewit_core)
   if(NOT links)
     target_precompile_headers(${name} REUSE_FROM tanglewit_core_test_headers)
   elseif(NOT "${links}" MATCHES "Qt6::")

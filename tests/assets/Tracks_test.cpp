@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Paths.h"
-#include "platform/sound/WaveFile.h"
+
+#include "platform/WaveFile.h"
 
 #include <QDir>
 #include <QTest>

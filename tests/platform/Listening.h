@@ -3,7 +3,7 @@
 // to 1.
 #pragma once
 
-#include "platform/sound/WaveFile.h"
+#include "platform/WaveFile.h"
 
 #include <QtEndian>
 

@@ -9,6 +9,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
+
+#include <memory>
 
 namespace {
 
@@ -72,6 +75,16 @@ private Q_SLOTS:
         sndPlaySoundA(m_wave, Play);
         sndPlaySoundA(path("missing.wav"), Play);
         sndPlaySoundA(QString(), Play);
+        sndPlaySoundA(QStringLiteral("NULL"), 0);
+    }
+
+    void messagesOfOtherThreadsAreShown()
+    {
+        sndPlaySoundA(m_wave, Play);
+        QTest::ignoreMessage(QtWarningMsg, "another thread");
+        const std::unique_ptr<QThread> thread(QThread::create([] { qWarning("another thread"); }));
+        thread->start();
+        QVERIFY(thread->wait());
         sndPlaySoundA(QStringLiteral("NULL"), 0);
     }
 

@@ -1,24 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What plays sounds, as the program sees it. It lies in a library that is loaded for the first
-// sound, so that a start without music does not pay for what sound needs.
+// The interface of the plugin that plays sounds.
 #pragma once
 
-class QString;
+#include <QtPlugin>
 
 class SoundPlayer
 {
 public:
-    static constexpr const char *LibraryName = "tanglewit_sound"; // without what the system adds
-    static constexpr const char *MakeName = "tanglewitMakeSoundPlayer";
-    using MakeFunction = SoundPlayer *(); // the caller owns the player
-
     SoundPlayer() = default;
     virtual ~SoundPlayer() = default;
-    SoundPlayer(const SoundPlayer &) = delete;
-    SoundPlayer &operator=(const SoundPlayer &) = delete;
+    Q_DISABLE_COPY_MOVE(SoundPlayer)
 
-    // Plays the wave file over and over, without a gap where its end meets its beginning, in the
-    // place of what is playing. Silence if the path is empty, the file cannot be played or the
-    // machine has no sound.
+    // Plays the wave file over and over, without a gap between its end and its beginning, instead
+    // of what is playing. Silence if the path is empty, the file cannot be played or the machine
+    // has no sound.
     virtual void loop(const QString &path) = 0;
 };
+
+Q_DECLARE_INTERFACE(SoundPlayer, "Tanglewit.SoundPlayer")

@@ -5,77 +5,65 @@
 #include "platform/sound/SoundPlayer.h"
 
 #include <QCoreApplication>
-#include <QLibrary>
+#include <QPluginLoader>
 
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
+#include <utility>
 
 namespace {
 
 using namespace std::chrono_literals;
 
 std::unique_ptr<SoundThread> g_thread;
-QtMessageHandler g_otherMessages = nullptr;
-Qt::HANDLE g_windowsThread = nullptr;
+QtMessageHandler g_nextHandler = nullptr;
+thread_local bool t_isSoundThread = false;
 
-// A machine without sound is no fault to report, and the sound classes do so time and again. Only
-// they have threads beside that of the windows.
-void withoutMessagesOfSound(QtMsgType type, const QMessageLogContext &context, const QString &text)
+// A machine without sound is no fault to report, but Qt's sound classes report it at each request.
+void dropMessagesOfSoundThread(QtMsgType type, const QMessageLogContext &context,
+                               const QString &text)
 {
-    if (QThread::currentThreadId() == g_windowsThread || type == QtFatalMsg)
-        g_otherMessages(type, context, text);
+    if (!t_isSoundThread || type == QtFatalMsg)
+        g_nextHandler(type, context, text);
 }
 
-// Nothing if the library or what it needs is missing.
-std::unique_ptr<SoundPlayer> loadedPlayer(const QString &folder)
-{
-    QLibrary library(folder + QLatin1Char('/') + QLatin1String(SoundPlayer::LibraryName));
-    // Sound threads of the system's may outlive everything else.
-    library.setLoadHints(QLibrary::PreventUnloadHint);
-    const auto make =
-        reinterpret_cast<SoundPlayer::MakeFunction *>(library.resolve(SoundPlayer::MakeName));
-    return std::unique_ptr<SoundPlayer>(make ? make() : nullptr);
-}
-
-#ifdef __GLIBC__
 void leaveAtOnce(int status, void * /*unused*/)
 {
     std::fflush(nullptr);
     std::_Exit(status);
 }
-#endif
 
 class Worker final : public QObject
 {
 public:
-    explicit Worker(QString folder) : m_folder(std::move(folder)) {}
+    explicit Worker(QString plugin) : m_plugin(std::move(plugin)) {}
 
+    // Silence where the plugin cannot be loaded.
     void loop(const QString &path)
     {
         if (!m_player)
-            m_player = loadedPlayer(m_folder);
-        if (m_player)
-            m_player->loop(path);
+            m_player.reset(QPluginLoader(m_plugin).instance());
+        if (auto *const player = qobject_cast<SoundPlayer *>(m_player.get()))
+            player->loop(path);
     }
 
 private:
-    QString m_folder;
-    std::unique_ptr<SoundPlayer> m_player;
+    QString m_plugin;
+    std::unique_ptr<QObject> m_player;
 };
 
 } // namespace
 
 SoundThread::SoundThread()
 {
-    auto worker = std::make_unique<Worker>(pathOf(Place::Plugins));
+    auto worker =
+        std::make_unique<Worker>(pathOf(Place::Plugins) + QStringLiteral("/tanglewit_sound"));
     worker->moveToThread(this);
     connect(this, &SoundThread::requested, worker.get(), &Worker::loop);
     m_worker = std::move(worker);
-    g_windowsThread = QThread::currentThreadId();
-    if (!g_otherMessages)
-        g_otherMessages = qInstallMessageHandler(withoutMessagesOfSound);
+    if (!g_nextHandler)
+        g_nextHandler = qInstallMessageHandler(dropMessagesOfSoundThread);
     qAddPostRoutine(&SoundThread::end);
     start();
 }
@@ -84,12 +72,11 @@ SoundThread::~SoundThread() = default;
 
 void SoundThread::run()
 {
+    t_isSoundThread = true;
     exec();
-    // A sound stream that goes runs the event loop, which must find no request for the worker.
+    // The destructor of a sound handles events, which must not be requests.
     QCoreApplication::removePostedEvents(m_worker.get());
-    // Sound streams end in the thread that made them.
     m_worker.reset();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void SoundThread::loop(const QString &path)
@@ -109,14 +96,12 @@ void SoundThread::silence()
 void SoundThread::end()
 {
     g_thread->quit();
-    if (g_thread->wait(500ms)) {
+    // Longer only if the sound server does not answer.
+    if (g_thread->wait(2s))
         g_thread.reset();
-        return;
-    }
-    // A sound server keeps the thread waiting, and what the sound classes do as the process exits
-    // would wait for the thread. The windows are gone by now.
-    static_cast<void>(g_thread.release());
-#ifdef __GLIBC__
+    else
+        static_cast<void>(g_thread.release());
+    // Qt closes its connections to the sound server by static destructors, without a lock against
+    // the threads of these connections. That sometimes crashes.
     on_exit(leaveAtOnce, nullptr);
-#endif
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The thread that plays sounds and all that it needs, there from the first sound on. A sound
-// server may keep its callers waiting, and music is not to stop while a window is busy.
+// The thread that plays sounds. It starts with the first one and loads the plugin that plays them.
+//
+// It has its own thread because QSoundEffect waits for the sound server, for half a minute if the
+// server does not answer, and feeds it from the event loop of its thread: on the windows' thread a
+// server that hangs would stop the windows, and a window at work would stop the music.
 #pragma once
 
 #include <QThread>
@@ -12,7 +15,7 @@ class SoundThread final : public QThread
     Q_OBJECT
 
 public:
-    // In the place of what is playing. Both return at once.
+    // Plays the wave file over and over, instead of what is playing. Both return at once.
     static void loop(const QString &path);
     static void silence();
 
