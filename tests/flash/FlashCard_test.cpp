@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How a card looks: the size of its type, and its turning.
+// The type size of a card, its clicks and its animation.
 #include "flash/FlashCard.h"
 
 #include "flash/FlashForm.h"
@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Words as in a definition, cut off after so many characters.
+// A text of words with this number of characters.
 QString prose(int length)
 {
     QString text;
@@ -29,7 +29,7 @@ int typeSize(const FlashCard &card)
     return card.document()->defaultFont().pointSize();
 }
 
-// Whether the whole text is in sight.
+// Whether the whole text is visible without scrolling.
 bool fits(const FlashCard &card)
 {
     const QScrollBar &bar = *card.verticalScrollBar();
@@ -93,12 +93,12 @@ private Q_SLOTS:
         QVERIFY(!fits(card()));
         QVERIFY(bar.isVisible());
         QCOMPARE(bar.value(), 0);
-        // To its end, by the keyboard.
+        // The keyboard scrolls it to its end.
         card().setFocus();
         for (int i = 0; i < 20; ++i)
             Controls::press(Qt::Key_PageDown);
         QCOMPARE(bar.value(), bar.maximum());
-        // The next card begins at its top again.
+        // The next text is shown from its beginning.
         m_form->click("cmdNext");
         QVERIFY(fits(card()));
         m_form->clickCard();
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(clicks.count(), 1);
     }
 
-    void theWholeCardIsThereForTheMouse()
+    void theWholeCardTakesClicks()
     {
         FlashCard &card = m_form->card("txtDef");
         QSignalSpy clicks(&card, &FlashCard::Click);
@@ -157,17 +157,17 @@ private Q_SLOTS:
         QCOMPARE(clicks.count(), 1);
     }
 
-    void theCardIsSeenToTurnWhenItOpens()
+    void openingTheCardIsAnimated()
     {
         setMotion(50);
         m_form->clickCard();
         QCOMPARE(turns(), 1);
-        // What it says counts at once, and the motion goes away by itself.
+        // The text changes at once, and the animation ends by itself.
         QCOMPARE(m_form->definition(), u"a small animal"_s);
         QTRY_COMPARE(turns(), 0);
     }
 
-    void withoutMotionTheCardIsOpenAtOnce()
+    void withoutAnimationsTheCardOpensAtOnce()
     {
         setMotion(0);
         m_form->clickCard();
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->definition(), u"a small animal"_s);
     }
 
-    void clickingAnOpenCardTurnsNothing()
+    void clickingAnOpenCardIsNotAnimated()
     {
         setMotion(0);
         m_form->clickCard();
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(turns(), 0);
     }
 
-    void theNextCardDoesNotWaitForAMotion()
+    void theNextCardEndsTheAnimation()
     {
         setMotion(10'000);
         m_form->clickCard();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The flash cards over a list of their own, as their tests use them.
+// For tests: the flash cards with a list.
 #pragma once
 
 #include "core/Module1.h"
@@ -26,14 +26,14 @@ class FlashForm final
 public:
     DialogAnswers answers;
 
-    // "word 1" with "definition 1", …
+    // A list of "word 1" with "definition 1", and so on.
     explicit FlashForm(int entries = 5)
     {
         for (int i = 1; i <= entries; ++i)
             Module1::gVocabList().AddVocab(u"word %1"_s.arg(i), u"definition %1"_s.arg(i), {});
         open();
     }
-    // A single word with this definition.
+    // A list of a single word with this definition.
     explicit FlashForm(const QString &definition)
     {
         Module1::gVocabList().AddVocab(u"word 1"_s, definition, {});
@@ -54,7 +54,7 @@ public:
     void click(const char *name) { Controls::click(button(name)); }
     void clickCard() { QTest::mouseClick(card("txtDef").viewport(), Qt::LeftButton); }
 
-    // Lets a running timer's time be over now.
+    // Lets a running timer fire now.
     void passTime(const char *name)
     {
         QTimer &running = timer(name);
@@ -68,7 +68,7 @@ public:
         running.setInterval(interval);
     }
 
-    // Word of the deck's card.
+    // The word and the definition of a card of the deck.
     [[nodiscard]] static QString wordOfCard(int card)
     {
         return u"word %1"_s.arg(Module1::gWordOrder(card).toInt());
@@ -78,7 +78,7 @@ public:
         return u"definition %1"_s.arg(Module1::gWordOrder(card).toInt());
     }
 
-    // Visible and enabled buttons, and timers that run.
+    // The names of the visible and enabled buttons and of the running timers.
     [[nodiscard]] QStringList look()
     {
         QStringList look;
@@ -95,7 +95,7 @@ public:
     {
         return {u"cmdNext"_s, u"cmdPrevious"_s, u"cmdAutoFlash"_s, u"CancelButton"_s};
     }
-    // Running, with the timer of the phase; empty = none runs.
+    // The look of an automatic run. timer: the one that runs, or empty.
     [[nodiscard]] static QStringList automatic(const QString &timer)
     {
         QStringList look{u"cmdStop"_s, u"CancelButton"_s};

@@ -32,7 +32,7 @@ private Q_SLOTS:
         QVERIFY(!m_form->button("cmdAutoFlash").isVisible());
     }
 
-    void stopTakesThePlaceOfAutoFlash()
+    void stopIsInThePlaceOfAutoFlash()
     {
         const QRect place = m_form->button("cmdAutoFlash").geometry();
         m_form->click("cmdAutoFlash");
@@ -41,7 +41,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->button("cmdAutoFlash").geometry(), place);
     }
 
-    void theKeyboardStaysInTheirPlace()
+    void theFocusGoesToTheOtherButton()
     {
         m_form->button("cmdAutoFlash").setFocus();
         m_form->click("cmdAutoFlash");
@@ -63,7 +63,7 @@ private Q_SLOTS:
         verifyWordPhase(3);
     }
 
-    void aDefinitionStaysTheLongerTheMoreThereIsToRead_data()
+    void longerDefinitionsAreShownLonger_data()
     {
         QTest::addColumn<int>("characters");
         QTest::addColumn<int>("milliseconds");
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QTest::newRow("163") << 163 << 10000;
     }
 
-    void aDefinitionStaysTheLongerTheMoreThereIsToRead()
+    void longerDefinitionsAreShownLonger()
     {
         QFETCH(int, characters);
         QFETCH(int, milliseconds);
@@ -145,7 +145,7 @@ private Q_SLOTS:
     void aClickInTheWordPhaseShowsTheDefinitionEarly()
     {
         m_form->click("cmdAutoFlash");
-        const int run = m_form->timer("tmrWord").timerId(); // another one after a restart
+        const int run = m_form->timer("tmrWord").timerId(); // a restart would change it
         m_form->clickCard();
         QCOMPARE(m_form->definition(), FlashForm::definitionOfCard(2));
         QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrWord"_s));
@@ -207,7 +207,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->look(), FlashForm::automatic(u"tmrWord"_s));
     }
 
-    void aWordThatIsGoneIsReportedOnce_data()
+    void aMissingWordIsReportedOnce_data()
     {
         QTest::addColumn<QString>("phase");
         QTest::newRow("before the run") << QString();
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QTest::newRow("in the definition phase") << u"tmrDef"_s;
     }
 
-    void aWordThatIsGoneIsReportedOnce()
+    void aMissingWordIsReportedOnce()
     {
         QFETCH(QString, phase);
         if (!phase.isEmpty())

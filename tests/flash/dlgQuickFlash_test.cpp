@@ -58,7 +58,7 @@ private Q_SLOTS:
         QVERIFY(m_form->card("txtDef").grab().toImage() == first);
     }
 
-    void theTimersWaitAtFirst()
+    void theTimersDoNotRunAtFirst()
     {
         QCOMPARE(m_form->look(), FlashForm::byHand());
         QCOMPARE(m_form->timer("tmrWord").interval(), 3000);

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The same for words of plain letters, said as a pattern.
+// The expected result for words of plain letters, found by a regular expression.
 QString blankedByPattern(const QString &sentence, const QString &word)
 {
     const QString whole = word.left(1).toUpper() + word.mid(1);
@@ -46,7 +46,7 @@ private Q_SLOTS:
             row(name, word, sentence, sentence);
         };
 
-        // Forms that count
+        // Forms of the word
         row("longer word", u"cat"_s, u"The category was cat."_s, u"The _____ was _____."_s);
         row("inflected", u"study"_s, u"She studied hard."_s, u"She _____ hard."_s);
         row("capital behind", u"cat"_s, u"A cat saw Cat."_s, u"A _____ saw _____."_s);
@@ -61,7 +61,7 @@ private Q_SLOTS:
         row("capital inside", u"iPhone"_s, u"IPhone, iPhone, IPHONE."_s, u"_____, _____, _____."_s);
         row("digit first", u"3D"_s, u"A 3D film, 3d."_s, u"A _____ film, 3d."_s);
 
-        // Places that count
+        // Places in the sentence
         row("whole sentence", u"cat"_s, u"cat"_s, u"_____"_s);
         row("at the end", u"cat"_s, u"The cat"_s, u"The _____"_s);
         row("every delimiter", u"cat"_s, u"cat.cat,cat;cat!cat?cat cat"_s,
@@ -86,7 +86,7 @@ private Q_SLOTS:
         unchanged("only delimiters", u"cat"_s, u" .,;!?"_s);
         row("blanks already there", u"cat"_s, u"_____ cat"_s, u"_____ _____"_s);
 
-        // Stems
+        // Words without their last letters
         row("whole word first", u"study"_s, u"A study of studied men."_s,
             u"A _____ of studied men."_s);
         row("one letter off", u"happy"_s, u"Is happier happiness?"_s, u"Is _____ _____?"_s);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         unchanged("no sentence", u"cat"_s, u""_s);
         unchanged("neither", u""_s, u""_s);
 
-        // Other letters and signs
+        // Other letters and punctuation
         row("accents", u"été"_s, u"L'été est un été. Été, ÉTÉ."_s,
             u"L'été est un _____. _____, _____."_s);
         unchanged("accent counts", u"été"_s, u"Un ete."_s);

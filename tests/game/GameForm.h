@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The game window over a list of its own, as its tests use it, with the Music menu and a main
-// window to come back to. No sound is heard; every request for one is noted.
+// For tests: the game window with a list, a Music menu and a main window. Requests for sound are
+// recorded instead of played.
 #pragma once
 
 #include "core/Module1.h"
@@ -58,7 +58,7 @@ public:
     {
         return {u"apple"_s, u"bread"_s, u"cream"_s, u"dough"_s, u"flour"_s};
     }
-    // A word of so many letters, each one different from its neighbours.
+    // A word with this number of letters, each different from the letters beside it.
     [[nodiscard]] static QString longWord(int letters)
     {
         QString word;
@@ -66,14 +66,14 @@ public:
             word += QChar(u'a' + i % 26);
         return word;
     }
-    // Rows for the states of the game.
+    // A row of test data for each state of the game.
     static void addStates(std::initializer_list<const char *> states)
     {
         QTest::addColumn<QString>("state");
         for (const char *state : states)
             QTest::newRow(state) << QString::fromLatin1(state);
     }
-    // Replaces the list's entries by these words, each with a definition and a sentence.
+    // Makes a list of these words, each with a definition and a sentence.
     static void fill(const QStringList &words)
     {
         cVocabList &list = Module1::gVocabList();
@@ -90,7 +90,7 @@ public:
         return u"Here is "_s + word + u"."_s;
     }
     [[nodiscard]] static QString blankedSentence() { return u"Here is _____."_s; }
-    // The word that is asked.
+    // The current word.
     [[nodiscard]] static QString word() { return Module1::gVocabList().Word(); }
 
     [[nodiscard]] frmTanglewit &window() { return *m_window; }
@@ -116,7 +116,7 @@ public:
 
     void click(const char *name) { Controls::click(button(name)); }
 
-    // From here on only passTime lets time pass.
+    // After this call time passes only in passTime.
     void open()
     {
         m_mainWindow.hide();
@@ -134,7 +134,7 @@ public:
         if (!QTest::qWaitForWindowActive(m_window.get()))
             Controls::fail(u"the game window does not become active"_s);
     }
-    // The arrow, so many times.
+    // Click an arrow of the level switch.
     void raiseStartLevel(int times)
     {
         for (; times > 0; --times)
@@ -146,7 +146,7 @@ public:
             clickArrow(QStyle::SC_ScrollBarAddLine);
     }
 
-    // Seconds that pass now. The countdown must run.
+    // Lets the countdown, which must run, count seconds.
     void passTime(int seconds = 1)
     {
         for (; seconds > 0; --seconds) {
@@ -155,7 +155,7 @@ public:
             QMetaObject::invokeMethod(&timer(), "timeout", Qt::DirectConnection);
         }
     }
-    // All that are left; the dialog of the time-out is answered.
+    // Lets the countdown end and answers the dialog that follows.
     void timeOut()
     {
         expectMiss();
@@ -174,14 +174,14 @@ public:
         for (; times > 0; --times)
             answer(word());
     }
-    // The wrong word; the dialog that follows is answered.
+    // Enters a wrong word and answers the dialog that follows.
     void answerWrong(const QString &wrong = u"wrong"_s)
     {
         expectMiss();
         answer(wrong);
     }
 
-    // The dialog in which the right word must be typed, and a look at it before that is done.
+    // The next dialog is dlgIncorrectAnswer: calls `inspect`, then types the right word.
     void expectMiss(const std::function<void(QDialog &)> &inspect = {})
     {
         answers.useForm("dlgIncorrectAnswer", [inspect](QDialog &dialog) {
@@ -191,7 +191,7 @@ public:
             Controls::click(Controls::find<QPushButton>(dialog, "cmdOK"));
         });
     }
-    // The Top 10 dialog, closed by its button.
+    // The next dialog is dlgGameOver: calls `inspect`, then clicks Close.
     void expectTop10(const std::function<void(QDialog &)> &inspect = {})
     {
         answers.useForm("dlgGameOver", [inspect](QDialog &dialog) {
@@ -200,7 +200,7 @@ public:
             Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
         });
     }
-    // The same with a score that enters the table.
+    // The same with a score that enters the table under this name.
     void expectTop10Entry(const QString &name, const std::function<void(QDialog &)> &inspect = {})
     {
         answers.useForm("dlgGameOver", [name, inspect](QDialog &dialog) {
@@ -213,8 +213,8 @@ public:
     }
     void expectLevel(int level) { answers.expectMsgBox(u"Level %1"_s.arg(level)); }
 
-    // Wrong answers until the game is over. A score must not enter the table, or the name is for
-    // it.
+    // Enters wrong answers until the game is over. name: for a score that enters the table; null if
+    // none does.
     void loseAllLives(const QString &name = {})
     {
         while (text("lblNumLifes").toInt() > 1)
@@ -240,7 +240,7 @@ public:
         Module1::gUpbeatMusic = m_mnuUpbeat.isChecked();
         Module1::gMusicOff = m_mnuMusicOff.isChecked();
     }
-    // The requests for sound since the last call: set, file and flags, or the name and flags.
+    // The requests for sound since the last call, such as "fastbeat/Track01.wav 9" or "NULL 0".
     QStringList sounds()
     {
         QStringList sounds = m_sounds.take();
@@ -256,7 +256,7 @@ public:
                            text("lblNumLifes")}
             .join(u' ');
     }
-    // The letter tiles in sight, each with its number.
+    // The visible letter tiles: number and letter.
     [[nodiscard]] QStringList tiles()
     {
         QStringList tiles;
@@ -267,7 +267,7 @@ public:
         }
         return tiles;
     }
-    // Controls in sight that can be used, and the timer where it runs.
+    // The names of the visible and enabled controls, and of the timer if it runs.
     [[nodiscard]] QStringList look()
     {
         QStringList look;

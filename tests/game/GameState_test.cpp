@@ -18,7 +18,7 @@ GameState gameAtLevel(int level)
     return game;
 }
 
-// All that a game holds, in the order in which it is declared.
+// All members in the order of their declaration.
 QString stateOf(const GameState &game)
 {
     QStringList numbers;
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(stateOf(game), before);
     }
 
-    // Seconds at which single letters of a word are uncovered; the last second uncovers the rest.
+    // Seconds at which a letter is uncovered; the last second uncovers all that are left.
     void lettersAreUncoveredUntilTheTimeIsOut_data()
     {
         QTest::addColumn<int>("level");
@@ -174,7 +174,7 @@ private Q_SLOTS:
             QCOMPARE(stateOf(game), u"5 %1 %2 %1 %3 %3 1 0"_s.arg(hit).arg(level).arg(limit));
         }
         QVERIFY(game.countHit());
-        // The word on show keeps its limit, the next one has the new level's.
+        // The current word keeps its limit; the next word has that of the new level.
         QCOMPARE(stateOf(game), u"5 20 %1 0 %2 %2 1 0"_s.arg(level + 1).arg(limit));
         game.beginCountdown();
         QCOMPARE(stateOf(game),

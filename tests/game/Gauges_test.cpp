@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How the countdown and the lives look: what a person sees of them at a glance, with colours and
-// without.
+// The looks of the countdown and of the lives.
 #include "game/CountdownRing.h"
 #include "game/LifeHearts.h"
 
@@ -25,7 +24,7 @@ QImage look(LifeHearts &hearts, int lives)
     return hearts.grab().toImage();
 }
 
-// Pixels in which two pictures differ.
+// The number of pixels in which two pictures differ.
 int difference(const QImage &one, const QImage &other)
 {
     int pixels = 0;
@@ -40,7 +39,7 @@ QRgb middleOf(const QImage &image, const QRect &part)
     return image.pixel(part.center());
 }
 
-// Whether the disc behind the number is filled: a place inside the ring, beside any number.
+// Whether the disc is filled, by a point inside the ring that no number covers.
 bool hasDisc(const QImage &image)
 {
     const QPoint insideTheRing(image.width() / 2, image.height() - 14);
@@ -83,7 +82,7 @@ private Q_SLOTS:
 
     void theRingShrinksWithTheSeconds()
     {
-        // The same number each time, so that only the ring differs.
+        // The number is the same each time, so only the ring differs.
         CountdownRing ring;
         const QImage whole = look(ring, 6, 6);
         int last = 0;
@@ -117,7 +116,7 @@ private Q_SLOTS:
     void theLastSecondsAreLarger()
     {
         CountdownRing ring;
-        // Pixels of the number: what an empty text of the same state lacks.
+        // The pixels of the number are those that differ from a ring with an empty text.
         const auto numberOf = [&](int left) {
             const QImage image = look(ring, left, 1000);
             ring.setText({});
@@ -136,7 +135,7 @@ private Q_SLOTS:
         QVERIFY(!look(ring, 32767, 1).isNull());
     }
 
-    void heartsAreFullAsLongAsTheyAreLeft()
+    void theLivesThatAreLeftAreFilledHearts()
     {
         for (const QPalette &palette : {QPalette(QColor(0xEF, 0xEF, 0xEF)), darkPalette()}) {
             LifeHearts hearts;
@@ -158,7 +157,7 @@ private Q_SLOTS:
         }
     }
 
-    void lostHeartsStayAsOutlines()
+    void lostLivesAreOutlines()
     {
         LifeHearts hearts;
         const QImage lost = look(hearts, 0);
@@ -167,7 +166,7 @@ private Q_SLOTS:
         QVERIFY(difference(lost, nothing) > 5 * 30);
     }
 
-    void moreOrFewerLivesThanThereAreChangeNothing()
+    void onlyFiveHeartsAreShown()
     {
         LifeHearts hearts;
         QVERIFY(look(hearts, 6) == look(hearts, 5));

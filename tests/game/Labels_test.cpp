@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Texts that always fit: the label of one line and the label of many. What they paint is read off
-// a drawing.
+// The labels whose texts always fit. What they paint is read from an SVG drawing.
 #include "game/FittedLabel.h"
 #include "platform/WrappedLabel.h"
 #include "support/PaintedLines.h"
@@ -89,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(widthOf(label.font(), lines[0].points, lines[0].text) <= 600 * 1.02);
     }
 
-    void noLabelAsksForMoreRoom()
+    void noLabelNeedsMoreSpace()
     {
         FittedLabel fitted;
         prepare(fitted, QString(400, u'm'), 34, {600, 80});
@@ -188,7 +187,7 @@ private Q_SLOTS:
         }
     }
 
-    void fewLinesStandInTheMiddle()
+    void fewLinesAreVerticallyCentred()
     {
         WrappedLabel label;
         prepare(label, u"cat"_s, 18, {300, 400});

@@ -5,8 +5,7 @@
 
 namespace {
 
-// The whole number next to numerator / denominator, of two that are as near the even one, found
-// without fractions.
+// numerator / denominator rounded in integers, halves to the even number.
 int nearest(int numerator, int denominator)
 {
     const int below = numerator / denominator;
@@ -28,7 +27,7 @@ private Q_SLOTS:
             QCOMPARE(tileOffset(letters), Integer(letters < 30 ? nearest(30 - letters, 2) : 0));
     }
 
-    void halvesGoToTheEvenTile_data()
+    void halfTilesAreRoundedToTheEvenTile_data()
     {
         QTest::addColumn<int>("letters");
         QTest::addColumn<int>("offset");
@@ -45,7 +44,7 @@ private Q_SLOTS:
         QTest::newRow("far too many") << 32767 << 0;
     }
 
-    void halvesGoToTheEvenTile()
+    void halfTilesAreRoundedToTheEvenTile()
     {
         QFETCH(int, letters);
         QFETCH(int, offset);
@@ -60,13 +59,13 @@ private Q_SLOTS:
         }
     }
 
-    void lettersAreUncoveredTheSoonerTheMoreThereAre()
+    void longerWordsAreUncoveredFaster()
     {
         for (int letters = 1; letters <= 60; ++letters)
             QCOMPARE(revealEvery(letters), Integer(nearest(30 + 2 * letters, letters)));
     }
 
-    void intervalsOfAHalfGoToTheEvenSecond_data()
+    void halfSecondsAreRoundedToTheEvenSecond_data()
     {
         QTest::addColumn<int>("letters");
         QTest::addColumn<int>("seconds");
@@ -82,14 +81,14 @@ private Q_SLOTS:
         QTest::newRow("hardly more than 2") << 32767 << 2;
     }
 
-    void intervalsOfAHalfGoToTheEvenSecond()
+    void halfSecondsAreRoundedToTheEvenSecond()
     {
         QFETCH(int, letters);
         QFETCH(int, seconds);
         QCOMPARE(revealEvery(letters), Integer(seconds));
     }
 
-    void aWordWithoutLettersComesToNone() { QCOMPARE(revealEvery(0), Integer(Integer::Max)); }
+    void noLetterOfAnEmptyWordIsUncovered() { QCOMPARE(revealEvery(0), Integer(Integer::Max)); }
 };
 
 QTEST_APPLESS_MAIN(LetterTiles_test)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The seconds for each word at each level, as the tests expect them.
+// For tests: the expected seconds for each word at a level.
 #pragma once
 
 #include <array>

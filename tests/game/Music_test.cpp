@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The music as the main window's menu chooses it. The requests for sound are noted down.
+// The music that the main window's menu chooses. Requests for sound are recorded.
 #include "game/Music.h"
 
 #include "core/Module1.h"
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QFETCH(bool, off);
         for (const char *before : MenuItems) {
             m_window->choose(before);
-            // The second time it is checked already.
+            // The second time the item is already checked.
             for (int times = 1; times <= 2; ++times) {
                 m_window->choose(item.constData());
                 QCOMPARE(checkedItems(), QStringList{QString::fromLatin1(item)});
@@ -242,7 +242,7 @@ private Q_SLOTS:
         QCOMPARE(m_requests->take(), QStringList());
     }
 
-    void theEndSilencesUntilTheNextGame()
+    void theMusicStaysOffUntilTheNextGame()
     {
         chooseAndFill("mnuSoothing");
         m_music->startGame();
@@ -259,7 +259,7 @@ private Q_SLOTS:
         QVERIFY(!gMusicOff);
     }
 
-    void anEndBeforeAnyTrackIsSilenceToo()
+    void theStopIsRequestedAlsoWithoutATrack()
     {
         m_window->choose("mnuUpbeat");
         m_music->stop();
@@ -278,7 +278,7 @@ private Q_SLOTS:
         QCOMPARE(m_requests->take().filter(u" 9"_s), QStringList());
     }
 
-    // Of the real windows, from here on.
+    // From here on with the real windows.
 
     void theTracksAreNamedWhenTheGameOpens()
     {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A dialog of the game that is open, and its controls as a person uses them.
+// For tests: an open dialog of the game and its controls.
 #pragma once
 
 #include "support/Controls.h"
@@ -28,7 +28,7 @@ struct OpenDialog
     {
         QTest::keyClick(modifiers == Qt::NoModifier ? form.focusWidget() : &form, key, modifiers);
     }
-    // In place of what the box holds.
+    // Replaces the text of the box.
     static void insert(QLineEdit &box, const QString &text)
     {
         box.setFocus();

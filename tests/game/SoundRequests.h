@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Notes the requests for sound as long as it lives; nothing is heard.
+// For tests: records the requests for sound, which are not played, until it is destroyed.
 #pragma once
 
 #include "platform/sndPlaySoundA.h"
@@ -20,7 +20,7 @@ public:
     ~SoundRequests() { setSoundPlayer({}); }
     Q_DISABLE_COPY_MOVE(SoundRequests)
 
-    // File name and flags of each since the last call.
+    // "file name flags" of each request since the last call.
     QStringList take() { return std::exchange(m_requests, {}); }
 
 private:

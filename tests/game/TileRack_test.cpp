@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Different characters throughout, beginning with "abc".
+// "abc" and so on: all characters are different.
 QString wordOf(int letters)
 {
     QString word;
@@ -28,7 +28,7 @@ LetterTile &tile(const TileRack &rack, int number)
     return Controls::find<LetterTile>(rack, QByteArray("cmdLetters_") + QByteArray::number(number));
 }
 
-// The letters on the tiles that are turned up, with the tiles' numbers: "14a 15b".
+// Numbers and letters of the tiles that are turned up, such as "14a 15b".
 QString turnedUp(const TileRack &rack)
 {
     QStringList tiles;
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(rack.childAt(open.geometry().center()), nullptr);
     }
 
-    void aTileIsSeenToTurn()
+    void turningATileIsAnimated()
     {
         const auto rack = shownRack(50);
         rack->uncover(1, u"cat"_s);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QCOMPARE(turnedUp(*rack), u"15c"_s);
     }
 
-    void onlyTheNewLetterIsSeenToTurn()
+    void onlyTheNewLetterIsAnimated()
     {
         const auto rack = shownRack(10'000);
         rack->uncover(1, u"cat"_s);
@@ -221,7 +221,7 @@ private Q_SLOTS:
         QCOMPARE(cardTurns(tile(*rack, 16)), 1);
     }
 
-    void withoutMotionATileLiesThereAtOnce()
+    void withoutAnimationsATileIsTurnedAtOnce()
     {
         const auto rack = shownRack(0);
         uncoverAll(*rack, u"cat"_s);
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QCOMPARE(turnedUp(*rack), u"15c 16a 17t"_s);
     }
 
-    void coveredTilesAreNotSeenTurning()
+    void coveringATileEndsItsAnimation()
     {
         const auto rack = shownRack(10'000);
         rack->uncover(1, u"cat"_s);
@@ -248,7 +248,7 @@ private:
         return tiles;
     }
 
-    // As many tiles as said, in a row, alike, inside the rack and in its middle.
+    // `count` tiles of one size are turned up, in a row in the middle of the rack.
     static void verifyTiles(const TileRack &rack, int count)
     {
         const std::vector<LetterTile *> tiles = turnedUpTiles(rack);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The table's way into its file and back.
+// Writing the table to its file.
 #include "game/Top10File.h"
 
 #include "game/Top10Rows.h"

@@ -19,7 +19,7 @@ namespace {
 
 const QDate Day(2024, 2, 29);
 
-// Rows whose defaults cannot be mistaken for what a file holds.
+// Default rows with names that are in no file.
 Top10Table defaults()
 {
     Top10Table table = emptyTop10(Day);
@@ -36,7 +36,7 @@ QByteArray tenRows()
     return bytes;
 }
 
-// The layout read in another way, field by field off a stream.
+// The expected rows, read field by field with QDataStream.
 QStringList readByStream(const QByteArray &bytes, const Top10Table &missing)
 {
     QDataStream stream(bytes);
@@ -201,7 +201,7 @@ private Q_SLOTS:
             const QByteArray cut = whole.first(size);
             QCOMPARE(fieldsOf(Top10File::decode(cut, defaults())), readByStream(cut, defaults()));
         }
-        // The same in plain words at four places of the first row.
+        // The expected texts for four of these cuts.
         const auto firstRow = [&](int size) {
             return fieldsOf(Top10File::decode(whole.first(size), defaults())[0]);
         };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Top 10 tables as plain texts and bytes, made without the code under test.
+// For tests: Top 10 tables, and their expected texts and bytes.
 #pragma once
 
 #include "game/Top10Table.h"
@@ -49,8 +49,8 @@ using namespace Qt::StringLiterals;
     return texts;
 }
 
-// "Player 1" with the first number of points on 1 January 2020, "Player 2" on the 2nd, …; rows
-// without a number are unused rows of 1 February 2020.
+// "Player 1" with the first number of points on 1 January 2020, "Player 2" with the second on the
+// 2nd, and so on. The other rows are unused rows of 1 February 2020.
 [[nodiscard]] inline Top10Table tableOf(const QList<int> &points)
 {
     Top10Table table;

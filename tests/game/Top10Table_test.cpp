@@ -74,14 +74,14 @@ private Q_SLOTS:
         QCOMPARE(fieldsOf(table), expected);
     }
 
-    void anUnusedFirstRowBeginsTheTableAnew_data()
+    void anUnusedFirstRowClearsTheTableFirst_data()
     {
         QTest::addColumn<QList<int>>("points");
         QTest::newRow("empty") << QList<int>{};
         QTest::newRow("row 1 unused before others") << QList<int>{0, 90, 80};
     }
 
-    void anUnusedFirstRowBeginsTheTableAnew()
+    void anUnusedFirstRowClearsTheTableFirst()
     {
         QFETCH(QList<int>, points);
         Top10Table table = tableOf(points);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(fieldsOf(table), expected);
     }
 
-    void rowsReadAsDatePointsAndName()
+    void rowsShowDatePointsAndName()
     {
         QCOMPARE(rowText({Day, u"Ann"_s, 7}), dateText(Day) + u"   7 :   Ann"_s);
         QCOMPARE(rowText({Day, QString(), 32767}), dateText(Day) + u"   32767 :   "_s);
@@ -125,13 +125,13 @@ private Q_SLOTS:
         QVERIFY(dateText(Day).contains(u"29"_s));
     }
 
-    void anUnusedRowReadsAsNothing()
+    void anUnusedRowIsAnEmptyText()
     {
         QCOMPARE(rowText({Day, QString(), 0}), QString());
         QCOMPARE(rowText({Day, u"Ann"_s, 0}), QString());
     }
 
-    void aDateThatIsNoneIsEmpty()
+    void anInvalidDateIsAnEmptyText()
     {
         QCOMPARE(rowText({QDate(), u"Ann"_s, 7}), u"   7 :   Ann"_s);
         QCOMPARE(unnamedRowText({QDate(), QString(), 7}), u"   7 : "_s);

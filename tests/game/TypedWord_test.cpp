@@ -10,7 +10,7 @@ class TypedWord_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theWordIsTakenCharacterForCharacter_data()
+    void theWordIsComparedCharacterForCharacter_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("word");
@@ -35,12 +35,12 @@ private Q_SLOTS:
         QTest::newRow("hard blank inside") << u"ice cream"_s << u"ice\u00A0cream"_s << true;
         QTest::newRow("hard blank typed") << u"cat\u00A0"_s << u"cat"_s << false;
         QTest::newRow("pasted with its tab") << u"ice\tcream"_s << u"ice\tcream"_s << true;
-        // The box turns the line break of a copied word into a blank and keeps the tab.
+        // When the word is pasted, the box replaces the line break by a blank and keeps the tab.
         QTest::newRow("pasted with its tab and line break")
             << u"ice\tcream cone"_s << u"ice\tcream\ncone"_s << true;
     }
 
-    void theWordIsTakenCharacterForCharacter()
+    void theWordIsComparedCharacterForCharacter()
     {
         QFETCH(QString, typed);
         QFETCH(QString, word);

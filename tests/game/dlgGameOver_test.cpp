@@ -43,7 +43,7 @@ struct OverForm : OpenDialog
 
     void typeName(const QString &text) const { insert(name(), text); }
 
-    // What is in sight and can be used, and what Enter presses.
+    // The visible and enabled controls, and the default button.
     [[nodiscard]] QStringList state() const
     {
         QStringList state;
@@ -62,7 +62,7 @@ struct OverForm : OpenDialog
 const QStringList Naming{u"txtName"_s, u"cmdEnter"_s, u"cmdEnter default"_s};
 const QStringList Viewing{u"cmdClose"_s, u"cmdReset"_s, u"cmdClose default"_s};
 
-// The rows as they should read, worked out from the table's points and names.
+// The expected texts of the rows.
 QStringList rowTexts(const Top10Table &table)
 {
     QStringList texts;
@@ -209,7 +209,7 @@ private Q_SLOTS:
             QCOMPARE(form.state(), Naming);
             QCOMPARE(form.rows(), expected);
             QCOMPARE(form.form.focusWidget(), &form.name());
-            // The name is typed where it will stand.
+            // The name box is where the name will be shown.
             const QRect label(form.row(row).mapTo(&form.form, QPoint()), form.row(row).size());
             const QRect box(form.name().mapTo(&form.form, QPoint()), form.name().size());
             QVERIFY(std::abs(label.center().y() - box.center().y()) < label.height() / 2);
@@ -294,7 +294,7 @@ private Q_SLOTS:
         QCOMPARE(gTop10[0].PlayerName, u"Ann"_s);
     }
 
-    void theKeyboardIsOnWhatIsInSight()
+    void aVisibleControlHasTheFocus()
     {
         gTop10 = tableOf({30});
         show([this](const OverForm &form) {
@@ -336,7 +336,7 @@ private Q_SLOTS:
         });
         QByteArray reset = fileRow(43831, "", 0) + fileRow(43832, "", 0);
         reset += fileRow(43862, "", 0).repeated(8);
-        // The names that were there leave their bytes behind.
+        // The file is not truncated: the bytes of the longer old table stay at its end.
         QCOMPARE(fileBytes(), yes ? reset + before.last(before.size() - reset.size()) : before);
         QCOMPARE(gTop10[0].EntryDate, QDate(2020, 1, 1));
         QCOMPARE(gTop10[0].Points, Integer(yes ? 0 : 30));
@@ -358,7 +358,7 @@ private Q_SLOTS:
         QVERIFY(fileBytes().startsWith(fileRow(today(), "", 0).repeated(10)));
     }
 
-    void closeEndsTheScoreAndTheCloseBoxLeavesIt_data()
+    void closeSetsTheScoreToZeroAndTheCloseBoxDoesNot_data()
     {
         QTest::addColumn<QString>("way");
         QTest::addColumn<int>("score");
@@ -367,7 +367,7 @@ private Q_SLOTS:
         QTest::newRow("Esc") << u"esc"_s << 5;
     }
 
-    void closeEndsTheScoreAndTheCloseBoxLeavesIt()
+    void closeSetsTheScoreToZeroAndTheCloseBoxDoesNot()
     {
         QFETCH(QString, way);
         QFETCH(int, score);
@@ -416,14 +416,14 @@ private Q_SLOTS:
         dialog.exec();
     }
 
-    void aRowThatGetsNoNameIsSavedWithTheNextWrite_data()
+    void aRowWithoutANameIsSavedWithTheNextWrite_data()
     {
         QTest::addColumn<QString>("way");
         QTest::newRow("close box") << u"box"_s;
         QTest::newRow("Esc") << u"esc"_s;
     }
 
-    void aRowThatGetsNoNameIsSavedWithTheNextWrite()
+    void aRowWithoutANameIsSavedWithTheNextWrite()
     {
         QFETCH(QString, way);
         gScore = 7;
@@ -559,7 +559,7 @@ private:
         });
     }
 
-    // Opens the dialog as the game does; `use` has to close it.
+    // Opens the dialog and calls `use`, which must close it.
     void show(const std::function<void(const OverForm &)> &use)
     {
         m_answers->useForm("dlgGameOver", [use](QDialog &dialog) {

@@ -38,7 +38,7 @@ struct AnswerForm : OpenDialog
         click("cmdOK");
     }
 
-    // Of the two display states: what is in sight, and whether OK is the default.
+    // The visible controls, and the default button.
     [[nodiscard]] QStringList state() const
     {
         QStringList state;
@@ -129,7 +129,7 @@ private Q_SLOTS:
         });
     }
 
-    // A box takes 32,767 characters by itself.
+    // By default a box takes up to 32,767 characters.
     void aWordThatOnlyAFileCanHoldCanBeEntered()
     {
         const QString word = u"abc "_s.repeated(8192) + u'd';
@@ -274,7 +274,7 @@ private Q_SLOTS:
                 QVERIFY(form.form.isVisible());
                 QCOMPARE(form.state(), WordShown);
             }
-            // Hidden and shown again, it is as before.
+            // It is the same after the word was hidden and shown again.
             form.click("cmdDown");
             form.click("cmdUp");
             form.type(u"cat"_s);
@@ -325,7 +325,7 @@ private Q_SLOTS:
                 form.click("cmdDown");
             leave();
             QVERIFY(form.form.isVisible());
-            // The right word counts when it is checked, not when it is typed.
+            // A word that is typed but not checked does not close the dialog.
             form.type(u"cat"_s);
             leave();
             QVERIFY(form.form.isVisible());
@@ -412,7 +412,7 @@ private Q_SLOTS:
                 const QRect place(control.mapTo(&form.form, QPoint()), control.size());
                 QVERIFY2(inside.contains(place), name);
             }
-            // A text that is longer than its place can be scrolled to its end, by keyboard too.
+            // A long text can be scrolled to its end, also by keyboard.
             for (const char *name : {"answerArea", "definitionArea"}) {
                 const QScrollArea &area = Controls::find<QScrollArea>(form.form, name);
                 const QWidget &label = *area.widget();
@@ -434,7 +434,7 @@ private:
         gVocabList().CurrentWord(1);
     }
 
-    // Opens the dialog as the game does; `use` has to type the word.
+    // Opens the dialog and calls `use`, which must enter the word.
     void ask(const std::function<void(const AnswerForm &)> &use)
     {
         m_answers->useForm("dlgIncorrectAnswer", [use](QDialog &dialog) {

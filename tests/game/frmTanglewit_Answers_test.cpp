@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Hits and misses: points, lists, what happens after each.
+// Hits and misses.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -34,7 +34,7 @@ private Q_SLOTS:
         m_form->start();
         m_form->passTime(9);
         const QString word = GameForm::word();
-        const int run = m_form->timer().timerId(); // another one after a restart
+        const int run = m_form->timer().timerId(); // a restart would change it
         if (byKey)
             Controls::press(Qt::Key_Return);
         else
@@ -89,7 +89,7 @@ private Q_SLOTS:
         m_form->start();
         m_form->answer(u"apple"_s);
         QCOMPARE(m_form->text("lblNumLifes"), u"5"_s);
-        // The word's length counts with its blanks.
+        // Blanks in the word count as letters.
         QCOMPARE(m_form->text("lblScore"), u"6"_s);
         QCOMPARE(m_form->lines("lstHits"), QStringList{u" apple "_s});
     }
@@ -205,7 +205,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), u"16 1 30 1"_s);
     }
 
-    void theLatestLinesAreInSight()
+    void theLatestLineIsVisible()
     {
         m_form->start();
         m_form->answerRight(19);
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QVERIFY(hits.viewport()->rect().intersects(hits.visualItemRect(hits.item(18))));
     }
 
-    void theSwitchKeepsItsPlaceFromWordToWord()
+    void theNextWordStaysHidden()
     {
         m_form->start();
         m_form->click("cmdHide");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The countdown, the letters that it uncovers, and its end.
+// The countdown, the letters that it uncovers, and the time-out.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -46,7 +46,7 @@ private Q_SLOTS:
         checkWord(GameForm::blankedSentence());
     }
 
-    void startForgetsTheScore()
+    void startSetsTheScoreToZero()
     {
         m_form->open();
         gScore = 99;
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QCOMPARE(gOrderIndex, Integer(2));
         QCOMPARE(gVocabList().CurrentWord(), gWordOrder(2));
         QVERIFY(GameForm::word() != word);
-        // The next word's sentence is not blanked here.
+        // After a time-out the next sentence is shown unblanked.
         checkWord(GameForm::sentenceOf(GameForm::word()));
     }
 
@@ -182,14 +182,14 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), u"0 10 4 4"_s);
     }
 
-    void theAnswerBoxKeepsTheKeyboardOverATimeOut()
+    void theAnswerBoxKeepsTheFocusAfterATimeOut()
     {
         m_form->start();
         m_form->timeOut();
         QTRY_VERIFY(m_form->answerBox().hasFocus());
     }
 
-    void theCountdownStandsStillWhileAnAnswerIsHandled()
+    void theCountdownIsPausedWhileAnAnswerIsHandled()
     {
         m_form->start();
         m_form->passTime(3);
@@ -202,7 +202,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->text("lblCountDown"), u"30"_s);
     }
 
-    void theCountdownStandsStillBehindTheDialogOfATimeOut()
+    void theCountdownIsPausedBehindTheDialogOfATimeOut()
     {
         m_form->start();
         m_form->expectMiss([this](QDialog &) {
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), u"0 1 29 4"_s);
     }
 
-    void theCountdownStandsStillBehindTheMessageOfThatDialog()
+    void theCountdownIsPausedBehindTheMessageOfThatDialog()
     {
         m_form->start();
         const QString message = u"The correct word is: '%1'"_s.arg(GameForm::word());
@@ -231,7 +231,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), u"0 1 30 4"_s);
     }
 
-    void theCountdownGoesOnWhereItStoodAfterTheTop10()
+    void theCountdownContinuesAfterTheTop10()
     {
         m_form->start();
         m_form->passTime(7);
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->tiles().size(), 1);
     }
 
-    void theCountdownStandsStillBehindTheQuestionOfTheTop10()
+    void theCountdownIsPausedBehindTheQuestionOfTheTop10()
     {
         m_form->start();
         m_form->answers.useForm("dlgGameOver", [this](QDialog &dialog) {
@@ -276,7 +276,7 @@ private Q_SLOTS:
     }
 
 private:
-    // Scramble and clue are those of the current word.
+    // Scrambled word, clue and sentence are those of the current word.
     void checkWord(const QString &sentence)
     {
         QString letters = m_form->text("lblScrambledWord");

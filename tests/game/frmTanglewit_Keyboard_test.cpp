@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The game without a mouse, and with a screen reader.
+// The game by keyboard alone, and what a screen reader gets.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -46,7 +46,7 @@ QString accessibleName(QWidget &control)
     return found ? found->text(QAccessible::Name) : QString();
 }
 
-// What the keyboard can reach.
+// Every control that Tab reaches has an accessible name.
 void checkNames(QWidget &window)
 {
     const QList<QWidget *> controls = window.findChildren<QWidget *>();
@@ -79,7 +79,7 @@ private Q_SLOTS:
     void aWholeGameNeedsNoMouse()
     {
         m_form->open();
-        // Level 2 by the switch, then Start by Enter, which is the default button everywhere.
+        // Level 2, then Enter: Start is the default button also while the switch has the focus.
         QTest::keyClick(&m_form->window(), Qt::Key_L, Qt::AltModifier);
         QVERIFY(m_form->levelSwitch().hasFocus());
         Controls::press(Qt::Key_Up);
@@ -275,7 +275,7 @@ private Q_SLOTS:
         m_form->click("cmdQuit");
     }
 
-    void whatIsShownCanBeHeard()
+    void whatIsShownHasAnAccessibleName()
     {
         m_form->start();
         for (const char *name : {"lblScrambledWord", "lblClue", "lblSentence", "lblCountDown",

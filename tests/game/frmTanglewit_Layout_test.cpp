@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the controls of the game's windows lie. CTest runs this on screens of several sizes.
+// The layout of the game's windows. CTest runs this test on screens of several sizes.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -17,7 +17,7 @@ QRect placeIn(const QWidget &window, const QWidget &control)
     return {control.mapTo(&window, QPoint()), control.size()};
 }
 
-// The controls themselves, not the parts that Qt builds them of, nor what scrolls.
+// Without the widgets inside Qt's own widgets and without the contents of scroll areas.
 QList<QWidget *> visibleControls(const QWidget &window)
 {
     QList<QWidget *> controls;
@@ -34,7 +34,7 @@ QList<QWidget *> visibleControls(const QWidget &window)
 
 void checkNothingIsCut(QWidget &window)
 {
-    // A window that grows with its texts lays itself out again.
+    // Let the layout follow the texts.
     for (int i = 0; i < 5; ++i)
         QApplication::processEvents();
     const QByteArray size =
@@ -59,7 +59,7 @@ void checkNothingIsCut(QWidget &window)
     }
 }
 
-// Room for a line of the text at least.
+// There is room for at least one line of each text.
 void checkTextsCanBeRead(GameForm &form)
 {
     for (const char *name : {"clueArea", "sentenceArea"}) {
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QVERIFY(qAbs(off.x()) <= 1 && qAbs(off.y()) <= 1);
     }
 
-    void theWindowIsAsLargeWhenItComesBack()
+    void theWindowHasTheSameSizeWhenItComesBack()
     {
         m_form = std::make_unique<GameForm>();
         m_form->open();

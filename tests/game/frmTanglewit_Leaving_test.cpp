@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Restart, Quit and the close box, wherever the game stands.
+// Restart, Quit and the close box in every state of the game.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->sounds(), QStringList{u"NULL 0"_s});
     }
 
-    void aSilentGameAsksForNoSilence()
+    void aGameWithoutMusicRequestsNoStop()
     {
         m_form->choose("mnuMusicOff");
         bring(u"playing"_s);

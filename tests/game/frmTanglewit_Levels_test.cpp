@@ -42,7 +42,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), u"80 2 25 5"_s);
         QCOMPARE(m_form->lines("lstHits"), QStringList());
         QCOMPARE(m_form->hitsTitle(), u"Hits: 20"_s);
-        // The twenty-first word is the first one of the fifth pass over five.
+        // The list has five words, so the fifth pass begins with the twenty-first.
         QCOMPARE(gOrderIndex, Integer(1));
         QCOMPARE(gVocabList().CurrentWord(), gWordOrder(1));
         QCOMPARE(m_form->look(), GameForm::playing());
@@ -63,7 +63,7 @@ private Q_SLOTS:
         m_form->expectLevel(2);
         m_form->answerRight();
         QCOMPARE(m_form->text("lblLevel"), u"2"_s);
-        // The misses of the game stay.
+        // The list of misses is not cleared.
         QCOMPARE(m_form->lines("lstMisses").size(), 2);
     }
 
@@ -144,6 +144,19 @@ private Q_SLOTS:
         m_form->expectLevel(7);
         m_form->answerRight(20);
         QCOMPARE(m_form->sounds(), (QStringList{u"NULL 0"_s, u"fastbeat/Track07.wav 9"_s}));
+    }
+
+    void theTrackChangesBeforeTheMessage()
+    {
+        m_form->choose("mnuUpbeat");
+        m_form->start();
+        m_form->answerRight(19);
+        m_form->sounds();
+        m_form->answers.expectMsgBox(u"Level 2"_s, QMessageBox::Ok, [this](QMessageBox &) {
+            QCOMPARE(m_form->sounds(), (QStringList{u"NULL 0"_s, u"fastbeat/Track02.wav 9"_s}));
+        });
+        m_form->answerRight();
+        QCOMPARE(m_form->sounds(), QStringList());
     }
 
     void anotherChoiceCountsFromTheNextLevel()

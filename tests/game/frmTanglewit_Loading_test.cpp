@@ -50,7 +50,7 @@ private Q_SLOTS:
         QVERIFY(m_form->control<QWidget>("lblScrambledWord").isVisible());
     }
 
-    void startIsTheDefaultButtonAndHasTheKeyboard()
+    void startIsTheDefaultButtonAndHasTheFocus()
     {
         m_form->open();
         QVERIFY(m_form->button("cmdStart").isDefault());
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->text("lblSentence"), QString());
         QVERIFY(m_form->button("cmdStart").isDefault());
         QVERIFY(m_form->control<QWidget>("lblScrambledWord").isVisible());
-        // The time limit, too, is the first one again.
+        // The time limit is that of level 1 again.
         m_form->click("cmdStart");
         m_form->passTime();
         m_form->answerRight();

@@ -57,7 +57,7 @@ private Q_SLOTS:
             QCOMPARE(m_form->lines("lstMisses").size(), 5);
             QCOMPARE(m_form->tiles(), QStringList());
             QCOMPARE(m_form->text("lblCountDown"), u"0"_s);
-            // No further word is asked.
+            // There is no next word.
             QCOMPARE(gOrderIndex, Integer(5));
         });
         m_form->passTime(30);
@@ -67,7 +67,7 @@ private Q_SLOTS:
             QVERIFY(line.endsWith(u" :: (Timer Expired)"_s));
     }
 
-    void missesAndTimeOutsAddUp()
+    void missesAndTimeOutsBothCostLives()
     {
         m_form->start();
         m_form->timeOut();
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->lines("lstMisses").size(), 5);
     }
 
-    void restartHasTheKeyboardWhenTheGameIsOver()
+    void restartHasTheFocusWhenTheGameIsOver()
     {
         m_form->start();
         m_form->loseAllLives();
@@ -197,7 +197,7 @@ private Q_SLOTS:
         if (state == u"over"_s)
             m_form->loseAllLives(u"Ann"_s);
         const QStringList look = m_form->look();
-        gScore = 50; // would enter the table
+        gScore = 50; // enough to enter the table
         m_form->expectTop10([](QDialog &dialog) {
             QVERIFY(dialog.isModal());
             QVERIFY(gViewTop10Only);
@@ -212,8 +212,8 @@ private Q_SLOTS:
         QVERIFY(gTop10[0].Points < 50);
     }
 
-    // The dialog's button does what it does after a game, its close box does not.
-    void closingTheViewByItsButtonForgetsTheScore_data()
+    // Close sets the score to 0, the close box does not.
+    void closeInTheViewSetsTheScoreToZero_data()
     {
         QTest::addColumn<bool>("byButton");
         QTest::addColumn<int>("score");
@@ -221,7 +221,7 @@ private Q_SLOTS:
         QTest::newRow("close box") << false << 4;
     }
 
-    void closingTheViewByItsButtonForgetsTheScore()
+    void closeInTheViewSetsTheScoreToZero()
     {
         QFETCH(bool, byButton);
         QFETCH(int, score);

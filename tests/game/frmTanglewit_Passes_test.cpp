@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lists that are used up during a game.
+// Games that go more than once through the list.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), u"3 1 30 4"_s);
         m_form->passTime();
         QCOMPARE(m_form->numbers(), u"3 1 29 4"_s);
-        // The letters' seconds begin with the full limit.
+        // The seconds until the first letter count from the full limit.
         m_form->passTime(8);
         QCOMPARE(m_form->tiles(), QStringList());
         m_form->passTime();

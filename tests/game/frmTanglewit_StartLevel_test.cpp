@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The switch for the level that a game begins with.
+// The switch for the starting level.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -49,7 +49,7 @@ private Q_SLOTS:
         }
     }
 
-    void bothEndsHold()
+    void theLevelStaysBetweenOneAndTen()
     {
         m_form->lowerStartLevel(3);
         QCOMPARE(m_form->numbers(), numbersAt(1));

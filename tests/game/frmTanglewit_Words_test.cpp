@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How a word is shown, and words that are hard to show.
+// How words are shown, also very long and very short ones.
 #include "game/frmTanglewit.h"
 
 #include "game/GameForm.h"
@@ -55,7 +55,7 @@ private Q_SLOTS:
         m_form.reset();
     }
 
-    void theTypeGoesByTheTextsLengths_data()
+    void theTypeSizeDependsOnTheLengthsOfTheTexts_data()
     {
         QTest::addColumn<int>("word");
         QTest::addColumn<int>("definition");
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QTest::newRow("sentence 151") << 5 << 10 << 151 << u"34 bold, 18, 12"_s;
     }
 
-    void theTypeGoesByTheTextsLengths()
+    void theTypeSizeDependsOnTheLengthsOfTheTexts()
     {
         QFETCH(int, word);
         QFETCH(int, definition);
@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(typeOf(m_form->control<QLabel>("lblClue")), u"18"_s);
     }
 
-    void theSentenceIsBlankedAsItIsShown()
+    void theSentenceIsBlanked()
     {
         gVocabList().ClearList();
         gVocabList().AddVocab(u"cat"_s, {}, u"The category was cat."_s);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->text("lblSentence"), u"The _____ was _____."_s);
     }
 
-    void textsAreShownAsTheyAreTyped()
+    void textsAreShownAsPlainText()
     {
         gVocabList().ClearList();
         gVocabList().AddVocab(u"<b>a&b"_s, u"<i>not</i> &markup &amp;"_s, u"<u>x</u> & y"_s);
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), numbers);
     }
 
-    void noTileIsTouchedBehindTheThirtieth_data()
+    void lettersAfterTheThirtiethHaveNoTile_data()
     {
         QTest::addColumn<int>("letters");
         QTest::newRow("30") << 30;
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QTest::newRow("300") << 300;
     }
 
-    void noTileIsTouchedBehindTheThirtieth()
+    void lettersAfterTheThirtiethHaveNoTile()
     {
         QFETCH(int, letters);
         const QString word = GameForm::longWord(letters);
@@ -210,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->look(), GameForm::playing());
     }
 
-    void theLettersOfALongWordCountAllOfThem()
+    void allLettersOfALongWordCount()
     {
         GameForm::fill({GameForm::longWord(45)});
         m_form->start();
@@ -255,7 +255,7 @@ private Q_SLOTS:
         m_form->window().close();
         QVERIFY(m_form->mainWindow().isVisible());
 
-        // Another list is played as ever.
+        // A game with another list is not affected.
         GameForm::fill(GameForm::fiveWords());
         m_form->start();
         QCOMPARE(m_form->look(), GameForm::playing());
@@ -269,7 +269,7 @@ private Q_SLOTS:
         m_form->start();
         GameForm::fill({u"cat"_s});
         gVocabList().CurrentWord(1);
-        // One order of six is refused, and another one is drawn.
+        // The scramble refuses one of the six orders of three letters and draws again.
         for (int i = 0; i < 300; ++i)
             QCOMPARE(gVocabList().ScrambledWord().size(), 3);
         QCOMPARE(gVocabList().NumWords(), Integer(1));
@@ -347,7 +347,7 @@ private:
         m_form->answers.expectMsgBox(u"Run-time error '9':\n\nSubscript out of range"_s);
     }
 
-    // Starts a game that finds no scramble.
+    // Starts a game whose first word cannot be scrambled.
     void startStuck(const QString &word)
     {
         m_form->waitForWindow();
@@ -360,7 +360,7 @@ private:
         QVERIFY(!m_form->timer().isActive());
     }
 
-    // Starts with the list's words in the list's order, drawn by these random numbers.
+    // Starts a game in the order of the list. numbers: the random numbers that draw this order.
     void startInOrder(std::vector<float> numbers)
     {
         for (const float forTheScramble : {0.0F, 0.9F, 0.3F, 0.7F, 0.5F})
