@@ -23,7 +23,7 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgQuickFlash>())
 {
     m_ui->setupUi(this);
-    // They share one place and size.
+    // They share one place, which keeps its size.
     for (QPushButton *button : {m_ui->cmdAutoFlash, m_ui->cmdStop}) {
         QSizePolicy policy = button->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
@@ -62,8 +62,7 @@ void dlgQuickFlash::Form_Load()
     gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
     ShuffleCards();
     gOrderIndex = 1;
-    gVocabList().CurrentWord(gWordOrder(gOrderIndex));
-    m_ui->txtWord->setText(gVocabList().Word(), FlashCard::Side::Front);
+    showCard();
     m_ui->txtDef->setText(ClosedCard + QStringLiteral("\r\n"), FlashCard::Side::Back);
     showRun(Run::ByHand);
     m_ui->cmdNext->setFocus();

@@ -30,7 +30,7 @@ struct GameState
     // is already at 0 is filled instead. letters: of the current word.
     [[nodiscard]] bool tick(Integer letters);
 
-    // Of a right answer. Each uncovered letter costs a point.
+    // The points of a right answer: one less than the covered letters.
     [[nodiscard]] Integer points(Integer letters) const { return letters - NextLetter; }
     // True if this hit raises the level. The new time limit is that of the next word.
     [[nodiscard]] bool countHit();

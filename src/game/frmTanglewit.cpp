@@ -54,7 +54,7 @@ frmTanglewit::frmTanglewit(MusicMenu menu, QWidget *mainWindow)
     m_Timer1.setParent(this);
     m_Timer1.setObjectName(QStringLiteral("Timer1"));
     connectHandlers();
-    // They share one place and size.
+    // They share one place, which keeps its size.
     for (QPushButton *button : {m_ui->cmdShow, m_ui->cmdHide}) {
         QSizePolicy policy = button->sizePolicy();
         policy.setRetainSizeWhenHidden(true);

@@ -45,6 +45,7 @@ private Q_SLOTS:
         QFETCH(QString, state);
         bring(state);
         gWordOrder = Array<Integer>({0});
+        gOrderIndex = 7;
         m_form->click("cmdRestart");
         QCOMPARE(m_form->look(), GameForm::ready());
         QCOMPARE(m_form->numbers(), u"0 1 30 5"_s);

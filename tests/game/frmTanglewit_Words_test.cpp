@@ -297,6 +297,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->tiles(), QStringList());
         QVERIFY(m_form->timer().isActive());
         QCOMPARE(m_form->look(), GameForm::playing());
+        QCOMPARE(m_form->text("lblCountDown"), u"30"_s);
         m_form->passTime();
         const PaintCount painted(m_form->window());
         QTRY_VERIFY(painted.count() > 0);
