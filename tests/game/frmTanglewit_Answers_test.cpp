@@ -213,6 +213,19 @@ private Q_SLOTS:
         QVERIFY(hits.viewport()->rect().intersects(hits.visualItemRect(hits.item(18))));
     }
 
+    void theHeartsShowTheLives()
+    {
+        m_form->start();
+        auto &hearts = m_form->control<QWidget>("lifeHearts");
+        const QImage all = hearts.grab().toImage();
+        m_form->answerRight();
+        QVERIFY(hearts.grab().toImage() == all);
+        m_form->answerWrong();
+        QVERIFY(hearts.grab().toImage() != all);
+        m_form->click("cmdRestart");
+        QVERIFY(hearts.grab().toImage() == all);
+    }
+
     void theNextWordStaysHidden()
     {
         m_form->start();

@@ -166,6 +166,20 @@ private Q_SLOTS:
         QCOMPARE(m_form->look(), GameForm::ready());
     }
 
+    void theRackHasNoPlacesBetweenTwoGames()
+    {
+        m_form->open();
+        auto &rack = m_form->control<QWidget>("tileRack");
+        const QImage empty = rack.grab().toImage();
+        m_form->click("cmdStart");
+        QVERIFY(rack.grab().toImage() != empty);
+        m_form->click("cmdRestart");
+        QVERIFY(rack.grab().toImage() == empty);
+        m_form->click("cmdStart");
+        m_form->loseAllLives();
+        QVERIFY(rack.grab().toImage() == empty);
+    }
+
     void anotherGameCanBePlayed()
     {
         m_form->start();
@@ -259,6 +273,7 @@ private:
         QCOMPARE(m_form->look(), GameForm::over());
         QVERIFY(!m_form->button("cmdStart").isEnabled());
         QVERIFY(!m_form->button("cmdEnter").isEnabled());
+        QVERIFY(!m_form->button("cmdEnter").isDefault());
         QVERIFY(!m_form->timer().isActive());
         QCOMPARE(m_form->text("lblNumLifes"), u"0"_s);
         QCOMPARE(m_form->text("lblScrambledWord"), QString());

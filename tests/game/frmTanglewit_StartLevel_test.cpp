@@ -122,6 +122,21 @@ private Q_SLOTS:
         QCOMPARE(m_form->numbers(), u"4 6 9 5"_s);
     }
 
+    void theRingIsWholeAtEachLimit()
+    {
+        auto &ring = m_form->control<QWidget>("lblCountDown");
+        // Three quarters of the way round.
+        const auto colour = [&ring] {
+            return ring.grab().toImage().pixelColor(4, ring.height() / 2);
+        };
+        const QColor whole = colour();
+        m_form->raiseStartLevel(5);
+        QCOMPARE(colour(), whole);
+        m_form->click("cmdStart");
+        m_form->passTime(3);
+        QVERIFY(colour() != whole);
+    }
+
     void restartGoesBackToLevelOneAndFreesTheSwitch()
     {
         m_form->raiseStartLevel(5);
