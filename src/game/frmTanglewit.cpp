@@ -152,7 +152,6 @@ void frmTanglewit::cmdRestart_Click()
 
 void frmTanglewit::cmdQuit_Click()
 {
-    m_Timer1.stop();
     m_isQuitting = true;
     close();
     m_isQuitting = false;
