@@ -2,6 +2,7 @@
 // The looks of the countdown and of the lives.
 #include "game/CountdownRing.h"
 #include "game/LifeHearts.h"
+#include "support/PaintCount.h"
 
 #include <QImage>
 #include <QTest>
@@ -91,6 +92,8 @@ private Q_SLOTS:
             QVERIFY(gone > last);
             last = gone;
         }
+        // Down to the last second.
+        QVERIFY(look(ring, 1, 1) != look(ring, 1, 30));
     }
 
     void theRingIsWholeAtEachLimit()
@@ -133,6 +136,25 @@ private Q_SLOTS:
         QVERIFY(!look(ring, -1, 30).isNull());
         QCOMPARE(ring.text(), u"-1"_s);
         QVERIFY(!look(ring, 32767, 1).isNull());
+    }
+
+    void everyChangeIsPaintedAtOnce()
+    {
+        CountdownRing ring;
+        ring.setSeconds(6, 30);
+        LifeHearts hearts;
+        hearts.setLives(5);
+        for (QWidget *gauge : {static_cast<QWidget *>(&ring), static_cast<QWidget *>(&hearts)}) {
+            gauge->show();
+            QVERIFY(QTest::qWaitForWindowExposed(gauge));
+        }
+        QCoreApplication::processEvents();
+        const PaintCount ringPainted(ring);
+        const PaintCount heartsPainted(hearts);
+        ring.setSeconds(6, 6);
+        hearts.setLives(4);
+        QTRY_COMPARE(ringPainted.count(), 1);
+        QTRY_COMPARE(heartsPainted.count(), 1);
     }
 
     void theLivesThatAreLeftAreFilledHearts()

@@ -5,6 +5,7 @@
 #include "support/CardTurns.h"
 #include "support/Controls.h"
 #include "support/MotionStyle.h"
+#include "support/PaintCount.h"
 
 #include <QTest>
 
@@ -158,6 +159,18 @@ private Q_SLOTS:
             last = side;
         }
         QVERIFY(last >= 18);
+    }
+
+    void newPlacesArePaintedAtOnce()
+    {
+        TileRack rack;
+        rack.prepare(3);
+        rack.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&rack));
+        QCoreApplication::processEvents();
+        const PaintCount painted(rack);
+        rack.prepare(4);
+        QTRY_VERIFY(painted.count() > 0);
     }
 
     void theRackShowsAPlaceForEachLetter()

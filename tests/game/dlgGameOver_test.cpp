@@ -219,6 +219,8 @@ private Q_SLOTS:
             expected[row - 1] = u"%1   %2 :   Ann"_s.arg(dateText(QDate::currentDate())).arg(score);
             QCOMPARE(form.rows(), expected);
             QCOMPARE(form.state(), Viewing);
+            // The row is as wide as the others again.
+            QTRY_COMPARE(form.row(row).width(), form.row(11 - row).width());
             form.click("cmdClose");
         });
         const Top10Table written = Top10File::read(pathOf(Place::Top10), {});
@@ -263,7 +265,7 @@ private Q_SLOTS:
             form.click("cmdEnter");
             QCOMPARE(form.row(1).text(), dateText(QDate::currentDate()) + u"   7 :   "_s + name);
             QCOMPARE(form.row(1).textFormat(), Qt::PlainText);
-            QVERIFY(!form.row(1).toolTip().contains(u"<b>"_s));
+            QCOMPARE(form.row(1).toolTip(), Qt::convertFromPlainText(form.row(1).text()));
             form.click("cmdClose");
         });
         QCOMPARE(gTop10[0].PlayerName, name);
@@ -292,6 +294,19 @@ private Q_SLOTS:
             QVERIFY(!form.form.isVisible());
         });
         QCOMPARE(gTop10[0].PlayerName, u"Ann"_s);
+    }
+
+    void theNameBoxGetsTheFocusWhenTheDialogIsActivated()
+    {
+        gScore = 7;
+        show([](const OverForm &form) {
+            form.button("cmdEnter").setFocus();
+            QEvent activated(QEvent::WindowActivate);
+            QApplication::sendEvent(&form.form, &activated);
+            QCOMPARE(form.form.focusWidget(), &form.name());
+            form.click("cmdEnter");
+            form.click("cmdClose");
+        });
     }
 
     void aVisibleControlHasTheFocus()

@@ -349,10 +349,14 @@ private Q_SLOTS:
             }
             QCOMPARE(reached, (QStringList{u"txtUserAnswer"_s, u"cmdOK"_s, u"cmdDown"_s}));
             QCOMPARE(form.form.focusWidget(), &form.box());
+            form.button("cmdOK").setFocus();
             form.press(Qt::Key_H, Qt::AltModifier);
             QTRY_COMPARE(form.state(), WordHidden);
+            QCOMPARE(form.form.focusWidget(), &form.box());
+            form.button("cmdOK").setFocus();
             form.press(Qt::Key_S, Qt::AltModifier);
             QTRY_COMPARE(form.state(), WordShown);
+            QCOMPARE(form.form.focusWidget(), &form.box());
             form.type(u"cat"_s);
             form.press(Qt::Key_O, Qt::AltModifier);
             QTRY_VERIFY(!form.form.isVisible());

@@ -5,6 +5,7 @@
 #include "game/GameForm.h"
 #include "runtime/RandomNumbers.h"
 #include "support/FormTest.h"
+#include "support/PaintCount.h"
 
 #include <vector>
 
@@ -18,27 +19,6 @@ QString typeOf(const QWidget &label)
     return u"%1%2"_s.arg(label.font().pointSize())
         .arg(label.font().bold() ? u" bold"_s : QString());
 }
-
-class PaintCount final : public QObject
-{
-public:
-    explicit PaintCount(QWidget &widget)
-    {
-        widget.installEventFilter(this);
-        widget.update();
-    }
-    [[nodiscard]] int count() const { return m_count; }
-
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        m_count += event->type() == QEvent::Paint;
-        return QObject::eventFilter(object, event);
-    }
-
-private:
-    int m_count = 0;
-};
 
 } // namespace
 
@@ -238,6 +218,7 @@ private Q_SLOTS:
         for (int game = 0; game < 2; ++game) {
             startStuck(word);
             const PaintCount painted(m_form->window());
+            m_form->window().update();
             QTRY_VERIFY(painted.count() > 0);
             QVERIFY(m_form->text("lblScrambledWord").isEmpty());
             m_form->click("cmdRestart");
@@ -300,6 +281,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->text("lblCountDown"), u"30"_s);
         m_form->passTime();
         const PaintCount painted(m_form->window());
+        m_form->window().update();
         QTRY_VERIFY(painted.count() > 0);
         const int score = gScore.toInt();
         m_form->answer(u"ab"_s);
