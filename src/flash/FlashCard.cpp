@@ -28,7 +28,6 @@ FlashCard::FlashCard(QWidget *parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
     setTextInteractionFlags(Qt::NoTextInteraction);
-    setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCursor(Qt::PointingHandCursor);
     viewport()->setCursor(Qt::PointingHandCursor);

@@ -121,6 +121,19 @@ private Q_SLOTS:
         QVERIFY(fits(card()));
     }
 
+    void theStyleFollowsTheSide()
+    {
+        m_form->dialog().setStyleSheet(u"FlashCard[back=\"true\"] { background: red; }"_s);
+        const auto isRed = [this] {
+            return card().grab().toImage().pixelColor(10, card().height() / 2) == QColor(Qt::red);
+        };
+        QVERIFY(isRed());
+        card().setText(u"front"_s, FlashCard::Side::Front);
+        QVERIFY(!isRed());
+        card().setText(u"back"_s, FlashCard::Side::Back);
+        QVERIFY(isRed());
+    }
+
     void aLineBreakInADefinitionIsOneOnTheCard()
     {
         start(u"a small\r\nanimal"_s);

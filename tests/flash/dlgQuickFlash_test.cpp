@@ -46,6 +46,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->definition(), u"Click on card\n"_s);
         QVERIFY(m_form->card("txtDef").isBack());
         QVERIFY(!m_form->card("txtWord").isBack());
+        QVERIFY(m_form->button("cmdNext").hasFocus());
     }
 
     void theLineBreakOfTheFirstPromptIsNotSeen()
@@ -63,6 +64,8 @@ private Q_SLOTS:
         QCOMPARE(m_form->look(), FlashForm::byHand());
         QCOMPARE(m_form->timer("tmrWord").interval(), 3000);
         QCOMPARE(m_form->timer("tmrDef").interval(), 5000);
+        QCOMPARE(m_form->timer("tmrWord").timerType(), Qt::PreciseTimer);
+        QCOMPARE(m_form->timer("tmrDef").timerType(), Qt::PreciseTimer);
     }
 
     void theDeckHoldsDifferentWords_data()

@@ -4,6 +4,7 @@
 
 #include "game/GameForm.h"
 #include "support/FormTest.h"
+#include "support/KeepsRunning.h"
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
@@ -34,14 +35,14 @@ private Q_SLOTS:
         m_form->start();
         m_form->passTime(9);
         const QString word = GameForm::word();
-        const int run = m_form->timer().timerId(); // a restart would change it
-        if (byKey)
-            Controls::press(Qt::Key_Return);
-        else
-            m_form->click("cmdEnter");
-        QCOMPARE(m_form->timer().timerId(), run);
+        QVERIFY(keepsRunning(m_form->timer(), [this, byKey] {
+            if (byKey)
+                Controls::press(Qt::Key_Return);
+            else
+                m_form->click("cmdEnter");
+        }));
         QCOMPARE(GameForm::word(), word);
-        QCOMPARE(m_form->numbers(), u"0 1 21 5"_s);
+        QCOMPARE(m_form->numbers(), u"0 1 20 5"_s);
         QCOMPARE(m_form->tiles().size(), 1);
         QCOMPARE(m_form->look(), GameForm::playing());
         QVERIFY(m_form->answerBox().hasFocus());
