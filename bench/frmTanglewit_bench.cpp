@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The game: a scramble, a word order, a blanked sentence beside the same work done plainly, and a
-// word from Enter to the screen.
+// The game: scramble, word order and blanking, each with a plain reference, and the time from Enter
+// to the next word on the screen.
 #include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
@@ -43,7 +43,7 @@ void scramble(benchmark::State &state)
     }
 }
 
-// One shuffle of the same words by the standard library, without the rule about neighbours.
+// The reference shuffles the same words once, without the rule about neighbours.
 void plainScramble(benchmark::State &state)
 {
     const std::vector<VocabRecord> entries = SampleList::entries(100);
@@ -76,7 +76,7 @@ void plainWordOrder(benchmark::State &state)
     }
 }
 
-// 500 characters in which only the last attempt finds something.
+// 500 characters in which only the word without its last two letters is found.
 QString longSentence()
 {
     const QString filling = QStringLiteral("She scatters what the category brought, and more. ");
@@ -90,7 +90,7 @@ void blanking(benchmark::State &state)
         benchmark::DoNotOptimize(blankedSentence(sentence, QStringLiteral("studying")));
 }
 
-// Looks for the three forms at all three lengths and blanks nothing.
+// The reference looks for the three forms at all three lengths and replaces nothing.
 void plainSearch(benchmark::State &state)
 {
     const QString sentence = longSentence();
@@ -123,7 +123,7 @@ void showWord(benchmark::State &state)
     int hits = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        // Before a level is complete the game begins anew.
+        // A new game before the message of the next level would wait for an answer.
         if (++hits % 19 == 0) {
             game.findChild<QAbstractButton *>(QStringLiteral("cmdRestart"))->click();
             game.findChild<QAbstractButton *>(QStringLiteral("cmdStart"))->click();
