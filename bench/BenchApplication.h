@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program as a benchmark of windows runs it: without a display if none is asked for, and in an
-// empty home of its own, so that nothing of the person who measures is touched.
+// The application object for benchmarks of windows. It needs no display unless QT_QPA_PLATFORM
+// names one, and has an empty home folder of its own, so that no file of the user is touched.
 #pragma once
 
 #include "platform/Application.h"

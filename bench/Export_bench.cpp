@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What leaves the program: an export, from the click on OK to its message, the text file, and the
-// order in which the flash cards and the game take the words.
+// An export, from the click on OK to its message; the text file; and the shuffled order in which
+// the flash cards and the game take the words.
 #include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
@@ -45,7 +45,7 @@ void open(int count)
         throw std::runtime_error("The list does not open");
 }
 
-// The same list again, as a file that may be changed.
+// A copy of the list file that may be changed.
 QString freshCopy(int count, const QString &ending)
 {
     const QString copy = SampleList::file(count) + ending;
@@ -64,7 +64,7 @@ void answerMessage()
     });
 }
 
-// All of a list into a file that holds as many words.
+// Exports a whole list into a file that holds as many words.
 void exportWords(benchmark::State &state)
 {
     open(size(state));
@@ -99,12 +99,12 @@ void plainWrite(benchmark::State &state, const QString &path, const std::string 
     std::fstream file(path.toStdString(), std::ios::in | std::ios::out | std::ios::binary);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
-    QFile handle(path); // flushing takes any handle of the file
+    QFile handle(path); // any handle of the file can flush it
     if (!handle.open(QFile::ReadWrite) || fsync(handle.handle()) != 0)
         state.SkipWithError("The file could not be flushed");
 }
 
-// The bytes of the same file read, those of as many words put behind them, and written.
+// Reads the bytes of the same file, appends those of as many words, and writes them.
 void plainAppend(benchmark::State &state)
 {
     const std::string added = plainBytes(SampleList::file(size(state))).substr(2);
@@ -124,7 +124,7 @@ void textFile(benchmark::State &state)
         BinaryFile::overwrite(path, textOfList(Module1::gVocabList()));
 }
 
-// The same bytes into the same place.
+// Writes the same bytes to the same path.
 void plainText(benchmark::State &state)
 {
     open(size(state));
@@ -147,10 +147,10 @@ void wordOrder(benchmark::State &state)
         benchmark::DoNotOptimize(drawWordOrder(LongestWordOrder, size(state)));
 }
 
-// A shuffle of the whole list with one seeding.
+// Shuffles the whole list with one seed.
 void plainShuffle(benchmark::State &state)
 {
-    std::mt19937 random(4); // the same orders at every run
+    std::mt19937 random(4); // the same orders in every run
     std::vector<int> order(static_cast<std::size_t>(size(state)));
     for (auto _ : state) {
         std::iota(order.begin(), order.end(), 1);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Importing a word list into one of the same size, without the main window: all words new, all in
-// the list already with No To All, and with Yes To All. The time ends with the last word, before
-// the message; where a question was asked it begins when that is gone.
+// Imports a word list into one of the same size, without the main window: all words new, all words
+// in the list already and answered by No To All, or by Yes To All. The time starts with the import
+// or with the answer to its question, and ends with the last word, before the message.
 #include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
@@ -25,7 +25,7 @@ namespace {
 
 constexpr std::array<int, 3> Sizes{500, 4'000, 16'000};
 
-// A list of the entries given, as it is after looking a word up.
+// A list of these entries, with its index built.
 cVocabList listOf(std::span<const VocabRecord> entries)
 {
     cVocabList list;
@@ -35,7 +35,7 @@ cVocabList listOf(std::span<const VocabRecord> entries)
     return list;
 }
 
-// The person: presses the button in the question about a word, and OK in a message.
+// Presses the button in the question about a word, and OK in a message.
 class Person
 {
 public:
@@ -128,7 +128,7 @@ int main(int argc, char **argv)
     atAllSizes("noToAll", noToAll);
     atAllSizes("yesToAll", yesToAll);
 
-    // A word of 16,000 may take twice the time of one of 500.
+    // With 16,000 words each may take twice as long as with 500.
     constexpr double Goal = 2.0 * 16'000 / 500;
     std::vector<Ratio> ratios;
     for (const std::string what : {"allNew", "noToAll", "yesToAll"}) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Printing: the layout of a whole list, and how soon the print dialog shows the
-// page that a change of margin gives.
+// The layout of a whole list, and the time from a change of a margin until the print dialog shows
+// the first page.
 #include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
@@ -42,7 +42,7 @@ void open(int count)
     PrintOrientation = QStringLiteral("Portrait");
 }
 
-// Of the whole program, in megabytes; 0 where the system does not tell.
+// The resident memory of the program in megabytes; 0 if the system does not tell.
 double residentMemory()
 {
     std::ifstream status("/proc/self/status");
@@ -53,7 +53,7 @@ double residentMemory()
     return 0;
 }
 
-// The lines on which something is printed.
+// Counts the lines on which something is printed.
 double linesOf(const PreviewPages &pages)
 {
     std::size_t lines = 0;
@@ -66,7 +66,7 @@ double linesOf(const PreviewPages &pages)
     return static_cast<double>(lines);
 }
 
-// The whole list on A4 paper.
+// Lays out the whole list on A4 paper.
 void layOut(benchmark::State &state)
 {
     open(static_cast<int>(state.range(0)));
@@ -90,7 +90,7 @@ void layOut(benchmark::State &state)
 }
 BENCHMARK(layOut)->Arg(Small)->Arg(Large)->Unit(benchmark::kMillisecond);
 
-// A click on a margin's arrow, up to the picture of the first page.
+// From a click on a margin's arrow until the first page is painted.
 void firstPage(benchmark::State &state)
 {
     open(static_cast<int>(state.range(0)));
@@ -106,8 +106,8 @@ void firstPage(benchmark::State &state)
 }
 BENCHMARK(firstPage)->Arg(Small)->Arg(Large)->Unit(benchmark::kMillisecond);
 
-// In megabytes, with all pages counted. What is freed stays with the process, so that only the
-// first dialog shows what one needs.
+// The memory that a print dialog takes, in megabytes, with all pages counted. Freed memory stays
+// with the process, so only the first dialog can be measured.
 double memoryOfFirstDialog()
 {
     open(Large);
@@ -136,7 +136,7 @@ double memoryOfFirstDialog()
 
 int main(int argc, char **argv)
 {
-    qputenv("CUPS_SERVER", "/nonexistent/printers"); // whatever printers the machine has
+    qputenv("CUPS_SERVER", "/nonexistent/printers"); // no printers, whatever the machine has
     const BenchApplication application(argv);
     const std::array<Ratio, 2> ratios = {Ratio{"layOut/32000", "layOut/3200", 11},
                                          Ratio{"firstPage/32000", "firstPage/3200", 1.2}};

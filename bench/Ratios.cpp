@@ -27,7 +27,7 @@ public:
         ConsoleReporter::ReportRuns(printed);
     }
 
-    // In milliseconds; nothing where the benchmark did not run.
+    // In milliseconds; empty if the benchmark did not run.
     [[nodiscard]] std::optional<double> median(const std::string &name) const
     {
         const auto found = m_times.find(name);
@@ -85,7 +85,7 @@ void print(const KeepingReporter &times, const Limit &limit)
 int runBenchmarks(int argc, char **argv, std::span<const Ratio> ratios,
                   std::span<const Limit> limits)
 {
-    // In turns, so that a disturbance meets a benchmark and its reference alike.
+    // In turns, so that a busy moment of the machine slows a benchmark and its reference alike.
     std::string repetitions = "--benchmark_repetitions=9";
     std::string minimumTime = "--benchmark_min_time=0.1";
     std::string inTurns = "--benchmark_enable_random_interleaving=true";

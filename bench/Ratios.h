@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the benchmarks of a program come to: each measured figure beside its reference and goal.
+// The results of a benchmark program: each figure with its reference and goal.
 #pragma once
 
 #include <optional>
@@ -10,11 +10,11 @@
 struct Ratio
 {
     std::string measured;
-    std::string reference;           // the same work done plainly, or on a small list
+    std::string reference;           // the plainest way to do the same, or a small list
     std::optional<double> goal = {}; // at most so many times the reference
 };
 
-// A time by itself.
+// A time without a reference.
 struct Limit
 {
     std::string measured;

@@ -13,7 +13,7 @@
 
 namespace {
 
-// Fixed lengths before the last syllable keep every combination a word of its own.
+// All syllables but the last have fixed lengths, so each combination is a different word.
 constexpr std::array<const char16_t *, 32> First{
     u"bar",      u"cal",      u"del", u"fer", u"gal", u"hum", u"jor", u"ken",
     u"lum",      u"mar",      u"nor", u"pal", u"ref", u"sal", u"ter", u"val",
@@ -53,12 +53,12 @@ QString text(const char16_t *characters)
 
 std::vector<VocabRecord> SampleList::entries(int count)
 {
-    std::mt19937 random(1); // the same lists at every run
+    std::mt19937 random(1); // the same lists in every run
     const auto oneOf = [&random](const auto &texts) { return text(texts[random() % 8]); };
     std::vector<VocabRecord> entries;
     entries.reserve(static_cast<std::size_t>(count));
     for (unsigned i = 0; i < static_cast<unsigned>(count); ++i) {
-        // An odd factor visits all of the 2^15 combinations, far from alphabetical order.
+        // An odd factor reaches all 2^15 combinations, not in alphabetical order.
         const unsigned number = i * 20'021U % (1U << 15U);
         const QString word = text(First[number >> 10U]) + text(Middle[number >> 5U & 31U]) +
                              text(Last[number & 31U]);

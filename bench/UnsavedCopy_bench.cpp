@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The copy of an unsaved list: processor time from a change until the copy is written, beside a
-// plain write of a new file with the same bytes.
+// The copy of an unsaved list: processor time from a change until the copy is written, compared
+// with a plain write of a new file with the same bytes.
 #include "BenchApplication.h"
 #include "Ratios.h"
 #include "SampleList.h"
@@ -30,7 +30,7 @@ void copy(benchmark::State &state)
 {
     using namespace Module1;
     gFileName = SampleList::file(size(state));
-    // Beside the lists to measure with, on the same disk.
+    // In the folder of the sample lists, on the same disk.
     qputenv("HOME", QFile::encodeName(QFileInfo(gFileName).path()));
     QObject window;
     UnsavedCopy unsavedCopy(&window);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Opening, saving, looking up, adding and deleting at three sizes, each beside the same work done
-// plainly.
+// Opening, saving, looking up, adding and deleting at three sizes, each compared with the plainest
+// way to do the same.
 #include "Ratios.h"
 #include "SampleList.h"
 #include "core/Module1.h"
@@ -35,11 +35,11 @@ cVocabList openedList(int count)
     return list;
 }
 
-// Words from all over the list in no order, written differently from how they stand there.
+// Words from all over the list in random order, in other letter case than in the list.
 QStringList wordsInList(int count)
 {
     const std::vector<VocabRecord> entries = SampleList::entries(count);
-    std::mt19937 random(2); // the same words at every run
+    std::mt19937 random(2); // the same words in every run
     QStringList words;
     for (int i = 0; i < 50 * Batch; ++i)
         words += entries[random() % entries.size()].Word.toUpper();
@@ -54,7 +54,7 @@ QStringList wordsNotInList(int count)
     return words;
 }
 
-// The next hundred words, from the start again at the end.
+// The next hundred words; after the last one it starts again with the first.
 class Batches
 {
 public:
@@ -99,7 +99,7 @@ void plainRead(benchmark::State &state)
     }
 }
 
-// The same with every text read, widened and kept by itself.
+// The same, with a string for each text.
 void plainReadTexts(benchmark::State &state)
 {
     const std::string path = SampleList::file(size(state)).toStdString();
@@ -132,7 +132,7 @@ void save(benchmark::State &state)
 {
     cVocabList list = openedList(size(state));
     Module1::gFileName += QStringLiteral(".saved");
-    list.SaveFile(); // what is measured is saving over an existing file
+    list.SaveFile(); // so that saving over an existing file is measured
     for (auto _ : state)
         list.SaveFile();
 }
@@ -148,14 +148,14 @@ void plainWrite(benchmark::State &state)
         std::fstream file(copy.toStdString(), std::ios::in | std::ios::out | std::ios::binary);
         file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         file.close();
-        // Flushing takes any handle of the file.
+        // Any handle of the file can flush it.
         QFile handle(copy);
         if (!handle.open(QFile::ReadWrite) || fsync(handle.handle()) != 0)
             state.SkipWithError("The file could not be flushed");
     }
 }
 
-// Into a file that is new each time, as a safe save does.
+// Writes a new file each time, as a safe save does.
 void plainWriteNew(benchmark::State &state)
 {
     const QString path = SampleList::file(size(state));
@@ -190,8 +190,8 @@ void existMiss(benchmark::State &state)
         words.next([&list](const QString &word) { benchmark::DoNotOptimize(list.Exist(word, 1)); });
 }
 
-// A hundred hits in the order of the list, as a search goes on from the last one; the one that
-// starts the next hundred further up misses at first and then starts over.
+// A hundred hits in the order of the list, each search from the last hit on. At the end of the list
+// a search finds nothing and starts again at the beginning.
 void searchHit(benchmark::State &state)
 {
     cVocabList list = openedList(size(state));
@@ -245,7 +245,7 @@ void plainScanMiss(benchmark::State &state)
     plainScan(state, wordsNotInList(size(state)));
 }
 
-// The look-up that comes first after opening.
+// The first look-up after opening.
 void firstSearch(benchmark::State &state)
 {
     cVocabList list = openedList(size(state));
@@ -257,8 +257,8 @@ void firstSearch(benchmark::State &state)
     }
 }
 
-// The last hundred entries up to the size, with the index kept as in the editor, which asks for
-// duplicates first.
+// Adds the last hundred entries up to the size. The index is built first, as the editor does when
+// it looks for duplicates.
 void add(benchmark::State &state)
 {
     cVocabList list = openedList(size(state));
@@ -289,7 +289,7 @@ void plainAdd(benchmark::State &state)
     }
 }
 
-// A hundred entries from all over the list; at the smallest size, all of them.
+// Deletes a hundred entries from all over the list; at the smallest size, all of them.
 void remove(benchmark::State &state)
 {
     const cVocabList full = openedList(size(state));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// An empty main window: what the least program of this kind costs to start.
+// A program with an empty main window, to compare the start of the program with.
 #include <QApplication>
 #include <QMainWindow>
 

@@ -29,7 +29,7 @@ int size(const benchmark::State &state)
     return static_cast<int>(state.range(0));
 }
 
-// Handles what is waiting, painting included.
+// Handles all waiting events, painting included.
 void settle()
 {
     QCoreApplication::sendPostedEvents();
@@ -68,10 +68,10 @@ private:
     frmMain m_window;
 };
 
-// Whole pages from all over the list.
+// Pages from all over the list.
 std::vector<int> pages(int count)
 {
-    std::mt19937 random(3); // the same pages at every run
+    std::mt19937 random(3); // the same pages in every run
     std::uniform_int_distribution first(1, count - RowsOnPage);
     std::vector<int> pages(1'000);
     for (int &page : pages)
@@ -107,7 +107,7 @@ void pageFillPainted(benchmark::State &state)
     }
 }
 
-// The same texts into a table of the same size that does nothing else.
+// Fills a plain table of the same size with the same texts.
 void plainTable(benchmark::State &state)
 {
     const std::vector<VocabRecord> entries = SampleList::entries(size(state));
@@ -138,7 +138,7 @@ void plainTable(benchmark::State &state)
     }
 }
 
-// Clicks Search with a word of the list in its box, until the page that answers is painted.
+// From a click on Search until the page with the hit is painted.
 class Searching
 {
 public:

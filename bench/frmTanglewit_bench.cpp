@@ -102,7 +102,7 @@ void plainSearch(benchmark::State &state)
                 benchmark::DoNotOptimize(sentence.indexOf(form));
 }
 
-// From the Enter of a right answer to the next word on the screen.
+// From the Enter after a right answer until the next word is painted.
 void showWord(benchmark::State &state)
 {
     openList(cVocabList::MaxWords);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A word, a line feed and a sentence: the sentence is blanked as the plainest way to do it says.
+// Input: a word, a line feed and a sentence. The sentence is blanked as the plainest way does it.
 #include "Fuzzing.h"
 #include "game/Blanking.h"
 
@@ -23,7 +23,7 @@ Text upperCase(TextView text)
     return upper;
 }
 
-// The length of the form that the text begins with; 0 = none.
+// The length of the word form at the start of the text; 0 if there is none.
 std::size_t formLength(TextView text, const Forms &forms)
 {
     for (const Text &form : forms)
@@ -32,7 +32,7 @@ std::size_t formLength(TextView text, const Forms &forms)
     return 0;
 }
 
-// Takes off the words one by one. Only for forms without a delimiter.
+// Goes through the sentence word by word. Only for forms without a delimiter.
 std::optional<Text> blankedWordByWord(TextView sentence, const Forms &forms)
 {
     Text shown;
@@ -50,7 +50,7 @@ std::optional<Text> blankedWordByWord(TextView sentence, const Forms &forms)
     return any ? std::optional(shown) : std::nullopt;
 }
 
-// Takes off the first word that begins with a form, again and again.
+// Blanks the first word that begins with a form until there is none.
 std::optional<Text> blankedFromTheLeft(TextView rest, const Forms &forms)
 {
     Text shown;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes are imported as a DIF file: the list, the questions, the messages and the error are
-// those that going through the file line by line gives. The letters of its first line, which no
-// import looks at, are the answers to the questions.
+// Input: a DIF file. The import gives the same list, questions, messages and error as reading the
+// file line by line. The letters of its first line, which an import ignores, are the answers to
+// the questions.
 #include "Fuzzing.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
@@ -23,7 +23,7 @@ namespace {
 
 enum class Answer { Yes, No, YesToAll, NoToAll, Abort, Close };
 
-// What a person answers, over and over.
+// The answers to the questions, repeated from the start at the end.
 class Answers
 {
 public:
@@ -52,7 +52,7 @@ const std::vector<Entry> Before{{QStringLiteral("cat"), QStringLiteral("old"), {
                                 {QStringLiteral("Dog"), {}, QStringLiteral("old")},
                                 {QString(), {}, {}}};
 
-// What an import leaves behind.
+// The state after an import.
 struct Outcome
 {
     std::vector<Entry> entries;
@@ -214,7 +214,7 @@ Outcome importedOutcome()
 {
     fillList();
     gImportWord = gImportDef = gImportSen = QString();
-    gDifLines = Array<QString>(); // what an empty file would leave
+    gDifLines = Array<QString>(); // as after an empty file
     gSkipAll = gChanged = false;
     messages.clear();
     Outcome outcome;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes are lines of a DIF file, the ones that taking them off one by one gives.
+// Input: a DIF file. Its lines are the same as when they are split off one by one.
 #include "Fuzzing.h"
 #include "runtime/Windows1252.h"
 #include "transfer/DifLines.h"
@@ -30,7 +30,7 @@ std::vector<std::string_view> linesOneByOne(std::string_view bytes)
     return lines;
 }
 
-// What the reader takes from a line: a count behind the first comma, a text without its quotes.
+// What the reader takes from a line: the count after the first comma, the text without its quotes.
 void checkLine(std::string_view line)
 {
     const QString text = fromWindows1252(line);
@@ -51,8 +51,8 @@ void checkShortLine(std::string_view line)
     }
 }
 
-// The end that a start of the file tells is that of the file. Small files have no long start, so
-// that the kind of line end has to be told by this one.
+// If a start of the file with the same kind of line ends has the end of the data, it is the
+// end in the whole file too.
 void checkEnd(QByteArrayView start, QByteArrayView bytes)
 {
     const std::optional<qsizetype> end = difEnd(start);
@@ -73,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
         checkLine(line);
     if (size > 0)
         checkEnd(bytes.first(qsizetype(size * data[size - 1] / 256)), bytes);
-    // One is enough: what is thrown takes long.
+    // Only one, because exceptions are slow.
     const auto isShort = [](std::string_view line) { return line.size() < 2; };
     const auto shortLine = std::find_if(lines.begin(), lines.end(), isShort);
     if (shortLine != lines.end())

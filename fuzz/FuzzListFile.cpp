@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes are a word list, the one that going through them by offsets says, or are refused for
-// their count; what was read writes and reads as the same list.
+// Input: a list file. Its texts are at the offsets that the lengths give, or the file is refused
+// for its count. Written and read again, the list is the same.
 #include "Fuzzing.h"
 #include "core/ListFile.h"
 #include "runtime/Windows1252.h"
@@ -10,19 +10,19 @@
 
 namespace {
 
-// Low, for the speed of an input.
+// Low, so that each input is fast.
 constexpr int MaxCount = 20;
 
 using Records = std::vector<VocabRecord>;
 
-// The texts of what was read may be views of it.
+// The texts of the entries may be views of these bytes.
 VocabRecord copyOf(const VocabRecord &record)
 {
     const auto copied = [](const QString &text) { return QString(text.constData(), text.size()); };
     return {copied(record.Word), copied(record.Definition), copied(record.Sentence)};
 }
 
-// The records in the bytes; nothing where their count is refused. Sets whether they end in them.
+// The records in the bytes; nothing if their count is refused. `isWhole`: the bytes hold them all.
 std::optional<Records> recordsIn(QByteArrayView bytes, bool *isWhole = nullptr)
 {
     try {
@@ -38,7 +38,7 @@ std::optional<Records> recordsIn(QByteArrayView bytes, bool *isWhole = nullptr)
     }
 }
 
-// Nothing beyond the end: the number is zero then.
+// Beyond the end the number is zero.
 std::uint16_t numberAt(QByteArrayView bytes, qsizetype offset)
 {
     if (offset + 2 > bytes.size())
@@ -70,7 +70,7 @@ bool areSame(const Records &a, const Records &b)
 void checkRecords(const Records &records, QByteArrayView bytes, bool isWhole)
 {
     qsizetype at = 2;
-    qsizetype wanted = 2; // bytes, if no text were cut off
+    qsizetype wanted = 2; // bytes that the whole list takes
     for (const VocabRecord &record : records) {
         for (const QString *text : {&record.Word, &record.Definition, &record.Sentence}) {
             wanted += 2 + numberAt(bytes, at);
@@ -82,12 +82,12 @@ void checkRecords(const Records &records, QByteArrayView bytes, bool isWhole)
     const QByteArray written = ListFile::encode(records.size(), records);
     const std::optional<Records> again = recordsIn(written);
     require(again && areSame(records, *again));
-    // Where bytes are left over no text was cut off: the file begins with those very bytes.
+    // If bytes are left over, no text was cut off and the file starts with the same bytes.
     if (at < bytes.size())
         require(written == bytes.first(at));
 }
 
-// A start of the file that is said to be enough gives the same records.
+// If the reader says that a start of the file is enough, it gives the same records.
 void checkStart(QByteArrayView start, const std::optional<Records> &records)
 {
     if (!ListFile::RecordsEnd(MaxCount).isIn(start))

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A text is read as the number that it says, exactly; an amount is shown, rounded and multiplied
-// as whole numbers of 128 bits say.
+// Input: a text. The number that is read from it is exact; amounts are shown, rounded and
+// multiplied like whole numbers of 128 bits.
 #include "Fuzzing.h"
 #include "print/PrintNumbers.h"
 #include "runtime/Blanks.h"
@@ -14,7 +14,7 @@ namespace {
 
 using Wide = __int128;
 
-// What a call gives: a value or the number of its error.
+// The result of a call: a value or the number of its error.
 template <class Value> struct Outcome
 {
     std::optional<Value> value;
@@ -42,15 +42,15 @@ struct Decimal
     long exponent = 0;
 };
 
-constexpr long Huge = 1'000'000'000; // beyond any exponent that the digits could make up for
+constexpr long Huge = 1'000'000'000; // larger than the digits of an input can balance
 
-// Takes a number off a text from its left to its right end.
+// Reads a number from a text, from left to right.
 class NumberText
 {
 public:
     explicit NumberText(std::u16string_view text) : m_rest(text) {}
 
-    // Nothing where the text is no number.
+    // Empty if the text is no number.
     std::optional<Decimal> number()
     {
         Decimal decimal;
@@ -85,7 +85,7 @@ private:
         return true;
     }
 
-    // Whether it is a minus.
+    // Whether the sign is a minus.
     bool sign() { return take(u"-") || (take(u"+"), false); }
 
     std::string takeDigits()
@@ -118,7 +118,7 @@ Wide halfToEven(Wide number, Wide divisor)
 
 constexpr Wide Beyond = Wide(1) << 100;
 
-// So many units of the last decimal, halves to even.
+// In units of the last decimal, halves rounded to even.
 Wide units(const Decimal &decimal, int decimals)
 {
     const long wholeDigits = decimal.exponent + decimals;
@@ -131,7 +131,7 @@ Wide units(const Decimal &decimal, int decimals)
     Wide number = 0;
     for (long i = 0; i < wholeDigits; ++i)
         number = number * 10 + (digits[std::size_t(i)] - '0');
-    // Of what is left two digits are enough: the second says whether anything follows the first.
+    // Two of the digits left are enough: the second says whether anything follows the first.
     const std::string rest = digits.substr(std::size_t(wholeDigits));
     const int first = rest.empty() ? 0 : rest[0] - '0';
     const bool more = rest.find_first_not_of('0', 1) != std::string::npos;
@@ -163,7 +163,7 @@ std::u16string_view trimmed(std::u16string_view text)
     return text.substr(0, text.find_last_not_of(u' ') + 1);
 }
 
-// What is thrown takes long: each text is given to one of the functions.
+// Exceptions are slow, so each text is given to only one of the functions.
 void checkNoNumber(const QString &text)
 {
     constexpr int mismatch = RunTimeError::TypeMismatch;
@@ -183,7 +183,7 @@ void checkNoNumber(const QString &text)
 
 void checkNumber(const QString &text, const Decimal &decimal)
 {
-    // The C library rounds to the nearest double, too.
+    // The C library also rounds to the nearest double.
     const double nearest = std::strtod(withoutOuterBlanks(text).toLatin1().constData(), nullptr);
     const bool isFinite = nearest - nearest == 0;
     const Outcome<double> number = outcomeOf([&] { return toNumber(text); });

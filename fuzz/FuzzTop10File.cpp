@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes are a Top 10 table, the one that going through them by offsets says; what was read
-// writes and reads as the same table.
+// Input: a Top 10 file. Its rows are at the offsets that the lengths give. Written and read again,
+// the table is the same.
 #include "Fuzzing.h"
 #include "game/Top10File.h"
 #include "runtime/Windows1252.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-// The table that the bytes are read over.
+// The table before it is read.
 const Top10Table &defaults()
 {
     static const Top10Table table = [] {
@@ -29,7 +29,7 @@ bool isSame(const Top10Entry &a, const Top10Entry &b)
     return a.EntryDate == b.EntryDate && a.PlayerName == b.PlayerName && a.Points == b.Points;
 }
 
-// Nothing beyond the end: the number is zero then.
+// Beyond the end the number is zero.
 std::uint64_t numberAt(std::string_view bytes, std::size_t offset, std::size_t size)
 {
     std::uint64_t number = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Bytes become the characters of the code page's table and come back as the same bytes; texts
-// become bytes, one a character.
+// Bytes become the characters of the code page and come back as the same bytes; texts become
+// bytes, one for each character.
 #include "Fuzzing.h"
 #include "runtime/Windows1252.h"
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-// The characters of the bytes from 80 to 9F. Those of all other bytes have the byte's number.
+// The characters of the bytes 80 to 9F. Each other byte is the character of the same number.
 constexpr std::array<char16_t, 32> Middle{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,

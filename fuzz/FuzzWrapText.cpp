@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Eight bytes of measures and a text: it is set as character by character gives, and no character
-// is lost but blanks and line ends.
+// Input: eight bytes of measures and a text. The lines are the same as when they are filled
+// character by character, and nothing but blanks and line ends is lost.
 #include "Fuzzing.h"
 #include "platform/Printer.h"
 #include "print/WrapText.h"
@@ -11,10 +11,10 @@ namespace {
 
 using Text = std::u16string;
 
-constexpr double Unit = 0.125; // inches: all places are exact
+constexpr double Unit = 0.125; // inches; sums of it are exact
 constexpr char16_t BlankUnit = u' ';
 
-// In units. Some characters take no room.
+// In units. Some characters have no width.
 int widthOf(char16_t unit)
 {
     return unit % 5;
@@ -83,7 +83,8 @@ private:
     int m_sheets = 0;
 };
 
-// Sets a text line by line, each filled and backed up character by character.
+// Sets a text line by line. Each line is filled character by character, then shortened to its last
+// blank.
 class PlainSetter
 {
 public:
@@ -102,7 +103,7 @@ public:
                 setParagraph(text.substr(start));
                 return;
             }
-            // The character before the line feed goes with it.
+            // The character before a line feed is not printed either.
             setParagraph(text.substr(start, lineFeed > start ? lineFeed - start - 1 : 0));
             start = lineFeed + 1;
         }
@@ -193,7 +194,7 @@ Text withoutBlanks(Text text)
     return text;
 }
 
-// All that is to be printed: a line feed and the character before it are not.
+// All characters that are printed. A line feed and the character before it are not.
 Text withoutLineEnds(const Text &text)
 {
     Text kept;

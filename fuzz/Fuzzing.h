@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What all fuzzers share: a check, and texts made of any bytes.
+// Functions for all fuzzers: a check, and texts made from any bytes.
 #pragma once
 
 #include <QByteArrayView>
@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <string>
 
-// Where it fails, libFuzzer ends the run and keeps the input.
+// If it fails, libFuzzer ends the run and keeps the input.
 inline void require(bool condition)
 {
     if (!condition)
@@ -32,8 +32,8 @@ inline void appendCharacter(std::u16string &text, char32_t character)
     text += static_cast<char16_t>(0xDC00 + (offset & 0x3FF));
 }
 
-// Reads UTF-8, so that a person can write seeds. Half a surrogate pair can be written too, and a
-// byte that is not UTF-8 is the character of its number: all bytes are a text.
+// Reads UTF-8, so that seeds can be written by hand, also with half a surrogate pair. A byte that
+// is not UTF-8 becomes the character of its number, so that any bytes are a text.
 inline std::u16string textOf(QByteArrayView bytes)
 {
     std::u16string text;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Takes the place of the dialog of the same name: the fuzzer answers at once, without a window.
+// Replaces the dialog of the same name: the fuzzer answers at once, without a window.
 #pragma once
 
 #include <QWidget>
