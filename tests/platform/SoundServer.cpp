@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SoundServer.h"
 
+#include <QStandardPaths>
 #include <QTest>
 #include <QtEndian>
 
@@ -16,6 +17,12 @@ SoundServer::SoundServer()
 SoundServer::~SoundServer()
 {
     stop();
+}
+
+bool SoundServer::isInstalled()
+{
+    return !QStandardPaths::findExecutable(QStringLiteral("pulseaudio")).isEmpty() &&
+           !QStandardPaths::findExecutable(QStringLiteral("parec")).isEmpty();
 }
 
 bool SoundServer::start()

@@ -21,7 +21,9 @@ public:
     ~SoundServer();
     Q_DISABLE_COPY_MOVE(SoundServer)
 
-    // False if the server does not run.
+    [[nodiscard]] static bool isInstalled();
+
+    // Starts the server; false if it does not run.
     [[nodiscard]] bool start();
     void stop();
 

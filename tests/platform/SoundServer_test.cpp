@@ -59,7 +59,12 @@ class SoundServer_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(m_server.start()); }
+    void initTestCase()
+    {
+        if (!SoundServer::isInstalled())
+            QSKIP("pulseaudio or parec is not installed.");
+        QVERIFY(m_server.start());
+    }
 
     void beforeTheFirstRequestNothingIsHeard()
     {

@@ -78,6 +78,13 @@ PrintServer::~PrintServer()
     stop();
 }
 
+bool PrintServer::isInstalled()
+{
+    return QFile::exists(QStringLiteral("/usr/sbin/cupsd")) &&
+           QFile::exists(QStringLiteral("/usr/sbin/lpadmin")) &&
+           QFile::exists(QStringLiteral("/usr/lib/cups/filter/gstoraster"));
+}
+
 void PrintServer::configure() const
 {
     for (const char *name : {"root", "state", "cache", "spool/tmp", "printed"})

@@ -16,6 +16,8 @@ public:
     ~PrintServer();
     Q_DISABLE_COPY_MOVE(PrintServer)
 
+    [[nodiscard]] static bool isInstalled();
+
     void addQueue(const QString &queue, const QString &driver);
     // A further printer "queue/instance" that prints into the same queue with options of its own.
     void addInstance(const QString &queue, const QString &instance);

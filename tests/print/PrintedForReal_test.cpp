@@ -117,9 +117,12 @@ class PrintedForReal_test final : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        const QString pdfDriver = u"/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd"_s;
+        if (!PrintServer::isInstalled() || !QFile::exists(pdfDriver))
+            QSKIP("CUPS, its filters or its PDF driver is not installed.");
         m_server = std::make_unique<PrintServer>();
         m_server->addQueue(Paper, QStringLiteral(TANGLEWIT_TESTS_FOLDER "/print/Paper.ppd"));
-        m_server->addQueue(PostScript, u"/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd"_s);
+        m_server->addQueue(PostScript, pdfDriver);
         m_server->addInstance(Paper, u"draft"_s);
     }
 

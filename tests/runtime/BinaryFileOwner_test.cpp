@@ -50,6 +50,12 @@ class BinaryFileOwner_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        if (geteuid() != 0)
+            QSKIP("Only root gives files away.");
+    }
+
     void rootLeavesTheOwnerAndTheGroup_data()
     {
         QTest::addColumn<int>("mode");

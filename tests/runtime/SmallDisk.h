@@ -2,6 +2,9 @@
 // A file system of 64 KiB that a process mounts for itself alone.
 #pragma once
 
+#include "runtime/ChildProcess.h"
+
+#include <QDir>
 #include <QFile>
 #include <QString>
 
@@ -28,6 +31,12 @@ inline bool writeTo(const QString &path, const QByteArray &text)
            writeTo(QStringLiteral("/proc/self/uid_map"), "0 " + user + " 1") &&
            writeTo(QStringLiteral("/proc/self/gid_map"), "0 " + group + " 1") &&
            mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, options) == 0;
+}
+
+// Not every system lets an ordinary process mount one.
+[[nodiscard]] inline bool canMountSmallDisk()
+{
+    return inChildProcess([] { return int(mountSmallDisk(QDir::tempPath())); }) == 1;
 }
 
 // From now on nothing on it can be changed.
