@@ -48,7 +48,7 @@ void open(int count)
 // A copy of the list file that may be changed.
 QString freshCopy(int count, const QString &ending)
 {
-    const QString copy = SampleList::file(count) + ending;
+    QString copy = SampleList::file(count) + ending;
     QFile::remove(copy);
     if (!QFile::copy(SampleList::file(count), copy))
         throw std::runtime_error("The list cannot be copied");
