@@ -60,7 +60,7 @@ GridPlace placeAfter(GridMove move, GridPlace from, int entries)
     const int lastPage = firstOfLastPage(entries);
     int first = from.first == 0 ? lastPage : from.first;
     const int lastFirst = std::max(first, lastPage);
-    // The header is above the page's first entry. An empty row or page is behind the last one.
+    // In the header the current row is above the first entry, in an empty row below the last one.
     const int highest = move == GridMove::RowDown ? first - 1 : first;
     const int lowest = move == GridMove::RowUp ? entries + 1 : entries;
     int entry = from.first == 0 ? entries + 1 : std::clamp(first + from.row - 1, highest, lowest);
@@ -89,7 +89,7 @@ GridPlace placeAfter(GridMove move, GridPlace from, int entries)
     }
     entry = std::clamp(entry, 1, entries);
     first = std::clamp(first, 1, lastFirst);
-    // The current row is in sight.
+    // The page shows the current row.
     first = std::clamp(first, std::max(1, entry - GridPage::Rows + 1), entry);
     return {first, entry - first + 1};
 }

@@ -55,10 +55,8 @@ struct GridPlace
 [[nodiscard]] GridPlace placeOfNewWord(int entries);
 [[nodiscard]] GridPlace placeOfHit(int hit, int entries);
 
-// The first item of the page after ...
-// ... the wheel was turned by so many rows; downwards is positive.
-[[nodiscard]] int firstAfterWheel(int first, int rows, int entries);
-// ... a deletion that left so many entries.
+// The first item of the next page, `first` being that of the page shown.
+[[nodiscard]] int firstAfterWheel(int first, int rows, int entries); // downwards is positive
 [[nodiscard]] int firstAfterDelete(int first, int entries);
-// ... an import, before which `position` was the current one.
+// `position` was the current one before the import.
 [[nodiscard]] int firstAfterImport(int position, int first, int entries);

@@ -17,7 +17,7 @@ std::filesystem::path systemPath(const QString &path)
     return QFile::encodeName(path).toStdString();
 }
 
-// A step that a signal interrupts is taken again.
+// Repeats the step as long as a signal interrupts it.
 template <class Step> void uninterruptedStep(Step step)
 {
     std::error_code error;
@@ -52,8 +52,7 @@ void installSampleLists(const QString &folder)
 {
     if (QDir(folder).exists())
         return;
-    // Filled beside its place and then renamed. What a start left that was cut short is filled
-    // again.
+    // Filled under another name and then renamed. What an interrupted start left is filled again.
     const QString unfinished = folder + QStringLiteral(".new");
     try {
         fill(unfinished);

@@ -34,7 +34,7 @@ QString listTitle()
 bool isTaken(const QString &path)
 {
     const QFileInfo file(path);
-    return file.exists() || file.isSymLink(); // also one that leads nowhere
+    return file.exists() || file.isSymLink(); // a broken link, too
 }
 
 // "Animals (not saved).lwx", "Animals (not saved) 2.lwx", …
@@ -76,9 +76,9 @@ void UnsavedCopy::listChanged(cVocabList::Change change)
             m_timer.start();
         return;
     }
-    // Without gChanged nobody was asked whether the list may go unsaved.
+    // Without gChanged the person was not asked about saving.
     const bool isWanted = change == cVocabList::Change::Replaced && !gChanged;
-    // What was opened or saved under the copy's name is the person's.
+    // A copy that the person has opened, or saved a list over, is no longer a copy.
     if (isWanted || isSameFile(m_path, gFileName))
         m_path.clear();
     giveUp();
@@ -96,7 +96,7 @@ void UnsavedCopy::timedOut()
     try {
         write();
     } catch (const std::exception &) {
-        // The disk refuses it, or the list does not fit into memory twice.
+        // The disk is full or not writable, or there is not enough memory.
     }
 }
 
@@ -125,7 +125,7 @@ void UnsavedCopy::remove()
     m_path.clear();
 }
 
-// Not where the person has removed it or written over it.
+// False where the person has removed it or written over it.
 bool UnsavedCopy::isOwnFile() const
 {
     return !m_path.isEmpty() && QFileInfo(m_path).lastModified() == m_written;

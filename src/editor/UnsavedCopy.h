@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The copy of the open list that lies in the lists' folder while the list has unsaved changes, so
-// that they outlive a crash, a kill and a power cut.
+// that a crash, a kill or a power cut does not lose them.
 //
 // It is written a moment after a change, never while a handler is at work, and removed as soon as
 // the list is saved or replaced. It stays where the list is replaced without a question about
-// saving it, as after an export. A copy that cannot be written is given up in silence until the
-// next change. A text that is too long for a list file is cut in it.
+// saving it, as after an export. A copy that cannot be written is left out without a message
+// until the next change. A text that is too long for a list file is cut in the copy.
 #pragma once
 
 #include "core/cVocabList.h"
@@ -21,7 +21,7 @@ public:
     ~UnsavedCopy();
     Q_DISABLE_COPY_MOVE(UnsavedCopy)
 
-    // The person does not want the unsaved changes.
+    // Removes the copy: the person does not want the unsaved changes.
     void giveUp();
 
 private:

@@ -59,7 +59,7 @@ void WordEditor::showFirstPage()
     gVocabList().CurrentWord(1);
 }
 
-void WordEditor::showShownPage()
+void WordEditor::refillPage()
 {
     m_page.FillGrid(m_page.FirstShownItem());
 }
@@ -121,7 +121,7 @@ void WordEditor::updateWord()
     clearBoxes();
     gWordSelected = false;
     m_area.show(EditorMode::Idle, EntryFocus::NewWord);
-    showShownPage();
+    refillPage();
 }
 
 // Unlike an update, an addition keeps outer blanks.

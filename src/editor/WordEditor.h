@@ -17,12 +17,14 @@ public:
     // True where the key was Enter, which presses the default button.
     bool press(const QKeyEvent &event, QWidget *focus) const;
 
-    // What the window shows of a list that is ...
-    void showEmptyList(EditorMode mode);       // ... empty,
-    void showFirstPage();                      // ... opened,
-    void showShownPage();                      // ... changed elsewhere,
-    void showImported(Integer positionBefore); // ... longer by what was imported.
-    // Where one is picked or found, because entries have moved.
+    void showEmptyList(EditorMode mode);
+    // Of a list that was opened.
+    void showFirstPage();
+    // Again, after a change elsewhere.
+    void refillPage();
+    // After an import.
+    void showImported(Integer positionBefore);
+    // Ends the editing of an entry that is picked or found.
     void letEntryGo();
 
     void cmdAbort_Click();

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The grid with its scroll bar: shows one page of the open list, scrolls it and marks a row.
 //
-// The entry that is chosen, picked or found, stays the list's current one and its row stays marked
-// whatever the page. Without one a filled page leaves the list's position behind its last entry.
+// While an entry is chosen (picked or found), every page that is filled leaves it the list's
+// current entry and marks its row. Otherwise the list's position is behind the page's last entry
+// then.
 #pragma once
 
 #include "editor/GridPage.h"
@@ -22,28 +23,28 @@ public:
 
     void place(const MainLayout &layout);
 
-    // 0 = the entry is chosen no longer.
+    // 0 = none.
     void choose(Integer entry) { m_chosen = entry; }
     [[nodiscard]] bool isChosen() const { return m_chosen != 0; }
-    // Makes the chosen entry the list's current one: other windows move the position, too.
+    // Makes the chosen entry the list's current one again: other windows move the position, too.
     void returnToChosen();
 
-    // What fills a page throws Overflow where the list is too long for 16 bits.
+    // Filling a page throws Overflow where the list is too long for 16 bits.
     void FillGrid(Integer top);
     void NumberRows(Integer top);
     // Numbered rows without an entry.
     void showNoEntries();
-    // Shows the page that the scroll bar stands for at `value`, also if it has that value already.
+    // Fills the page that belongs to the value, also if the scroll bar has it already.
     void scrollTo(Integer value);
     [[nodiscard]] Integer FirstShownItem() const { return m_page.first; }
     [[nodiscard]] int itemIn(int row) const { return m_page.itemIn(row); }
 
-    // The row of the current cell.
+    // Puts the current cell there.
     void makeCurrent(int row);
     void HighlightRow();
     void UnhighlightRow();
     void markRow(Integer row);
-    // Marks the row of the next new word on its page.
+    // Marks the row of the next new word, whose page is shown.
     void MarkNewRow();
 
 private:

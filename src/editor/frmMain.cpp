@@ -3,13 +3,13 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/GameMenu.h"
 #include "editor/MainLayout.h"
 #include "editor/PrintMenu.h"
 #include "editor/UnsavedCopy.h"
 #include "editor/WordEditor.h"
 #include "editor/ui_frmMain.h"
 #include "game/Top10File.h"
-#include "game/frmTanglewit.h"
 #include "platform/EndRequest.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
@@ -53,6 +53,7 @@ frmMain::frmMain()
     for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep})
         separator->setSeparator(true);
     m_editor = std::make_unique<WordEditor>(*m_ui);
+    m_gameMenu = std::make_unique<GameMenu>(*m_ui, this);
     m_printMenu = std::make_unique<PrintMenu>(*m_ui, this);
     connectHandlers();
     addShortcut(Qt::Key_Escape, m_ui->cmdAbort);
@@ -73,16 +74,9 @@ void frmMain::connectHandlers()
     onChoice(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
     onChoice(m_ui->mnuExport, &frmMain::mnuExport_Click);
     onChoice(m_ui->mnuImport, &frmMain::mnuImport_Click);
-    onChoice(m_ui->mnuPlayScramble, &frmMain::cmdPlayScramble_Click);
-    onChoice(m_ui->mnuQuickFlash, &frmMain::cmdQuickFlash_Click);
-    onChoice(m_ui->mnuUpbeat, &frmMain::mnuUpbeat_Click);
-    onChoice(m_ui->mnuSoothing, &frmMain::mnuSoothing_Click);
-    onChoice(m_ui->mnuMusicOff, &frmMain::mnuMusicOff_Click);
     connect(m_ui->mnuExit, &QAction::triggered, this, &frmMain::close);
     connect(m_ui->mnuDeleteWord, &QAction::triggered, m_editor.get(),
             guarded(m_editor.get(), &WordEditor::mnuDeleteWord_Click));
-    onClick(m_ui->cmdPlayScramble, &frmMain::cmdPlayScramble_Click);
-    onClick(m_ui->cmdQuickFlash, &frmMain::cmdQuickFlash_Click);
     connect(m_editor.get(), &WordEditor::changed, m_ui->mnuSave,
             [this] { m_ui->mnuSave->setEnabled(true); });
 }
@@ -123,8 +117,7 @@ void frmMain::Form_Terminate()
         gVocabList().SaveFile();
     else if (save)
         mnuSaveAs_Click();
-    if (m_frmTanglewit)
-        m_frmTanglewit->close(); // ends its music, too
+    m_gameMenu->unloadGame();
     if (asked && !save)
         m_unsavedCopy->giveUp();
 }

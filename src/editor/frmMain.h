@@ -9,11 +9,10 @@
 
 #include <memory>
 
+class GameMenu;
 class PrintMenu;
-class QAction;
 class UnsavedCopy;
 class WordEditor;
-class frmTanglewit;
 enum class MsgBoxButtons;
 
 namespace Ui {
@@ -55,18 +54,10 @@ private:
     void importWords(const QString &path);
     void refresh();
 
-    // frmMain_Game.cpp: the game with its music, and the flash cards
-    void cmdPlayScramble_Click();
-    void cmdQuickFlash_Click();
-    void mnuUpbeat_Click();
-    void mnuSoothing_Click();
-    void mnuMusicOff_Click();
-    void checkMusic(const QAction *chosen);
-
     std::unique_ptr<Ui::frmMain> m_ui;
     std::unique_ptr<WordEditor> m_editor;
+    std::unique_ptr<GameMenu> m_gameMenu;
     std::unique_ptr<PrintMenu> m_printMenu;
-    std::unique_ptr<frmTanglewit> m_frmTanglewit; // made for the first game
     CommonDialog m_fileDialog;
     std::unique_ptr<UnsavedCopy> m_unsavedCopy;
 };

@@ -100,8 +100,8 @@ void frmMain::mnuOpen_Click()
         m_editor->showFirstPage();
 }
 
-// Asks whether the list in work may go, and saves it where the person wants that. False where it
-// is to stay: by a Cancel, or because it was not saved in the end.
+// Asks before the open list is replaced, and saves it if the person says so. False where it stays:
+// after Cancel, or where it was not saved.
 bool frmMain::mayEndLesson(MsgBoxButtons saveAnswers)
 {
     if (MsgBox(QStringLiteral("End current lesson?"), MsgBoxButtons::OkCancel) ==
@@ -136,7 +136,7 @@ bool frmMain::openFile()
     gOpenedFile = gFileName;
     showCaption();
     noteUnchanged();
-    // Here, so that the first search answers as fast as the others.
+    // So that the first search is as fast as the others.
     gVocabList().prepareLookup();
     return true;
 }
@@ -160,7 +160,7 @@ void frmMain::mnuImport_Click()
 
 void frmMain::refresh()
 {
-    m_editor->showShownPage();
+    m_editor->refillPage();
     repaint();
 }
 

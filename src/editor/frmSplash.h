@@ -22,7 +22,7 @@ public:
     ~frmSplash() override;
 
 Q_SIGNALS:
-    // The splash is unloaded; the main window's turn.
+    // The splash is closed; the main window can be shown.
     void unloaded();
 
 protected:

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/GameMenu.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "editor/ui_frmMain.h"
+#include "flash/dlgQuickFlash.h"
+#include "game/frmTanglewit.h"
+#include "platform/Guarded.h"
+#include "platform/MsgBox.h"
+
+using namespace Module1;
+
+namespace {
+
+// Where it is empty, the person is told.
+bool mayPractise()
+{
+    const bool hasWords = gVocabList().NumWords() > 0;
+    if (!hasWords)
+        MsgBox(QStringLiteral("Your current wordlist is empty"));
+    return hasWords;
+}
+
+} // namespace
+
+GameMenu::GameMenu(const Ui::frmMain &ui, QWidget *window) : m_ui(ui), m_window(window)
+{
+    const auto onChoice = [this](QAction *item, void (GameMenu::*handler)()) {
+        connect(item, &QAction::triggered, this, guarded(this, handler));
+    };
+    onChoice(ui.mnuPlayScramble, &GameMenu::cmdPlayScramble_Click);
+    onChoice(ui.mnuQuickFlash, &GameMenu::cmdQuickFlash_Click);
+    onChoice(ui.mnuUpbeat, &GameMenu::mnuUpbeat_Click);
+    onChoice(ui.mnuSoothing, &GameMenu::mnuSoothing_Click);
+    onChoice(ui.mnuMusicOff, &GameMenu::mnuMusicOff_Click);
+    connect(ui.cmdPlayScramble, &QPushButton::clicked, this,
+            guarded(this, &GameMenu::cmdPlayScramble_Click));
+    connect(ui.cmdQuickFlash, &QPushButton::clicked, this,
+            guarded(this, &GameMenu::cmdQuickFlash_Click));
+}
+
+GameMenu::~GameMenu() = default;
+
+void GameMenu::unloadGame()
+{
+    if (m_frmTanglewit)
+        m_frmTanglewit->close();
+}
+
+void GameMenu::cmdPlayScramble_Click()
+{
+    if (!mayPractise())
+        return;
+    if (!m_frmTanglewit) {
+        m_frmTanglewit = std::make_unique<frmTanglewit>(
+            MusicMenu{*m_ui.mnuUpbeat, *m_ui.mnuSoothing, *m_ui.mnuMusicOff}, m_window);
+        connect(m_frmTanglewit.get(), &frmTanglewit::left, m_window, &QWidget::show);
+    }
+    m_window->hide();
+    m_frmTanglewit->show();
+}
+
+void GameMenu::cmdQuickFlash_Click()
+{
+    if (!mayPractise())
+        return;
+    dlgQuickFlash dialog(m_window);
+    connect(&dialog, &dlgQuickFlash::terminated, m_window, &QWidget::show);
+    dialog.exec();
+}
+
+void GameMenu::mnuUpbeat_Click()
+{
+    chooseMusic(m_ui.mnuUpbeat);
+}
+
+void GameMenu::mnuSoothing_Click()
+{
+    chooseMusic(m_ui.mnuSoothing);
+}
+
+void GameMenu::mnuMusicOff_Click()
+{
+    chooseMusic(m_ui.mnuMusicOff);
+}
+
+void GameMenu::chooseMusic(const QAction *chosen)
+{
+    for (QAction *item : {m_ui.mnuUpbeat, m_ui.mnuSoothing, m_ui.mnuMusicOff})
+        item->setChecked(item == chosen);
+    gUpbeatMusic = chosen == m_ui.mnuUpbeat;
+    gMusicOff = chosen == m_ui.mnuMusicOff;
+}
