@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Boxes = EntryLook::Boxes;
@@ -16,15 +18,15 @@ QStringList enabledButtons(const EntryLook &look)
 {
     QStringList buttons;
     if (!look.showsAdd && look.newWord)
-        buttons += QStringLiteral("New Word");
+        buttons += u"New Word"_s;
     if (look.showsAdd && look.add)
-        buttons += look.isUpdate ? QStringLiteral("Update") : QStringLiteral("Add");
+        buttons += look.isUpdate ? u"Update"_s : u"Add"_s;
     if (look.abort)
-        buttons += QStringLiteral("Abort");
+        buttons += u"Abort"_s;
     if (look.deletion)
-        buttons += QStringLiteral("Delete");
+        buttons += u"Delete"_s;
     if (look.search)
-        buttons += QStringLiteral("Search");
+        buttons += u"Search"_s;
     return buttons;
 }
 
@@ -35,73 +37,67 @@ class EditorMode_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aModeOffers_data();
-    void aModeOffers();
-    void addIsDisabledWhereItIsHiddenButInANewList();
-    void enterIsNeverDeadAndTheFocusNeverLost();
-    void aColumnLeadsToItsBox();
+    void aModeOffers_data()
+    {
+        QTest::addColumn<EditorMode>("mode");
+        QTest::addColumn<QString>("buttons");
+        QTest::addColumn<Button>("defaultButton");
+        QTest::addColumn<Boxes>("boxes");
+        QTest::addColumn<EntryFocus>("focus");
+        QTest::newRow("Idle") << EditorMode::Idle << u"New Word,Search"_s << Button::NewWord
+                              << Boxes::None << EntryFocus::Grid;
+        QTest::newRow("NewList") << EditorMode::NewList << u"New Word,Abort"_s << Button::Add
+                                 << Boxes::All << EntryFocus::Word;
+        QTest::newRow("NewWord") << EditorMode::NewWord << u"Add,Abort"_s << Button::Add
+                                 << Boxes::All << EntryFocus::Word;
+        QTest::newRow("Editing") << EditorMode::Editing << u"Update,Abort,Delete"_s << Button::Add
+                                 << Boxes::All << EntryFocus::Word;
+        QTest::newRow("Search") << EditorMode::Search << u"Abort,Search"_s << Button::Search
+                                << Boxes::Word << EntryFocus::Word;
+        QTest::newRow("Found") << EditorMode::Found << u"Abort,Delete,Search"_s << Button::Search
+                               << Boxes::Word << EntryFocus::Word;
+    }
+
+    void aModeOffers()
+    {
+        QFETCH(EditorMode, mode);
+        const EntryLook look = lookOf(mode);
+        QTEST(enabledButtons(look).join(QLatin1Char(',')), "buttons");
+        QTEST(look.defaultButton, "defaultButton");
+        QTEST(look.boxes, "boxes");
+        QTEST(look.focus, "focus");
+    }
+
+    void addIsDisabledWhereItIsHiddenButInANewList()
+    {
+        for (const EditorMode mode : Modes) {
+            const EntryLook look = lookOf(mode);
+            QCOMPARE(look.add, look.showsAdd || mode == EditorMode::NewList);
+            QVERIFY(!look.isUpdate || look.showsAdd);
+            QVERIFY(!look.showsAdd || !look.newWord);
+        }
+    }
+
+    void enterIsNeverDeadAndTheFocusNeverLost()
+    {
+        for (const EditorMode mode : Modes) {
+            const EntryLook look = lookOf(mode);
+            const bool enabled = look.defaultButton == Button::Add       ? look.add
+                                 : look.defaultButton == Button::NewWord ? look.newWord
+                                                                         : look.search;
+            QVERIFY(enabled);
+            QCOMPARE(look.focus == EntryFocus::Word, look.boxes != Boxes::None);
+        }
+    }
+
+    void aColumnLeadsToItsBox()
+    {
+        QCOMPARE(boxOfColumn(0), EntryFocus::Word);
+        QCOMPARE(boxOfColumn(1), EntryFocus::Word);
+        QCOMPARE(boxOfColumn(2), EntryFocus::Definition);
+        QCOMPARE(boxOfColumn(3), EntryFocus::Sentence);
+    }
 };
-
-void EditorMode_test::aModeOffers_data()
-{
-    QTest::addColumn<EditorMode>("mode");
-    QTest::addColumn<QString>("buttons");
-    QTest::addColumn<Button>("defaultButton");
-    QTest::addColumn<Boxes>("boxes");
-    QTest::addColumn<EntryFocus>("focus");
-    QTest::newRow("Idle") << EditorMode::Idle << QStringLiteral("New Word,Search")
-                          << Button::NewWord << Boxes::None << EntryFocus::Grid;
-    QTest::newRow("NewList") << EditorMode::NewList << QStringLiteral("New Word,Abort")
-                             << Button::Add << Boxes::All << EntryFocus::Word;
-    QTest::newRow("NewWord") << EditorMode::NewWord << QStringLiteral("Add,Abort") << Button::Add
-                             << Boxes::All << EntryFocus::Word;
-    QTest::newRow("Editing") << EditorMode::Editing << QStringLiteral("Update,Abort,Delete")
-                             << Button::Add << Boxes::All << EntryFocus::Word;
-    QTest::newRow("Search") << EditorMode::Search << QStringLiteral("Abort,Search")
-                            << Button::Search << Boxes::Word << EntryFocus::Word;
-    QTest::newRow("Found") << EditorMode::Found << QStringLiteral("Abort,Delete,Search")
-                           << Button::Search << Boxes::Word << EntryFocus::Word;
-}
-
-void EditorMode_test::aModeOffers()
-{
-    QFETCH(EditorMode, mode);
-    const EntryLook look = lookOf(mode);
-    QTEST(enabledButtons(look).join(QLatin1Char(',')), "buttons");
-    QTEST(look.defaultButton, "defaultButton");
-    QTEST(look.boxes, "boxes");
-    QTEST(look.focus, "focus");
-}
-
-void EditorMode_test::addIsDisabledWhereItIsHiddenButInANewList()
-{
-    for (const EditorMode mode : Modes) {
-        const EntryLook look = lookOf(mode);
-        QCOMPARE(look.add, look.showsAdd || mode == EditorMode::NewList);
-        QVERIFY(!look.isUpdate || look.showsAdd);
-        QVERIFY(!look.showsAdd || !look.newWord);
-    }
-}
-
-void EditorMode_test::enterIsNeverDeadAndTheFocusNeverLost()
-{
-    for (const EditorMode mode : Modes) {
-        const EntryLook look = lookOf(mode);
-        const bool enabled = look.defaultButton == Button::Add       ? look.add
-                             : look.defaultButton == Button::NewWord ? look.newWord
-                                                                     : look.search;
-        QVERIFY(enabled);
-        QCOMPARE(look.focus == EntryFocus::Word, look.boxes != Boxes::None);
-    }
-}
-
-void EditorMode_test::aColumnLeadsToItsBox()
-{
-    QCOMPARE(boxOfColumn(0), EntryFocus::Word);
-    QCOMPARE(boxOfColumn(1), EntryFocus::Word);
-    QCOMPARE(boxOfColumn(2), EntryFocus::Definition);
-    QCOMPARE(boxOfColumn(3), EntryFocus::Sentence);
-}
 
 QTEST_APPLESS_MAIN(EditorMode_test)
 

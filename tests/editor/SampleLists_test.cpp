@@ -14,9 +14,11 @@
 #include <algorithm>
 #include <csignal>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString Folder = QStringLiteral("MyLists");
+const QString Folder = u"MyLists"_s;
 
 void writeFile(const QString &path, const QByteArray &content)
 {
@@ -41,180 +43,169 @@ class SampleLists_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFolderIsMadeAndFilled();
-    void aFolderThatExistsIsLeftAsItIs_data();
-    void aFolderThatExistsIsLeftAsItIs();
-    void aFolderThatCannotBeMadeIsAnError();
-    void aFullDiskIsAnErrorAndNothingIsLeft();
-    void whatAStartLeftUnfinishedIsFinished();
-    void theFolderHasNoDot();
-    void eachListIsGood_data();
-    void eachListIsGood();
-    void oneListHasAccentsAndOneTwoWordPhrases();
-};
-
-void SampleLists_test::theFolderIsMadeAndFilled()
-{
-    const FreshState state;
-    installSampleLists(state.path(Folder));
-    const QDir samples(QStringLiteral(":/lists"));
-    const QDir installed(state.path(Folder));
-    QVERIFY(samples.entryList(QDir::Files).size() >= 5);
-    QCOMPARE(installed.entryList(QDir::Files), samples.entryList(QDir::Files));
-    for (const QString &name : samples.entryList(QDir::Files)) {
-        QFile sample(samples.filePath(name));
-        QFile copy(installed.filePath(name));
-        QVERIFY(sample.open(QIODevice::ReadOnly));
-        // Resources are read-only; the person's lists are not.
-        QVERIFY(copy.permissions().testFlags(QFile::ReadOwner | QFile::WriteOwner));
-        QVERIFY(copy.open(QIODevice::ReadWrite));
-        QCOMPARE(copy.readAll(), sample.readAll());
+    void theFolderIsMadeAndFilled()
+    {
+        const FreshState state;
+        installSampleLists(state.path(Folder));
+        const QDir samples(u":/lists"_s);
+        const QDir installed(state.path(Folder));
+        QVERIFY(samples.entryList(QDir::Files).size() >= 5);
+        QCOMPARE(installed.entryList(QDir::Files), samples.entryList(QDir::Files));
+        for (const QString &name : samples.entryList(QDir::Files)) {
+            QFile sample(samples.filePath(name));
+            QFile copy(installed.filePath(name));
+            QVERIFY(sample.open(QIODevice::ReadOnly));
+            // Resources are read-only; the person's lists are not.
+            QVERIFY(copy.permissions().testFlags(QFile::ReadOwner | QFile::WriteOwner));
+            QVERIFY(copy.open(QIODevice::ReadWrite));
+            QCOMPARE(copy.readAll(), sample.readAll());
+        }
+        // Nothing else is left beside it.
+        QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+                 QStringList{Folder});
     }
-    // Nothing else is left beside it.
-    QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{Folder});
-}
 
-void SampleLists_test::aFolderThatExistsIsLeftAsItIs_data()
-{
-    QTest::addColumn<QStringList>("files");
-    QTest::newRow("empty") << QStringList();
-    QTest::newRow("with a list") << QStringList{QStringLiteral("mine.lwx")};
-    QTest::newRow("with a sample that was changed")
-        << QStringList{QStringLiteral("French - First Words.lwx")};
-}
-
-void SampleLists_test::aFolderThatExistsIsLeftAsItIs()
-{
-    QFETCH(QStringList, files);
-    const FreshState state;
-    const QDir folder(state.path(Folder));
-    QVERIFY(QDir().mkpath(folder.path()));
-    for (const QString &name : files)
-        writeFile(folder.filePath(name), "mine");
-    installSampleLists(folder.path());
-    QCOMPARE(folder.entryList(QDir::Files), files);
-    for (const QString &name : files) {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("mine"));
+    void aFolderThatExistsIsLeftAsItIs_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::newRow("empty") << QStringList();
+        QTest::newRow("with a list") << QStringList{u"mine.lwx"_s};
+        QTest::newRow("with a sample that was changed")
+            << QStringList{u"French - First Words.lwx"_s};
     }
-}
 
-void SampleLists_test::aFolderThatCannotBeMadeIsAnError()
-{
-    const FreshState state;
-    writeFile(state.path(QStringLiteral("file")), "in the way");
-    try {
-        installSampleLists(state.path(QStringLiteral("file/MyLists")));
-        QFAIL("no error");
-    } catch (const RunTimeError &error) {
-        QCOMPARE(error.number(), RunTimeError::PathNotFound);
-        QVERIFY(error.report().contains(
-            QDir::toNativeSeparators(state.path(QStringLiteral("file/MyLists")))));
-    }
-}
-
-void SampleLists_test::aFullDiskIsAnErrorAndNothingIsLeft()
-{
-    const FreshState state;
-    QCOMPARE(errorNumberInChildProcess([&] {
-                 std::signal(SIGXFSZ, SIG_IGN);
-                 const rlimit limit{1000, 1000};
-                 setrlimit(RLIMIT_FSIZE, &limit);
-                 installSampleLists(state.path(Folder));
-                 return 0;
-             }),
-             int(RunTimeError::DiskFull));
-    QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList());
-}
-
-void SampleLists_test::whatAStartLeftUnfinishedIsFinished()
-{
-    const FreshState state;
-    QVERIFY(QDir().mkpath(state.path(QStringLiteral("MyLists.new"))));
-    writeFile(state.path(QStringLiteral("MyLists.new/French - First Words.lwx")), {});
-    installSampleLists(state.path(Folder));
-    QCOMPARE(QDir(state.path(Folder)).entryList(QDir::Files),
-             QDir(QStringLiteral(":/lists")).entryList(QDir::Files));
-    QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{Folder});
-}
-
-void SampleLists_test::theFolderHasNoDot()
-{
-    // Import tells the kind of a file by the first dot of its path.
-    const QStringList names = QDir(QStringLiteral(":/lists")).entryList(QDir::Files);
-    for (const QString &name : names)
-        QCOMPARE(name.indexOf(QLatin1Char('.')), name.size() - 4);
-}
-
-void SampleLists_test::eachListIsGood_data()
-{
-    QTest::addColumn<QString>("name");
-    const QStringList names = QDir(QStringLiteral(":/lists")).entryList(QDir::Files);
-    for (const QString &name : names)
-        QTest::newRow(qUtf8Printable(name)) << name;
-}
-
-void SampleLists_test::eachListIsGood()
-{
-    QFETCH(QString, name);
-    const FreshState state;
-    installSampleLists(state.path(Folder));
-    Module1::gFileName = QDir(state.path(Folder)).filePath(name);
-    cVocabList &list = Module1::gVocabList();
-    QVERIFY(list.OpenFile());
-    QVERIFY(list.NumWords() >= 40);
-
-    QSet<QString> words;
-    for (Integer item = 1; item <= list.NumWords(); ++item) {
-        list.CurrentWord(item);
-        const QString word = list.Word();
-        const QByteArray what =
-            QStringLiteral("entry %1, \"%2\"").arg(item.toText(), word).toUtf8();
-        // Words longer than the game has letter tiles for, or too short to scramble.
-        QVERIFY2(word.size() >= 3 && word.size() <= 30, what);
-        QVERIFY2(!words.contains(word.toLower()), what);
-        words += word.toLower();
-        QVERIFY2(!list.Definition().isEmpty(), what);
-        QVERIFY2(!list.Sentence().isEmpty(), what);
-        QVERIFY2(isMentioned(word, list.Sentence()), what);
-        for (const QString &text : {word, list.Definition(), list.Sentence()}) {
-            QCOMPARE(text, text.simplified());
-            // Stands for a character that list files have no byte for.
-            QVERIFY2(!text.contains(QStringLiteral("??")) && !word.contains(QLatin1Char('?')),
-                     what);
+    void aFolderThatExistsIsLeftAsItIs()
+    {
+        QFETCH(QStringList, files);
+        const FreshState state;
+        const QDir folder(state.path(Folder));
+        QVERIFY(QDir().mkpath(folder.path()));
+        for (const QString &name : files)
+            writeFile(folder.filePath(name), "mine");
+        installSampleLists(folder.path());
+        QCOMPARE(folder.entryList(QDir::Files), files);
+        for (const QString &name : files) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), QByteArray("mine"));
         }
     }
-}
 
-void SampleLists_test::oneListHasAccentsAndOneTwoWordPhrases()
-{
-    int listsWithAccents = 0;
-    int listsOfPhrases = 0;
-    const QDir samples(QStringLiteral(":/lists"));
-    for (const QString &name : samples.entryList(QDir::Files)) {
+    void aFolderThatCannotBeMadeIsAnError()
+    {
+        const FreshState state;
+        writeFile(state.path(u"file"_s), "in the way");
+        try {
+            installSampleLists(state.path(u"file/MyLists"_s));
+            QFAIL("no error");
+        } catch (const RunTimeError &error) {
+            QCOMPARE(error.number(), RunTimeError::PathNotFound);
+            QVERIFY(
+                error.report().contains(QDir::toNativeSeparators(state.path(u"file/MyLists"_s))));
+        }
+    }
+
+    void aFullDiskIsAnErrorAndNothingIsLeft()
+    {
+        const FreshState state;
+        QCOMPARE(errorNumberInChildProcess([&] {
+                     std::signal(SIGXFSZ, SIG_IGN);
+                     const rlimit limit{1000, 1000};
+                     setrlimit(RLIMIT_FSIZE, &limit);
+                     installSampleLists(state.path(Folder));
+                     return 0;
+                 }),
+                 int(RunTimeError::DiskFull));
+        QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList());
+    }
+
+    void whatAStartLeftUnfinishedIsFinished()
+    {
+        const FreshState state;
+        QVERIFY(QDir().mkpath(state.path(u"MyLists.new"_s)));
+        writeFile(state.path(u"MyLists.new/French - First Words.lwx"_s), {});
+        installSampleLists(state.path(Folder));
+        QCOMPARE(QDir(state.path(Folder)).entryList(QDir::Files),
+                 QDir(u":/lists"_s).entryList(QDir::Files));
+        QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+                 QStringList{Folder});
+    }
+
+    void theFolderHasNoDot()
+    {
+        // Import tells the kind of a file by the first dot of its path.
+        const QStringList names = QDir(u":/lists"_s).entryList(QDir::Files);
+        for (const QString &name : names)
+            QCOMPARE(name.indexOf(QLatin1Char('.')), name.size() - 4);
+    }
+
+    void eachListIsGood_data()
+    {
+        QTest::addColumn<QString>("name");
+        const QStringList names = QDir(u":/lists"_s).entryList(QDir::Files);
+        for (const QString &name : names)
+            QTest::newRow(qUtf8Printable(name)) << name;
+    }
+
+    void eachListIsGood()
+    {
+        QFETCH(QString, name);
         const FreshState state;
         installSampleLists(state.path(Folder));
         Module1::gFileName = QDir(state.path(Folder)).filePath(name);
         cVocabList &list = Module1::gVocabList();
         QVERIFY(list.OpenFile());
-        int accents = 0;
-        int phrases = 0;
+        QVERIFY(list.NumWords() >= 40);
+
+        QSet<QString> words;
         for (Integer item = 1; item <= list.NumWords(); ++item) {
             list.CurrentWord(item);
             const QString word = list.Word();
-            accents += std::any_of(word.begin(), word.end(),
-                                   [](QChar letter) { return letter.unicode() > 0x7F; })
-                           ? 1
-                           : 0;
-            phrases += word.count(QLatin1Char(' ')) == 1 ? 1 : 0;
+            const QByteArray what = u"entry %1, \"%2\""_s.arg(item.toText(), word).toUtf8();
+            // Words longer than the game has letter tiles for, or too short to scramble.
+            QVERIFY2(word.size() >= 3 && word.size() <= 30, what);
+            QVERIFY2(!words.contains(word.toLower()), what);
+            words += word.toLower();
+            QVERIFY2(!list.Definition().isEmpty(), what);
+            QVERIFY2(!list.Sentence().isEmpty(), what);
+            QVERIFY2(isMentioned(word, list.Sentence()), what);
+            for (const QString &text : {word, list.Definition(), list.Sentence()}) {
+                QCOMPARE(text, text.simplified());
+                // Stands for a character that list files have no byte for.
+                QVERIFY2(!text.contains(u"??"_s) && !word.contains(QLatin1Char('?')), what);
+            }
         }
-        listsWithAccents += accents >= 5 ? 1 : 0;
-        listsOfPhrases += list.NumWords() == phrases ? 1 : 0;
     }
-    QVERIFY(listsWithAccents >= 1);
-    QVERIFY(listsOfPhrases >= 1);
-}
+
+    void oneListHasAccentsAndOneTwoWordPhrases()
+    {
+        int listsWithAccents = 0;
+        int listsOfPhrases = 0;
+        const QDir samples(u":/lists"_s);
+        for (const QString &name : samples.entryList(QDir::Files)) {
+            const FreshState state;
+            installSampleLists(state.path(Folder));
+            Module1::gFileName = QDir(state.path(Folder)).filePath(name);
+            cVocabList &list = Module1::gVocabList();
+            QVERIFY(list.OpenFile());
+            int accents = 0;
+            int phrases = 0;
+            for (Integer item = 1; item <= list.NumWords(); ++item) {
+                list.CurrentWord(item);
+                const QString word = list.Word();
+                accents += std::any_of(word.begin(), word.end(),
+                                       [](QChar letter) { return letter.unicode() > 0x7F; })
+                               ? 1
+                               : 0;
+                phrases += word.count(QLatin1Char(' ')) == 1 ? 1 : 0;
+            }
+            listsWithAccents += accents >= 5 ? 1 : 0;
+            listsOfPhrases += list.NumWords() == phrases ? 1 : 0;
+        }
+        QVERIFY(listsWithAccents >= 1);
+        QVERIFY(listsOfPhrases >= 1);
+    }
+};
 
 QTEST_GUILESS_MAIN(SampleLists_test)
 

@@ -76,13 +76,93 @@ class UnsavedKilled_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatWasFinishedASecondBeforeAKillIsThere();
+    void whatWasFinishedASecondBeforeAKillIsThere()
+    {
+        bool given = false;
+        const int wanted = qEnvironmentVariableIntValue("TANGLEWIT_KILLS", &given);
+        const int kills = given ? wanted : 200;
+        std::vector<std::unique_ptr<QThread>> threads;
+        for (int i = 0; i < Sessions; ++i) {
+            threads.emplace_back(QThread::create([this, kills] { killSessions(kills); }));
+            threads.back()->start();
+        }
+        for (const auto &thread : threads)
+            thread->wait();
+        qInfo("%d kills: %d with finished actions, %d of them in the copy alone", kills,
+              m_editedLong.load(), m_onlyInCopy.load());
+        QVERIFY2(m_failures.isEmpty(), qPrintable(m_failures.join(u'\n')));
+        QVERIFY(m_editedLong >= kills / 2);
+        QVERIFY(m_onlyInCopy >= kills / 8);
+    }
 
 private:
-    void killSessions(int kills);
+    void killSessions(int kills)
+    {
+        for (int number = m_begun++; number < kills; number = m_begun++) {
+            const QString failure = killOnce(static_cast<unsigned>(number));
+            const std::lock_guard lock(m_mutex);
+            if (!failure.isEmpty())
+                m_failures += u"kill %1: %2"_s.arg(number).arg(failure);
+        }
+    }
+
     // Empty where nothing is lost.
-    [[nodiscard]] QString killOnce(unsigned seed);
-    [[nodiscard]] QString lost(const Session &session, qint64 killed);
+    [[nodiscard]] QString killOnce(unsigned seed)
+    {
+        const QTemporaryDir folder; // of the session's home
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"TMPDIR"_s, folder.path());
+        environment.insert(QString::fromLatin1(Seed), QString::number(seed));
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::SeparateChannels);
+        process.start(QStringLiteral(EDITING_CHILD), {u"-o"_s, u"/dev/null,txt"_s});
+        while (!process.canReadLine())
+            if (!process.waitForReadyRead())
+                return u"the session does not start"_s;
+        QByteArray told = process.readLine();
+        const QByteArray firstList = listIn(listFile(sessionOf(told, {})));
+
+        std::mt19937 random(seed);
+        const qint64 moment =
+            milliseconds() + std::uniform_int_distribution(Lateness, Longest)(random);
+        while (milliseconds() < moment)
+            process.waitForReadyRead(
+                static_cast<int>(std::max<qint64>(moment - milliseconds(), 0)));
+        if (process.state() != QProcess::Running)
+            return u"the session has ended by itself"_s;
+        const qint64 killed = milliseconds();
+        process.kill();
+        process.waitForFinished();
+        told += process.readAllStandardOutput();
+        return lost(sessionOf(told, firstList), killed);
+    }
+
+    [[nodiscard]] QString lost(const Session &session, qint64 killed)
+    {
+        qsizetype finished = 0; // actions whose outcome must be there
+        while (finished < session.ends.size() && session.ends.at(finished) <= killed - Lateness)
+            ++finished;
+        const QByteArray inList = listIn(listFile(session));
+        QByteArrayList found{inList};
+        const QDir folder(session.home + u"/Documents/Lexibrook/MyLists"_s);
+        const QStringList copies = folder.entryList({u"*(not saved)*.lwx"_s}, QDir::Files);
+        for (const QString &copy : copies)
+            found += listIn(folder.filePath(copy));
+
+        // Later actions may be in it, too, but each of them whole.
+        const QByteArrayList allowed = session.lists.mid(finished);
+        m_editedLong += finished > 0 ? 1 : 0;
+        if (allowed.contains(inList))
+            return {};
+        for (const QByteArray &list : std::as_const(found))
+            if (allowed.contains(list)) {
+                ++m_onlyInCopy;
+                return {};
+            }
+        return u"found %1 instead of %2"_s.arg(QString::fromLatin1(found.join(" and ")),
+                                               QString::fromLatin1(allowed.join(" or ")));
+    }
 
     std::atomic<int> m_begun = 0;
     std::atomic<int> m_editedLong = 0; // sessions with actions that must not be lost
@@ -90,90 +170,6 @@ private:
     std::mutex m_mutex;
     QStringList m_failures;
 };
-
-void UnsavedKilled_test::whatWasFinishedASecondBeforeAKillIsThere()
-{
-    bool given = false;
-    const int wanted = qEnvironmentVariableIntValue("TANGLEWIT_KILLS", &given);
-    const int kills = given ? wanted : 200;
-    std::vector<std::unique_ptr<QThread>> threads;
-    for (int i = 0; i < Sessions; ++i) {
-        threads.emplace_back(QThread::create([this, kills] { killSessions(kills); }));
-        threads.back()->start();
-    }
-    for (const auto &thread : threads)
-        thread->wait();
-    qInfo("%d kills: %d with finished actions, %d of them in the copy alone", kills,
-          m_editedLong.load(), m_onlyInCopy.load());
-    QVERIFY2(m_failures.isEmpty(), qPrintable(m_failures.join(u'\n')));
-    QVERIFY(m_editedLong >= kills / 2);
-    QVERIFY(m_onlyInCopy >= kills / 8);
-}
-
-void UnsavedKilled_test::killSessions(int kills)
-{
-    for (int number = m_begun++; number < kills; number = m_begun++) {
-        const QString failure = killOnce(static_cast<unsigned>(number));
-        const std::lock_guard lock(m_mutex);
-        if (!failure.isEmpty())
-            m_failures += u"kill %1: %2"_s.arg(number).arg(failure);
-    }
-}
-
-QString UnsavedKilled_test::killOnce(unsigned seed)
-{
-    const QTemporaryDir folder; // of the session's home
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"TMPDIR"_s, folder.path());
-    environment.insert(QString::fromLatin1(Seed), QString::number(seed));
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::SeparateChannels);
-    process.start(QStringLiteral(EDITING_CHILD), {u"-o"_s, u"/dev/null,txt"_s});
-    while (!process.canReadLine())
-        if (!process.waitForReadyRead())
-            return u"the session does not start"_s;
-    QByteArray told = process.readLine();
-    const QByteArray firstList = listIn(listFile(sessionOf(told, {})));
-
-    std::mt19937 random(seed);
-    const qint64 moment = milliseconds() + std::uniform_int_distribution(Lateness, Longest)(random);
-    while (milliseconds() < moment)
-        process.waitForReadyRead(static_cast<int>(std::max<qint64>(moment - milliseconds(), 0)));
-    if (process.state() != QProcess::Running)
-        return u"the session has ended by itself"_s;
-    const qint64 killed = milliseconds();
-    process.kill();
-    process.waitForFinished();
-    told += process.readAllStandardOutput();
-    return lost(sessionOf(told, firstList), killed);
-}
-
-QString UnsavedKilled_test::lost(const Session &session, qint64 killed)
-{
-    qsizetype finished = 0; // actions whose outcome must be there
-    while (finished < session.ends.size() && session.ends.at(finished) <= killed - Lateness)
-        ++finished;
-    const QByteArray inList = listIn(listFile(session));
-    QByteArrayList found{inList};
-    const QDir folder(session.home + u"/Documents/Lexibrook/MyLists"_s);
-    const QStringList copies = folder.entryList({u"*(not saved)*.lwx"_s}, QDir::Files);
-    for (const QString &copy : copies)
-        found += listIn(folder.filePath(copy));
-
-    // Later actions may be in it, too, but each of them whole.
-    const QByteArrayList allowed = session.lists.mid(finished);
-    m_editedLong += finished > 0 ? 1 : 0;
-    if (allowed.contains(inList))
-        return {};
-    for (const QByteArray &list : std::as_const(found))
-        if (allowed.contains(list)) {
-            ++m_onlyInCopy;
-            return {};
-        }
-    return u"found %1 instead of %2"_s.arg(QString::fromLatin1(found.join(" and ")),
-                                           QString::fromLatin1(allowed.join(" or ")));
-}
 
 QTEST_GUILESS_MAIN(UnsavedKilled_test)
 #include "UnsavedKilled_test.moc"

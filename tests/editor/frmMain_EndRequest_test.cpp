@@ -43,276 +43,254 @@ class frmMain_EndRequest_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        setSoundPlayer([](const QString &, unsigned) {});
+        m_request = std::make_unique<EndRequest>([] { return gChanged; });
+        connect(m_request.get(), &EndRequest::begun, this, [] { gStopImport = true; });
+        m_main = std::make_unique<MainWindow>();
+        m_list = m_main->path(u"animals.lwx"_s);
+        gFileName = m_list;
+        m_main->fill(3);
+    }
 
-    void withoutChangesNothingIsAsked();
-    void yesSaves();
-    void noSavesNothing();
-    void yesWithoutANameAsksForOne();
-    void aCancelledSaveAsEndsTheProgram();
-    void aSaveThatFailsKeepsTheProgram();
-    void formsAreCancelledBeforeTheQuestion_data();
-    void formsAreCancelledBeforeTheQuestion();
-    void anImportEndsAndTheListIsSavedUnderItsOwnName();
-    void theGameIsLeft();
-    void aSplashGoesWithoutAMainWindow();
-    void theDialogForANameAtTheEndIsNotCancelled();
-    void atLogoutTheAnswerIsHonoured_data();
-    void atLogoutTheAnswerIsHonoured();
-    void aProcessThatGetsTheSignalEndsWithItsAnswerHonoured_data();
-    void aProcessThatGetsTheSignalEndsWithItsAnswerHonoured();
-    void theProgramItselfEndsDuringItsSplash();
+    void cleanup()
+    {
+        QVERIFY(m_main->answers.allSeen());
+        m_main.reset();
+        m_request.reset();
+        setSoundPlayer({});
+    }
+
+    void withoutChangesNothingIsAsked()
+    {
+        QCOMPARE(run([] { raise(SIGTERM); }), 0);
+        QVERIFY(!m_main->window().isVisible());
+        QCOMPARE(m_main->answers.seen(), 0);
+    }
+
+    void yesSaves()
+    {
+        addEntry(*m_main, u"cow"_s);
+        const Entries entries = openEntries();
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
+        QCOMPARE(run([] { raise(SIGTERM); }), 0);
+        QCOMPARE(readFile(m_list), listBytes(entries));
+        QVERIFY(!m_main->window().isVisible());
+    }
+
+    void noSavesNothing()
+    {
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::No);
+        QCOMPARE(run([] { raise(SIGTERM); }), 0);
+        QVERIFY(!QFile::exists(m_list));
+    }
+
+    void yesWithoutANameAsksForOne()
+    {
+        gFileName.clear();
+        addEntry(*m_main, u"cow"_s);
+        const Entries entries = openEntries();
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
+        m_main->answers.chooseFile(m_list);
+        QCOMPARE(run([] { raise(SIGTERM); }), 0);
+        QCOMPARE(readFile(m_list), listBytes(entries));
+    }
+
+    void aCancelledSaveAsEndsTheProgram()
+    {
+        gFileName.clear();
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
+        m_main->answers.cancelFileDialog();
+        QCOMPARE(run([] { raise(SIGTERM); }), 0);
+    }
+
+    void aSaveThatFailsKeepsTheProgram()
+    {
+        gFileName = m_main->path(u"nowhere/animals.lwx"_s);
+        addEntry(*m_main, u"cow"_s);
+        const Entries entries = openEntries();
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
+        m_main->answers.expectAnyMsgBox(QMessageBox::Ok, [this](QMessageBox &box) {
+            QVERIFY(box.text().startsWith(u"Run-time error '76':"_s));
+            QVERIFY(m_main->window().isVisible());
+            QCOMPARE(openEntries().size(), 4);
+            // Asked once more, the program does not end either without an answer.
+            gFileName = m_list;
+            m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
+            QTimer::singleShot(0, &m_main->window(), [] { raise(SIGTERM); });
+        });
+        QCOMPARE(run([] { raise(SIGTERM); }), 0);
+        QCOMPARE(readFile(m_list), listBytes(entries));
+    }
+
+    void formsAreCancelledBeforeTheQuestion_data()
+    {
+        QTest::addColumn<QByteArray>("command");
+        QTest::addColumn<QByteArray>("form");
+        QTest::newRow("print") << "mnuPrint"_ba
+                               << "frmPrint"_ba;
+        QTest::newRow("export") << "mnuExport"_ba
+                                << "dlgExport"_ba;
+        QTest::newRow("flash cards") << "mnuQuickFlash"_ba
+                                     << "dlgQuickFlash"_ba;
+    }
+
+    void formsAreCancelledBeforeTheQuestion()
+    {
+        QFETCH(QByteArray, command);
+        QFETCH(QByteArray, form);
+        addEntry(*m_main, u"cow"_s);
+        const Entries entries = openEntries();
+        m_main->answers.useForm(form.constData(), [](QDialog &dialog) {
+            raise(SIGTERM);
+            QTRY_VERIFY(!dialog.isVisible());
+        });
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
+        QCOMPARE(run([&] { m_main->choose(command.constData()); }), 0);
+        QCOMPARE(m_main->answers.seen(), 2);
+        QCOMPARE(readFile(m_list), listBytes(entries));
+    }
+
+    void anImportEndsAndTheListIsSavedUnderItsOwnName()
+    {
+        const QString source = m_main->path(u"source.lwx"_s);
+        const Entries words{{u"new"_s, u"a definition"_s, u"A sentence."_s},
+                            {u"word 1"_s, {}, {}},
+                            {u"word 2"_s, {}, {}},
+                            {u"word 3"_s, {}, {}}};
+        writeFile(source, listBytes(words));
+        const Entries before = openEntries();
+        m_main->answers.chooseFile(source);
+        m_main->answers.useForm("dlgWordExist", [](QDialog &dialog) {
+            raise(SIGTERM);
+            QTRY_VERIFY(!dialog.isVisible());
+        });
+        // The other words are not asked about. The box that counts them may be closed before it is
+        // seen here. The last question's default button is Yes.
+        QStringList boxes;
+        m_main->answers.seeOtherMsgBoxes([&boxes](const QString &text) { boxes += text; });
+        QCOMPARE(run([this] { m_main->choose("mnuImport"); }), 0);
+        boxes.removeOne(u"1 words imported"_s);
+        QCOMPARE(boxes, QStringList{LastQuestion});
+        QCOMPARE(readFile(m_list), listBytes(before + Entries{words[0]}));
+        QCOMPARE(readFile(source), listBytes(words));
+    }
+
+    void theGameIsLeft()
+    {
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes, [this](QMessageBox &) {
+            QVERIFY(m_main->window().isVisible());
+        });
+        QCOMPARE(run([this] {
+                     m_main->click("cmdPlayScramble");
+                     QVERIFY(!m_main->window().isVisible());
+                     raise(SIGTERM);
+                 }),
+                 0);
+        QVERIFY(QFile::exists(m_list));
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (const QWidget *window : windows)
+            QVERIFY2(!window->isVisible(), qPrintable(window->objectName()));
+    }
+
+    void aSplashGoesWithoutAMainWindow()
+    {
+        m_main->window().hide();
+        frmSplash splash;
+        QSignalSpy unloaded(&splash, &frmSplash::unloaded);
+        splash.show();
+        QCOMPARE(run([] { raise(SIGTERM); }), 0);
+        QVERIFY(!splash.isVisible());
+        QCOMPARE(unloaded.size(), 0);
+    }
+
+    // The person has answered Yes already: a cancelled dialog would end the program without a save.
+    void theDialogForANameAtTheEndIsNotCancelled()
+    {
+        gFileName.clear();
+        addEntry(*m_main, u"cow"_s);
+        const Entries entries = openEntries();
+        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
+        m_main->answers.chooseFile(m_list, [this](QFileDialog &) {
+            QSignalSpy looks(m_request->findChild<QTimer *>(), &QTimer::timeout);
+            raise(SIGTERM);
+            QTRY_VERIFY(looks.size() >= 3);
+        });
+        QCOMPARE(run([this] { m_main->window().close(); }), 0);
+        QCOMPARE(readFile(m_list), listBytes(entries));
+    }
+
+    void atLogoutTheAnswerIsHonoured_data()
+    {
+        QTest::addColumn<bool>("yes");
+        QTest::newRow("Yes") << true;
+        QTest::newRow("No") << false;
+    }
+
+    void atLogoutTheAnswerIsHonoured()
+    {
+        QFETCH(bool, yes);
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(LastQuestion, yes ? QMessageBox::Yes : QMessageBox::No);
+        bool goesOn = false;
+        QCOMPARE(run([&] { goesOn = m_request->mayLogOut(); }), 0);
+        QVERIFY(goesOn);
+        QCOMPARE(QFile::exists(m_list), yes);
+    }
+
+    void aProcessThatGetsTheSignalEndsWithItsAnswerHonoured_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::newRow("Yes") << u"Yes"_s;
+        QTest::newRow("No") << u"No"_s;
+    }
+
+    void aProcessThatGetsTheSignalEndsWithItsAnswerHonoured()
+    {
+        QFETCH(QString, answer);
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(), {ChildArgument, m_list, answer});
+        while (!process.canReadLine())
+            QVERIFY(process.waitForReadyRead());
+        process.terminate();
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+        if (answer == u"Yes"_s)
+            QCOMPARE(readFile(m_list), listBytes({addedEntry(u"cow"_s)}));
+        else
+            QVERIFY(!QFile::exists(m_list));
+    }
+
+    void theProgramItselfEndsDuringItsSplash()
+    {
+        QProcess process;
+        process.start(QStringLiteral(PROGRAM), QStringList());
+        QVERIFY(process.waitForStarted());
+        // It looks for another copy before it shows anything.
+        QTRY_VERIFY(QFile::exists(m_main->path(u".local/share/Lexibrook/tanglewit.lock"_s)));
+        process.terminate();
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+    }
 
 private:
     // The program with this command, to its end.
-    int run(const std::function<void()> &command);
+    int run(const std::function<void()> &command)
+    {
+        QTimer::singleShot(0, &m_main->window(), command);
+        return Application::exec();
+    }
 
     std::unique_ptr<EndRequest> m_request;
     std::unique_ptr<MainWindow> m_main;
     QString m_list;
 };
-
-void frmMain_EndRequest_test::init()
-{
-    setSoundPlayer([](const QString &, unsigned) {});
-    m_request = std::make_unique<EndRequest>([] { return gChanged; });
-    connect(m_request.get(), &EndRequest::begun, this, [] { gStopImport = true; });
-    m_main = std::make_unique<MainWindow>();
-    m_list = m_main->path(u"animals.lwx"_s);
-    gFileName = m_list;
-    m_main->fill(3);
-}
-
-void frmMain_EndRequest_test::cleanup()
-{
-    QVERIFY(m_main->answers.allSeen());
-    m_main.reset();
-    m_request.reset();
-    setSoundPlayer({});
-}
-
-int frmMain_EndRequest_test::run(const std::function<void()> &command)
-{
-    QTimer::singleShot(0, &m_main->window(), command);
-    return Application::exec();
-}
-
-void frmMain_EndRequest_test::withoutChangesNothingIsAsked()
-{
-    QCOMPARE(run([] { raise(SIGTERM); }), 0);
-    QVERIFY(!m_main->window().isVisible());
-    QCOMPARE(m_main->answers.seen(), 0);
-}
-
-void frmMain_EndRequest_test::yesSaves()
-{
-    addEntry(*m_main, u"cow"_s);
-    const Entries entries = openEntries();
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-    QCOMPARE(run([] { raise(SIGTERM); }), 0);
-    QCOMPARE(readFile(m_list), listBytes(entries));
-    QVERIFY(!m_main->window().isVisible());
-}
-
-void frmMain_EndRequest_test::noSavesNothing()
-{
-    addEntry(*m_main, u"cow"_s);
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::No);
-    QCOMPARE(run([] { raise(SIGTERM); }), 0);
-    QVERIFY(!QFile::exists(m_list));
-}
-
-void frmMain_EndRequest_test::yesWithoutANameAsksForOne()
-{
-    gFileName.clear();
-    addEntry(*m_main, u"cow"_s);
-    const Entries entries = openEntries();
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-    m_main->answers.chooseFile(m_list);
-    QCOMPARE(run([] { raise(SIGTERM); }), 0);
-    QCOMPARE(readFile(m_list), listBytes(entries));
-}
-
-void frmMain_EndRequest_test::aCancelledSaveAsEndsTheProgram()
-{
-    gFileName.clear();
-    addEntry(*m_main, u"cow"_s);
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-    m_main->answers.cancelFileDialog();
-    QCOMPARE(run([] { raise(SIGTERM); }), 0);
-}
-
-void frmMain_EndRequest_test::aSaveThatFailsKeepsTheProgram()
-{
-    gFileName = m_main->path(u"nowhere/animals.lwx"_s);
-    addEntry(*m_main, u"cow"_s);
-    const Entries entries = openEntries();
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-    m_main->answers.expectAnyMsgBox(QMessageBox::Ok, [this](QMessageBox &box) {
-        QVERIFY(box.text().startsWith(u"Run-time error '76':"_s));
-        QVERIFY(m_main->window().isVisible());
-        QCOMPARE(openEntries().size(), 4);
-        // Asked once more, the program does not end either without an answer.
-        gFileName = m_list;
-        m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-        QTimer::singleShot(0, &m_main->window(), [] { raise(SIGTERM); });
-    });
-    QCOMPARE(run([] { raise(SIGTERM); }), 0);
-    QCOMPARE(readFile(m_list), listBytes(entries));
-}
-
-void frmMain_EndRequest_test::formsAreCancelledBeforeTheQuestion_data()
-{
-    QTest::addColumn<QByteArray>("command");
-    QTest::addColumn<QByteArray>("form");
-    QTest::newRow("print") << "mnuPrint"_ba
-                           << "frmPrint"_ba;
-    QTest::newRow("export") << "mnuExport"_ba
-                            << "dlgExport"_ba;
-    QTest::newRow("flash cards") << "mnuQuickFlash"_ba
-                                 << "dlgQuickFlash"_ba;
-}
-
-void frmMain_EndRequest_test::formsAreCancelledBeforeTheQuestion()
-{
-    QFETCH(QByteArray, command);
-    QFETCH(QByteArray, form);
-    addEntry(*m_main, u"cow"_s);
-    const Entries entries = openEntries();
-    m_main->answers.useForm(form.constData(), [](QDialog &dialog) {
-        raise(SIGTERM);
-        QTRY_VERIFY(!dialog.isVisible());
-    });
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-    QCOMPARE(run([&] { m_main->choose(command.constData()); }), 0);
-    QCOMPARE(m_main->answers.seen(), 2);
-    QCOMPARE(readFile(m_list), listBytes(entries));
-}
-
-void frmMain_EndRequest_test::anImportEndsAndTheListIsSavedUnderItsOwnName()
-{
-    const QString source = m_main->path(u"source.lwx"_s);
-    const Entries words{{u"new"_s, u"a definition"_s, u"A sentence."_s},
-                        {u"word 1"_s, {}, {}},
-                        {u"word 2"_s, {}, {}},
-                        {u"word 3"_s, {}, {}}};
-    writeFile(source, listBytes(words));
-    const Entries before = openEntries();
-    m_main->answers.chooseFile(source);
-    m_main->answers.useForm("dlgWordExist", [](QDialog &dialog) {
-        raise(SIGTERM);
-        QTRY_VERIFY(!dialog.isVisible());
-    });
-    // The other words are not asked about. The box that counts them may be closed before it is
-    // seen here. The last question's default button is Yes.
-    QStringList boxes;
-    m_main->answers.seeOtherMsgBoxes([&boxes](const QString &text) { boxes += text; });
-    QCOMPARE(run([this] { m_main->choose("mnuImport"); }), 0);
-    boxes.removeOne(u"1 words imported"_s);
-    QCOMPARE(boxes, QStringList{LastQuestion});
-    QCOMPARE(readFile(m_list), listBytes(before + Entries{words[0]}));
-    QCOMPARE(readFile(source), listBytes(words));
-}
-
-void frmMain_EndRequest_test::theGameIsLeft()
-{
-    addEntry(*m_main, u"cow"_s);
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes,
-                                 [this](QMessageBox &) { QVERIFY(m_main->window().isVisible()); });
-    QCOMPARE(run([this] {
-                 m_main->click("cmdPlayScramble");
-                 QVERIFY(!m_main->window().isVisible());
-                 raise(SIGTERM);
-             }),
-             0);
-    QVERIFY(QFile::exists(m_list));
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (const QWidget *window : windows)
-        QVERIFY2(!window->isVisible(), qPrintable(window->objectName()));
-}
-
-void frmMain_EndRequest_test::aSplashGoesWithoutAMainWindow()
-{
-    m_main->window().hide();
-    frmSplash splash;
-    QSignalSpy unloaded(&splash, &frmSplash::unloaded);
-    splash.show();
-    QCOMPARE(run([] { raise(SIGTERM); }), 0);
-    QVERIFY(!splash.isVisible());
-    QCOMPARE(unloaded.size(), 0);
-}
-
-// The person has answered Yes already: a cancelled dialog would end the program without a save.
-void frmMain_EndRequest_test::theDialogForANameAtTheEndIsNotCancelled()
-{
-    gFileName.clear();
-    addEntry(*m_main, u"cow"_s);
-    const Entries entries = openEntries();
-    m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
-    m_main->answers.chooseFile(m_list, [this](QFileDialog &) {
-        QSignalSpy looks(m_request->findChild<QTimer *>(), &QTimer::timeout);
-        raise(SIGTERM);
-        QTRY_VERIFY(looks.size() >= 3);
-    });
-    QCOMPARE(run([this] { m_main->window().close(); }), 0);
-    QCOMPARE(readFile(m_list), listBytes(entries));
-}
-
-void frmMain_EndRequest_test::atLogoutTheAnswerIsHonoured_data()
-{
-    QTest::addColumn<bool>("yes");
-    QTest::newRow("Yes") << true;
-    QTest::newRow("No") << false;
-}
-
-void frmMain_EndRequest_test::atLogoutTheAnswerIsHonoured()
-{
-    QFETCH(bool, yes);
-    addEntry(*m_main, u"cow"_s);
-    m_main->answers.expectMsgBox(LastQuestion, yes ? QMessageBox::Yes : QMessageBox::No);
-    bool goesOn = false;
-    QCOMPARE(run([&] { goesOn = m_request->mayLogOut(); }), 0);
-    QVERIFY(goesOn);
-    QCOMPARE(QFile::exists(m_list), yes);
-}
-
-void frmMain_EndRequest_test::aProcessThatGetsTheSignalEndsWithItsAnswerHonoured_data()
-{
-    QTest::addColumn<QString>("answer");
-    QTest::newRow("Yes") << u"Yes"_s;
-    QTest::newRow("No") << u"No"_s;
-}
-
-void frmMain_EndRequest_test::aProcessThatGetsTheSignalEndsWithItsAnswerHonoured()
-{
-    QFETCH(QString, answer);
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), {ChildArgument, m_list, answer});
-    while (!process.canReadLine())
-        QVERIFY(process.waitForReadyRead());
-    process.terminate();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 0);
-    if (answer == u"Yes"_s)
-        QCOMPARE(readFile(m_list), listBytes({addedEntry(u"cow"_s)}));
-    else
-        QVERIFY(!QFile::exists(m_list));
-}
-
-void frmMain_EndRequest_test::theProgramItselfEndsDuringItsSplash()
-{
-    QProcess process;
-    process.start(QStringLiteral(PROGRAM), QStringList());
-    QVERIFY(process.waitForStarted());
-    // It looks for another copy before it shows anything.
-    QTRY_VERIFY(QFile::exists(m_main->path(u".local/share/Lexibrook/tanglewit.lock"_s)));
-    process.terminate();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 0);
-}
 
 int main(int argc, char *argv[])
 {

@@ -10,11 +10,11 @@
 #include <QFileInfo>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString SaveChanges =
-    QStringLiteral("Your changes have not been saved.  Do you want to save them?");
+const QString SaveChanges = u"Your changes have not been saved.  Do you want to save them?"_s;
 
 void leave(MainWindow &main, const QString &way)
 {
@@ -34,7 +34,7 @@ void addWays()
 void addCat(MainWindow &main)
 {
     main.click("cmdNewWord");
-    main.typeEntry(QStringLiteral("cat"), QStringLiteral("animal"), QStringLiteral("The cat."));
+    main.typeEntry(u"cat"_s, u"animal"_s, u"The cat."_s);
     main.click("cmdAdd");
 }
 
@@ -53,13 +53,13 @@ QStringList wordsIn(const QString &path)
 // The path of a file in a folder that does not exist.
 QString noSuchPlace(MainWindow &main)
 {
-    return main.path(QStringLiteral("nowhere/list.lwx"));
+    return main.path(u"nowhere/list.lwx"_s);
 }
 
 void expectPathNotFound(MainWindow &main)
 {
     main.answers.expectAnyMsgBox(QMessageBox::Ok, [path = noSuchPlace(main)](QMessageBox &box) {
-        QVERIFY2(box.text().startsWith(QStringLiteral("Run-time error '76':\n\nPath not found\n")),
+        QVERIFY2(box.text().startsWith(u"Run-time error '76':\n\nPath not found\n"_s),
                  qUtf8Printable(box.text()));
         QVERIFY(box.text().contains(path));
     });
@@ -73,190 +73,184 @@ class frmMain_Exit_test final : public QObject
 
 private Q_SLOTS:
     void withoutChangesNothingIsAsked_data() { addWays(); }
-    void withoutChangesNothingIsAsked();
+
+    void withoutChangesNothingIsAsked()
+    {
+        QFETCH(QString, way);
+        MainWindow main;
+        main.fill(3);
+        leave(main, way);
+        QVERIFY(main.answers.allSeen());
+        QVERIFY(!main.window().isVisible());
+    }
+
     void yesSavesUnderTheListsName_data() { addWays(); }
-    void yesSavesUnderTheListsName();
+
+    void yesSavesUnderTheListsName()
+    {
+        QFETCH(QString, way);
+        MainWindow main;
+        gFileName = main.path(u"list.lwx"_s);
+        addCat(main);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        leave(main, way);
+        QVERIFY(main.answers.allSeen());
+        QCOMPARE(main.answers.seen(), 1);
+        QCOMPARE(wordsIn(gFileName), QStringList{u"cat"_s});
+        QVERIFY(!gChanged);
+        QVERIFY(!main.window().isVisible());
+    }
+
     void yesWithoutANameOpensSaveAs_data() { addWays(); }
-    void yesWithoutANameOpensSaveAs();
+
+    void yesWithoutANameOpensSaveAs()
+    {
+        QFETCH(QString, way);
+        MainWindow main;
+        addCat(main);
+        const QString path = main.path(u"new.lwx"_s);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        main.answers.chooseFile(
+            path, [](QFileDialog &dialog) { QCOMPARE(dialog.windowTitle(), u"Save File As"_s); });
+        leave(main, way);
+        QVERIFY(main.answers.allSeen());
+        QCOMPARE(main.answers.seen(), 2);
+        QCOMPARE(wordsIn(path), QStringList{u"cat"_s});
+        QVERIFY(!main.window().isVisible());
+    }
+
     void aCancelledSaveAsEndsTheProgram_data() { addWays(); }
-    void aCancelledSaveAsEndsTheProgram();
+
+    void aCancelledSaveAsEndsTheProgram()
+    {
+        QFETCH(QString, way);
+        MainWindow main;
+        addCat(main);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        main.answers.cancelFileDialog();
+        leave(main, way);
+        QVERIFY(main.answers.allSeen());
+        QCOMPARE(main.answers.seen(), 2);
+        QVERIFY(!main.window().isVisible());
+    }
+
     void noSavesNothing_data() { addWays(); }
-    void noSavesNothing();
-    void theQuestionHasYesAndNoOnly();
+
+    void noSavesNothing()
+    {
+        QFETCH(QString, way);
+        MainWindow main;
+        gFileName = main.path(u"list.lwx"_s);
+        addCat(main);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        leave(main, way);
+        QVERIFY(main.answers.allSeen());
+        QCOMPARE(main.answers.seen(), 1);
+        QVERIFY(!QFileInfo::exists(gFileName));
+        QVERIFY(!main.window().isVisible());
+    }
+
+    void theQuestionHasYesAndNoOnly()
+    {
+        MainWindow main;
+        addCat(main);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::No, [&main](QMessageBox &box) {
+            QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+            QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
+            QVERIFY(box.isVisible()); // No would lose the changes
+            // The window stands while it is asked.
+            QVERIFY(main.window().isVisible());
+        });
+        main.choose("mnuExit");
+        QVERIFY(main.answers.allSeen());
+    }
+
     void aSaveThatFailsKeepsTheProgramAndTheWords_data() { addWays(); }
-    void aSaveThatFailsKeepsTheProgramAndTheWords();
-    void aSaveAsThatFailsKeepsTheProgramAndTheWords_data() { addWays(); }
-    void aSaveAsThatFailsKeepsTheProgramAndTheWords();
-    void afterAFailedSaveTheQuestionComesAgain();
-    void anEmptiedListWritesNothingAndEnds();
-    void reallySavedChangesAreNotAskedAbout();
-};
 
-void frmMain_Exit_test::withoutChangesNothingIsAsked()
-{
-    QFETCH(QString, way);
-    MainWindow main;
-    main.fill(3);
-    leave(main, way);
-    QVERIFY(main.answers.allSeen());
-    QVERIFY(!main.window().isVisible());
-}
-
-void frmMain_Exit_test::yesSavesUnderTheListsName()
-{
-    QFETCH(QString, way);
-    MainWindow main;
-    gFileName = main.path(QStringLiteral("list.lwx"));
-    addCat(main);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-    leave(main, way);
-    QVERIFY(main.answers.allSeen());
-    QCOMPARE(main.answers.seen(), 1);
-    QCOMPARE(wordsIn(gFileName), QStringList{QStringLiteral("cat")});
-    QVERIFY(!gChanged);
-    QVERIFY(!main.window().isVisible());
-}
-
-void frmMain_Exit_test::yesWithoutANameOpensSaveAs()
-{
-    QFETCH(QString, way);
-    MainWindow main;
-    addCat(main);
-    const QString path = main.path(QStringLiteral("new.lwx"));
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-    main.answers.chooseFile(path, [](QFileDialog &dialog) {
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
-    });
-    leave(main, way);
-    QVERIFY(main.answers.allSeen());
-    QCOMPARE(main.answers.seen(), 2);
-    QCOMPARE(wordsIn(path), QStringList{QStringLiteral("cat")});
-    QVERIFY(!main.window().isVisible());
-}
-
-void frmMain_Exit_test::aCancelledSaveAsEndsTheProgram()
-{
-    QFETCH(QString, way);
-    MainWindow main;
-    addCat(main);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-    main.answers.cancelFileDialog();
-    leave(main, way);
-    QVERIFY(main.answers.allSeen());
-    QCOMPARE(main.answers.seen(), 2);
-    QVERIFY(!main.window().isVisible());
-}
-
-void frmMain_Exit_test::noSavesNothing()
-{
-    QFETCH(QString, way);
-    MainWindow main;
-    gFileName = main.path(QStringLiteral("list.lwx"));
-    addCat(main);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::No);
-    leave(main, way);
-    QVERIFY(main.answers.allSeen());
-    QCOMPARE(main.answers.seen(), 1);
-    QVERIFY(!QFileInfo::exists(gFileName));
-    QVERIFY(!main.window().isVisible());
-}
-
-void frmMain_Exit_test::theQuestionHasYesAndNoOnly()
-{
-    MainWindow main;
-    addCat(main);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::No, [&main](QMessageBox &box) {
-        QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
-        QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
-        QVERIFY(box.isVisible()); // No would lose the changes
-        // The window stands while it is asked.
+    void aSaveThatFailsKeepsTheProgramAndTheWords()
+    {
+        QFETCH(QString, way);
+        MainWindow main;
+        gFileName = noSuchPlace(main);
+        addCat(main);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        expectPathNotFound(main);
+        leave(main, way);
+        QVERIFY(main.answers.allSeen());
         QVERIFY(main.window().isVisible());
-    });
-    main.choose("mnuExit");
-    QVERIFY(main.answers.allSeen());
-}
+        QCOMPARE(gVocabList().NumWords(), 1);
+        QVERIFY(gChanged);
+        QCOMPARE(gFileName, noSuchPlace(main));
+        QCOMPARE(main.row(1).at(1), u"cat"_s);
+    }
 
-void frmMain_Exit_test::aSaveThatFailsKeepsTheProgramAndTheWords()
-{
-    QFETCH(QString, way);
-    MainWindow main;
-    gFileName = noSuchPlace(main);
-    addCat(main);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-    expectPathNotFound(main);
-    leave(main, way);
-    QVERIFY(main.answers.allSeen());
-    QVERIFY(main.window().isVisible());
-    QCOMPARE(gVocabList().NumWords(), 1);
-    QVERIFY(gChanged);
-    QCOMPARE(gFileName, noSuchPlace(main));
-    QCOMPARE(main.row(1).at(1), QStringLiteral("cat"));
-}
+    void aSaveAsThatFailsKeepsTheProgramAndTheWords_data() { addWays(); }
 
-void frmMain_Exit_test::aSaveAsThatFailsKeepsTheProgramAndTheWords()
-{
-    QFETCH(QString, way);
-    MainWindow main;
-    addCat(main);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-    main.answers.chooseFile(noSuchPlace(main));
-    expectPathNotFound(main);
-    leave(main, way);
-    QVERIFY(main.answers.allSeen());
-    QVERIFY(main.window().isVisible());
-    QCOMPARE(gVocabList().NumWords(), 1);
-    QVERIFY(gChanged);
-    QCOMPARE(gFileName, QString());
-    QCOMPARE(main.window().windowTitle(), QStringLiteral("LexiBrook- The Tanglewit: (Untitled)"));
-}
+    void aSaveAsThatFailsKeepsTheProgramAndTheWords()
+    {
+        QFETCH(QString, way);
+        MainWindow main;
+        addCat(main);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        main.answers.chooseFile(noSuchPlace(main));
+        expectPathNotFound(main);
+        leave(main, way);
+        QVERIFY(main.answers.allSeen());
+        QVERIFY(main.window().isVisible());
+        QCOMPARE(gVocabList().NumWords(), 1);
+        QVERIFY(gChanged);
+        QCOMPARE(gFileName, QString());
+        QCOMPARE(main.window().windowTitle(), u"LexiBrook- The Tanglewit: (Untitled)"_s);
+    }
 
-void frmMain_Exit_test::afterAFailedSaveTheQuestionComesAgain()
-{
-    MainWindow main;
-    gFileName = noSuchPlace(main);
-    addCat(main);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-    expectPathNotFound(main);
-    main.choose("mnuExit");
-    QVERIFY(main.answers.allSeen());
-    // The list is as it was and can be worked on.
-    main.typeEntry(QStringLiteral("dog"));
-    main.click("cmdAdd");
-    QCOMPARE(gVocabList().NumWords(), 2);
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::No);
-    main.choose("mnuExit");
-    QVERIFY(main.answers.allSeen());
-    QVERIFY(!main.window().isVisible());
-}
+    void afterAFailedSaveTheQuestionComesAgain()
+    {
+        MainWindow main;
+        gFileName = noSuchPlace(main);
+        addCat(main);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        expectPathNotFound(main);
+        main.choose("mnuExit");
+        QVERIFY(main.answers.allSeen());
+        // The list is as it was and can be worked on.
+        main.typeEntry(u"dog"_s);
+        main.click("cmdAdd");
+        QCOMPARE(gVocabList().NumWords(), 2);
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        main.choose("mnuExit");
+        QVERIFY(main.answers.allSeen());
+        QVERIFY(!main.window().isVisible());
+    }
 
-void frmMain_Exit_test::anEmptiedListWritesNothingAndEnds()
-{
-    MainWindow main;
-    gFileName = main.path(QStringLiteral("list.lwx"));
-    main.fill(1);
-    main.clickCell(1, 1);
-    main.answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'word 1' ?"),
-                              QMessageBox::Yes);
-    main.click("cmdDelete");
-    main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-    main.choose("mnuExit");
-    QVERIFY(main.answers.allSeen());
-    QVERIFY(!QFileInfo::exists(gFileName));
-    QVERIFY(!main.window().isVisible());
-}
+    void anEmptiedListWritesNothingAndEnds()
+    {
+        MainWindow main;
+        gFileName = main.path(u"list.lwx"_s);
+        main.fill(1);
+        main.clickCell(1, 1);
+        main.answers.expectMsgBox(u"Are you sure you want to delete 'word 1' ?"_s,
+                                  QMessageBox::Yes);
+        main.click("cmdDelete");
+        main.answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
+        main.choose("mnuExit");
+        QVERIFY(main.answers.allSeen());
+        QVERIFY(!QFileInfo::exists(gFileName));
+        QVERIFY(!main.window().isVisible());
+    }
 
-void frmMain_Exit_test::reallySavedChangesAreNotAskedAbout()
-{
-    MainWindow main;
-    gFileName = main.path(QStringLiteral("list.lwx"));
-    addCat(main);
-    main.answers.expectMsgBox(gFileName + QStringLiteral(" has been saved."));
-    main.choose("mnuSave");
-    main.choose("mnuExit");
-    QVERIFY(main.answers.allSeen());
-    QCOMPARE(main.answers.seen(), 1);
-    QVERIFY(!main.window().isVisible());
-}
+    void reallySavedChangesAreNotAskedAbout()
+    {
+        MainWindow main;
+        gFileName = main.path(u"list.lwx"_s);
+        addCat(main);
+        main.answers.expectMsgBox(gFileName + u" has been saved."_s);
+        main.choose("mnuSave");
+        main.choose("mnuExit");
+        QVERIFY(main.answers.allSeen());
+        QCOMPARE(main.answers.seen(), 1);
+        QVERIFY(!main.window().isVisible());
+    }
+};
 
 int main(int argc, char *argv[])
 {

@@ -5,6 +5,8 @@
 #include <optional>
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What a reader that never looks beyond the end makes of the bytes; nothing where the count is
@@ -51,7 +53,7 @@ private Q_SLOTS:
     void aDamagedFileOpensAsFarAsItGoesOrLeavesTheOpenListWhole()
     {
         MainWindow main;
-        const QString path = main.path(QStringLiteral("damaged.lwx"));
+        const QString path = main.path(u"damaged.lwx"_s);
         openList(main, wholeFile(main));
         int refused = 0;
         for (int i = 0; i < 300; ++i) {
@@ -65,7 +67,7 @@ private Q_SLOTS:
                 ++refused;
                 main.answers.expectAnyMsgBox(QMessageBox::Ok, [](QMessageBox &box) {
                     QVERIFY(box.text().startsWith(
-                        QStringLiteral("Run-time error '9':\n\nSubscript out of range\n")));
+                        u"Run-time error '9':\n\nSubscript out of range\n"_s));
                 });
             }
             main.choose("mnuOpen");
@@ -83,14 +85,11 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] static Entries wholeEntries()
-    {
-        return someEntries(40, QStringLiteral("animal"));
-    }
+    [[nodiscard]] static Entries wholeEntries() { return someEntries(40, u"animal"_s); }
 
     static QString wholeFile(MainWindow &main)
     {
-        const QString path = main.path(QStringLiteral("whole.lwx"));
+        const QString path = main.path(u"whole.lwx"_s);
         writeFile(path, listBytes(wholeEntries()));
         return path;
     }

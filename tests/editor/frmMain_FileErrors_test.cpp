@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -31,7 +32,7 @@ private:
         rlimit limit = m_oldLimit;
         limit.rlim_cur = largestFile;
         if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
-            Controls::fail(QStringLiteral("the size of files cannot be limited"));
+            Controls::fail(u"the size of files cannot be limited"_s);
     }
 
     rlimit m_oldLimit{};
@@ -47,12 +48,12 @@ private Q_SLOTS:
     void init()
     {
         m_main = std::make_unique<MainWindow>();
-        QVERIFY(QDir().mkdir(m_main->path(QStringLiteral("lists"))));
-        m_path = m_main->path(QStringLiteral("lists/animals.lwx"));
-        m_other = m_main->path(QStringLiteral("other.lwx"));
+        QVERIFY(QDir().mkdir(m_main->path(u"lists"_s)));
+        m_path = m_main->path(u"lists/animals.lwx"_s);
+        m_other = m_main->path(u"other.lwx"_s);
         writeFile(m_path, listBytes(m_entries));
         openList(*m_main, m_path);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
     }
 
     void cleanup()
@@ -63,7 +64,7 @@ private Q_SLOTS:
 
     void aFullDiskLeavesTheFileWholeAndTheChangesUnsaved()
     {
-        gVocabList().AddVocab(QStringLiteral("long"), QString(60'000, QLatin1Char('x')),
+        gVocabList().AddVocab(u"long"_s, QString(60'000, QLatin1Char('x')),
                               QString(60'000, QLatin1Char('y')));
         const Entries entries = openEntries();
         gSaved = false;
@@ -79,7 +80,7 @@ private Q_SLOTS:
         QVERIFY(m_main->action("mnuSave").isEnabled());
         QCOMPARE(readFile(m_path), listBytes(m_entries));
         QCOMPARE(QDir(QFileInfo(m_path).path()).entryList(QDir::Files | QDir::Hidden),
-                 QStringList{QStringLiteral("animals.lwx")});
+                 QStringList{u"animals.lwx"_s});
 
         // Elsewhere there is room.
         m_main->answers.chooseFile(m_other);
@@ -92,7 +93,7 @@ private Q_SLOTS:
 
     void saveAsToAFullDiskKeepsTheName()
     {
-        gVocabList().AddVocab(QStringLiteral("long"), QString(60'000, QLatin1Char('x')),
+        gVocabList().AddVocab(u"long"_s, QString(60'000, QLatin1Char('x')),
                               QString(60'000, QLatin1Char('y')));
         const OpenList before(*m_main);
         {
@@ -107,7 +108,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_other));
 
         const Entries entries = openEntries();
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->choose("mnuSave");
         QCOMPARE(readFile(m_path), listBytes(entries));
     }
@@ -115,9 +116,9 @@ private Q_SLOTS:
     void saveAsIntoAFolderThatIsGoneKeepsTheName()
     {
         const OpenList before(*m_main);
-        const QString lost = m_main->path(QStringLiteral("lost/animals.lwx"));
+        const QString lost = m_main->path(u"lost/animals.lwx"_s);
         m_main->answers.chooseFile(lost);
-        expectReport(lost, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        expectReport(lost, u"Run-time error '76':\n\nPath not found\n"_s);
         m_main->choose("mnuSaveAs");
         QVERIFY(OpenList(*m_main) == before);
         QVERIFY(gChanged);
@@ -130,8 +131,8 @@ private Q_SLOTS:
         QCOMPARE(mkfifo(QFile::encodeName(m_other).constData(), 0600), 0);
         const OpenList before(*m_main);
         m_main->answers.chooseFile(m_other);
-        m_main->answers.answerOverwrite(QStringLiteral("other.lwx"), QMessageBox::Yes);
-        expectReport(m_other, QStringLiteral("Run-time error '75':\n\nPath/File access error\n"));
+        m_main->answers.answerOverwrite(u"other.lwx"_s, QMessageBox::Yes);
+        expectReport(m_other, u"Run-time error '75':\n\nPath/File access error\n"_s);
         m_main->choose("mnuSaveAs");
         QVERIFY(OpenList(*m_main) == before);
         QVERIFY(gChanged);
@@ -143,23 +144,23 @@ private Q_SLOTS:
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
         m_main->choose("mnuNew");
-        addEntry(*m_main, QStringLiteral("cow"));
-        const QString lost = m_main->path(QStringLiteral("lost/animals.lwx"));
+        addEntry(*m_main, u"cow"_s);
+        const QString lost = m_main->path(u"lost/animals.lwx"_s);
         m_main->answers.chooseFile(lost);
-        expectReport(lost, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        expectReport(lost, u"Run-time error '76':\n\nPath not found\n"_s);
         m_main->choose("mnuSave");
         QCOMPARE(gFileName, QString());
         QCOMPARE(gFileTitle, QString());
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("(Untitled)"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"(Untitled)"_s);
         QVERIFY(gChanged);
         QVERIFY(m_main->action("mnuSave").isEnabled());
     }
 
     void saveWhoseFolderIsGoneKeepsTheChanges()
     {
-        QVERIFY(QDir(m_main->path(QStringLiteral("lists"))).removeRecursively());
+        QVERIFY(QDir(m_main->path(u"lists"_s)).removeRecursively());
         const OpenList before(*m_main);
-        expectReport(m_path, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        expectReport(m_path, u"Run-time error '76':\n\nPath not found\n"_s);
         m_main->choose("mnuSave");
         QVERIFY(OpenList(*m_main) == before);
         QVERIFY(gChanged);
@@ -171,7 +172,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_path));
         QVERIFY(QDir().mkdir(m_path));
         const OpenList before(*m_main);
-        expectReport(m_path, QStringLiteral("Run-time error '75':\n\nPath/File access error\n"));
+        expectReport(m_path, u"Run-time error '75':\n\nPath/File access error\n"_s);
         m_main->choose("mnuSave");
         QVERIFY(OpenList(*m_main) == before);
         QVERIFY(gChanged);
@@ -181,13 +182,13 @@ private Q_SLOTS:
     void aTextTooLongForTheFileIsReportedBeforeTheFileIsTouched()
     {
         m_main->click("cmdNewWord");
-        m_main->type("txtWord", QStringLiteral("long"));
+        m_main->type("txtWord", u"long"_s);
         m_main->control<EntryTextBox>("txtSentence").setText(QString(65'536, QLatin1Char('x')));
         m_main->click("cmdAdd");
         m_main->click("cmdAbort");
         const QDateTime written = QFileInfo(m_path).lastModified();
         const OpenList before(*m_main);
-        expectReport(QStringLiteral("word 7"), QStringLiteral("Run-time error '6':\n\nOverflow\n"));
+        expectReport(u"word 7"_s, u"Run-time error '6':\n\nOverflow\n"_s);
         m_main->choose("mnuSave");
         QVERIFY(OpenList(*m_main) == before);
         QVERIFY(gChanged);
@@ -195,7 +196,7 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(m_path).lastModified(), written);
 
         m_main->answers.chooseFile(m_other);
-        expectReport(QStringLiteral("word 7"), QStringLiteral("Run-time error '6':\n\nOverflow\n"));
+        expectReport(u"word 7"_s, u"Run-time error '6':\n\nOverflow\n"_s);
         m_main->choose("mnuSaveAs");
         QVERIFY(OpenList(*m_main) == before);
         QVERIFY(!QFile::exists(m_other));
@@ -204,7 +205,7 @@ private Q_SLOTS:
     void theLongestTextIsSavedAndReadWhole()
     {
         m_main->click("cmdNewWord");
-        m_main->type("txtWord", QStringLiteral("long"));
+        m_main->type("txtWord", u"long"_s);
         m_main->control<EntryTextBox>("txtSentence").setText(QString(65'535, QLatin1Char('x')));
         m_main->click("cmdAdd");
         m_main->click("cmdAbort");
@@ -220,14 +221,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("report");
-        const QString subscript = QStringLiteral("Run-time error '9':\n\nSubscript out of range\n");
+        const QString subscript = u"Run-time error '9':\n\nSubscript out of range\n"_s;
         QTest::newRow("count -1") << number16(-1) << subscript;
         QTest::newRow("count -32768") << number16(-32768) << subscript;
         QTest::newRow("negative count before good records")
             << number16(-5) + listBytes(m_entries).mid(2) << subscript;
         QTest::newRow("a pipe") << QByteArray()
-                                << QStringLiteral(
-                                       "Run-time error '75':\n\nPath/File access error\n");
+                                << u"Run-time error '75':\n\nPath/File access error\n"_s;
     }
 
     void aFileThatCannotBeReadLeavesTheOpenListWhole()
@@ -248,7 +248,7 @@ private Q_SLOTS:
         QVERIFY(gChanged);
 
         const Entries entries = openEntries();
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->choose("mnuSave");
         QCOMPARE(readFile(m_path), listBytes(entries));
     }
@@ -256,18 +256,17 @@ private Q_SLOTS:
     void aFileInAFolderThatIsGoneLeavesTheOpenListWhole()
     {
         const OpenList before(*m_main);
-        const QString lost = m_main->path(QStringLiteral("lost/animals.lwx"));
+        const QString lost = m_main->path(u"lost/animals.lwx"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
         m_main->answers.chooseFile(lost);
-        expectReport(lost, QStringLiteral("Run-time error '76':\n\nPath not found\n"));
+        expectReport(lost, u"Run-time error '76':\n\nPath not found\n"_s);
         m_main->choose("mnuOpen");
         QVERIFY(OpenList(*m_main) == before);
     }
 
 private:
-    void expectReport(const QString &part,
-                      const QString &start = QStringLiteral("Run-time error '"))
+    void expectReport(const QString &part, const QString &start = u"Run-time error '"_s)
     {
         m_main->answers.expectAnyMsgBox(QMessageBox::Ok, [part, start](QMessageBox &box) {
             QVERIFY2(box.text().startsWith(start) && box.text().contains(part),
@@ -276,7 +275,7 @@ private:
         });
     }
 
-    const Entries m_entries = someEntries(5, QStringLiteral("animal"));
+    const Entries m_entries = someEntries(5, u"animal"_s);
     QString m_path;
     QString m_other;
     std::unique_ptr<MainWindow> m_main;

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 class frmMain_FileNew_test final : public QObject
 {
@@ -17,7 +18,7 @@ private Q_SLOTS:
     void init()
     {
         m_main = std::make_unique<MainWindow>();
-        m_path = m_main->path(QStringLiteral("animals.lwx"));
+        m_path = m_main->path(u"animals.lwx"_s);
         writeFile(m_path, listBytes(m_entries));
         openList(*m_main, m_path);
         QCOMPARE(openEntries(), m_entries);
@@ -47,7 +48,7 @@ private Q_SLOTS:
 
     void cancelAtTheQuestionAboutSavingKeepsListAndTitle()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         const OpenList before(*m_main);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         answer(SaveChanges, QMessageBox::Cancel,
@@ -59,7 +60,7 @@ private Q_SLOTS:
 
     void escAtTheQuestionAboutSavingMeansCancel()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         const OpenList before(*m_main);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.escapeMsgBox(SaveChanges);
@@ -69,7 +70,7 @@ private Q_SLOTS:
 
     void noGivesTheChangesUp()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
         m_main->choose("mnuNew");
@@ -80,14 +81,13 @@ private Q_SLOTS:
 
     void yesSavesFirst()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->choose("mnuNew");
         QCOMPARE(gVocabList().NumWords().toInt(), 0);
-        QCOMPARE(readFile(m_path),
-                 listBytes(m_entries + Entries{addedEntry(QStringLiteral("cow"))}));
+        QCOMPARE(readFile(m_path), listBytes(m_entries + Entries{addedEntry(u"cow"_s)}));
     }
 
     void yesForAnUntitledListAsksForItsName()
@@ -95,12 +95,11 @@ private Q_SLOTS:
         startUntitledList();
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-        m_main->answers.chooseFile(m_main->path(QStringLiteral("second.lwx")));
+        m_main->answers.chooseFile(m_main->path(u"second.lwx"_s));
         m_main->choose("mnuNew");
         QCOMPARE(gVocabList().NumWords().toInt(), 0);
         QCOMPARE(gFileName, QString());
-        QCOMPARE(readFile(m_main->path(QStringLiteral("second.lwx"))),
-                 listBytes({addedEntry(QStringLiteral("cow"))}));
+        QCOMPARE(readFile(m_main->path(u"second.lwx"_s)), listBytes({addedEntry(u"cow"_s)}));
     }
 
     void aCancelledSaveAsKeepsTheListAlsoAfterAnEarlierSave()
@@ -119,15 +118,14 @@ private Q_SLOTS:
 
     void aSaveThatFailsKeepsTheList()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         QVERIFY(QFile::remove(m_path));
         QVERIFY(QDir().mkdir(m_path));
         const OpenList before(*m_main);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
         m_main->answers.expectAnyMsgBox(QMessageBox::Ok, [](QMessageBox &box) {
-            QVERIFY2(box.text().startsWith(
-                         QStringLiteral("Run-time error '75':\n\nPath/File access error\n")),
+            QVERIFY2(box.text().startsWith(u"Run-time error '75':\n\nPath/File access error\n"_s),
                      qPrintable(box.text()));
         });
         m_main->choose("mnuNew");
@@ -148,7 +146,7 @@ private Q_SLOTS:
         QCOMPARE(gFileName, QString());
         QCOMPARE(gFileTitle, QString());
         QCOMPARE(gOpenedFile, QString());
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("(Untitled)"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"(Untitled)"_s);
         QVERIFY(gNewWord);
         QVERIFY(!gWordSelected);
         QVERIFY(!gChanged);
@@ -179,46 +177,43 @@ private Q_SLOTS:
     {
         QFETCH(Qt::Key, key);
         startNewList();
-        m_main->typeEntry(QStringLiteral(" cat "), QStringLiteral("animal"),
-                          QStringLiteral("The cat."));
+        m_main->typeEntry(u" cat "_s, u"animal"_s, u"The cat."_s);
         const QByteArray box = QByteArray(QTest::currentDataTag()).split(' ').constFirst();
         m_main->control<QWidget>(box).setFocus();
         Controls::press(key);
-        const Entries cat{
-            {QStringLiteral(" cat "), QStringLiteral("animal"), QStringLiteral("The cat.")}};
+        const Entries cat{{u" cat "_s, u"animal"_s, u"The cat."_s}};
         QCOMPARE(openEntries(), cat);
         QVERIFY(gChanged);
         QVERIFY(m_main->action("mnuSave").isEnabled());
-        QCOMPARE(m_main->row(1), QStringList{QStringLiteral("1")} + cat.constFirst());
+        QCOMPARE(m_main->row(1), QStringList{u"1"_s} + cat.constFirst());
         checkReadyForTheNextWord(2);
 
-        m_main->type("txtWord", QStringLiteral("dog"));
+        m_main->type("txtWord", u"dog"_s);
         Controls::press(key);
-        QCOMPARE(openEntries(), cat + typedWord(QStringLiteral("dog")));
+        QCOMPARE(openEntries(), cat + typedWord(u"dog"_s));
         checkReadyForTheNextWord(3);
     }
 
     void enterWithoutAWordAddsNothingToTheNewList()
     {
         startNewList();
-        m_main->type("txtDefinition", QStringLiteral("animal"));
+        m_main->type("txtDefinition", u"animal"_s);
         Controls::press(Qt::Key_Return);
         QCOMPARE(gVocabList().NumWords().toInt(), 0);
         QVERIFY(!gChanged);
-        QCOMPARE(m_main->text("txtDefinition"), QStringLiteral("animal"));
+        QCOMPARE(m_main->text("txtDefinition"), u"animal"_s);
         QCOMPARE(m_main->window().focusWidget(), &m_main->control<QWidget>("txtWord"));
     }
 
     void newWordKeepsWhatIsTypedIntoTheNewList()
     {
         startNewList();
-        m_main->typeEntry(QStringLiteral("cat"), QStringLiteral("animal"),
-                          QStringLiteral("The cat."));
+        m_main->typeEntry(u"cat"_s, u"animal"_s, u"The cat."_s);
         m_main->click("cmdNewWord");
         QCOMPARE(m_main->look(), EditorModes::newWord());
-        QCOMPARE(m_main->text("txtWord"), QStringLiteral("cat"));
-        QCOMPARE(m_main->text("txtDefinition"), QStringLiteral("animal"));
-        QCOMPARE(m_main->text("txtSentence"), QStringLiteral("The cat."));
+        QCOMPARE(m_main->text("txtWord"), u"cat"_s);
+        QCOMPARE(m_main->text("txtDefinition"), u"animal"_s);
+        QCOMPARE(m_main->text("txtSentence"), u"The cat."_s);
         m_main->click("cmdAdd");
         QCOMPARE(openEntries().size(), 1);
         // From then on it opens empty boxes again.
@@ -230,12 +225,12 @@ private Q_SLOTS:
     void anImportIntoTheNewListKeepsWhatIsTyped()
     {
         startNewList();
-        m_main->type("txtWord", QStringLiteral("cat"));
+        m_main->type("txtWord", u"cat"_s);
         m_main->answers.chooseFile(m_path);
-        m_main->answers.expectMsgBox(QStringLiteral("5 words imported"));
+        m_main->answers.expectMsgBox(u"5 words imported"_s);
         m_main->choose("mnuImport");
         QTest::keyClick(&m_main->control<QWidget>("txtWord"), Qt::Key_Return);
-        QCOMPARE(openEntries(), m_entries + typedWord(QStringLiteral("cat")));
+        QCOMPARE(openEntries(), m_entries + typedWord(u"cat"_s));
         checkReadyForTheNextWord(7);
     }
 
@@ -243,9 +238,9 @@ private Q_SLOTS:
     {
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->choose("mnuNew");
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.cancelFileDialog([](QFileDialog &dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
+            QCOMPARE(dialog.windowTitle(), u"Save File As"_s);
             QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), QString());
         });
         m_main->choose("mnuSave");
@@ -293,14 +288,13 @@ private:
     void startUntitledList()
     {
         startNewList();
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
     }
 
     void checkEmptyPage()
     {
         QCOMPARE(m_main->row(0),
-                 (QStringList{QString(), QStringLiteral("Vocabulary Word"),
-                              QStringLiteral("Definition"), QStringLiteral("Sentence")}));
+                 (QStringList{QString(), u"Vocabulary Word"_s, u"Definition"_s, u"Sentence"_s}));
         for (int column = 1; column <= 3; ++column)
             QVERIFY(m_main->grid().cellBold(0, column));
         for (int row = 1; row <= 24; ++row)
@@ -311,7 +305,7 @@ private:
         QCOMPARE(m_main->grid().Col(), 1);
     }
 
-    const Entries m_entries = someEntries(5, QStringLiteral("animal"));
+    const Entries m_entries = someEntries(5, u"animal"_s);
     QString m_path;
     std::unique_ptr<MainWindow> m_main;
 };

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 class frmMain_FileOpen_test final : public QObject
 {
@@ -19,8 +20,8 @@ private Q_SLOTS:
     {
         m_main = std::make_unique<MainWindow>();
         QVERIFY(QDir().mkpath(pathOf(Place::WordLists)));
-        m_animals = m_main->path(QStringLiteral("animals.lwx"));
-        m_plants = m_main->path(QStringLiteral("plants.lwx"));
+        m_animals = m_main->path(u"animals.lwx"_s);
+        m_plants = m_main->path(u"plants.lwx"_s);
         writeFile(m_animals, listBytes(m_animalEntries));
         writeFile(m_plants, listBytes(m_plantEntries));
     }
@@ -45,12 +46,12 @@ private Q_SLOTS:
     void theDialogIsAsDesigned()
     {
         const auto inspect = [](QFileDialog &dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Open File"));
+            QCOMPARE(dialog.windowTitle(), u"Open File"_s);
             QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
             const auto &types = Controls::find<QComboBox>(dialog, "fileTypeCombo");
             QCOMPARE(types.count(), 2);
-            QCOMPARE(types.itemText(0), QStringLiteral("Vocab Data (*.lwx)"));
-            QCOMPARE(types.itemText(1), QStringLiteral("All files (*.*)"));
+            QCOMPARE(types.itemText(0), u"Vocab Data (*.lwx)"_s);
+            QCOMPARE(types.itemText(1), u"All files (*.*)"_s);
             QCOMPARE(dialog.defaultSuffix(), QString());
             QCOMPARE(dialog.directory().absolutePath(), pathOf(Place::WordLists));
             QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), QString());
@@ -65,7 +66,7 @@ private Q_SLOTS:
 
     void aNameWithoutAnExtensionIsTakenAsItIs()
     {
-        const QString bare = m_main->path(QStringLiteral("bare"));
+        const QString bare = m_main->path(u"bare"_s);
         writeFile(bare, listBytes(m_plantEntries));
         openList(*m_main, bare);
         QCOMPARE(gFileName, bare);
@@ -85,15 +86,15 @@ private Q_SLOTS:
         m_main->fill(100);
         m_main->bar().setValue(70);
         m_main->clickCell(2, 2);
-        const Entries entries = someEntries(count, QStringLiteral("word"));
+        const Entries entries = someEntries(count, u"word"_s);
         writeFile(m_animals, listBytes(entries));
         openList(*m_main, m_animals);
 
         QCOMPARE(openEntries(), entries);
         QCOMPARE(gFileName, m_animals);
         QCOMPARE(gOpenedFile, m_animals);
-        QCOMPARE(gFileTitle, QStringLiteral("animals.lwx"));
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("animals.lwx"));
+        QCOMPARE(gFileTitle, u"animals.lwx"_s);
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"animals.lwx"_s);
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
         QVERIFY(!gChanged);
         QVERIFY(!m_main->action("mnuSave").isEnabled());
@@ -111,7 +112,7 @@ private Q_SLOTS:
     void noGivesTheChangesUp()
     {
         openList(*m_main, m_animals);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No, [](QMessageBox &box) {
             QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
@@ -127,14 +128,14 @@ private Q_SLOTS:
     void escDoesNothingAtTheQuestionAboutSaving()
     {
         openList(*m_main, m_animals);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes, [](QMessageBox &box) {
             QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
             QVERIFY(box.isVisible());
             QVERIFY(!box.close());
         });
-        m_main->answers.expectMsgBox(m_animals + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_animals + u" has been saved."_s);
         m_main->answers.chooseFile(m_plants);
         m_main->choose("mnuOpen");
         QCOMPARE(openEntries(), m_plantEntries);
@@ -143,33 +144,32 @@ private Q_SLOTS:
     void yesSavesFirst()
     {
         openList(*m_main, m_animals);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
-        m_main->answers.expectMsgBox(m_animals + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_animals + u" has been saved."_s);
         m_main->answers.chooseFile(m_plants);
         m_main->choose("mnuOpen");
         QCOMPARE(openEntries(), m_plantEntries);
-        QCOMPARE(readFile(m_animals),
-                 listBytes(m_animalEntries + Entries{addedEntry(QStringLiteral("cow"))}));
+        QCOMPARE(readFile(m_animals), listBytes(m_animalEntries + Entries{addedEntry(u"cow"_s)}));
     }
 
     void yesForAnUntitledListAsksForItsNameFirst()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
-        const QString named = m_main->path(QStringLiteral("named.lwx"));
+        addEntry(*m_main, u"cow"_s);
+        const QString named = m_main->path(u"named.lwx"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
         m_main->answers.chooseFile(named);
         m_main->answers.chooseFile(m_plants);
         m_main->choose("mnuOpen");
         QCOMPARE(openEntries(), m_plantEntries);
-        QCOMPARE(readFile(named), listBytes({addedEntry(QStringLiteral("cow"))}));
+        QCOMPARE(readFile(named), listBytes({addedEntry(u"cow"_s)}));
     }
 
     void aCancelledSaveAsOpensNothingAlsoAfterAnEarlierSave()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         gSaved = true; // as the save of an earlier list left it
         const OpenList before(*m_main);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
@@ -185,15 +185,14 @@ private Q_SLOTS:
     void aSaveThatFailsOpensNothing()
     {
         openList(*m_main, m_animals);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         QVERIFY(QFile::remove(m_animals));
         QVERIFY(QDir().mkdir(m_animals));
         const OpenList before(*m_main);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::Yes);
         m_main->answers.expectAnyMsgBox(QMessageBox::Ok, [](QMessageBox &box) {
-            QVERIFY2(box.text().startsWith(QStringLiteral("Run-time error '75':\n\n")),
-                     qPrintable(box.text()));
+            QVERIFY2(box.text().startsWith(u"Run-time error '75':\n\n"_s), qPrintable(box.text()));
         });
         m_main->choose("mnuOpen");
         QVERIFY(OpenList(*m_main) == before);
@@ -207,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), m_animalEntries);
         QCOMPARE(gFileName, m_animals);
 
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         const Entries changed = openEntries();
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
@@ -229,18 +228,16 @@ private Q_SLOTS:
         QCOMPARE(gFileName, QString());
         QCOMPARE(gFileTitle, QString());
         QCOMPARE(gOpenedFile, m_animals);
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("animals.lwx"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"animals.lwx"_s);
         checkIdle();
 
-        addEntry(*m_main, QStringLiteral("cow"));
-        const QString other = m_main->path(QStringLiteral("other.lwx"));
-        m_main->answers.chooseFile(other, [](QFileDialog &dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
-        });
+        addEntry(*m_main, u"cow"_s);
+        const QString other = m_main->path(u"other.lwx"_s);
+        m_main->answers.chooseFile(
+            other, [](QFileDialog &dialog) { QCOMPARE(dialog.windowTitle(), u"Save File As"_s); });
         m_main->choose("mnuSave");
         QCOMPARE(readFile(m_animals), listBytes(m_animalEntries));
-        QCOMPARE(readFile(other),
-                 listBytes(m_animalEntries + Entries{addedEntry(QStringLiteral("cow"))}));
+        QCOMPARE(readFile(other), listBytes(m_animalEntries + Entries{addedEntry(u"cow"_s)}));
     }
 
     void afterACancelledDialogTheOpenFileGetsItsNameBackUnread()
@@ -252,7 +249,7 @@ private Q_SLOTS:
         writeFile(m_animals, listBytes(m_plantEntries));
         openList(*m_main, m_animals);
         QCOMPARE(gFileName, m_animals);
-        QCOMPARE(gFileTitle, QStringLiteral("animals.lwx"));
+        QCOMPARE(gFileTitle, u"animals.lwx"_s);
         QCOMPARE(openEntries(), m_animalEntries);
     }
 
@@ -267,23 +264,23 @@ private Q_SLOTS:
     {
         QFETCH(bool, exists);
         openList(*m_main, m_animals);
-        const QString path = m_main->path(QStringLiteral("empty.lwx"));
+        const QString path = m_main->path(u"empty.lwx"_s);
         if (exists)
             writeFile(path, {});
         openList(*m_main, path);
         QCOMPARE(gVocabList().NumWords().toInt(), 0);
         QCOMPARE(gFileName, path);
         QCOMPARE(gOpenedFile, path);
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("empty.lwx"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"empty.lwx"_s);
         QCOMPARE(readFile(path), QByteArray());
         QCOMPARE(m_main->row(1).mid(1), QStringList(3, QString()));
         QCOMPARE(m_main->bar().maximum(), 1);
         checkIdle();
 
-        addEntry(*m_main, QStringLiteral("cow"));
-        m_main->answers.expectMsgBox(path + QStringLiteral(" has been saved."));
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(path + u" has been saved."_s);
         m_main->choose("mnuSave");
-        QCOMPARE(readFile(path), listBytes({addedEntry(QStringLiteral("cow"))}));
+        QCOMPARE(readFile(path), listBytes({addedEntry(u"cow"_s)}));
     }
 
     void anEntryUnderWorkIsPutAway()
@@ -295,7 +292,7 @@ private Q_SLOTS:
         QCOMPARE(m_main->markedRows(), QList<int>());
 
         m_main->click("cmdNewWord");
-        m_main->type("txtWord", QStringLiteral("half a wo"));
+        m_main->type("txtWord", u"half a wo"_s);
         openList(*m_main, m_animals);
         checkIdle();
         QCOMPARE(openEntries(), m_animalEntries);
@@ -324,8 +321,8 @@ private:
         QVERIFY(!m_main->control<QPushButton>("cmdDelete").isEnabled());
     }
 
-    const Entries m_animalEntries = someEntries(5, QStringLiteral("animal"));
-    const Entries m_plantEntries = someEntries(3, QStringLiteral("plant"));
+    const Entries m_animalEntries = someEntries(5, u"animal"_s);
+    const Entries m_plantEntries = someEntries(3, u"plant"_s);
     QString m_animals;
     QString m_plants;
     std::unique_ptr<MainWindow> m_main;

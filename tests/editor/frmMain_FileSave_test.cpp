@@ -11,6 +11,7 @@
 #include <QLineEdit>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 class frmMain_FileSave_test final : public QObject
 {
@@ -21,8 +22,8 @@ private Q_SLOTS:
     {
         m_main = std::make_unique<MainWindow>();
         QVERIFY(QDir().mkpath(pathOf(Place::WordLists)));
-        m_path = m_main->path(QStringLiteral("animals.lwx"));
-        m_other = m_main->path(QStringLiteral("other.lwx"));
+        m_path = m_main->path(u"animals.lwx"_s);
+        m_other = m_main->path(u"other.lwx"_s);
         writeFile(m_path, listBytes(m_entries));
     }
 
@@ -35,10 +36,10 @@ private Q_SLOTS:
     void saveWritesTheFileAndSaysSo()
     {
         openList(*m_main, m_path);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         gSaved = false;
         m_main->answers.expectMsgBox(
-            m_path + QStringLiteral(" has been saved."), QMessageBox::Ok, [this](QMessageBox &box) {
+            m_path + u" has been saved."_s, QMessageBox::Ok, [this](QMessageBox &box) {
                 QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
                 QVERIFY(!m_main->action("mnuSave").isEnabled());
                 QCOMPARE(readFile(m_path), listBytes(withCow()));
@@ -49,34 +50,34 @@ private Q_SLOTS:
         QVERIFY(gSaved);
         QVERIFY(!m_main->action("mnuSave").isEnabled());
         QCOMPARE(gFileName, m_path);
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("animals.lwx"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"animals.lwx"_s);
         QCOMPARE(openEntries(), withCow());
     }
 
     void saveOfAnUntitledListIsSaveAs()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.chooseFile(m_other, [](QFileDialog &dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
+            QCOMPARE(dialog.windowTitle(), u"Save File As"_s);
         });
         m_main->choose("mnuSave");
-        QCOMPARE(readFile(m_other), listBytes({addedEntry(QStringLiteral("cow"))}));
+        QCOMPARE(readFile(m_other), listBytes({addedEntry(u"cow"_s)}));
         QCOMPARE(gFileName, m_other);
         QVERIFY(gSaved);
     }
 
     void saveOfAnEmptyListSaysSavedButLeavesTheFile()
     {
-        writeFile(m_path, listBytes(someEntries(1, QStringLiteral("animal"))));
+        writeFile(m_path, listBytes(someEntries(1, u"animal"_s)));
         openList(*m_main, m_path);
         m_main->clickCell(1, 1);
-        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'animal 1' ?"),
+        m_main->answers.expectMsgBox(u"Are you sure you want to delete 'animal 1' ?"_s,
                                      QMessageBox::Yes);
         m_main->click("cmdDelete");
         QVERIFY(gChanged);
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->choose("mnuSave");
-        QCOMPARE(readFile(m_path), listBytes(someEntries(1, QStringLiteral("animal"))));
+        QCOMPARE(readFile(m_path), listBytes(someEntries(1, u"animal"_s)));
         QVERIFY(!gChanged);
         QVERIFY(gSaved);
         QVERIFY(!m_main->action("mnuSave").isEnabled());
@@ -86,10 +87,10 @@ private Q_SLOTS:
     {
         openList(*m_main, m_path);
         m_main->clickCell(5, 1);
-        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'animal 5' ?"),
+        m_main->answers.expectMsgBox(u"Are you sure you want to delete 'animal 5' ?"_s,
                                      QMessageBox::Yes);
         m_main->click("cmdDelete");
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->choose("mnuSave");
         QByteArray expected = listBytes(m_entries);
         expected.replace(0, 2, number16(4));
@@ -98,11 +99,11 @@ private Q_SLOTS:
 
     void whatAnOlderLongerFileHeldBehindStays()
     {
-        const Entries longer = someEntries(10, QStringLiteral("much longer word"));
+        const Entries longer = someEntries(10, u"much longer word"_s);
         writeFile(m_other, listBytes(longer));
         openList(*m_main, m_path);
         m_main->answers.chooseFile(m_other);
-        m_main->answers.answerOverwrite(QStringLiteral("other.lwx"), QMessageBox::Yes);
+        m_main->answers.answerOverwrite(u"other.lwx"_s, QMessageBox::Yes);
         m_main->choose("mnuSaveAs");
         const QByteArray written = listBytes(m_entries);
         QCOMPARE(readFile(m_other), written + listBytes(longer).mid(written.size()));
@@ -120,9 +121,9 @@ private Q_SLOTS:
         openList(*m_main, m_path);
         QVERIFY(!save.isEnabled());
 
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         QVERIFY(save.isEnabled());
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->choose("mnuSave");
         QVERIFY(!save.isEnabled());
 
@@ -135,16 +136,16 @@ private Q_SLOTS:
         QVERIFY(!save.isEnabled());
 
         m_main->clickCell(2, 1);
-        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'animal 2' ?"),
+        m_main->answers.expectMsgBox(u"Are you sure you want to delete 'animal 2' ?"_s,
                                      QMessageBox::No);
         m_main->click("cmdDelete");
         QVERIFY(!save.isEnabled());
-        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'animal 2' ?"),
+        m_main->answers.expectMsgBox(u"Are you sure you want to delete 'animal 2' ?"_s,
                                      QMessageBox::Yes);
         m_main->click("cmdDelete");
         QVERIFY(save.isEnabled());
 
-        const QString third = m_main->path(QStringLiteral("third.lwx"));
+        const QString third = m_main->path(u"third.lwx"_s);
         writeFile(third, listBytes(m_entries));
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
@@ -155,15 +156,15 @@ private Q_SLOTS:
 
     void theSaveAsDialogIsAsDesigned()
     {
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.cancelFileDialog([](QFileDialog &dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
+            QCOMPARE(dialog.windowTitle(), u"Save File As"_s);
             QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
             const auto &types = Controls::find<QComboBox>(dialog, "fileTypeCombo");
             QCOMPARE(types.count(), 2);
-            QCOMPARE(types.itemText(0), QStringLiteral("Vocab Data (*.lwx)"));
-            QCOMPARE(types.itemText(1), QStringLiteral("All files (*.*)"));
-            QCOMPARE(dialog.defaultSuffix(), QStringLiteral("lwx"));
+            QCOMPARE(types.itemText(0), u"Vocab Data (*.lwx)"_s);
+            QCOMPARE(types.itemText(1), u"All files (*.*)"_s);
+            QCOMPARE(dialog.defaultSuffix(), u"lwx"_s);
             QCOMPARE(dialog.directory().absolutePath(), pathOf(Place::WordLists));
         });
         m_main->choose("mnuSaveAs");
@@ -171,12 +172,12 @@ private Q_SLOTS:
 
     void saveAsStartsInTheFolderUsedLast()
     {
-        QVERIFY(QDir().mkdir(m_main->path(QStringLiteral("school"))));
-        const QString list = m_main->path(QStringLiteral("school/animals.lwx"));
+        QVERIFY(QDir().mkdir(m_main->path(u"school"_s)));
+        const QString list = m_main->path(u"school/animals.lwx"_s);
         writeFile(list, listBytes(m_entries));
         openList(*m_main, list);
         m_main->answers.cancelFileDialog([this](QFileDialog &dialog) {
-            QCOMPARE(dialog.directory().absolutePath(), m_main->path(QStringLiteral("school")));
+            QCOMPARE(dialog.directory().absolutePath(), m_main->path(u"school"_s));
         });
         m_main->choose("mnuSaveAs");
     }
@@ -184,7 +185,7 @@ private Q_SLOTS:
     void aCancelledSaveAsChangesNothingAndSaysNothing()
     {
         openList(*m_main, m_path);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         const OpenList before(*m_main);
         m_main->answers.cancelFileDialog();
         m_main->choose("mnuSaveAs");
@@ -197,39 +198,38 @@ private Q_SLOTS:
     void saveAsGivesTheListItsNewNameWithoutAMessage()
     {
         openList(*m_main, m_path);
-        addEntry(*m_main, QStringLiteral("cow"));
-        m_main->answers.chooseFile(m_main->path(QStringLiteral("cows")));
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.chooseFile(m_main->path(u"cows"_s));
         m_main->choose("mnuSaveAs");
-        const QString cows = m_main->path(QStringLiteral("cows.lwx"));
+        const QString cows = m_main->path(u"cows.lwx"_s);
         QCOMPARE(gFileName, cows);
-        QCOMPARE(gFileTitle, QStringLiteral("cows.lwx"));
+        QCOMPARE(gFileTitle, u"cows.lwx"_s);
         QCOMPARE(gOpenedFile, cows);
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("cows.lwx"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"cows.lwx"_s);
         QVERIFY(!gChanged);
         QVERIFY(gSaved);
         QVERIFY(!m_main->action("mnuSave").isEnabled());
         QCOMPARE(readFile(cows), listBytes(withCow()));
         QCOMPARE(readFile(m_path), listBytes(m_entries));
 
-        addEntry(*m_main, QStringLiteral("dog"));
-        m_main->answers.expectMsgBox(cows + QStringLiteral(" has been saved."));
+        addEntry(*m_main, u"dog"_s);
+        m_main->answers.expectMsgBox(cows + u" has been saved."_s);
         m_main->choose("mnuSave");
-        QCOMPARE(readFile(cows), listBytes(withCow() + Entries{addedEntry(QStringLiteral("dog"))}));
+        QCOMPARE(readFile(cows), listBytes(withCow() + Entries{addedEntry(u"dog"_s)}));
     }
 
     void theFileOfBeforeIsReadAgainAfterSaveAs()
     {
         openList(*m_main, m_path);
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.chooseFile(m_other);
         m_main->choose("mnuSaveAs");
         openList(*m_main, m_path);
         QCOMPARE(openEntries(), m_entries);
-        addEntry(*m_main, QStringLiteral("dog"));
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        addEntry(*m_main, u"dog"_s);
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->choose("mnuSave");
-        QCOMPARE(readFile(m_path),
-                 listBytes(m_entries + Entries{addedEntry(QStringLiteral("dog"))}));
+        QCOMPARE(readFile(m_path), listBytes(m_entries + Entries{addedEntry(u"dog"_s)}));
         QCOMPARE(readFile(m_other), listBytes(withCow()));
     }
 
@@ -238,7 +238,7 @@ private Q_SLOTS:
         openList(*m_main, m_path);
         m_main->answers.chooseFile(m_other);
         m_main->choose("mnuSaveAs");
-        addEntry(*m_main, QStringLiteral("cow"));
+        addEntry(*m_main, u"cow"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
         m_main->answers.chooseFile(m_other); // not read again
@@ -250,7 +250,7 @@ private Q_SLOTS:
     {
         // Nothing is written, so that opening the file has to read it.
         m_main->answers.chooseFile(m_path);
-        m_main->answers.answerOverwrite(QStringLiteral("animals.lwx"), QMessageBox::Yes);
+        m_main->answers.answerOverwrite(u"animals.lwx"_s, QMessageBox::Yes);
         m_main->choose("mnuSaveAs");
         QCOMPARE(gFileName, m_path);
         openList(*m_main, m_path);
@@ -263,18 +263,17 @@ private Q_SLOTS:
         m_main->answers.chooseFile(m_other);
         m_main->choose("mnuSaveAs");
         QCOMPARE(gOpenedFile, QString());
-        addEntry(*m_main, QStringLiteral("cow"));
-        m_main->answers.expectMsgBox(m_other + QStringLiteral(" has been saved."));
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(m_other + u" has been saved."_s);
         m_main->choose("mnuSave");
         QCOMPARE(gOpenedFile, m_other);
 
-        addEntry(*m_main, QStringLiteral("dog"));
+        addEntry(*m_main, u"dog"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
         m_main->answers.chooseFile(m_other); // not read again
         m_main->choose("mnuOpen");
-        QCOMPARE(openEntries(),
-                 (Entries{addedEntry(QStringLiteral("cow")), addedEntry(QStringLiteral("dog"))}));
+        QCOMPARE(openEntries(), (Entries{addedEntry(u"cow"_s), addedEntry(u"dog"_s)}));
     }
 
     void saveAsOffersTheListsOwnName_data()
@@ -294,20 +293,20 @@ private Q_SLOTS:
         const auto expectOffer = [&] {
             m_main->answers.cancelFileDialog([titled](QFileDialog &dialog) {
                 QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(),
-                         titled ? QStringLiteral("animals.lwx") : QString());
+                         titled ? u"animals.lwx"_s : QString());
             });
             m_main->choose("mnuSaveAs");
         };
         expectOffer();
 
-        const QString text = m_main->path(QStringLiteral("words.txt"));
+        const QString text = m_main->path(u"words.txt"_s);
         m_main->answers.chooseFile(text);
         m_main->choose("mnuCreateTextFile");
         expectOffer();
 
-        writeFile(m_other, listBytes(someEntries(1, QStringLiteral("imported"))));
+        writeFile(m_other, listBytes(someEntries(1, u"imported"_s)));
         m_main->answers.chooseFile(m_other);
-        m_main->answers.expectMsgBox(QStringLiteral("1 words imported"));
+        m_main->answers.expectMsgBox(u"1 words imported"_s);
         m_main->choose("mnuImport");
         expectOffer();
     }
@@ -315,13 +314,12 @@ private Q_SLOTS:
     void aCancelledSaveAsLeavesTheTextFilesNameOnOffer()
     {
         openList(*m_main, m_path);
-        m_main->answers.chooseFile(m_main->path(QStringLiteral("words.txt")));
+        m_main->answers.chooseFile(m_main->path(u"words.txt"_s));
         m_main->choose("mnuCreateTextFile");
         m_main->answers.cancelFileDialog();
         m_main->choose("mnuSaveAs");
         m_main->answers.cancelFileDialog([](QFileDialog &dialog) {
-            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(),
-                     QStringLiteral("words.txt"));
+            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), u"words.txt"_s);
         });
         m_main->choose("mnuCreateTextFile");
     }
@@ -331,7 +329,7 @@ private Q_SLOTS:
         gChanged = true;
         m_main->answers.chooseFile(m_other);
         m_main->choose("mnuSaveAs");
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("other.lwx"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"other.lwx"_s);
         QCOMPARE(gFileName, m_other);
         QVERIFY(!gChanged);
         QVERIFY(gSaved);
@@ -344,29 +342,29 @@ private Q_SLOTS:
         openList(*m_main, m_path);
         const OpenList before(*m_main);
         m_main->answers.chooseFile(m_other);
-        m_main->answers.answerOverwrite(QStringLiteral("other.lwx"), QMessageBox::No);
+        m_main->answers.answerOverwrite(u"other.lwx"_s, QMessageBox::No);
         m_main->answers.cancelFileDialog();
         m_main->choose("mnuSaveAs");
         QVERIFY(OpenList(*m_main) == before);
         QCOMPARE(readFile(m_other), QByteArray("something else"));
 
         m_main->answers.chooseFile(m_other);
-        m_main->answers.answerOverwrite(QStringLiteral("other.lwx"), QMessageBox::Yes);
+        m_main->answers.answerOverwrite(u"other.lwx"_s, QMessageBox::Yes);
         m_main->choose("mnuSaveAs");
         QCOMPARE(readFile(m_other), listBytes(m_entries));
     }
 
     void aSymbolicLinkStaysALink()
     {
-        QVERIFY(QDir().mkdir(m_main->path(QStringLiteral("stick"))));
-        const QString real = m_main->path(QStringLiteral("stick/real.lwx"));
-        const QString link = m_main->path(QStringLiteral("link.lwx"));
+        QVERIFY(QDir().mkdir(m_main->path(u"stick"_s)));
+        const QString real = m_main->path(u"stick/real.lwx"_s);
+        const QString link = m_main->path(u"link.lwx"_s);
         writeFile(real, listBytes(m_entries));
         QVERIFY(QFile::link(real, link));
         openList(*m_main, link);
-        QCOMPARE(gFileTitle, QStringLiteral("link.lwx"));
-        addEntry(*m_main, QStringLiteral("cow"));
-        m_main->answers.expectMsgBox(link + QStringLiteral(" has been saved."));
+        QCOMPARE(gFileTitle, u"link.lwx"_s);
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(link + u" has been saved."_s);
         m_main->choose("mnuSave");
         QVERIFY(QFileInfo(link).isSymLink());
         QCOMPARE(QFileInfo(link).symLinkTarget(), real);
@@ -378,20 +376,19 @@ private Q_SLOTS:
     {
         m_main->click("cmdNewWord");
         // Letters beyond ASCII are put in as an input method does.
-        m_main->control<QLineEdit>("txtWord").insert(QStringLiteral("  \u00E9t\u00E9 "));
-        m_main->type("txtDefinition", QStringLiteral("summer"));
+        m_main->control<QLineEdit>("txtWord").insert(u"  \u00E9t\u00E9 "_s);
+        m_main->type("txtDefinition", u"summer"_s);
         Controls::press(Qt::Key_Return, Qt::ControlModifier);
         m_main->control<EntryTextBox>("txtDefinition")
-            .insertPlainText(QStringLiteral("\u20AC 5 \u2013 \u00BF\u00DF?"));
+            .insertPlainText(u"\u20AC 5 \u2013 \u00BF\u00DF?"_s);
         m_main->type("txtSentence", QString());
-        m_main->control<EntryTextBox>("txtSentence")
-            .insertPlainText(QStringLiteral("Un \u00E9t\u00E9 chaud."));
+        m_main->control<EntryTextBox>("txtSentence").insertPlainText(u"Un \u00E9t\u00E9 chaud."_s);
         Controls::press(Qt::Key_Return, Qt::ShiftModifier);
         m_main->click("cmdAdd");
         m_main->click("cmdAbort");
-        const QStringList entry = {QStringLiteral("  \u00E9t\u00E9 "),
-                                   QStringLiteral("summer\r\n\u20AC 5 \u2013 \u00BF\u00DF?"),
-                                   QStringLiteral("Un \u00E9t\u00E9 chaud.\r\n")};
+        const QStringList entry = {u"  \u00E9t\u00E9 "_s,
+                                   u"summer\r\n\u20AC 5 \u2013 \u00BF\u00DF?"_s,
+                                   u"Un \u00E9t\u00E9 chaud.\r\n"_s};
         QCOMPARE(openEntries(), Entries{entry});
         m_main->answers.chooseFile(m_other);
         m_main->choose("mnuSaveAs");
@@ -413,8 +410,8 @@ private Q_SLOTS:
     void theShortcutsSaveToo()
     {
         openList(*m_main, m_path);
-        addEntry(*m_main, QStringLiteral("cow"));
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        addEntry(*m_main, u"cow"_s);
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         pressShortcut(Qt::ControlModifier);
         QCOMPARE(readFile(m_path), listBytes(withCow()));
         m_main->answers.chooseFile(m_other);
@@ -431,12 +428,9 @@ private:
         QTest::keyClick(&m_main->window(), Qt::Key_S, modifiers);
     }
 
-    [[nodiscard]] Entries withCow() const
-    {
-        return m_entries + Entries{addedEntry(QStringLiteral("cow"))};
-    }
+    [[nodiscard]] Entries withCow() const { return m_entries + Entries{addedEntry(u"cow"_s)}; }
 
-    const Entries m_entries = someEntries(5, QStringLiteral("animal"));
+    const Entries m_entries = someEntries(5, u"animal"_s);
     QString m_path;
     QString m_other;
     std::unique_ptr<MainWindow> m_main;

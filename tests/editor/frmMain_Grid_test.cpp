@@ -13,6 +13,7 @@
 #include <algorithm>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -45,8 +46,7 @@ void typeWords(MainWindow &main, int count)
 {
     main.click("cmdNewWord");
     for (int i = 1; i <= count; ++i) {
-        main.typeEntry(QStringLiteral("word %1").arg(i), QStringLiteral("definition %1").arg(i),
-                       QStringLiteral("sentence %1").arg(i));
+        main.typeEntry(u"word %1"_s.arg(i), u"definition %1"_s.arg(i), u"sentence %1"_s.arg(i));
         main.click("cmdAdd");
     }
 }
@@ -65,442 +65,405 @@ class frmMain_Grid_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aPageShowsTheEntriesFromItsFirst_data();
-    void aPageShowsTheEntriesFromItsFirst();
-    void theHeaderStandsAboveEachPage();
-    void aFillRemembersWhichEntriesItShows();
-    void theScrollBarGoesFromZeroToOneBehindTheList_data();
-    void theScrollBarGoesFromZeroToOneBehindTheList();
-    void valueZeroShowsThePageFromEntryOne();
-    void onALongListTheMaximumShowsThePageOfTheLastEntry_data();
-    void onALongListTheMaximumShowsThePageOfTheLastEntry();
-    void onAShortListTheMaximumShowsAnEmptyPage();
-    void onAnEmptyListScrollingDoesNothing();
-    void withNothingPickedThePositionStaysBehindThePage_data();
-    void withNothingPickedThePositionStaysBehindThePage();
+    void aPageShowsTheEntriesFromItsFirst_data()
+    {
+        QTest::addColumn<int>("entries");
+        QTest::addColumn<int>("top");
+        for (const int entries : {1, 5, 22, 23, 24, 25, 100})
+            QTest::addRow("%d entries", entries) << entries << 1;
+        QTest::newRow("page 2 of 24") << 24 << 2;
+        QTest::newRow("page 50 of 100") << 100 << 50;
+        QTest::newRow("page 77 of 100") << 100 << 77;
+        QTest::newRow("page 78 of 100") << 100 << 78;
+        QTest::newRow("page 100 of 100") << 100 << 100;
+        QTest::newRow("page 5 of 5") << 5 << 5;
+        QTest::newRow("last page of 32000") << 32000 << 32000;
+    }
 
-    void theWheelScrolls();
-    void theWheelStopsAtTheFirstEntryAndAtTheLastFullPage();
-    void afterTypedWordsTheWheelLeavesTheListInSight();
-    void theWheelLeavesAPageBehindTheListsEnd();
-    void keysOverTheGridMoveThePage_data();
-    void keysOverTheGridMoveThePage();
-    void keysBeginAtThePageThatIsShown_data();
-    void keysBeginAtThePageThatIsShown();
-    void downAndUpMoveTheCurrentRow();
-    void endMakesTheLastEntryCurrentAndSpacePicksIt_data();
-    void endMakesTheLastEntryCurrentAndSpacePicksIt();
-    void aMoveInsideThePageKeepsTheMark();
-    void onAnEmptyListKeysAndWheelDoNothing();
-    void spacePicksTheFirstRowOfAScrolledPage();
-    void enterOverTheGridIsTheDefaultButton_data();
-    void enterOverTheGridIsTheDefaultButton();
-    void tabLeavesTheGrid();
+    void aPageShowsTheEntriesFromItsFirst()
+    {
+        QFETCH(int, entries);
+        QFETCH(int, top);
+        MainWindow main;
+        main.fill(entries);
+        main.bar().setValue(top);
+        QCOMPARE(main.bar().value(), top);
+        comparePage(main, top);
+        QCOMPARE(main.markedRows(), QList<int>());
+    }
 
-    void textsTooLongForTheirCellAreShownWholeInAToolTip_data();
-    void textsTooLongForTheirCellAreShownWholeInAToolTip();
-    void textsThatFitHaveNoToolTip();
-};
+    void theHeaderStandsAboveEachPage()
+    {
+        MainWindow main;
+        main.fill(60);
+        main.bar().setValue(30);
+        QCOMPARE(main.row(0),
+                 (QStringList{QString(), u"Vocabulary Word"_s, u"Definition"_s, u"Sentence"_s}));
+        for (int column = 1; column <= 3; ++column)
+            QVERIFY(main.grid().cellBold(0, column));
+        QCOMPARE(main.grid().rowCount(), 25);
+        QCOMPARE(main.grid().Row(), 1);
+        QCOMPARE(main.grid().Col(), 1);
+    }
 
-void frmMain_Grid_test::aPageShowsTheEntriesFromItsFirst_data()
-{
-    QTest::addColumn<int>("entries");
-    QTest::addColumn<int>("top");
-    for (const int entries : {1, 5, 22, 23, 24, 25, 100})
-        QTest::addRow("%d entries", entries) << entries << 1;
-    QTest::newRow("page 2 of 24") << 24 << 2;
-    QTest::newRow("page 50 of 100") << 100 << 50;
-    QTest::newRow("page 77 of 100") << 100 << 77;
-    QTest::newRow("page 78 of 100") << 100 << 78;
-    QTest::newRow("page 100 of 100") << 100 << 100;
-    QTest::newRow("page 5 of 5") << 5 << 5;
-    QTest::newRow("last page of 32000") << 32000 << 32000;
-}
+    void aFillRemembersWhichEntriesItShows()
+    {
+        MainWindow main;
+        main.fill(60);
+        main.bar().setValue(10);
+        QCOMPARE(gLastItem, 33);
+        for (std::size_t i = 0; i < 24; ++i)
+            QCOMPARE(gRowItem[i], 10 + i);
+        main.bar().setValue(50);
+        QCOMPARE(gLastItem, 60);
+        for (std::size_t i = 0; i < 11; ++i)
+            QCOMPARE(gRowItem[i], 50 + i);
+        main.bar().setValue(1);
+        QCOMPARE(gLastItem, 24);
+        main.fill(5);
+        QCOMPARE(gLastItem, 5);
+    }
 
-void frmMain_Grid_test::aPageShowsTheEntriesFromItsFirst()
-{
-    QFETCH(int, entries);
-    QFETCH(int, top);
-    MainWindow main;
-    main.fill(entries);
-    main.bar().setValue(top);
-    QCOMPARE(main.bar().value(), top);
-    comparePage(main, top);
-    QCOMPARE(main.markedRows(), QList<int>());
-}
+    void theScrollBarGoesFromZeroToOneBehindTheList_data()
+    {
+        QTest::addColumn<int>("entries");
+        for (const int entries : {1, 5, 100, 32000})
+            QTest::addRow("%d", entries) << entries;
+    }
 
-void frmMain_Grid_test::theHeaderStandsAboveEachPage()
-{
-    MainWindow main;
-    main.fill(60);
-    main.bar().setValue(30);
-    QCOMPARE(main.row(0), (QStringList{QString(), QStringLiteral("Vocabulary Word"),
-                                       QStringLiteral("Definition"), QStringLiteral("Sentence")}));
-    for (int column = 1; column <= 3; ++column)
-        QVERIFY(main.grid().cellBold(0, column));
-    QCOMPARE(main.grid().rowCount(), 25);
-    QCOMPARE(main.grid().Row(), 1);
-    QCOMPARE(main.grid().Col(), 1);
-}
+    void theScrollBarGoesFromZeroToOneBehindTheList()
+    {
+        QFETCH(int, entries);
+        MainWindow main;
+        main.fill(entries);
+        QCOMPARE(main.bar().minimum(), 0);
+        QCOMPARE(main.bar().maximum(), entries + 1);
+        QCOMPARE(main.bar().singleStep(), 1);
+        QCOMPARE(main.bar().pageStep(), 23);
+    }
 
-void frmMain_Grid_test::aFillRemembersWhichEntriesItShows()
-{
-    MainWindow main;
-    main.fill(60);
-    main.bar().setValue(10);
-    QCOMPARE(gLastItem, 33);
-    for (std::size_t i = 0; i < 24; ++i)
-        QCOMPARE(gRowItem[i], 10 + i);
-    main.bar().setValue(50);
-    QCOMPARE(gLastItem, 60);
-    for (std::size_t i = 0; i < 11; ++i)
-        QCOMPARE(gRowItem[i], 50 + i);
-    main.bar().setValue(1);
-    QCOMPARE(gLastItem, 24);
-    main.fill(5);
-    QCOMPARE(gLastItem, 5);
-}
+    void valueZeroShowsThePageFromEntryOne()
+    {
+        MainWindow main;
+        main.fill(60);
+        main.bar().setValue(10);
+        main.bar().setValue(0);
+        QCOMPARE(main.bar().value(), 0);
+        comparePage(main, 1);
+        QCOMPARE(gLastItem, 24);
+    }
 
-void frmMain_Grid_test::theScrollBarGoesFromZeroToOneBehindTheList_data()
-{
-    QTest::addColumn<int>("entries");
-    for (const int entries : {1, 5, 100, 32000})
-        QTest::addRow("%d", entries) << entries;
-}
+    void onALongListTheMaximumShowsThePageOfTheLastEntry_data()
+    {
+        QTest::addColumn<int>("entries");
+        for (const int entries : {22, 23, 60, 32000})
+            QTest::addRow("%d", entries) << entries;
+    }
 
-void frmMain_Grid_test::theScrollBarGoesFromZeroToOneBehindTheList()
-{
-    QFETCH(int, entries);
-    MainWindow main;
-    main.fill(entries);
-    QCOMPARE(main.bar().minimum(), 0);
-    QCOMPARE(main.bar().maximum(), entries + 1);
-    QCOMPARE(main.bar().singleStep(), 1);
-    QCOMPARE(main.bar().pageStep(), 23);
-}
+    void onALongListTheMaximumShowsThePageOfTheLastEntry()
+    {
+        QFETCH(int, entries);
+        MainWindow main;
+        main.fill(entries);
+        main.bar().setValue(main.bar().maximum());
+        QCOMPARE(main.bar().value(), entries);
+        comparePage(main, entries);
+    }
 
-void frmMain_Grid_test::valueZeroShowsThePageFromEntryOne()
-{
-    MainWindow main;
-    main.fill(60);
-    main.bar().setValue(10);
-    main.bar().setValue(0);
-    QCOMPARE(main.bar().value(), 0);
-    comparePage(main, 1);
-    QCOMPARE(gLastItem, 24);
-}
+    void onAShortListTheMaximumShowsAnEmptyPage()
+    {
+        MainWindow main;
+        main.fill(5);
+        main.bar().setValue(6);
+        QCOMPARE(main.bar().value(), 6);
+        for (int row = 1; row <= 24; ++row)
+            QCOMPARE(main.row(row), EmptyRow);
+        main.clickCell(1, 1);
+        QCOMPARE(main.look(), EditorModes::idle());
+        main.bar().setValue(5);
+        comparePage(main, 5);
+        QVERIFY(main.answers.allSeen());
+    }
 
-void frmMain_Grid_test::onALongListTheMaximumShowsThePageOfTheLastEntry_data()
-{
-    QTest::addColumn<int>("entries");
-    for (const int entries : {22, 23, 60, 32000})
-        QTest::addRow("%d", entries) << entries;
-}
+    void onAnEmptyListScrollingDoesNothing()
+    {
+        MainWindow main;
+        const Integer current = gVocabList().CurrentWord();
+        main.bar().setValue(1);
+        main.bar().setValue(0);
+        QCOMPARE(main.row(1), (QStringList{u"1"_s, QString(), QString(), QString()}));
+        QCOMPARE(gVocabList().CurrentWord(), current);
+        QCOMPARE(gLastItem, 1);
+        QVERIFY(main.answers.allSeen());
+    }
 
-void frmMain_Grid_test::onALongListTheMaximumShowsThePageOfTheLastEntry()
-{
-    QFETCH(int, entries);
-    MainWindow main;
-    main.fill(entries);
-    main.bar().setValue(main.bar().maximum());
-    QCOMPARE(main.bar().value(), entries);
-    comparePage(main, entries);
-}
+    void withNothingPickedThePositionStaysBehindThePage_data()
+    {
+        QTest::addColumn<int>("top");
+        QTest::addColumn<int>("position");
+        QTest::newRow("first page") << 2 << 26;
+        QTest::newRow("last entries") << 50 << 61;
+    }
 
-void frmMain_Grid_test::onAShortListTheMaximumShowsAnEmptyPage()
-{
-    MainWindow main;
-    main.fill(5);
-    main.bar().setValue(6);
-    QCOMPARE(main.bar().value(), 6);
-    for (int row = 1; row <= 24; ++row)
-        QCOMPARE(main.row(row), EmptyRow);
-    main.clickCell(1, 1);
-    QCOMPARE(main.look(), EditorModes::idle());
-    main.bar().setValue(5);
-    comparePage(main, 5);
-    QVERIFY(main.answers.allSeen());
-}
+    void withNothingPickedThePositionStaysBehindThePage()
+    {
+        QFETCH(int, top);
+        MainWindow main;
+        main.fill(60);
+        main.bar().setValue(top);
+        QTEST(gVocabList().CurrentWord().toInt(), "position");
+    }
 
-void frmMain_Grid_test::onAnEmptyListScrollingDoesNothing()
-{
-    MainWindow main;
-    const Integer current = gVocabList().CurrentWord();
-    main.bar().setValue(1);
-    main.bar().setValue(0);
-    QCOMPARE(main.row(1), (QStringList{QStringLiteral("1"), QString(), QString(), QString()}));
-    QCOMPARE(gVocabList().CurrentWord(), current);
-    QCOMPARE(gLastItem, 1);
-    QVERIFY(main.answers.allSeen());
-}
+    void theWheelScrolls()
+    {
+        MainWindow main;
+        main.fill(60);
+        const int lines = QApplication::wheelScrollLines();
+        QVERIFY(lines > 0);
+        turnWheel(main.grid(), -1);
+        QCOMPARE(main.bar().value(), 1 + lines);
+        comparePage(main, 1 + lines);
+        turnWheel(main.grid(), -1);
+        turnWheel(main.grid(), 1);
+        comparePage(main, 1 + lines);
+    }
 
-void frmMain_Grid_test::withNothingPickedThePositionStaysBehindThePage_data()
-{
-    QTest::addColumn<int>("top");
-    QTest::addColumn<int>("position");
-    QTest::newRow("first page") << 2 << 26;
-    QTest::newRow("last entries") << 50 << 61;
-}
+    void theWheelStopsAtTheFirstEntryAndAtTheLastFullPage()
+    {
+        MainWindow main;
+        main.fill(60);
+        turnWheel(main.grid(), -100);
+        comparePage(main, 38);
+        QCOMPARE(main.bar().value(), 38);
+        turnWheel(main.grid(), -1);
+        comparePage(main, 38);
+        turnWheel(main.grid(), 100);
+        comparePage(main, 1);
+        QCOMPARE(main.bar().value(), 1);
+    }
 
-void frmMain_Grid_test::withNothingPickedThePositionStaysBehindThePage()
-{
-    QFETCH(int, top);
-    MainWindow main;
-    main.fill(60);
-    main.bar().setValue(top);
-    QTEST(gVocabList().CurrentWord().toInt(), "position");
-}
+    void afterTypedWordsTheWheelLeavesTheListInSight()
+    {
+        // The bar stands at the new entry, the page at the first one.
+        MainWindow main;
+        typeWords(main, 7);
+        for (const int notches : {1, 1, -1, -1, -5, 5}) {
+            turnWheel(main.grid(), notches);
+            for (int row = 1; row <= 7; ++row)
+                QCOMPARE(main.row(row), EditorModes::filledRow(row));
+        }
+        QCOMPARE(main.markedRows(), QList<int>{8});
+    }
 
-void frmMain_Grid_test::theWheelScrolls()
-{
-    MainWindow main;
-    main.fill(60);
-    const int lines = QApplication::wheelScrollLines();
-    QVERIFY(lines > 0);
-    turnWheel(main.grid(), -1);
-    QCOMPARE(main.bar().value(), 1 + lines);
-    comparePage(main, 1 + lines);
-    turnWheel(main.grid(), -1);
-    turnWheel(main.grid(), 1);
-    comparePage(main, 1 + lines);
-}
+    void theWheelLeavesAPageBehindTheListsEnd()
+    {
+        MainWindow main;
+        main.fill(5);
+        main.bar().setValue(6);
+        QCOMPARE(main.row(1), EmptyRow);
+        turnWheel(main.grid(), -1);
+        comparePage(main, 1);
 
-void frmMain_Grid_test::theWheelStopsAtTheFirstEntryAndAtTheLastFullPage()
-{
-    MainWindow main;
-    main.fill(60);
-    turnWheel(main.grid(), -100);
-    comparePage(main, 38);
-    QCOMPARE(main.bar().value(), 38);
-    turnWheel(main.grid(), -1);
-    comparePage(main, 38);
-    turnWheel(main.grid(), 100);
-    comparePage(main, 1);
-    QCOMPARE(main.bar().value(), 1);
-}
+        main.fill(60);
+        main.bar().setValue(60);
+        turnWheel(main.grid(), -1);
+        comparePage(main, 60);
+        turnWheel(main.grid(), 1);
+        comparePage(main, 60 - QApplication::wheelScrollLines());
+    }
 
-void frmMain_Grid_test::afterTypedWordsTheWheelLeavesTheListInSight()
-{
-    // The bar stands at the new entry, the page at the first one.
-    MainWindow main;
-    typeWords(main, 7);
-    for (const int notches : {1, 1, -1, -1, -5, 5}) {
-        turnWheel(main.grid(), notches);
+    void keysOverTheGridMoveThePage_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<int>("top"); // from 30
+        QTest::addColumn<int>("row"); // from 1
+        QTest::newRow("Up") << Qt::Key_Up << 29 << 1;
+        QTest::newRow("Down") << Qt::Key_Down << 30 << 2;
+        QTest::newRow("Page Up") << Qt::Key_PageUp << 7 << 1;
+        QTest::newRow("Page Down") << Qt::Key_PageDown << 38 << 16;
+        QTest::newRow("Home") << Qt::Key_Home << 1 << 1;
+        QTest::newRow("End") << Qt::Key_End << 38 << 23;
+    }
+
+    void keysOverTheGridMoveThePage()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(int, top);
+        QFETCH(int, row);
+        MainWindow main;
+        main.fill(60);
+        main.bar().setValue(30);
+        main.grid().setFocus();
+        Controls::press(key);
+        comparePage(main, top);
+        QCOMPARE(main.bar().value(), top);
+        QCOMPARE(main.grid().Row(), row);
+        QCOMPARE(main.grid().Col(), 1);
+        QVERIFY(main.grid().hasFocus());
+    }
+
+    void keysBeginAtThePageThatIsShown_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                                  Qt::Key_Home, Qt::Key_End})
+            QTest::newRow(QMetaEnum::fromType<Qt::Key>().valueToKey(key)) << key;
+    }
+
+    void keysBeginAtThePageThatIsShown()
+    {
+        QFETCH(Qt::Key, key);
+        MainWindow main;
+        typeWords(main, 7);
+        main.grid().setFocus();
+        for (int i = 0; i < 3; ++i)
+            Controls::press(key);
         for (int row = 1; row <= 7; ++row)
             QCOMPARE(main.row(row), EditorModes::filledRow(row));
+        QVERIFY(main.grid().Row() >= 1);
+        QVERIFY(main.grid().Row() <= 7);
     }
-    QCOMPARE(main.markedRows(), QList<int>{8});
-}
 
-void frmMain_Grid_test::theWheelLeavesAPageBehindTheListsEnd()
-{
-    MainWindow main;
-    main.fill(5);
-    main.bar().setValue(6);
-    QCOMPARE(main.row(1), EmptyRow);
-    turnWheel(main.grid(), -1);
-    comparePage(main, 1);
-
-    main.fill(60);
-    main.bar().setValue(60);
-    turnWheel(main.grid(), -1);
-    comparePage(main, 60);
-    turnWheel(main.grid(), 1);
-    comparePage(main, 60 - QApplication::wheelScrollLines());
-}
-
-void frmMain_Grid_test::keysOverTheGridMoveThePage_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<int>("top"); // from 30
-    QTest::addColumn<int>("row"); // from 1
-    QTest::newRow("Up") << Qt::Key_Up << 29 << 1;
-    QTest::newRow("Down") << Qt::Key_Down << 30 << 2;
-    QTest::newRow("Page Up") << Qt::Key_PageUp << 7 << 1;
-    QTest::newRow("Page Down") << Qt::Key_PageDown << 38 << 16;
-    QTest::newRow("Home") << Qt::Key_Home << 1 << 1;
-    QTest::newRow("End") << Qt::Key_End << 38 << 23;
-}
-
-void frmMain_Grid_test::keysOverTheGridMoveThePage()
-{
-    QFETCH(Qt::Key, key);
-    QFETCH(int, top);
-    QFETCH(int, row);
-    MainWindow main;
-    main.fill(60);
-    main.bar().setValue(30);
-    main.grid().setFocus();
-    Controls::press(key);
-    comparePage(main, top);
-    QCOMPARE(main.bar().value(), top);
-    QCOMPARE(main.grid().Row(), row);
-    QCOMPARE(main.grid().Col(), 1);
-    QVERIFY(main.grid().hasFocus());
-}
-
-void frmMain_Grid_test::keysBeginAtThePageThatIsShown_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    for (const Qt::Key key :
-         {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End})
-        QTest::newRow(QMetaEnum::fromType<Qt::Key>().valueToKey(key)) << key;
-}
-
-void frmMain_Grid_test::keysBeginAtThePageThatIsShown()
-{
-    QFETCH(Qt::Key, key);
-    MainWindow main;
-    typeWords(main, 7);
-    main.grid().setFocus();
-    for (int i = 0; i < 3; ++i)
-        Controls::press(key);
-    for (int row = 1; row <= 7; ++row)
-        QCOMPARE(main.row(row), EditorModes::filledRow(row));
-    QVERIFY(main.grid().Row() >= 1);
-    QVERIFY(main.grid().Row() <= 7);
-}
-
-void frmMain_Grid_test::downAndUpMoveTheCurrentRow()
-{
-    MainWindow main;
-    main.fill(30);
-    main.grid().setFocus();
-    for (int entry = 2; entry <= 30; ++entry) {
+    void downAndUpMoveTheCurrentRow()
+    {
+        MainWindow main;
+        main.fill(30);
+        main.grid().setFocus();
+        for (int entry = 2; entry <= 30; ++entry) {
+            Controls::press(Qt::Key_Down);
+            QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entry));
+        }
+        comparePage(main, 8);
         Controls::press(Qt::Key_Down);
-        QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entry));
+        QCOMPARE(main.grid().Row(), 23);
+        for (int entry = 29; entry >= 1; --entry) {
+            Controls::press(Qt::Key_Up);
+            QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entry));
+        }
+        comparePage(main, 1);
     }
-    comparePage(main, 8);
-    Controls::press(Qt::Key_Down);
-    QCOMPARE(main.grid().Row(), 23);
-    for (int entry = 29; entry >= 1; --entry) {
-        Controls::press(Qt::Key_Up);
-        QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entry));
+
+    void endMakesTheLastEntryCurrentAndSpacePicksIt_data()
+    {
+        QTest::addColumn<int>("entries");
+        for (const int entries : {1, 5, 22, 23, 24, 60, 32000})
+            QTest::addRow("%d", entries) << entries;
     }
-    comparePage(main, 1);
-}
 
-void frmMain_Grid_test::endMakesTheLastEntryCurrentAndSpacePicksIt_data()
-{
-    QTest::addColumn<int>("entries");
-    for (const int entries : {1, 5, 22, 23, 24, 60, 32000})
-        QTest::addRow("%d", entries) << entries;
-}
+    void endMakesTheLastEntryCurrentAndSpacePicksIt()
+    {
+        QFETCH(int, entries);
+        MainWindow main;
+        main.fill(entries);
+        main.grid().setFocus();
+        Controls::press(Qt::Key_End);
+        comparePage(main, std::max(1, entries - 22));
+        QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entries));
+        Controls::press(Qt::Key_Space);
+        QCOMPARE(main.text("txtWord"), u"word %1"_s.arg(entries));
+        QCOMPARE(main.look(), EditorModes::editing());
+    }
 
-void frmMain_Grid_test::endMakesTheLastEntryCurrentAndSpacePicksIt()
-{
-    QFETCH(int, entries);
-    MainWindow main;
-    main.fill(entries);
-    main.grid().setFocus();
-    Controls::press(Qt::Key_End);
-    comparePage(main, std::max(1, entries - 22));
-    QCOMPARE(main.row(main.grid().Row()), EditorModes::filledRow(entries));
-    Controls::press(Qt::Key_Space);
-    QCOMPARE(main.text("txtWord"), QStringLiteral("word %1").arg(entries));
-    QCOMPARE(main.look(), EditorModes::editing());
-}
+    void aMoveInsideThePageKeepsTheMark()
+    {
+        MainWindow main;
+        main.fill(5);
+        main.click("cmdNewWord");
+        QCOMPARE(main.markedRows(), QList<int>{6});
+        main.grid().setFocus();
+        Controls::press(Qt::Key_Down);
+        QCOMPARE(main.grid().Row(), 2);
+        QCOMPARE(main.markedRows(), QList<int>{6});
+    }
 
-void frmMain_Grid_test::aMoveInsideThePageKeepsTheMark()
-{
-    MainWindow main;
-    main.fill(5);
-    main.click("cmdNewWord");
-    QCOMPARE(main.markedRows(), QList<int>{6});
-    main.grid().setFocus();
-    Controls::press(Qt::Key_Down);
-    QCOMPARE(main.grid().Row(), 2);
-    QCOMPARE(main.markedRows(), QList<int>{6});
-}
+    void onAnEmptyListKeysAndWheelDoNothing()
+    {
+        MainWindow main;
+        main.grid().setFocus();
+        turnWheel(main.grid(), -1);
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home})
+            Controls::press(key);
+        QCOMPARE(main.row(1), (QStringList{u"1"_s, QString(), QString(), QString()}));
+        QCOMPARE(main.grid().Row(), 1);
+        QVERIFY(main.answers.allSeen());
+    }
 
-void frmMain_Grid_test::onAnEmptyListKeysAndWheelDoNothing()
-{
-    MainWindow main;
-    main.grid().setFocus();
-    turnWheel(main.grid(), -1);
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home})
+    void spacePicksTheFirstRowOfAScrolledPage()
+    {
+        MainWindow main;
+        main.fill(60);
+        main.bar().setValue(2);
+        main.grid().setFocus();
+        Controls::press(Qt::Key_Space);
+        QCOMPARE(main.text("txtWord"), u"word 2"_s);
+        QCOMPARE(main.look(), EditorModes::editing());
+        QVERIFY(main.control<QWidget>("txtWord").hasFocus());
+    }
+
+    void enterOverTheGridIsTheDefaultButton_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("Return") << Qt::Key_Return;
+        QTest::newRow("Enter") << Qt::Key_Enter;
+    }
+
+    void enterOverTheGridIsTheDefaultButton()
+    {
+        QFETCH(Qt::Key, key);
+        MainWindow main;
+        main.fill(60);
+        main.grid().setFocus();
         Controls::press(key);
-    QCOMPARE(main.row(1), (QStringList{QStringLiteral("1"), QString(), QString(), QString()}));
-    QCOMPARE(main.grid().Row(), 1);
-    QVERIFY(main.answers.allSeen());
-}
-
-void frmMain_Grid_test::spacePicksTheFirstRowOfAScrolledPage()
-{
-    MainWindow main;
-    main.fill(60);
-    main.bar().setValue(2);
-    main.grid().setFocus();
-    Controls::press(Qt::Key_Space);
-    QCOMPARE(main.text("txtWord"), QStringLiteral("word 2"));
-    QCOMPARE(main.look(), EditorModes::editing());
-    QVERIFY(main.control<QWidget>("txtWord").hasFocus());
-}
-
-void frmMain_Grid_test::enterOverTheGridIsTheDefaultButton_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::newRow("Return") << Qt::Key_Return;
-    QTest::newRow("Enter") << Qt::Key_Enter;
-}
-
-void frmMain_Grid_test::enterOverTheGridIsTheDefaultButton()
-{
-    QFETCH(Qt::Key, key);
-    MainWindow main;
-    main.fill(60);
-    main.grid().setFocus();
-    Controls::press(key);
-    QCOMPARE(main.look(), EditorModes::newWord());
-}
-
-void frmMain_Grid_test::tabLeavesTheGrid()
-{
-    MainWindow main;
-    main.fill(5);
-    main.grid().setFocus();
-    Controls::press(Qt::Key_Tab);
-    QVERIFY(!main.grid().hasFocus());
-    QVERIFY(QApplication::focusWidget());
-}
-
-void frmMain_Grid_test::textsTooLongForTheirCellAreShownWholeInAToolTip_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("long") << QStringLiteral("a <long> & winding text ").repeated(20).trimmed();
-    QTest::newRow("several lines")
-        << QStringLiteral("one\r\ntwo ") + QStringLiteral("three ").repeated(40).trimmed();
-}
-
-void frmMain_Grid_test::textsTooLongForTheirCellAreShownWholeInAToolTip()
-{
-    QFETCH(QString, text);
-    MainWindow main;
-    gVocabList().AddVocab(QStringLiteral("cat"), text, text);
-    main.bar().setValue(1);
-    MSFlexGrid &grid = main.grid();
-    QCOMPARE(grid.textElideMode(), Qt::ElideRight);
-    QString shown = text.toHtmlEscaped();
-    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    QVERIFY(!grid.wordWrap());
-    for (const int column : {2, 3}) {
-        askForToolTip(grid, 1, column);
-        QTRY_VERIFY(QToolTip::isVisible());
-        QVERIFY(QToolTip::text().contains(shown));
-        QToolTip::hideText();
-        QTRY_VERIFY(!QToolTip::isVisible());
+        QCOMPARE(main.look(), EditorModes::newWord());
     }
-}
 
-void frmMain_Grid_test::textsThatFitHaveNoToolTip()
-{
-    MainWindow main;
-    main.fill(1);
-    for (const int column : {1, 2, 3}) {
-        askForToolTip(main.grid(), 1, column);
-        QVERIFY(!QToolTip::isVisible());
+    void tabLeavesTheGrid()
+    {
+        MainWindow main;
+        main.fill(5);
+        main.grid().setFocus();
+        Controls::press(Qt::Key_Tab);
+        QVERIFY(!main.grid().hasFocus());
+        QVERIFY(QApplication::focusWidget());
     }
-}
+
+    void textsTooLongForTheirCellAreShownWholeInAToolTip_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("long") << u"a <long> & winding text "_s.repeated(20).trimmed();
+        QTest::newRow("several lines") << u"one\r\ntwo "_s + u"three "_s.repeated(40).trimmed();
+    }
+
+    void textsTooLongForTheirCellAreShownWholeInAToolTip()
+    {
+        QFETCH(QString, text);
+        MainWindow main;
+        gVocabList().AddVocab(u"cat"_s, text, text);
+        main.bar().setValue(1);
+        MSFlexGrid &grid = main.grid();
+        QCOMPARE(grid.textElideMode(), Qt::ElideRight);
+        QString shown = text.toHtmlEscaped();
+        shown.replace(u"\r\n"_s, u"\n"_s);
+        QVERIFY(!grid.wordWrap());
+        for (const int column : {2, 3}) {
+            askForToolTip(grid, 1, column);
+            QTRY_VERIFY(QToolTip::isVisible());
+            QVERIFY(QToolTip::text().contains(shown));
+            QToolTip::hideText();
+            QTRY_VERIFY(!QToolTip::isVisible());
+        }
+    }
+
+    void textsThatFitHaveNoToolTip()
+    {
+        MainWindow main;
+        main.fill(1);
+        for (const int column : {1, 2, 3}) {
+            askForToolTip(main.grid(), 1, column);
+            QVERIFY(!QToolTip::isVisible());
+        }
+    }
+};
 
 int main(int argc, char *argv[])
 {

@@ -3,6 +3,7 @@
 #include "editor/ImportCommand.h"
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 using ImportTools::difLinesOf;
 using ImportTools::openEntries;
 using ImportTools::setOpenEntries;
@@ -30,34 +31,26 @@ private Q_SLOTS:
         // These two give the number of rows where that of the columns is looked for: with three
         // rows the second column is the sentence, with two rows the definition.
         for (const char *file : {"gnumeric-words.dif", "libreoffice-words.dif"})
-            row(file,
-                {QStringLiteral("harbour||A place where ships are safe."),
-                 QStringLiteral("lantern||A light that is carried by hand, with a cover of glass."),
-                 QStringLiteral("tidy up||To put things away.")});
+            row(file, {u"harbour||A place where ships are safe."_s,
+                       u"lantern||A light that is carried by hand, with a cover of glass."_s,
+                       u"tidy up||To put things away."_s});
         for (const char *file : {"gnumeric-tworows.dif", "libreoffice-tworows.dif"})
-            row(file, {QStringLiteral("harbour|A place where ships are safe."),
-                       QStringLiteral(
-                           "lantern|A light that is carried by hand, with a cover of glass.")});
+            row(file, {u"harbour|A place where ships are safe."_s,
+                       u"lantern|A light that is carried by hand, with a cover of glass."_s});
         row("libreoffice-accents-windows1252.dif",
-            {QStringLiteral("cr\u00E8me||The fat part of milk."),
-             QStringLiteral("fa\u00E7ade||The front of a building."),
-             QStringLiteral(
-                 "na\u00EFve||Ready to believe everything \u2013 even \u201Cthis\u201D.")});
+            {u"cr\u00E8me||The fat part of milk."_s, u"fa\u00E7ade||The front of a building."_s,
+             u"na\u00EFve||Ready to believe everything \u2013 even \u201Cthis\u201D."_s});
         // Written in UTF-8, read as the one encoding of all files.
         for (const char *file : {"gnumeric-accents.dif", "libreoffice-accents.dif"})
-            row(file,
-                {QStringLiteral("cr\u00C3\u00A8me||The fat part of milk."),
-                 QStringLiteral("fa\u00C3\u00A7ade||The front of a building."),
-                 QStringLiteral("na\u00C3\u00AFve||Ready to believe everything \u00E2\u20AC\u201C "
-                                "even \u00E2\u20AC\u0153this\u00E2\u20AC\u009D.")});
+            row(file, {u"cr\u00C3\u00A8me||The fat part of milk."_s,
+                       u"fa\u00C3\u00A7ade||The front of a building."_s,
+                       u"na\u00C3\u00AFve||Ready to believe everything \u00E2\u20AC\u201C "
+                       "even \u00E2\u20AC\u0153this\u00E2\u20AC\u009D."_s});
         row("rowsfirst-two-columns.dif",
-            {QStringLiteral("harbour|A place where ships are safe."),
-             QStringLiteral("fa\u00E7ade|The front of a building."),
-             QStringLiteral("tidy up|To put things away."),
-             QStringLiteral("lantern|A light that is carried by hand.")});
+            {u"harbour|A place where ships are safe."_s, u"fa\u00E7ade|The front of a building."_s,
+             u"tidy up|To put things away."_s, u"lantern|A light that is carried by hand."_s});
         // The second of three columns is the sentence.
-        row("rowsfirst-three-columns.dif",
-            {QStringLiteral("harbour||unread"), QStringLiteral("fa\u00E7ade||unread")});
+        row("rowsfirst-three-columns.dif", {u"harbour||unread"_s, u"fa\u00E7ade||unread"_s});
     }
 
     void filesOfOtherProgramsComeIn()
@@ -66,9 +59,9 @@ private Q_SLOTS:
         QFETCH(QStringList, entries);
         const QString source = QStringLiteral(TANGLEWIT_TESTS_FOLDER "/transfer/data/") + file;
         QVERIFY2(QFile::exists(source), qPrintable(file));
-        const QString chosen = m_command->main.path(QStringLiteral("table.dif"));
+        const QString chosen = m_command->main.path(u"table.dif"_s);
         QVERIFY(QFile::copy(source, chosen));
-        m_command->expectMsgBox(QStringLiteral("%1 words added").arg(entries.size()));
+        m_command->expectMsgBox(u"%1 words added"_s.arg(entries.size()));
         m_command->choose(chosen);
         QCOMPARE(openEntries(), entries);
         QStringList words;
@@ -83,14 +76,13 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("report");
         QTest::addColumn<QStringList>("cameIn");
-        const QString subscript = QStringLiteral("Run-time error '9':\n\nSubscript out of range");
-        const QString mismatch = QStringLiteral("Run-time error '13':\n\nType mismatch");
-        const QString invalid =
-            QStringLiteral("Run-time error '5':\n\nInvalid procedure call or argument");
-        const QString overflow = QStringLiteral("Run-time error '6':\n\nOverflow");
-        const QString cat = QStringLiteral("cat|1");
-        const QString dog = QStringLiteral("dog|2");
-        const QString cow = QStringLiteral("cow|3");
+        const QString subscript = u"Run-time error '9':\n\nSubscript out of range"_s;
+        const QString mismatch = u"Run-time error '13':\n\nType mismatch"_s;
+        const QString invalid = u"Run-time error '5':\n\nInvalid procedure call or argument"_s;
+        const QString overflow = u"Run-time error '6':\n\nOverflow"_s;
+        const QString cat = u"cat|1"_s;
+        const QString dog = u"dog|2"_s;
+        const QString cow = u"cow|3"_s;
         QTest::newRow("no end of the data")
             << 32 << QByteArray("END") << subscript << QStringList{cat, dog, cow};
         QTest::newRow("cut off") << 0 << QByteArray() << subscript << QStringList{cat};
@@ -107,51 +99,50 @@ private Q_SLOTS:
         QFETCH(QByteArray, text);
         QFETCH(QString, report);
         QFETCH(QStringList, cameIn);
-        QByteArrayList lines =
-            difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2"), QStringLiteral("cow|3")});
+        QByteArrayList lines = difLinesOf({u"cat|1"_s, u"dog|2"_s, u"cow|3"_s});
         if (line == 0)
             lines = lines.mid(0, 21);
         else
             lines[line - 1] = text;
         MainWindow &main = m_command->main;
-        main.fill({QStringLiteral("ox")});
+        main.fill({u"ox"_s});
         gVocabList().CurrentWord(1);
-        gFileName = QStringLiteral("open list");
+        gFileName = u"open list"_s;
         gSkipAll = true;
         m_command->expectMsgBox(report);
         m_command->importDif(lines);
 
         QCOMPARE(openEntries().mid(1), cameIn);
         QCOMPARE(gImportCount.toInt(), int(cameIn.size()));
-        QStringList words{QStringLiteral("ox")};
+        QStringList words{u"ox"_s};
         for (const QString &entry : std::as_const(cameIn))
             words += entry.section(QLatin1Char('|'), 0, 0);
         QCOMPARE(m_command->words(), words);
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
         QCOMPARE(main.grid().Row(), 1);
-        QCOMPARE(gFileName, QStringLiteral("open list"));
+        QCOMPARE(gFileName, u"open list"_s);
         QCOMPARE(gChanged, !cameIn.isEmpty());
         QVERIFY(!main.action("mnuSave").isEnabled());
-        QCOMPARE(ImportTools::flags(), QStringLiteral("taSe"));
+        QCOMPARE(ImportTools::flags(), u"taSe"_s);
         QCOMPARE(main.window().cursor().shape(), Qt::ArrowCursor);
 
         // The program goes on.
         gSkipAll = false;
-        m_command->expectMsgBox(QStringLiteral("1 words imported"));
-        m_command->importList({QStringLiteral("new")});
+        m_command->expectMsgBox(u"1 words imported"_s);
+        m_command->importList({u"new"_s});
     }
 
     void aDifFileThatIsNotThereIsReported()
     {
         MainWindow &main = m_command->main;
         main.fill(2);
-        gFileName = QStringLiteral("open list");
-        const QString lost = main.path(QStringLiteral("lost.dif"));
-        m_command->expectReport(QStringLiteral("Run-time error '53':\n\nFile not found\n"), lost);
+        gFileName = u"open list"_s;
+        const QString lost = main.path(u"lost.dif"_s);
+        m_command->expectReport(u"Run-time error '53':\n\nFile not found\n"_s, lost);
         m_command->choose(lost);
         QVERIFY(!QFile::exists(lost));
         QCOMPARE(gVocabList().NumWords().toInt(), 2);
-        QCOMPARE(gFileName, QStringLiteral("open list"));
+        QCOMPARE(gFileName, u"open list"_s);
         QVERIFY(!gChanged);
     }
 
@@ -160,8 +151,8 @@ private Q_SLOTS:
     {
         MainWindow &main = m_command->main;
         main.fill(2);
-        m_command->expectMsgBox(QStringLiteral("0 words imported"));
-        m_command->choose(main.path(QStringLiteral("lost.lwx")));
+        m_command->expectMsgBox(u"0 words imported"_s);
+        m_command->choose(main.path(u"lost.lwx"_s));
         QCOMPARE(gVocabList().NumWords().toInt(), 2);
     }
 
@@ -169,25 +160,25 @@ private Q_SLOTS:
     {
         MainWindow &main = m_command->main;
         main.fill(2);
-        gFileName = QStringLiteral("open list");
-        m_command->expectReport(QStringLiteral("Run-time error '9':\n\nSubscript out of range\n"));
-        m_command->import(QStringLiteral("broken.lwx"), QByteArray("\xFE\xFF", 2));
+        gFileName = u"open list"_s;
+        m_command->expectReport(u"Run-time error '9':\n\nSubscript out of range\n"_s);
+        m_command->import(u"broken.lwx"_s, QByteArray("\xFE\xFF", 2));
         QCOMPARE(gVocabList().NumWords().toInt(), 2);
-        QCOMPARE(gFileName, QStringLiteral("open list"));
+        QCOMPARE(gFileName, u"open list"_s);
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
     }
 
     void aFolderThatIsGoneIsReported_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("word list") << QStringLiteral("gone/words.lwx");
-        QTest::newRow("DIF file") << QStringLiteral("gone/words.dif");
+        QTest::newRow("word list") << u"gone/words.lwx"_s;
+        QTest::newRow("DIF file") << u"gone/words.dif"_s;
     }
 
     void aFolderThatIsGoneIsReported()
     {
         QFETCH(QString, name);
-        m_command->expectReport(QStringLiteral("Run-time error '76':\n\nPath not found\n"), name);
+        m_command->expectReport(u"Run-time error '76':\n\nPath not found\n"_s, name);
         m_command->choose(m_command->main.path(name));
         QCOMPARE(gVocabList().NumWords().toInt(), 0);
     }
@@ -198,10 +189,9 @@ private Q_SLOTS:
         for (int i = 1; i <= 32000; ++i)
             full += QString::number(i);
         setOpenEntries(full);
-        m_command->expectMsgBox(
-            QStringLiteral("Cannot add any more words. Maximum number of words= 32000"));
-        m_command->expectMsgBox(QStringLiteral("1 words added"));
-        m_command->importDif(difLinesOf({QStringLiteral("cat|1")}));
+        m_command->expectMsgBox(u"Cannot add any more words. Maximum number of words= 32000"_s);
+        m_command->expectMsgBox(u"1 words added"_s);
+        m_command->importDif(difLinesOf({u"cat|1"_s}));
         QCOMPARE(gVocabList().NumWords().toInt(), 32000);
     }
 
@@ -212,9 +202,9 @@ private Q_SLOTS:
             full += QString::number(i);
         setOpenEntries(full);
         m_command->expectMsgBox(
-            QStringLiteral("Cannot import words because this will exceed maximum number of words. "
-                           "Maximum number of words=32000"));
-        m_command->importList({QStringLiteral("cat")});
+            u"Cannot import words because this will exceed maximum number of words. "
+            "Maximum number of words=32000"_s);
+        m_command->importList({u"cat"_s});
         QCOMPARE(gVocabList().NumWords().toInt(), 32000);
         QVERIFY(!m_command->main.action("mnuSave").isEnabled());
     }

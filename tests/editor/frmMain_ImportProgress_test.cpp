@@ -7,6 +7,7 @@
 #include <QWindow>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,10 +23,10 @@ private Q_SLOTS:
     void init()
     {
         m_command = std::make_unique<ImportCommand>();
-        m_command->main.fill({QStringLiteral("word 1")});
+        m_command->main.fill({u"word 1"_s});
         m_incoming.clear();
         for (int i = 1; i <= Words; ++i)
-            m_incoming += QStringLiteral("word %1|").arg(i);
+            m_incoming += u"word %1|"_s.arg(i);
     }
 
     void cleanup()
@@ -46,7 +47,7 @@ private Q_SLOTS:
         QFETCH(bool, isDif);
         MainWindow &main = m_command->main;
         int shown = 0; // steps with a bar on the screen
-        m_command->expectQuestion(QStringLiteral("cmdNo"), [&](QDialog &) {
+        m_command->expectQuestion(u"cmdNo"_s, [&](QDialog &) {
             QCOMPARE(main.window().cursor().shape(), Qt::WaitCursor);
             auto *import = main.window().findChild<Import *>();
             QVERIFY(import);
@@ -59,8 +60,7 @@ private Q_SLOTS:
             });
         });
         m_command->expectMsgBox(
-            (isDif ? QStringLiteral("%1 words added") : QStringLiteral("%1 words imported"))
-                .arg(Words - 1));
+            (isDif ? u"%1 words added"_s : u"%1 words imported"_s).arg(Words - 1));
         if (isDif)
             m_command->importDif(ImportTools::difLinesOf(m_incoming));
         else
@@ -82,7 +82,7 @@ private Q_SLOTS:
     {
         MainWindow &main = m_command->main;
         bool wasShown = false;
-        m_command->expectQuestion(QStringLiteral("cmdNo"), [&](QDialog &) {
+        m_command->expectQuestion(u"cmdNo"_s, [&](QDialog &) {
             connect(main.window().findChild<Import *>(), &Import::progress, &main.window(),
                     [&](int done, int) {
                         if (!wasShown)
@@ -95,7 +95,7 @@ private Q_SLOTS:
                             tryCommands();
                     });
         });
-        m_command->expectMsgBox(QStringLiteral("%1 words imported").arg(Words - 1));
+        m_command->expectMsgBox(u"%1 words imported"_s.arg(Words - 1));
         m_command->importList(m_incoming);
         QVERIFY(wasShown);
         QCOMPARE(main.look(), EditorModes::idle());
@@ -104,9 +104,9 @@ private Q_SLOTS:
 
     void aShortImportShowsNone()
     {
-        m_command->expectMsgBox(QStringLiteral("1 words imported"),
+        m_command->expectMsgBox(u"1 words imported"_s,
                                 [this](QMessageBox &) { QVERIFY(!isBarShown()); });
-        m_command->importList({QStringLiteral("cat")});
+        m_command->importList({u"cat"_s});
     }
 
 private:

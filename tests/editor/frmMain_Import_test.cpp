@@ -6,14 +6,15 @@
 #include <QLineEdit>
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 using ImportTools::difLinesOf;
 using ImportTools::joined;
 using ImportTools::listFile;
 
 namespace {
 
-const QString Imported = QStringLiteral("%1 words imported");
-const QString Added = QStringLiteral("%1 words added");
+const QString Imported = u"%1 words imported"_s;
+const QString Added = u"%1 words added"_s;
 
 } // namespace
 
@@ -33,17 +34,15 @@ private Q_SLOTS:
     void theFileDialogOffersListsThenDifFilesThenAll()
     {
         m_command->expectMsgBox(Imported.arg(1));
-        m_command->import(
-            QStringLiteral("words.lwx"), listFile({QStringLiteral("cat")}),
-            [](QFileDialog &dialog) {
-                QCOMPARE(dialog.windowTitle(), QStringLiteral("Import words"));
-                QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
-                const QStringList filters = dialog.nameFilters();
-                QCOMPARE(filters.size(), 3);
-                QVERIFY(filters[0].startsWith(QStringLiteral("Vocab Data (*.lwx)")));
-                QVERIFY(filters[1].startsWith(QStringLiteral("Data Interchange Format (*.dif)")));
-                QVERIFY(filters[2].startsWith(QStringLiteral("All files (*.*)")));
-            });
+        m_command->import(u"words.lwx"_s, listFile({u"cat"_s}), [](QFileDialog &dialog) {
+            QCOMPARE(dialog.windowTitle(), u"Import words"_s);
+            QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+            const QStringList filters = dialog.nameFilters();
+            QCOMPARE(filters.size(), 3);
+            QVERIFY(filters[0].startsWith(u"Vocab Data (*.lwx)"_s));
+            QVERIFY(filters[1].startsWith(u"Data Interchange Format (*.dif)"_s));
+            QVERIFY(filters[2].startsWith(u"All files (*.*)"_s));
+        });
         // The name that was chosen last is not offered again.
         m_command->main.answers.cancelFileDialog([](QFileDialog &dialog) {
             QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), QString());
@@ -56,16 +55,16 @@ private Q_SLOTS:
         MainWindow &main = m_command->main;
         main.fill(5);
         main.clickCell(3, 2);
-        gFileName = QStringLiteral("open list");
+        gFileName = u"open list"_s;
         gAddThis = gAddAll = gSkipAll = gStopImport = true;
         const OpenList before(main);
         main.answers.cancelFileDialog();
         main.choose("mnuImport");
         QVERIFY(OpenList(main) == before);
-        QCOMPARE(ImportTools::flags(), QStringLiteral("TASE"));
+        QCOMPARE(ImportTools::flags(), u"TASE"_s);
         // The picked entry is still picked.
         QCOMPARE(main.look(), EditorModes::editing());
-        QCOMPARE(main.text("txtWord"), QStringLiteral("word 3"));
+        QCOMPARE(main.text("txtWord"), u"word 3"_s);
         QCOMPARE(main.markedRows(), QList<int>{3});
     }
 
@@ -75,10 +74,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("kind"); // what is imported as
         for (const char *name : {"words.lwx", "words.lwxy", "words.lwx.old", ".lwx",
                                  "my.lwx lists/words.dif", "words.lwx.dif"})
-            QTest::newRow(name) << QString::fromLatin1(name) << QStringLiteral("lwx");
+            QTest::newRow(name) << QString::fromLatin1(name) << u"lwx"_s;
         for (const char *name :
              {"words.dif", "words.diff", "words.dif.txt", ".dif", "my.dif/words.lwx"})
-            QTest::newRow(name) << QString::fromLatin1(name) << QStringLiteral("dif");
+            QTest::newRow(name) << QString::fromLatin1(name) << u"dif"_s;
         for (const char *name :
              {"WORDS.LWX", "WORDS.DIF", "words.Lwx", "words.dIf", "my.lists/words.lwx",
               "my.lists/words.dif", "a.words.lwx", "words.txt", "words.lw", "words.di", "words",
@@ -93,17 +92,16 @@ private Q_SLOTS:
         MainWindow &main = m_command->main;
         QVERIFY2(!main.path(QString()).contains(QLatin1Char('.')),
                  "the folder for temporary files must have no dot in its path");
-        main.fill({QStringLiteral("dog")});
-        gFileName = QStringLiteral("open list");
+        main.fill({u"dog"_s});
+        gFileName = u"open list"_s;
         const bool isDif = kind == QLatin1String("dif");
         if (!kind.isEmpty())
             m_command->expectMsgBox((isDif ? Added : Imported).arg(1));
         const bool asDif =
             isDif || (kind.isEmpty() && name.endsWith(QLatin1String("dif"), Qt::CaseInsensitive));
-        m_command->import(name, asDif ? joined(difLinesOf({QStringLiteral("cat|1")}))
-                                      : listFile({QStringLiteral("cat|1")}));
+        m_command->import(name, asDif ? joined(difLinesOf({u"cat|1"_s})) : listFile({u"cat|1"_s}));
         QCOMPARE(gVocabList().NumWords().toInt(), kind.isEmpty() ? 1 : 2);
-        QCOMPARE(gFileName, QStringLiteral("open list"));
+        QCOMPARE(gFileName, u"open list"_s);
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
         QCOMPARE(gChanged, !kind.isEmpty());
     }
@@ -114,12 +112,11 @@ private Q_SLOTS:
         main.fill(30);
         gVocabList().CurrentWord(12);
         m_command->expectMsgBox(Imported.arg(2));
-        m_command->importList({QStringLiteral("new a|b|c"), QStringLiteral("new d")});
+        m_command->importList({u"new a|b|c"_s, u"new d"_s});
         QCOMPARE(main.row(1), EditorModes::filledRow(12));
         QCOMPARE(main.row(19), EditorModes::filledRow(30));
-        QCOMPARE(main.row(20), (QStringList{QStringLiteral("31"), QStringLiteral("new a"),
-                                            QStringLiteral("b"), QStringLiteral("c")}));
-        QCOMPARE(main.row(21)[1], QStringLiteral("new d"));
+        QCOMPARE(main.row(20), (QStringList{u"31"_s, u"new a"_s, u"b"_s, u"c"_s}));
+        QCOMPARE(main.row(21)[1], u"new d"_s);
         QCOMPARE(main.grid().rowCount(), 25);
         QCOMPARE(main.grid().Row(), 1);
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
@@ -129,8 +126,8 @@ private Q_SLOTS:
     void anEmptyListShowsWhatCameIn()
     {
         m_command->expectMsgBox(Added.arg(2));
-        m_command->importDif(difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")}));
-        QCOMPARE(m_command->words(), (QStringList{QStringLiteral("cat"), QStringLiteral("dog")}));
+        m_command->importDif(difLinesOf({u"cat|1"_s, u"dog|2"_s}));
+        QCOMPARE(m_command->words(), (QStringList{u"cat"_s, u"dog"_s}));
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
     }
 
@@ -139,13 +136,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("entries");
         QTest::addColumn<QString>("answer"); // to a question, where one comes
         QTest::addColumn<int>("cameIn");
-        QTest::newRow("new words")
-            << QStringList{QStringLiteral("cat"), QStringLiteral("dog")} << QString() << 2;
+        QTest::newRow("new words") << QStringList{u"cat"_s, u"dog"_s} << QString() << 2;
         QTest::newRow("nothing") << QStringList() << QString() << 0;
-        QTest::newRow("a word skipped")
-            << QStringList{QStringLiteral("WORD 5")} << QStringLiteral("cmdNo") << 0;
-        QTest::newRow("a word twice")
-            << QStringList{QStringLiteral("WORD 5")} << QStringLiteral("cmdYes") << 1;
+        QTest::newRow("a word skipped") << QStringList{u"WORD 5"_s} << u"cmdNo"_s << 0;
+        QTest::newRow("a word twice") << QStringList{u"WORD 5"_s} << u"cmdYes"_s << 1;
     }
 
     void aPickedEntryStaysWithWhatIsTyped()
@@ -156,14 +150,14 @@ private Q_SLOTS:
         MainWindow &main = m_command->main;
         main.fill(5);
         main.clickCell(3, 1);
-        main.type("txtDefinition", QStringLiteral("typed so far"));
+        main.type("txtDefinition", u"typed so far"_s);
         if (!answer.isEmpty())
             m_command->expectQuestion(answer);
         m_command->expectMsgBox(Imported.arg(cameIn));
         m_command->importList(entries);
         QCOMPARE(main.look(), EditorModes::editing());
-        QCOMPARE(main.text("txtWord"), QStringLiteral("word 3"));
-        QCOMPARE(main.text("txtDefinition"), QStringLiteral("typed so far"));
+        QCOMPARE(main.text("txtWord"), u"word 3"_s);
+        QCOMPARE(main.text("txtDefinition"), u"typed so far"_s);
         QCOMPARE(gVocabList().CurrentWord().toInt(), 3);
         // The page starts at the entry that is picked.
         QCOMPARE(main.row(1), EditorModes::filledRow(3));
@@ -171,25 +165,25 @@ private Q_SLOTS:
 
         main.click("cmdAdd"); // Update
         QCOMPARE(gVocabList().NumWords().toInt(), 5 + cameIn);
-        QCOMPARE(gVocabList().entry(3).Definition, QStringLiteral("typed so far"));
+        QCOMPARE(gVocabList().entry(3).Definition, u"typed so far"_s);
     }
 
     void aFoundEntryStays()
     {
         MainWindow &main = m_command->main;
         main.fill(5);
-        search(QStringLiteral("word 3"));
+        search(u"word 3"_s);
         m_command->expectMsgBox(Imported.arg(1));
-        m_command->importList({QStringLiteral("cat")});
+        m_command->importList({u"cat"_s});
         QCOMPARE(main.look(), EditorModes::found());
-        QCOMPARE(main.text("txtSentence"), QStringLiteral("sentence 3"));
+        QCOMPARE(main.text("txtSentence"), u"sentence 3"_s);
         QCOMPARE(main.markedRows(), QList<int>{1});
-        main.answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'word 3' ?"),
+        main.answers.expectMsgBox(u"Are you sure you want to delete 'word 3' ?"_s,
                                   QMessageBox::Yes);
         main.click("cmdDelete");
         QCOMPARE(ImportTools::openEntries().mid(2, 2),
-                 (QStringList{QStringLiteral("word 4|definition 4|sentence 4"),
-                              QStringLiteral("word 5|definition 5|sentence 5")}));
+                 (QStringList{u"word 4|definition 4|sentence 4"_s,
+                              u"word 5|definition 5|sentence 5"_s}));
     }
 
     void anUpdateInTheQuestionLeavesThePickedEntry()
@@ -197,16 +191,15 @@ private Q_SLOTS:
         MainWindow &main = m_command->main;
         main.fill(5);
         main.clickCell(3, 1);
-        m_command->expectQuestion(QStringLiteral("cmdNo"), [](QDialog &dialog) {
+        m_command->expectQuestion(u"cmdNo"_s, [](QDialog &dialog) {
             Controls::click(Controls::find<QPushButton>(dialog, "cmdAllowModify"));
             Controls::click(Controls::find<QPushButton>(dialog, "cmdUpdate"));
         });
-        m_command->expectMsgBox(
-            QStringLiteral("Are you sure you want to change the content of this word?"));
+        m_command->expectMsgBox(u"Are you sure you want to change the content of this word?"_s);
         m_command->expectMsgBox(Imported.arg(0));
-        m_command->importList({QStringLiteral("WORD 2")});
+        m_command->importList({u"WORD 2"_s});
         QCOMPARE(main.look(), EditorModes::editing());
-        QCOMPARE(main.text("txtWord"), QStringLiteral("word 3"));
+        QCOMPARE(main.text("txtWord"), u"word 3"_s);
         QCOMPARE(main.markedRows(), QList<int>{1});
     }
 
@@ -223,20 +216,19 @@ private Q_SLOTS:
         MainWindow &main = m_command->main;
         main.fill(5);
         if (bySearch)
-            search(QStringLiteral("word 3"));
+            search(u"word 3"_s);
         else
             main.clickCell(3, 1);
         QCOMPARE(main.markedRows(), QList<int>{3});
-        m_command->expectQuestion(QStringLiteral("cmdNo"), [&main](QDialog &dialog) {
+        m_command->expectQuestion(u"cmdNo"_s, [&main](QDialog &dialog) {
             QVERIFY(main.look() != EditorModes::idle());
             Controls::click(Controls::find<QPushButton>(dialog, "cmdDelete"));
             QCOMPARE(main.look(), EditorModes::idle());
             QCOMPARE(main.markedRows(), QList<int>());
         });
-        m_command->expectYesNo(QStringLiteral("Are you sure you want to delete 'WORD 2' ?"),
-                               QMessageBox::Yes);
+        m_command->expectYesNo(u"Are you sure you want to delete 'WORD 2' ?"_s, QMessageBox::Yes);
         m_command->expectMsgBox(Imported.arg(0));
-        m_command->importList({QStringLiteral("WORD 2")});
+        m_command->importList({u"WORD 2"_s});
         QCOMPARE(main.look(), EditorModes::idle());
         for (const char *box : {"txtWord", "txtDefinition", "txtSentence"})
             QCOMPARE(main.text(box), QString());
@@ -249,10 +241,10 @@ private Q_SLOTS:
         MainWindow &main = m_command->main;
         main.fill(5);
         main.clickCell(3, 1);
-        main.type("txtWord", QStringLiteral("typed"));
-        m_command->import(QStringLiteral("words.txt"), "cat");
+        main.type("txtWord", u"typed"_s);
+        m_command->import(u"words.txt"_s, "cat");
         QCOMPARE(main.look(), EditorModes::editing());
-        QCOMPARE(main.text("txtWord"), QStringLiteral("typed"));
+        QCOMPARE(main.text("txtWord"), u"typed"_s);
         QCOMPARE(main.markedRows(), QList<int>{1});
         QVERIFY(!gChanged);
         QVERIFY(!main.action("mnuSave").isEnabled());
@@ -274,14 +266,13 @@ private Q_SLOTS:
     {
         MainWindow &main = m_command->main;
         main.click("cmdNewWord");
-        main.typeEntry(QStringLiteral("ox"), QStringLiteral("a bull"));
+        main.typeEntry(u"ox"_s, u"a bull"_s);
         m_command->expectMsgBox(Imported.arg(1));
-        m_command->importList({QStringLiteral("cat")});
+        m_command->importList({u"cat"_s});
         QCOMPARE(main.look(), EditorModes::newWord());
-        QCOMPARE(main.text("txtWord"), QStringLiteral("ox"));
+        QCOMPARE(main.text("txtWord"), u"ox"_s);
         main.click("cmdAdd");
-        QCOMPARE(ImportTools::openEntries(),
-                 (QStringList{QStringLiteral("cat"), QStringLiteral("ox|a bull")}));
+        QCOMPARE(ImportTools::openEntries(), (QStringList{u"cat"_s, u"ox|a bull"_s}));
     }
 
     void theRowOfTheNextNewWordIsMarkedAgain_data()
@@ -289,7 +280,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("before");
         QTest::addColumn<QStringList>("imported");
         QTest::addColumn<int>("first"); // entry of the page
-        const QStringList two = {QStringLiteral("new a"), QStringLiteral("new b")};
+        const QStringList two = {u"new a"_s, u"new b"_s};
         QTest::newRow("nothing into an empty list") << 0 << QStringList() << 1;
         QTest::newRow("nothing into a short list") << 5 << QStringList() << 1;
         QTest::newRow("nothing into a long list") << 60 << QStringList() << 39;
@@ -332,9 +323,9 @@ private Q_SLOTS:
             QCOMPARE(main.action("mnuSave").isEnabled(), !isDif); // before the message
         });
         if (isDif)
-            m_command->importDif(difLinesOf({QStringLiteral("cat|1")}));
+            m_command->importDif(difLinesOf({u"cat|1"_s}));
         else
-            m_command->importList({QStringLiteral("cat")});
+            m_command->importList({u"cat"_s});
         QVERIFY(gChanged);
         QCOMPARE(main.action("mnuSave").isEnabled(), !isDif);
     }
@@ -349,23 +340,23 @@ private Q_SLOTS:
     void theOpenListKeepsItsFile()
     {
         MainWindow &main = m_command->main;
-        const QString own = main.path(QStringLiteral("own.lwx"));
-        writeFile(own, listFile({QStringLiteral("dog")}));
+        const QString own = main.path(u"own.lwx"_s);
+        writeFile(own, listFile({u"dog"_s}));
         openList(main, own);
-        const QString imported = main.path(QStringLiteral("words.lwx"));
+        const QString imported = main.path(u"words.lwx"_s);
         m_command->expectMsgBox(Imported.arg(1), [&imported](QMessageBox &) {
             QCOMPARE(gFileName, imported); // while the command runs
         });
-        m_command->importList({QStringLiteral("cat")});
+        m_command->importList({u"cat"_s});
         QCOMPARE(gFileName, own);
-        QCOMPARE(gFileTitle, QStringLiteral("own.lwx"));
+        QCOMPARE(gFileTitle, u"own.lwx"_s);
         QCOMPARE(gOpenedFile, own);
-        QCOMPARE(main.window().windowTitle(), CaptionStart + QStringLiteral("own.lwx"));
+        QCOMPARE(main.window().windowTitle(), CaptionStart + u"own.lwx"_s);
 
-        main.answers.expectMsgBox(own + QStringLiteral(" has been saved."));
+        main.answers.expectMsgBox(own + u" has been saved."_s);
         main.choose("mnuSave");
-        QCOMPARE(readFile(own), listFile({QStringLiteral("dog"), QStringLiteral("cat")}));
-        QCOMPARE(readFile(imported), listFile({QStringLiteral("cat")}));
+        QCOMPARE(readFile(own), listFile({u"dog"_s, u"cat"_s}));
+        QCOMPARE(readFile(imported), listFile({u"cat"_s}));
     }
 
     // The page shows what came in before the question, or does not yet.
@@ -373,9 +364,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("answer");
         QTest::addColumn<QStringList>("words");
-        const QStringList fresh{QStringLiteral("old"), QStringLiteral("edited"),
-                                QStringLiteral("new")};
-        const QStringList stale{QStringLiteral("old"), QStringLiteral("other")};
+        const QStringList fresh{u"old"_s, u"edited"_s, u"new"_s};
+        const QStringList stale{u"old"_s, u"other"_s};
         for (const char *answer : {"cmdYes", "cmdYesToAll", "cmdNoToAll", "cmdAbort"})
             QTest::newRow(answer) << QString::fromLatin1(answer) << fresh;
         for (const char *answer : {"cmdNo", ImportTools::Close})
@@ -386,16 +376,16 @@ private Q_SLOTS:
     {
         QFETCH(QString, answer);
         QFETCH(QStringList, words);
-        m_command->main.fill({QStringLiteral("old"), QStringLiteral("other")});
+        m_command->main.fill({u"old"_s, u"other"_s});
         m_command->expectQuestion(answer, [](QDialog &) {
             gVocabList().CurrentWord(2);
-            gVocabList().Edit(QStringLiteral("edited"), {}, {});
+            gVocabList().Edit(u"edited"_s, {}, {});
         });
         const int cameIn =
             answer == QLatin1String("cmdYes") || answer == QLatin1String("cmdYesToAll");
         m_command->expectMsgBox(Imported.arg(1 + cameIn),
                                 [&](QMessageBox &) { QCOMPARE(m_command->words(), words); });
-        m_command->importList({QStringLiteral("new"), QStringLiteral("OLD")});
+        m_command->importList({u"new"_s, u"OLD"_s});
     }
 
 private:

@@ -18,6 +18,8 @@
 #include <cstdlib>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QRect placeIn(const QWidget &window, const QWidget &control)
@@ -87,157 +89,146 @@ class frmMain_Layout_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theTwipsAreThoseOfTheScreen();
-    void neighboursTouchAsTheyShould();
-    void nothingIsCutInAnyMode_data();
-    void nothingIsCutInAnyMode();
-    void theHeaderAnd23RowsFillTheGridExactly();
-    void theGridHoldsItsRowsInWindowsOfOtherSizes_data();
-    void theGridHoldsItsRowsInWindowsOfOtherSizes();
-    void theWindowHasItsMenuAndFillsTheScreen();
-    void everyControlThatAPersonUsesHasAnAccessibleName_data();
-    void everyControlThatAPersonUsesHasAnAccessibleName();
-};
-
-void frmMain_Layout_test::theTwipsAreThoseOfTheScreen()
-{
-    struct Twips
+    void theTwipsAreThoseOfTheScreen()
     {
-        QSize screen; // pixels
-        int column1, column2, column3, half, frameWidth, frameDefWidth, frameSenLeft, textWidth,
-            playLeft;
-    };
-    constexpr Twips table[] = {
-        {{1024, 768}, 2194, 5120, 6635, 5760, 15160, 7380, 7580, 6880, 13160},
-        {{1366, 768}, 2927, 6830, 8851, 5760, 20290, 9945, 10145, 9445, 18290},
-        {{1920, 1080}, 4114, 9600, 12441, 8100, 28600, 14100, 14300, 13600, 26600},
-    };
-    MainWindow main;
-    const auto *expected =
-        std::find_if(std::begin(table), std::end(table), [&main](const Twips &twips) {
-            return twips.screen == main.window().screen()->size();
-        });
-    QVERIFY2(expected != std::end(table), "a screen whose numbers are not known here");
+        struct Twips
+        {
+            QSize screen; // pixels
+            int column1, column2, column3, half, frameWidth, frameDefWidth, frameSenLeft, textWidth,
+                playLeft;
+        };
+        constexpr Twips table[] = {
+            {{1024, 768}, 2194, 5120, 6635, 5760, 15160, 7380, 7580, 6880, 13160},
+            {{1366, 768}, 2927, 6830, 8851, 5760, 20290, 9945, 10145, 9445, 18290},
+            {{1920, 1080}, 4114, 9600, 12441, 8100, 28600, 14100, 14300, 13600, 26600},
+        };
+        MainWindow main;
+        const auto *expected =
+            std::find_if(std::begin(table), std::end(table), [&main](const Twips &twips) {
+                return twips.screen == main.window().screen()->size();
+            });
+        QVERIFY2(expected != std::end(table), "a screen whose numbers are not known here");
 
-    MSFlexGrid &grid = main.grid();
-    QCOMPARE(grid.columnWidth(1), pixels(expected->column1));
-    QCOMPARE(grid.columnWidth(2), pixels(expected->column2));
-    QCOMPARE(grid.columnWidth(3), pixels(expected->column3));
-    QCOMPARE(grid.height() * TwipsPerPixel, expected->half);
-    const auto &frame = main.control<QGroupBox>("Frame1");
-    QCOMPARE(frame.y() * TwipsPerPixel, expected->half);
-    QCOMPARE(frame.width(), pixels(expected->frameWidth));
-    const auto &frameSen = main.control<QGroupBox>("FrameSen");
-    QCOMPARE(main.control<QGroupBox>("FrameDef").width(), pixels(expected->frameDefWidth));
-    QCOMPARE(frameSen.width(), pixels(expected->frameDefWidth));
-    QCOMPARE(frameSen.x(), pixels(expected->frameSenLeft));
-    for (const char *box : {"txtDefinition", "txtSentence"})
-        QCOMPARE(main.control<QWidget>(box).width(), pixels(expected->textWidth));
-    QCOMPARE(main.control<QWidget>("cmdPlayScramble").x(), pixels(expected->playLeft));
-}
+        MSFlexGrid &grid = main.grid();
+        QCOMPARE(grid.columnWidth(1), pixels(expected->column1));
+        QCOMPARE(grid.columnWidth(2), pixels(expected->column2));
+        QCOMPARE(grid.columnWidth(3), pixels(expected->column3));
+        QCOMPARE(grid.height() * TwipsPerPixel, expected->half);
+        const auto &frame = main.control<QGroupBox>("Frame1");
+        QCOMPARE(frame.y() * TwipsPerPixel, expected->half);
+        QCOMPARE(frame.width(), pixels(expected->frameWidth));
+        const auto &frameSen = main.control<QGroupBox>("FrameSen");
+        QCOMPARE(main.control<QGroupBox>("FrameDef").width(), pixels(expected->frameDefWidth));
+        QCOMPARE(frameSen.width(), pixels(expected->frameDefWidth));
+        QCOMPARE(frameSen.x(), pixels(expected->frameSenLeft));
+        for (const char *box : {"txtDefinition", "txtSentence"})
+            QCOMPARE(main.control<QWidget>(box).width(), pixels(expected->textWidth));
+        QCOMPARE(main.control<QWidget>("cmdPlayScramble").x(), pixels(expected->playLeft));
+    }
 
-void frmMain_Layout_test::neighboursTouchAsTheyShould()
-{
-    MainWindow main;
-    MSFlexGrid &grid = main.grid();
-    QVERIFY(grid.columnWidth(0) > 0);
-    QCOMPARE(grid.y(), 0);
-    const QScrollBar &bar = main.bar();
-    QCOMPARE(bar.y(), grid.y());
-    QCOMPARE(bar.height(), grid.height());
-    QCOMPARE(bar.x(), grid.x() + grid.width());
-    const auto &play = main.control<QPushButton>("cmdPlayScramble");
-    const auto &flash = main.control<QPushButton>("cmdQuickFlash");
-    QCOMPARE(flash.x(), play.x() - flash.width());
-    QCOMPARE(flash.y(), play.y());
-}
+    void neighboursTouchAsTheyShould()
+    {
+        MainWindow main;
+        MSFlexGrid &grid = main.grid();
+        QVERIFY(grid.columnWidth(0) > 0);
+        QCOMPARE(grid.y(), 0);
+        const QScrollBar &bar = main.bar();
+        QCOMPARE(bar.y(), grid.y());
+        QCOMPARE(bar.height(), grid.height());
+        QCOMPARE(bar.x(), grid.x() + grid.width());
+        const auto &play = main.control<QPushButton>("cmdPlayScramble");
+        const auto &flash = main.control<QPushButton>("cmdQuickFlash");
+        QCOMPARE(flash.x(), play.x() - flash.width());
+        QCOMPARE(flash.y(), play.y());
+    }
 
-void frmMain_Layout_test::nothingIsCutInAnyMode_data()
-{
-    QTest::addColumn<QString>("mode");
-    for (const char *mode : {"idle", "new word", "editing", "search"})
-        QTest::newRow(mode) << QString::fromLatin1(mode);
-}
+    void nothingIsCutInAnyMode_data()
+    {
+        QTest::addColumn<QString>("mode");
+        for (const char *mode : {"idle", "new word", "editing", "search"})
+            QTest::newRow(mode) << QString::fromLatin1(mode);
+    }
 
-void frmMain_Layout_test::nothingIsCutInAnyMode()
-{
-    QFETCH(QString, mode);
-    MainWindow main;
-    main.fill(30);
-    if (mode == QLatin1String("new word"))
-        main.click("cmdNewWord");
-    else if (mode == QLatin1String("editing"))
-        main.clickCell(2, 1);
-    else if (mode == QLatin1String("search"))
-        main.click("cmdSearch");
-    QApplication::processEvents();
-    checkNothingIsCut(main);
-}
+    void nothingIsCutInAnyMode()
+    {
+        QFETCH(QString, mode);
+        MainWindow main;
+        main.fill(30);
+        if (mode == QLatin1String("new word"))
+            main.click("cmdNewWord");
+        else if (mode == QLatin1String("editing"))
+            main.clickCell(2, 1);
+        else if (mode == QLatin1String("search"))
+            main.click("cmdSearch");
+        QApplication::processEvents();
+        checkNothingIsCut(main);
+    }
 
-void frmMain_Layout_test::theHeaderAnd23RowsFillTheGridExactly()
-{
-    MainWindow main;
-    checkRowsFillTheGrid(main);
-    main.fill(40);
-    checkRowsFillTheGrid(main);
-}
+    void theHeaderAnd23RowsFillTheGridExactly()
+    {
+        MainWindow main;
+        checkRowsFillTheGrid(main);
+        main.fill(40);
+        checkRowsFillTheGrid(main);
+    }
 
-void frmMain_Layout_test::theGridHoldsItsRowsInWindowsOfOtherSizes_data()
-{
-    QTest::addColumn<QSize>("size");
-    for (const QSize size :
-         {QSize(800, 540), QSize(1000, 700), QSize(1024, 728), QSize(1024, 768), QSize(1366, 728),
-          QSize(1366, 768), QSize(1920, 1040), QSize(1920, 1080), QSize(1917, 1073)})
-        QTest::addRow("%dx%d", size.width(), size.height()) << size;
-}
+    void theGridHoldsItsRowsInWindowsOfOtherSizes_data()
+    {
+        QTest::addColumn<QSize>("size");
+        for (const QSize size : {QSize(800, 540), QSize(1000, 700), QSize(1024, 728),
+                                 QSize(1024, 768), QSize(1366, 728), QSize(1366, 768),
+                                 QSize(1920, 1040), QSize(1920, 1080), QSize(1917, 1073)})
+            QTest::addRow("%dx%d", size.width(), size.height()) << size;
+    }
 
-void frmMain_Layout_test::theGridHoldsItsRowsInWindowsOfOtherSizes()
-{
-    QFETCH(QSize, size);
-    MainWindow main;
-    main.fill(40);
-    main.window().showNormal();
-    main.window().resize(size);
-    QTRY_COMPARE(main.window().size(), size);
-    checkRowsFillTheGrid(main);
-    checkNothingIsCut(main);
-}
+    void theGridHoldsItsRowsInWindowsOfOtherSizes()
+    {
+        QFETCH(QSize, size);
+        MainWindow main;
+        main.fill(40);
+        main.window().showNormal();
+        main.window().resize(size);
+        QTRY_COMPARE(main.window().size(), size);
+        checkRowsFillTheGrid(main);
+        checkNothingIsCut(main);
+    }
 
-void frmMain_Layout_test::theWindowHasItsMenuAndFillsTheScreen()
-{
-    MainWindow main;
-    QVERIFY(main.window().isMaximized());
-    QVERIFY(!main.window().isFullScreen());
-    QVERIFY(!main.window().windowFlags().testFlag(Qt::FramelessWindowHint));
-    QCOMPARE(main.window().geometry(), main.window().screen()->availableGeometry());
-    QVERIFY(main.control<QMenuBar>("menuBar").isVisible());
-}
+    void theWindowHasItsMenuAndFillsTheScreen()
+    {
+        MainWindow main;
+        QVERIFY(main.window().isMaximized());
+        QVERIFY(!main.window().isFullScreen());
+        QVERIFY(!main.window().windowFlags().testFlag(Qt::FramelessWindowHint));
+        QCOMPARE(main.window().geometry(), main.window().screen()->availableGeometry());
+        QVERIFY(main.control<QMenuBar>("menuBar").isVisible());
+    }
 
-void frmMain_Layout_test::everyControlThatAPersonUsesHasAnAccessibleName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("MSFlexGrid1") << QStringLiteral("Word list");
-    QTest::newRow("VScroll1") << QStringLiteral("First entry shown");
-    QTest::newRow("txtWord") << QStringLiteral("Word");
-    QTest::newRow("txtDefinition") << QStringLiteral("Definition");
-    QTest::newRow("txtSentence") << QStringLiteral("Sentence");
-    QTest::newRow("cmdNewWord") << QStringLiteral("New Word");
-    QTest::newRow("cmdAdd") << QStringLiteral("Add");
-    QTest::newRow("cmdAbort") << QStringLiteral("Abort");
-    QTest::newRow("cmdDelete") << QStringLiteral("Delete");
-    QTest::newRow("cmdSearch") << QStringLiteral("Search");
-    QTest::newRow("cmdPlayScramble") << QStringLiteral("Play");
-    QTest::newRow("cmdQuickFlash") << QStringLiteral("Quick Flash");
-}
+    void everyControlThatAPersonUsesHasAnAccessibleName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("MSFlexGrid1") << u"Word list"_s;
+        QTest::newRow("VScroll1") << u"First entry shown"_s;
+        QTest::newRow("txtWord") << u"Word"_s;
+        QTest::newRow("txtDefinition") << u"Definition"_s;
+        QTest::newRow("txtSentence") << u"Sentence"_s;
+        QTest::newRow("cmdNewWord") << u"New Word"_s;
+        QTest::newRow("cmdAdd") << u"Add"_s;
+        QTest::newRow("cmdAbort") << u"Abort"_s;
+        QTest::newRow("cmdDelete") << u"Delete"_s;
+        QTest::newRow("cmdSearch") << u"Search"_s;
+        QTest::newRow("cmdPlayScramble") << u"Play"_s;
+        QTest::newRow("cmdQuickFlash") << u"Quick Flash"_s;
+    }
 
-void frmMain_Layout_test::everyControlThatAPersonUsesHasAnAccessibleName()
-{
-    MainWindow main;
-    QAccessibleInterface *found =
-        QAccessible::queryAccessibleInterface(&main.control<QWidget>(QTest::currentDataTag()));
-    QVERIFY(found);
-    QTEST(found->text(QAccessible::Name), "name");
-}
+    void everyControlThatAPersonUsesHasAnAccessibleName()
+    {
+        MainWindow main;
+        QAccessibleInterface *found =
+            QAccessible::queryAccessibleInterface(&main.control<QWidget>(QTest::currentDataTag()));
+        QVERIFY(found);
+        QTEST(found->text(QAccessible::Name), "name");
+    }
+};
 
 int main(int argc, char *argv[])
 {

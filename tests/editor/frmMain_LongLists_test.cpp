@@ -6,21 +6,22 @@
 #include "support/FormTest.h"
 
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Overflow = QStringLiteral("Run-time error '6':\n\nOverflow");
+const QString Overflow = u"Run-time error '6':\n\nOverflow"_s;
 
 QByteArray longList(int count)
 {
-    return listBytes(someEntries(count, QStringLiteral("w")));
+    return listBytes(someEntries(count, u"w"_s));
 }
 
 QStringList rowOf(int position)
 {
     const QString number = QString::number(position);
-    return {number, QStringLiteral("w ") + number, QStringLiteral("definition %1 of w").arg(number),
-            QStringLiteral("sentence %1 of w").arg(number)};
+    return {number, u"w "_s + number, u"definition %1 of w"_s.arg(number),
+            u"sentence %1 of w"_s.arg(number)};
 }
 
 } // namespace
@@ -33,7 +34,7 @@ private Q_SLOTS:
     void init()
     {
         m_main = std::make_unique<MainWindow>();
-        m_path = m_main->path(QStringLiteral("long.lwx"));
+        m_path = m_main->path(u"long.lwx"_s);
     }
 
     void cleanup()
@@ -56,10 +57,10 @@ private Q_SLOTS:
         m_main->clickCell(2, 1); // an entry of the list before
         const QByteArray bytes = open(count);
         QCOMPARE(gVocabList().NumWords().toInt(), count);
-        QCOMPARE(openEntries(), someEntries(count, QStringLiteral("w")));
+        QCOMPARE(openEntries(), someEntries(count, u"w"_s));
         QCOMPARE(gFileName, m_path);
         QCOMPARE(gOpenedFile, m_path);
-        QCOMPARE(m_main->window().windowTitle(), CaptionStart + QStringLiteral("long.lwx"));
+        QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"long.lwx"_s);
         QVERIFY(!gChanged);
         QVERIFY(!m_main->action("mnuSave").isEnabled());
         QCOMPARE(m_main->look(), EditorModes::idle());
@@ -69,7 +70,7 @@ private Q_SLOTS:
         for (int row = 1; row <= 23; ++row)
             QCOMPARE(m_main->row(row), count < Integer::Max ? rowOf(row) : EmptyRow);
 
-        const QString copy = m_main->path(QStringLiteral("copy.lwx"));
+        const QString copy = m_main->path(u"copy.lwx"_s);
         m_main->answers.chooseFile(copy);
         m_main->choose("mnuSaveAs");
         QCOMPARE(readFile(copy), bytes);
@@ -80,15 +81,15 @@ private Q_SLOTS:
         open(Integer::Max);
         expectOverflow();
         m_main->click("cmdNewWord");
-        m_main->type("txtWord", QStringLiteral("one more"));
+        m_main->type("txtWord", u"one more"_s);
         m_main->answers.expectMsgBox(
-            QStringLiteral("Cannot add any more words. Maximum number of words= 32000"));
+            u"Cannot add any more words. Maximum number of words= 32000"_s);
         m_main->click("cmdAdd");
         m_main->click("cmdAbort");
 
         m_main->click("cmdSearch");
         for (const int hit : {32767, 32767, 5}) {
-            m_main->type("txtWord", QStringLiteral("w %1").arg(hit));
+            m_main->type("txtWord", u"w %1"_s.arg(hit));
             expectOverflow();
             m_main->click("cmdSearch");
             QCOMPARE(gVocabList().CurrentWord().toInt(), hit);
@@ -115,11 +116,11 @@ private Q_SLOTS:
     {
         QFETCH(int, count);
         open(count);
-        const QString words = m_main->path(QStringLiteral("words.lwx"));
-        writeFile(words, listBytes(someEntries(1, QStringLiteral("cat"))));
+        const QString words = m_main->path(u"words.lwx"_s);
+        writeFile(words, listBytes(someEntries(1, u"cat"_s)));
         m_main->answers.chooseFile(words);
         m_main->answers.expectMsgBox(
-            QStringLiteral("Cannot import any more words. Maximum number of words=32000"));
+            u"Cannot import any more words. Maximum number of words=32000"_s);
         if (count == Integer::Max)
             expectOverflow();
         m_main->choose("mnuImport");
@@ -130,7 +131,7 @@ private Q_SLOTS:
     void theLongestListBecomesATextFile()
     {
         open(Integer::Max);
-        const QString text = m_main->path(QStringLiteral("long.txt"));
+        const QString text = m_main->path(u"long.txt"_s);
         m_main->answers.chooseFile(text);
         m_main->choose("mnuCreateTextFile");
         const QByteArray bytes = readFile(text);
@@ -178,11 +179,11 @@ private Q_SLOTS:
         for (int row = 1; row <= 23; ++row)
             QCOMPARE(m_main->row(row), rowOf(32743 + row));
         QTest::keyClick(&m_main->grid(), Qt::Key_Space);
-        QCOMPARE(m_main->text("txtWord"), QStringLiteral("w 32766"));
-        m_main->type("txtDefinition", QStringLiteral("changed"));
+        QCOMPARE(m_main->text("txtWord"), u"w 32766"_s);
+        m_main->type("txtDefinition", u"changed"_s);
         m_main->click("cmdAdd"); // Update
-        QCOMPARE(m_main->row(23).at(2), QStringLiteral("changed"));
-        QCOMPARE(gVocabList().entry(32766).Definition, QStringLiteral("changed"));
+        QCOMPARE(m_main->row(23).at(2), u"changed"_s);
+        QCOMPARE(gVocabList().entry(32766).Definition, u"changed"_s);
         QVERIFY(gChanged);
         QVERIFY(m_main->action("mnuSave").isEnabled());
     }
@@ -206,7 +207,7 @@ private Q_SLOTS:
         open(32766);
         QTest::keyClick(&m_main->grid(), Qt::Key_End);
         m_main->clickCell(23, 1);
-        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'w 32766' ?"),
+        m_main->answers.expectMsgBox(u"Are you sure you want to delete 'w 32766' ?"_s,
                                      QMessageBox::Yes);
         m_main->click("cmdDelete");
         QCOMPARE(gVocabList().NumWords().toInt(), 32765);
@@ -220,23 +221,23 @@ private Q_SLOTS:
     {
         open(Integer::Max);
         m_main->click("cmdSearch");
-        m_main->type("txtWord", QStringLiteral("w 5"));
+        m_main->type("txtWord", u"w 5"_s);
         expectOverflow();
         m_main->click("cmdSearch"); // finds it but cannot show it
-        m_main->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'w 5' ?"),
+        m_main->answers.expectMsgBox(u"Are you sure you want to delete 'w 5' ?"_s,
                                      QMessageBox::Yes);
         m_main->choose("mnuDeleteWord");
         QCOMPARE(gVocabList().NumWords().toInt(), 32766);
         QCOMPARE(m_main->row(4), rowOf(4));
-        QCOMPARE(m_main->row(5).at(1), QStringLiteral("w 6"));
+        QCOMPARE(m_main->row(5).at(1), u"w 6"_s);
         QVERIFY(gChanged);
     }
 
     void anotherListOpensAfterTheLongestOne()
     {
         open(Integer::Max);
-        const QString other = m_main->path(QStringLiteral("other.lwx"));
-        writeFile(other, listBytes(someEntries(5, QStringLiteral("w"))));
+        const QString other = m_main->path(u"other.lwx"_s);
+        writeFile(other, listBytes(someEntries(5, u"w"_s)));
         openList(*m_main, other);
         for (int row = 1; row <= 5; ++row)
             QCOMPARE(m_main->row(row), rowOf(row));
@@ -248,9 +249,9 @@ private Q_SLOTS:
         open(Integer::Max);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->choose("mnuNew");
-        m_main->type("txtWord", QStringLiteral("cat"));
+        m_main->type("txtWord", u"cat"_s);
         QTest::keyClick(&m_main->control<QWidget>("txtWord"), Qt::Key_Return);
-        QCOMPARE(m_main->row(1).at(1), QStringLiteral("cat"));
+        QCOMPARE(m_main->row(1).at(1), u"cat"_s);
     }
 
 private:
@@ -274,9 +275,9 @@ private:
     void verifyNothingIsLost(int count)
     {
         QVERIFY(m_main->answers.allSeen());
-        QCOMPARE(openEntries(), someEntries(count, QStringLiteral("w")));
+        QCOMPARE(openEntries(), someEntries(count, u"w"_s));
         QVERIFY(!gChanged);
-        m_main->answers.expectMsgBox(m_path + QStringLiteral(" has been saved."));
+        m_main->answers.expectMsgBox(m_path + u" has been saved."_s);
         m_main->action("mnuSave").setEnabled(true);
         m_main->choose("mnuSave");
         QCOMPARE(readFile(m_path), longList(count));

@@ -12,119 +12,112 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 class frmSplash_test final : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theLabelsTellWhatIsStarting_data();
-    void theLabelsTellWhatIsStarting();
-    void theVersionIsTheApplicationsAndAnA();
-    void theLegalNoticeIsTheVersionInformations();
-    void thePictureIsThere();
-    void nothingIsCut();
-    void theTimerRunsFromTheMomentTheSplashIsShown();
-    void afterThreeSecondsTheSplashIsUnloadedOnce();
-};
-
-void frmSplash_test::theLabelsTellWhatIsStarting_data()
-{
-    QTest::addColumn<QByteArray>("label");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("product") << QByteArray("lblProductName") << QStringLiteral("The Tanglewit");
-    QTest::newRow("maker") << QByteArray("lblCompanyProduct") << QStringLiteral("LexiBrook");
-    QTest::newRow("version") << QByteArray("lblVersion") << QStringLiteral("Version 1.0.0a");
-}
-
-void frmSplash_test::theLabelsTellWhatIsStarting()
-{
-    QFETCH(QByteArray, label);
-    frmSplash splash;
-    splash.show();
-    const auto &found = Controls::find<QLabel>(splash, label);
-    QTEST(found.text(), "text");
-    QVERIFY(found.isVisible());
-}
-
-void frmSplash_test::theVersionIsTheApplicationsAndAnA()
-{
-    frmSplash splash;
-    splash.show();
-    QCOMPARE(Controls::find<QLabel>(splash, "lblVersion").text(),
-             QStringLiteral("Version %1.%2.%3a")
-                 .arg(Application::Major())
-                 .arg(Application::Minor())
-                 .arg(Application::Revision()));
-}
-
-void frmSplash_test::theLegalNoticeIsTheVersionInformations()
-{
-    frmSplash splash;
-    splash.show();
-    QVERIFY(!Application::LegalCopyright().isEmpty());
-    QCOMPARE(Controls::find<QLabel>(splash, "lblLegalNotice_1").text(),
-             Application::LegalCopyright());
-    for (const char *label : {"lblLegalNotice_2", "lblWarning", "lblPlatform"})
-        QVERIFY(!Controls::find<QLabel>(splash, label).text().isEmpty());
-}
-
-void frmSplash_test::thePictureIsThere()
-{
-    frmSplash splash;
-    splash.show();
-    const auto &picture = Controls::find<SvgPicture>(splash, "Image1");
-    QVERIFY(picture.isVisible());
-    QVERIFY(QFile::exists(picture.source()));
-    const QImage image = splash.grab().toImage();
-    QSet<QRgb> colours;
-    for (int y = 0; y < image.height(); y += 4)
-        for (int x = 0; x < image.width(); x += 4)
-            colours += image.pixel(x, y);
-    QVERIFY(colours.size() > 20);
-}
-
-void frmSplash_test::nothingIsCut()
-{
-    frmSplash splash;
-    splash.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&splash));
-    const QList<QLabel *> labels = splash.findChildren<QLabel *>();
-    QCOMPARE(labels.size(), 7);
-    for (const QLabel *label : labels) {
-        const QRect place(label->mapTo(&splash, QPoint()), label->size());
-        QVERIFY2(splash.rect().contains(place), qUtf8Printable(label->objectName()));
-        QVERIFY2(label->width() >= label->sizeHint().width(), qUtf8Printable(label->objectName()));
-        QVERIFY2(label->height() >= label->sizeHint().height(),
-                 qUtf8Printable(label->objectName()));
+    void theLabelsTellWhatIsStarting_data()
+    {
+        QTest::addColumn<QByteArray>("label");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("product") << QByteArray("lblProductName") << u"The Tanglewit"_s;
+        QTest::newRow("maker") << QByteArray("lblCompanyProduct") << u"LexiBrook"_s;
+        QTest::newRow("version") << QByteArray("lblVersion") << u"Version 1.0.0a"_s;
     }
-}
 
-void frmSplash_test::theTimerRunsFromTheMomentTheSplashIsShown()
-{
-    frmSplash splash;
-    const auto &timer = Controls::find<QTimer>(splash, "Timer1");
-    QVERIFY(!timer.isActive());
-    splash.show();
-    QVERIFY(timer.isActive());
-    QCOMPARE(timer.interval(), 3000);
-}
+    void theLabelsTellWhatIsStarting()
+    {
+        QFETCH(QByteArray, label);
+        frmSplash splash;
+        splash.show();
+        const auto &found = Controls::find<QLabel>(splash, label);
+        QTEST(found.text(), "text");
+        QVERIFY(found.isVisible());
+    }
 
-void frmSplash_test::afterThreeSecondsTheSplashIsUnloadedOnce()
-{
-    frmSplash splash;
-    QSignalSpy unloaded(&splash, &frmSplash::unloaded);
-    // The main window's turn comes only when the splash is gone.
-    bool wasVisible = true;
-    connect(&splash, &frmSplash::unloaded, this, [&] { wasVisible = splash.isVisible(); });
-    QElapsedTimer shown;
-    shown.start();
-    splash.show();
-    QVERIFY(unloaded.wait(10000));
-    QVERIFY(shown.elapsed() >= 2850); // a coarse timer may be 5 % early
-    QVERIFY(!wasVisible);
-    QVERIFY(!Controls::find<QTimer>(splash, "Timer1").isActive());
-    QCOMPARE(unloaded.size(), 1);
-}
+    void theVersionIsTheApplicationsAndAnA()
+    {
+        frmSplash splash;
+        splash.show();
+        QCOMPARE(Controls::find<QLabel>(splash, "lblVersion").text(),
+                 u"Version %1.%2.%3a"_s.arg(Application::Major())
+                     .arg(Application::Minor())
+                     .arg(Application::Revision()));
+    }
+
+    void theLegalNoticeIsTheVersionInformations()
+    {
+        frmSplash splash;
+        splash.show();
+        QVERIFY(!Application::LegalCopyright().isEmpty());
+        QCOMPARE(Controls::find<QLabel>(splash, "lblLegalNotice_1").text(),
+                 Application::LegalCopyright());
+        for (const char *label : {"lblLegalNotice_2", "lblWarning", "lblPlatform"})
+            QVERIFY(!Controls::find<QLabel>(splash, label).text().isEmpty());
+    }
+
+    void thePictureIsThere()
+    {
+        frmSplash splash;
+        splash.show();
+        const auto &picture = Controls::find<SvgPicture>(splash, "Image1");
+        QVERIFY(picture.isVisible());
+        QVERIFY(QFile::exists(picture.source()));
+        const QImage image = splash.grab().toImage();
+        QSet<QRgb> colours;
+        for (int y = 0; y < image.height(); y += 4)
+            for (int x = 0; x < image.width(); x += 4)
+                colours += image.pixel(x, y);
+        QVERIFY(colours.size() > 20);
+    }
+
+    void nothingIsCut()
+    {
+        frmSplash splash;
+        splash.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&splash));
+        const QList<QLabel *> labels = splash.findChildren<QLabel *>();
+        QCOMPARE(labels.size(), 7);
+        for (const QLabel *label : labels) {
+            const QRect place(label->mapTo(&splash, QPoint()), label->size());
+            QVERIFY2(splash.rect().contains(place), qUtf8Printable(label->objectName()));
+            QVERIFY2(label->width() >= label->sizeHint().width(),
+                     qUtf8Printable(label->objectName()));
+            QVERIFY2(label->height() >= label->sizeHint().height(),
+                     qUtf8Printable(label->objectName()));
+        }
+    }
+
+    void theTimerRunsFromTheMomentTheSplashIsShown()
+    {
+        frmSplash splash;
+        const auto &timer = Controls::find<QTimer>(splash, "Timer1");
+        QVERIFY(!timer.isActive());
+        splash.show();
+        QVERIFY(timer.isActive());
+        QCOMPARE(timer.interval(), 3000);
+    }
+
+    void afterThreeSecondsTheSplashIsUnloadedOnce()
+    {
+        frmSplash splash;
+        QSignalSpy unloaded(&splash, &frmSplash::unloaded);
+        // The main window's turn comes only when the splash is gone.
+        bool wasVisible = true;
+        connect(&splash, &frmSplash::unloaded, this, [&] { wasVisible = splash.isVisible(); });
+        QElapsedTimer shown;
+        shown.start();
+        splash.show();
+        QVERIFY(unloaded.wait(10000));
+        QVERIFY(shown.elapsed() >= 2850); // a coarse timer may be 5 % early
+        QVERIFY(!wasVisible);
+        QVERIFY(!Controls::find<QTimer>(splash, "Timer1").isActive());
+        QCOMPARE(unloaded.size(), 1);
+    }
+};
 
 int main(int argc, char *argv[])
 {
