@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/Module1.h"
-#include "core/cVocabList.h"
+#include "editor/OpenList.h"
 #include "support/EditorModes.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QScrollBar>
 
@@ -19,17 +17,12 @@ QString question(const QString &word)
     return u"Are you sure you want to delete '"_s + word + u"' ?"_s;
 }
 
-// The words of the list in their order; the position stays.
+// Of the list, in their order.
 QStringList words()
 {
-    cVocabList &list = gVocabList();
-    const Integer current = list.CurrentWord();
     QStringList words;
-    for (Integer item = 1; item <= list.NumWords(); ++item) {
-        list.CurrentWord(item);
-        words += list.Word();
-    }
-    list.CurrentWord(current);
+    for (const QStringList &entry : openEntries())
+        words += entry.constFirst();
     return words;
 }
 

@@ -154,14 +154,46 @@ private Q_SLOTS:
         QCOMPARE(gHighlightRow.toInt(), 0);
         checkEmptyPage();
 
-        for (const char *box : {"txtWord", "txtDefinition", "txtSentence"}) {
-            QVERIFY(m_main->control<QWidget>(box).isEnabled());
+        for (const char *box : {"txtWord", "txtDefinition", "txtSentence"})
             QCOMPARE(m_main->text(box), QString());
-        }
         QCOMPARE(m_main->window().focusWidget(), &m_main->control<QWidget>("txtWord"));
-        QVERIFY(!m_main->control<QPushButton>("cmdAdd").isVisible());
-        QVERIFY(m_main->control<QPushButton>("cmdNewWord").isVisible());
-        QVERIFY(m_main->control<QPushButton>("cmdNewWord").isEnabled());
+        QCOMPARE(m_main->look(),
+                 EditorModes::look({u"cmdNewWord: &New Word enabled"_s, u"cmdAdd: hidden"_s,
+                                    u"cmdAbort: A&bort enabled"_s, u"cmdDelete: &Delete disabled"_s,
+                                    u"cmdSearch: &Search disabled"_s},
+                                   EditorModes::Boxes::Enabled));
+    }
+
+    void newLeavesSaveAsItIs_data()
+    {
+        QTest::addColumn<bool>("changed");
+        QTest::newRow("after a change that is not saved") << true;
+        QTest::newRow("without a change") << false;
+    }
+
+    void newLeavesSaveAsItIs()
+    {
+        QFETCH(bool, changed);
+        if (changed)
+            addEntry(*m_main, u"cow"_s);
+        QCOMPARE(m_main->action("mnuSave").isEnabled(), changed);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        if (changed)
+            m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->choose("mnuNew");
+        QCOMPARE(m_main->action("mnuSave").isEnabled(), changed);
+    }
+
+    void abortEndsTheNewListsFirstWord()
+    {
+        startNewList();
+        m_main->type("txtWord", u"cat"_s);
+        m_main->click("cmdAbort");
+        QCOMPARE(m_main->look(), EditorModes::idle());
+        QCOMPARE(m_main->text("txtWord"), QString());
+        m_main->click("cmdNewWord");
+        QCOMPARE(m_main->look(), EditorModes::newWord());
+        QCOMPARE(m_main->markedRows(), QList<int>{1});
     }
 
     void enterAddsTheWordThatIsTypedIntoTheNewList_data()

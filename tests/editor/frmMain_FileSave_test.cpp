@@ -290,25 +290,39 @@ private Q_SLOTS:
             openList(*m_main, m_path);
         else
             m_main->fill(2);
-        const auto expectOffer = [&] {
-            m_main->answers.cancelFileDialog([titled](QFileDialog &dialog) {
-                QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(),
-                         titled ? u"animals.lwx"_s : QString());
-            });
-            m_main->choose("mnuSaveAs");
-        };
-        expectOffer();
+        const QString name = titled ? u"animals.lwx"_s : QString();
+        expectSaveAsToOffer(name);
 
         const QString text = m_main->path(u"words.txt"_s);
         m_main->answers.chooseFile(text);
         m_main->choose("mnuCreateTextFile");
-        expectOffer();
+        expectSaveAsToOffer(name);
 
         writeFile(m_other, listBytes(someEntries(1, u"imported"_s)));
         m_main->answers.chooseFile(m_other);
         m_main->answers.expectMsgBox(u"1 words imported"_s);
         m_main->choose("mnuImport");
-        expectOffer();
+        expectSaveAsToOffer(name);
+    }
+
+    void saveAsOffersTheNameThatTheListHasNow()
+    {
+        openList(*m_main, m_path);
+        m_main->answers.chooseFile(m_other);
+        m_main->choose("mnuSaveAs");
+        expectSaveAsToOffer(u"other.lwx"_s);
+
+        // A cancelled Open takes the name away.
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->answers.cancelFileDialog();
+        m_main->choose("mnuOpen");
+        expectSaveAsToOffer({});
+
+        openList(*m_main, m_path);
+        expectSaveAsToOffer(u"animals.lwx"_s);
+        m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
+        m_main->choose("mnuNew");
+        expectSaveAsToOffer({});
     }
 
     void aCancelledSaveAsLeavesTheTextFilesNameOnOffer()
@@ -420,6 +434,14 @@ private Q_SLOTS:
     }
 
 private:
+    void expectSaveAsToOffer(const QString &name)
+    {
+        m_main->answers.cancelFileDialog([name](QFileDialog &dialog) {
+            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), name);
+        });
+        m_main->choose("mnuSaveAs");
+    }
+
     // A shortcut needs the active window, which a dialog has just been.
     void pressShortcut(Qt::KeyboardModifiers modifiers)
     {

@@ -150,6 +150,7 @@ private Q_SLOTS:
         QTest::newRow("mnuSave") << u"Ctrl+S"_s;
         QTest::newRow("mnuSaveAs") << u"Ctrl+Shift+S"_s;
         QTest::newRow("mnuPrint") << u"Ctrl+P"_s;
+        QTest::newRow("mnuDeleteWord") << u"Ctrl+D"_s;
         QTest::newRow("mnuExit") << u"Ctrl+Q"_s;
     }
 
@@ -196,6 +197,19 @@ private Q_SLOTS:
             [](QFileDialog &dialog) { QCOMPARE(dialog.windowTitle(), u"Save File As"_s); });
         Controls::press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(main.answers.allSeen());
+    }
+
+    void controlDDeletesThePickedWord()
+    {
+        MainWindow main;
+        main.fill(3);
+        main.clickCell(2, 1);
+        main.answers.expectMsgBox(u"Are you sure you want to delete 'word 2' ?"_s,
+                                  QMessageBox::Yes);
+        Controls::press(Qt::Key_D, Qt::ControlModifier);
+        QVERIFY(main.answers.allSeen());
+        QCOMPARE(gVocabList().NumWords(), 2);
+        QCOMPARE(main.row(2).at(1), u"word 3"_s);
     }
 
     void controlQEndsTheProgram()

@@ -1,29 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/Module1.h"
-#include "core/cVocabList.h"
-#include "support/EditorModes.h"
+#include "editor/ShownPage.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QScrollBar>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const QStringList EmptyRow{QString(), QString(), QString(), QString()};
-
-// The page of MainWindow::fill that begins with entry `top`, to its last row.
-void comparePage(MainWindow &main, int top)
-{
-    const int count = gVocabList().NumWords().toInt();
-    for (int row = 1; row <= 24; ++row)
-        QCOMPARE(main.row(row),
-                 top + row - 1 <= count ? EditorModes::filledRow(top + row - 1) : EmptyRow);
-}
-
-} // namespace
 
 class frmMain_Pick_test final : public QObject
 {

@@ -1,29 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/Module1.h"
-#include "core/cVocabList.h"
+#include "editor/OpenList.h"
 #include "support/EditorModes.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QPushButton>
 #include <QScrollBar>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QStringList entry(Integer position)
-{
-    cVocabList &list = gVocabList();
-    const Integer current = list.CurrentWord();
-    list.CurrentWord(position);
-    QStringList texts{list.Word(), list.Definition(), list.Sentence()};
-    list.CurrentWord(current);
-    return texts;
-}
-
-} // namespace
 
 class frmMain_Update_test final : public QObject
 {
@@ -39,7 +23,7 @@ private Q_SLOTS:
         main.click("cmdAdd");
         QCOMPARE(gVocabList().NumWords(), 3);
         const QStringList texts{u"cat"_s, u"animal"_s, u"The cat."_s};
-        QCOMPARE(entry(2), texts);
+        QCOMPARE(openEntries().at(1), texts);
         QCOMPARE(main.row(2), QStringList{u"2"_s} + texts);
         QVERIFY(gChanged);
         QVERIFY(main.action("mnuSave").isEnabled());
@@ -82,7 +66,7 @@ private Q_SLOTS:
         main.type("txtWord", {});
         main.control<QWidget>("txtSentence").setFocus();
         main.click("cmdAdd");
-        QCOMPARE(entry(2).constFirst(), u"word 2"_s);
+        QCOMPARE(openEntries().at(1).constFirst(), u"word 2"_s);
         QVERIFY(!gChanged);
         QVERIFY(gWordSelected);
         QVERIFY(main.control<QWidget>("txtWord").hasFocus());
@@ -97,7 +81,7 @@ private Q_SLOTS:
         main.type("txtWord", u"cat"_s);
         main.click("cmdAdd");
         QVERIFY(main.answers.allSeen());
-        QCOMPARE(entry(2).constFirst(), u"cat"_s);
+        QCOMPARE(openEntries().at(1).constFirst(), u"cat"_s);
     }
 
     void updateIsPossibleAtMaxWords()
@@ -108,7 +92,7 @@ private Q_SLOTS:
         main.type("txtWord", u"changed"_s);
         main.click("cmdAdd");
         QVERIFY(main.answers.allSeen());
-        QCOMPARE(entry(1).constFirst(), u"changed"_s);
+        QCOMPARE(openEntries().at(0).constFirst(), u"changed"_s);
     }
 
     void abortLeavesTheEditorIdle_data()
@@ -194,7 +178,7 @@ private Q_SLOTS:
         main.click("cmdNewWord");
         main.typeEntry(u"cat"_s);
         main.click("cmdAdd");
-        QCOMPARE(entry(1).constFirst(), u"cat"_s);
+        QCOMPARE(openEntries().at(0).constFirst(), u"cat"_s);
     }
 };
 
