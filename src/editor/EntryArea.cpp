@@ -22,7 +22,7 @@ EntryArea::EntryArea(Ui::frmMain &ui) : m_ui(ui)
             guarded(this, &EntryArea::txtSentence_Change));
 }
 
-// Three bands below one another: the word, the two long texts, the buttons.
+// From top to bottom: the word, the two long texts, the buttons.
 void EntryArea::place(const MainLayout &layout, int height)
 {
     m_ui.Frame1->setGeometry(0, pixels(layout.frameTop), pixels(layout.frameWidth), height);
@@ -123,7 +123,7 @@ bool EntryArea::press(const QKeyEvent &event, QWidget *focus) const
 
 void EntryArea::showEntry(const VocabRecord &entry)
 {
-    m_ui.txtWord->setText(entry.Word); // clear() could be undone
+    m_ui.txtWord->setText(entry.Word); // cannot be undone, as clear() can
     m_ui.txtDefinition->setText(entry.Definition);
     m_ui.txtSentence->setText(entry.Sentence);
 }

@@ -24,7 +24,7 @@ public:
 
     void place(const MainLayout &layout, int height);
 
-    // Gives the keyboard to the control that the mode names, or to another one.
+    // The keyboard goes to the control that the mode names, or to `focus`.
     void show(EditorMode mode) { show(mode, lookOf(mode).focus); }
     void show(EditorMode mode, EntryFocus focus);
     [[nodiscard]] EditorMode mode() const { return m_mode; }

@@ -13,7 +13,7 @@ using namespace Module1;
 
 namespace {
 
-// Where it is empty, the person is told.
+// False for an empty list, after a message.
 bool mayPractise()
 {
     const bool hasWords = gVocabList().NumWords() > 0;

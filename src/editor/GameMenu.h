@@ -18,7 +18,7 @@ class GameMenu final : public QObject
     Q_OBJECT
 
 public:
-    // The window makes room for the game and comes back after it.
+    // The window is hidden while the game is open.
     GameMenu(const Ui::frmMain &ui, QWidget *window);
     ~GameMenu() override;
 

@@ -118,7 +118,7 @@ int firstAfterDelete(int first, int entries)
     return std::min(first, entries);
 }
 
-// Behind the list's end there is no page to show.
+// Not the page behind the list's end, which would be empty.
 int firstAfterImport(int position, int first, int entries)
 {
     return position <= entries ? position : std::min(first, entries);

@@ -2,9 +2,9 @@
 // The page of the list that the grid shows, and the pages that the scroll bar, keys, the wheel and
 // the editor's commands lead to.
 //
-// Entries and rows count from 1; row 0 is the header. The scroll bar goes as far as the page that
-// begins with the last entry; in a short list one further, to a page without an entry. Keys and
-// the wheel go no further than the last full page.
+// Entries and rows count from 1; row 0 is the header. The scroll bar goes to the page that begins
+// with the last entry, and with fewer than 22 entries to an empty page behind it. Keys and the
+// wheel stop at the last full page.
 #pragma once
 
 #include "platform/GridMove.h"
@@ -31,13 +31,13 @@ struct GridPage
     void numberUpTo(int row);
 };
 
-// The page from the item `top` on, 0 meaning 1; the one row of an empty list has a number alone.
-// Throws Overflow where a full page leaves 16 bits.
+// The page that begins with the item `top`, 0 being 1. For an empty list it is one row that has
+// only a number. Throws Overflow where a full page does not fit into 16 bits.
 [[nodiscard]] GridPage pageFrom(Integer top, Integer entries);
 
-// The scroll bar goes from 0 to this. Throws Overflow for the longest list.
+// The scroll bar's maximum; its minimum is 0. Throws Overflow for the longest list.
 [[nodiscard]] Integer scrollMaximum(Integer entries);
-// What the scroll bar goes on to when it is brought to this value.
+// The value that the scroll bar keeps when it is moved to this one.
 [[nodiscard]] int scrollValue(int value, int entries);
 
 // A row on a page.

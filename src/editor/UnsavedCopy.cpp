@@ -90,7 +90,7 @@ void UnsavedCopy::timedOut()
         m_timer.start();
         return;
     }
-    // An export or a fruitless import clears gChanged without saving what the copy holds.
+    // An export, or an import that adds nothing, clears gChanged without saving the list.
     if (!gChanged && m_path.isEmpty())
         return;
     try {

@@ -34,5 +34,5 @@ private:
     QTimer m_timer;
     QString m_path;      // empty where there is no copy
     QString m_title;     // of the list when the copy got its name
-    QDateTime m_written; // the time that the file system gave the copy
+    QDateTime m_written; // the copy's time of modification
 };

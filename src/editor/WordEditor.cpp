@@ -66,7 +66,7 @@ void WordEditor::refillPage()
 
 void WordEditor::showImported(Integer positionBefore)
 {
-    // The next new word goes behind what came in.
+    // The next new word comes after the imported ones.
     if (m_area.mode() == EditorMode::NewWord)
         showNewWordRow();
     else
@@ -206,7 +206,7 @@ void WordEditor::cmdSearch_Click()
     const QString wanted = withoutOuterBlanks(m_area.word());
     Integer hit = list.SearchWord(wanted);
     if (hit == 0)
-        hit = list.SearchWord(wanted); // a miss starts over, so this one finds the first match
+        hit = list.SearchWord(wanted); // after a miss the search starts at the first entry
     if (hit == 0)
         MsgBox(wanted + QStringLiteral(" is not in the list."));
     else

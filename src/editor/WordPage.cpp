@@ -107,7 +107,7 @@ void WordPage::emptyGrid()
         m_grid.setCellBold(0, column, true);
     makeCurrent(1);
     gHighlightRow = 0;
-    setScrollRange(); // fails for the longest list there is, whose grid stays empty
+    setScrollRange(); // throws for the longest list, whose grid stays empty
 }
 
 void WordPage::scrollTo(Integer value)
@@ -122,7 +122,7 @@ void WordPage::scrollTo(Integer value)
 
 void WordPage::setScrollRange()
 {
-    // A value that the new range cuts off asks for no other page.
+    // No page is filled where the new range changes the value.
     const QSignalBlocker blocker(m_bar);
     m_bar.setRange(0, scrollMaximum(gVocabList().NumWords()).toInt());
 }

@@ -2,8 +2,7 @@
 // The grid with its scroll bar: shows one page of the open list, scrolls it and marks a row.
 //
 // While an entry is chosen (picked or found), every page that is filled leaves it the list's
-// current entry and marks its row. Otherwise the list's position is behind the page's last entry
-// then.
+// current entry and marks its row. Otherwise the list's position is behind the page's last entry.
 #pragma once
 
 #include "editor/GridPage.h"

@@ -152,7 +152,7 @@ void frmMain::showCaption()
                    (gFileTitle.isEmpty() ? QStringLiteral("(Untitled)") : gFileTitle));
 }
 
-// The list is as in its file.
+// The list has no unsaved changes.
 void frmMain::noteUnchanged()
 {
     m_ui->mnuSave->setEnabled(false);

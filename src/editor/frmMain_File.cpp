@@ -23,7 +23,7 @@ namespace {
 
 const QString ListFilter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*");
 
-// Puts the open list's name back where the scope is left.
+// Restores the open list's name at the end of the scope.
 [[nodiscard]] auto nameKeeper()
 {
     return qScopeGuard([name = gFileName, title = gFileTitle] {
@@ -171,7 +171,7 @@ void frmMain::importWords(const QString &path)
     Import import(this);
     ProgressShown progress(this);
     connect(&import, &Import::refresh, this, guarded(this, &frmMain::refresh));
-    // The entries behind a deleted one move up.
+    // A deletion moves the entries behind it.
     connect(&import, &Import::deleted, m_editor.get(),
             guarded(m_editor.get(), &WordEditor::letEntryGo));
     connect(&import, &Import::changed, m_editor.get(), &WordEditor::changed);

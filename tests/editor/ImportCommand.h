@@ -35,7 +35,7 @@ public:
         import(QStringLiteral("words.dif"), ImportTools::joined(lines));
     }
 
-    // What comes after the file dialog is given before, by the functions below.
+    // What the person meets after the file dialog has been told before, by the functions below.
     void choose(const QString &file, std::function<void(QFileDialog &)> inspect = {})
     {
         main.answers.chooseFile(file, std::move(inspect));

@@ -80,7 +80,7 @@ inline Entries openEntries()
     return entries;
 }
 
-// Everything that a command which changes nothing must leave as it is.
+// What a command that changes nothing must leave as it is.
 struct OpenList
 {
     explicit OpenList(MainWindow &main)

@@ -27,7 +27,7 @@ void writeFile(const QString &path, const QByteArray &content)
     QCOMPARE(file.write(content), content.size());
 }
 
-// Inflected words differ at their ends, so that their beginnings must do.
+// Inflected words differ at their ends, so only their beginnings are compared.
 bool isMentioned(const QString &word, const QString &sentence)
 {
     const QStringList parts = word.split(QLatin1Char(' '));
@@ -55,12 +55,12 @@ private Q_SLOTS:
             QFile sample(samples.filePath(name));
             QFile copy(installed.filePath(name));
             QVERIFY(sample.open(QIODevice::ReadOnly));
-            // Resources are read-only; the person's lists are not.
+            // Resources are read-only, the copies must not be.
             QVERIFY(copy.permissions().testFlags(QFile::ReadOwner | QFile::WriteOwner));
             QVERIFY(copy.open(QIODevice::ReadWrite));
             QCOMPARE(copy.readAll(), sample.readAll());
         }
-        // Nothing else is left beside it.
+        // No other folder is left.
         QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
                  QStringList{Folder});
     }
@@ -162,7 +162,7 @@ private Q_SLOTS:
             list.CurrentWord(item);
             const QString word = list.Word();
             const QByteArray what = u"entry %1, \"%2\""_s.arg(item.toText(), word).toUtf8();
-            // Words longer than the game has letter tiles for, or too short to scramble.
+            // Longer words have no letter tiles in the game, shorter ones no scramble.
             QVERIFY2(word.size() >= 3 && word.size() <= 30, what);
             QVERIFY2(!words.contains(word.toLower()), what);
             words += word.toLower();
@@ -171,7 +171,7 @@ private Q_SLOTS:
             QVERIFY2(isMentioned(word, list.Sentence()), what);
             for (const QString &text : {word, list.Definition(), list.Sentence()}) {
                 QCOMPARE(text, text.simplified());
-                // Stands for a character that list files have no byte for.
+                // Written for a character that list files have no byte for.
                 QVERIFY2(!text.contains(u"??"_s) && !word.contains(QLatin1Char('?')), what);
             }
         }

@@ -22,7 +22,7 @@ inline QStringList names()
                    QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Name);
 }
 
-// Whether the program means to write a copy soon.
+// Whether the timer of the copy runs.
 inline bool isDue(MainWindow &main)
 {
     return main.control<QTimer>("tmrUnsavedCopy").isActive();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// When the copy of an unsaved list goes and when it stays, and that it is a list like any other.
+// When the copy of an unsaved list is removed and when it stays, and that it opens like any list.
 #include "editor/UnsavedCopies.h"
 #include "support/FormTest.h"
 
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QVERIFY(comes(Animals));
     }
 
-    // After an export no exit asks, though the list itself was not saved.
+    // After an export the program ends without a question, though the list was not saved.
     void anExportKeepsIt()
     {
         exportAll();
@@ -172,7 +172,7 @@ private Q_SLOTS:
         QVERIFY(comes(Animals));
     }
 
-    // Neither New nor Open asks then about saving.
+    // Then neither New nor Open asks about saving.
     void aNewListAfterAnExportKeepsIt()
     {
         const QByteArray copy = readFile(path(Animals));
@@ -253,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), entries);
         QCOMPARE(gOpenedFile, path(Animals));
         QVERIFY(comes(Animals));
-        // From here on it is the person's.
+        // The program does not remove it any more.
         addEntry(*m_main, u"pig"_s);
         QTRY_COMPARE_WITH_TIMEOUT(
             names(), (QStringList{u"animals (not saved) (not saved).lwx"_s, Animals}), 1000);
@@ -278,7 +278,7 @@ private:
         QTest::newRow("saved") << QMessageBox::Yes;
     }
 
-    // Which clears gChanged.
+    // Clears gChanged.
     void exportAll()
     {
         m_main->answers.useForm("dlgExport", [this](QDialog &form) {

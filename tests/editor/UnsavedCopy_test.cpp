@@ -132,7 +132,7 @@ private Q_SLOTS:
         QTest::newRow("another ending") << u"animals.txt"_s << u"animals.txt (not saved).lwx"_s;
         QTest::newRow("long") << QString(250, u'a') + u".lwx"_s
                               << QString(235, u'a') + u" (not saved).lwx"_s;
-        // No half of a character of two code units is left at the cut.
+        // A character of two code units is not cut in the middle.
         QTest::newRow("long, in pairs")
             << u"😀"_s.repeated(62) + u".lwx"_s << u"😀"_s.repeated(58) + u" (not saved).lwx"_s;
         QTest::newRow("place markers") << u"%1 %2.lwx"_s << u"%1 %2 (not saved).lwx"_s;
@@ -194,7 +194,7 @@ private Q_SLOTS:
         openList(*m_main, m_list);
         addEntry(*m_main, u"cow"_s);
         QVERIFY(comes(Animals));
-        // Without a file the list has no title any more.
+        // A list without a file has no title.
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
         m_main->answers.cancelFileDialog();
@@ -331,7 +331,7 @@ private Q_SLOTS:
         m_command->importList({u"cow"_s, u"pig"_s, u"hen"_s});
     }
 
-    // A deletion there does not count as a change of the list's own.
+    // A deletion in dlgWordExist does not set gChanged.
     void aDeletionAmongConflictsAloneIsNotCopied()
     {
         openList(*m_main, m_list);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Kills the editor at random moments of a random editing session: what was finished a second
 // before is in the list file or in the copy of the unsaved list. TANGLEWIT_KILLS says how often;
-// 200 times if it does not.
+// the default is 200.
 #include "core/ListFile.h"
 #include "core/cVocabList.h"
 #include "editor/EditingSession.h"
@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Sessions = 8;    // at the same time; they mostly wait
+constexpr int Sessions = 8;    // at the same time
 constexpr int Lateness = 1000; // milliseconds that a copy may take
 constexpr int Longest = 3000;  // from the first action to the kill
 

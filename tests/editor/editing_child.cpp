@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Edits a list in the main window, at random but the same with the same seed, until it is killed,
-// and tells each action on the standard output.
+// Edits a list in the main window until it is killed, and tells each action on the standard output.
+// The actions are random; the same seed gives the same ones.
 #include "editor/EditingSession.h"
 #include "editor/OpenList.h"
 #include "support/FormTest.h"
@@ -51,7 +51,7 @@ private:
     std::mt19937 m_random;
     std::unique_ptr<MainWindow> m_main;
     Entries m_entries; // what the list should hold
-    int m_number = 0;  // of the last text made up
+    int m_number = 0;  // of the last text that was typed
 };
 
 void editing_child::editWithoutEnd()

@@ -181,7 +181,7 @@ private Q_SLOTS:
 
     void deletingTheEntryOfTheLastPageShowsTheOneBefore()
     {
-        // The page starts at the entry that goes, and would be empty.
+        // The page begins with the deleted entry and would be empty.
         MainWindow main;
         main.fill(40);
         main.bar().setValue(40);
@@ -218,7 +218,7 @@ private Q_SLOTS:
         main.choose("mnuDeleteWord");
         QVERIFY(main.answers.allSeen());
         QTEST(words(), "left");
-        // The page fill after it leaves the position behind the page.
+        // Filling the page leaves the position behind the page.
         QCOMPARE(gVocabList().CurrentWord(), 3);
     }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program asked to end from outside, in each of its windows.
+// Requests from outside to end the program, with each of its windows open.
 #include "editor/OpenList.h"
 #include "editor/frmSplash.h"
 #include "game/frmTanglewit.h"
@@ -117,7 +117,7 @@ private Q_SLOTS:
             QVERIFY(box.text().startsWith(u"Run-time error '76':"_s));
             QVERIFY(m_main->window().isVisible());
             QCOMPARE(openEntries().size(), 4);
-            // Asked once more, the program does not end either without an answer.
+            // A second request does not end the program without an answer either.
             gFileName = m_list;
             m_main->answers.expectMsgBox(LastQuestion, QMessageBox::Yes);
             QTimer::singleShot(0, &m_main->window(), [] { raise(SIGTERM); });
@@ -271,7 +271,7 @@ private Q_SLOTS:
         QProcess process;
         process.start(QStringLiteral(PROGRAM), QStringList());
         QVERIFY(process.waitForStarted());
-        // It looks for another copy before it shows anything.
+        // Before it shows anything, it looks for a program that runs already.
         QTRY_VERIFY(QFile::exists(m_main->path(u".local/share/Lexibrook/tanglewit.lock"_s)));
         process.terminate();
         QVERIFY(process.waitForFinished());
@@ -280,7 +280,7 @@ private Q_SLOTS:
     }
 
 private:
-    // The program with this command, to its end.
+    // Runs the program with this command until it ends.
     int run(const std::function<void()> &command)
     {
         QTimer::singleShot(0, &m_main->window(), command);

@@ -142,7 +142,7 @@ private Q_SLOTS:
             QCOMPARE(main.row(row), EditorModes::filledRow(top + row - 1));
         QCOMPARE(main.row(newRow),
                  (QStringList{QString::number(entries + 1), u"cat"_s, u"animal"_s, u"The cat."_s}));
-        // All rows are numbered on, and the next word's is marked.
+        // The rows below are numbered, too, and that of the next word is marked.
         for (int row = newRow + 1; row <= 23; ++row)
             QCOMPARE(main.row(row), (QStringList{QString::number(top + row - 1), QString(),
                                                  QString(), QString()}));

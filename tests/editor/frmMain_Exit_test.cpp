@@ -158,7 +158,7 @@ private Q_SLOTS:
             QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
             QTest::keyClick(box.defaultButton(), Qt::Key_Escape);
             QVERIFY(box.isVisible()); // No would lose the changes
-            // The window stands while it is asked.
+            // The window is still open during the question.
             QVERIFY(main.window().isVisible());
         });
         main.choose("mnuExit");
@@ -212,7 +212,7 @@ private Q_SLOTS:
         expectPathNotFound(main);
         main.choose("mnuExit");
         QVERIFY(main.answers.allSeen());
-        // The list is as it was and can be worked on.
+        // The list is as it was and can be edited.
         main.typeEntry(u"dog"_s);
         main.click("cmdAdd");
         QCOMPARE(gVocabList().NumWords(), 2);

@@ -9,8 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What a reader that never looks beyond the end makes of the bytes; nothing where the count is
-// none that a list can have.
+// The list that the bytes hold as far as they go. Nothing for a count that no list can have.
 std::optional<Entries> readable(const QByteArray &bytes)
 {
     const auto byteAt = [&bytes](qsizetype position) {

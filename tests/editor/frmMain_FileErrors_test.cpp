@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(QFileInfo(m_path).path()).entryList(QDir::Files | QDir::Hidden),
                  QStringList{u"animals.lwx"_s});
 
-        // Elsewhere there is room.
+        // There is room in another folder.
         m_main->answers.chooseFile(m_other);
         m_main->choose("mnuSaveAs");
         QCOMPARE(readFile(m_other), listBytes(entries));

@@ -248,7 +248,7 @@ private Q_SLOTS:
         QCOMPARE(m_main->text("txtSentence"), u"The cat."_s);
         m_main->click("cmdAdd");
         QCOMPARE(openEntries().size(), 1);
-        // From then on it opens empty boxes again.
+        // From then on New Word empties the boxes again.
         m_main->click("cmdAbort");
         m_main->click("cmdNewWord");
         QCOMPARE(m_main->text("txtWord"), QString());

@@ -248,7 +248,7 @@ private Q_SLOTS:
 
     void anEmptyListSavedUnderAFilesNameIsNotThatFile()
     {
-        // Nothing is written, so that opening the file has to read it.
+        // No file was written, so opening that name must read the file.
         m_main->answers.chooseFile(m_path);
         m_main->answers.answerOverwrite(u"animals.lwx"_s, QMessageBox::Yes);
         m_main->choose("mnuSaveAs");
@@ -259,7 +259,7 @@ private Q_SLOTS:
 
     void theFileOfASaveIsTheOneThatIsOpen()
     {
-        // The Save As of an empty list wrote no file, so no file was the open one.
+        // Save As of an empty list writes no file, so no file is the open one.
         m_main->answers.chooseFile(m_other);
         m_main->choose("mnuSaveAs");
         QCOMPARE(gOpenedFile, QString());

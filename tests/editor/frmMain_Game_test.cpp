@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main window before, behind and after the game, and its Music menu.
+// The main window before, during and after the game, and its Music menu.
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "game/frmTanglewit.h"
@@ -177,7 +177,7 @@ private Q_SLOTS:
             const char *item;
             bool isUpbeat, isOff;
         };
-        // Also from each one to each other one and to itself.
+        // From each item to every item.
         for (const Choice &choice :
              {Choice{"mnuUpbeat", true, false}, Choice{"mnuUpbeat", true, false},
               Choice{"mnuSoothing", false, false}, Choice{"mnuSoothing", false, false},
@@ -275,7 +275,7 @@ private:
         QVERIFY(m_main->answers.allSeen());
     }
 
-    // Null where no game is on show.
+    // Null where no game is shown.
     [[nodiscard]] static frmTanglewit *openGame()
     {
         const QWidgetList windows = QApplication::topLevelWidgets();

@@ -161,7 +161,7 @@ private Q_SLOTS:
         drag(bar, {slider.x(), bar.height() / 2});
         QVERIFY(bar.value() > 1 && bar.value() < 60);
         comparePage(main, bar.value());
-        // One behind the list at first, and the list's last entry then.
+        // The mouse asks for one behind the list; the bar goes back to the last entry.
         const QSignalSpy values(&bar, &QScrollBar::sliderMoved);
         drag(bar, {slider.x(), bar.height() - 1});
         QCOMPARE(values.constLast().constFirst().toInt(), 61);
@@ -246,7 +246,7 @@ private Q_SLOTS:
 
     void afterTypedWordsTheWheelLeavesTheListInSight()
     {
-        // The bar stands at the new entry, the page at the first one.
+        // The bar's value is the new entry, but the page begins with the first one.
         MainWindow main;
         typeWords(main, 7);
         for (const int notches : {1, 1, -1, -1, -5, 5}) {

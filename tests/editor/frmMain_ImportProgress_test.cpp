@@ -70,7 +70,7 @@ private Q_SLOTS:
         QVERIFY(!isBarShown());
         QCOMPARE(main.window().cursor().shape(), Qt::ArrowCursor);
         QCoreApplication::processEvents();
-        // Neither then nor afterwards did a command come through.
+        // No command was run, not even after the import.
         QCOMPARE(main.look(), EditorModes::idle());
         QCOMPARE(gVocabList().NumWords().toInt(), Words);
         QVERIFY(main.window().isVisible());
@@ -116,7 +116,7 @@ private:
     }
     [[nodiscard]] bool isBarShown() const { return bar() && bar()->isVisible(); }
 
-    // Each word takes its time, as on a slow machine, until the bar comes up.
+    // Waits at each word, as a slow machine does, until the progress bar is shown.
     void dawdle() const
     {
         if (!isBarShown())

@@ -359,7 +359,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(imported), listFile({u"cat"_s}));
     }
 
-    // The page shows what came in before the question, or does not yet.
+    // Whether the page shows already what was imported before the question.
     void theWindowIsBroughtUpToDateAfterAllAnswersButNo_data()
     {
         QTest::addColumn<QString>("answer");

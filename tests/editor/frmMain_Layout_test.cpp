@@ -27,7 +27,7 @@ QRect placeIn(const QWidget &window, const QWidget &control)
     return {control.mapTo(&window, QPoint()), control.size()};
 }
 
-// The controls themselves, not the parts that Qt builds them of.
+// The controls without the parts that Qt makes them of.
 QList<QWidget *> visibleControls(const QWidget &window)
 {
     QList<QWidget *> controls;

@@ -277,7 +277,7 @@ private:
     void setUpPage(const char *orientation, QDialogButtonBox::StandardButton button)
     {
         m_main->answers.useForm(SystemDialog, [=](QDialog &dialog) {
-            // It is wider than its text, beside which a mouse does not press it.
+            // Without the mouse: the button is wider than the part that takes a click.
             in<QRadioButton>(dialog, orientation).click();
             press(dialog, button);
         });

@@ -77,7 +77,7 @@ private Q_SLOTS:
         m_main->click("cmdQuickFlash");
         QVERIFY(m_main->window().isVisible());
         QVERIFY(m_main->window().isMaximized());
-        // Shown again is not loaded again.
+        // The main window is shown again, but not loaded again.
         QCOMPARE(gVocabList().NumWords(), Integer(5));
     }
 

@@ -168,7 +168,7 @@ private Q_SLOTS:
                                   QMessageBox::Ok);
         main.click("cmdAdd");
         QVERIFY(main.answers.allSeen());
-        // The handler is abandoned where it was.
+        // The handler has stopped at the error.
         QVERIFY(!gChanged);
         QVERIFY(gWordSelected);
         QCOMPARE(gVocabList().NumWords(), 0);

@@ -105,7 +105,7 @@ private Q_SLOTS:
     {
         frmSplash splash;
         QSignalSpy unloaded(&splash, &frmSplash::unloaded);
-        // The main window's turn comes only when the splash is gone.
+        // The main window is shown only when the splash is gone.
         bool wasVisible = true;
         connect(&splash, &frmSplash::unloaded, this, [&] { wasVisible = splash.isVisible(); });
         QElapsedTimer shown;
