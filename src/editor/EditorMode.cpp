@@ -1,68 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/EditorMode.h"
 
-EntryLook lookOf(EditorMode mode)
+#include <array>
+
+const EntryLook &lookOf(EditorMode mode)
 {
+    using enum EntryLook::Button;
+    using Shown = EntryLook::Shown;
     using Boxes = EntryLook::Boxes;
-    using Button = EntryLook::Button;
-    EntryLook look;
-    switch (mode) {
-    case EditorMode::Idle:
-        look = {.newWord = true, .search = true};
-        break;
-    case EditorMode::NewList:
-        look = {.newWord = true,
-                .add = true,
-                .abort = true,
-                .boxes = Boxes::All,
-                .defaultButton = Button::Add,
-                .focus = EntryFocus::Word};
-        break;
-    case EditorMode::NewWord:
-        look = {.showsAdd = true,
-                .add = true,
-                .abort = true,
-                .boxes = Boxes::All,
-                .defaultButton = Button::Add,
-                .focus = EntryFocus::Word};
-        break;
-    case EditorMode::Editing:
-        look = {.showsAdd = true,
-                .isUpdate = true,
-                .add = true,
-                .abort = true,
-                .deletion = true,
-                .boxes = Boxes::All,
-                .defaultButton = Button::Add,
-                .focus = EntryFocus::Word};
-        break;
-    case EditorMode::Search:
-        look = {.abort = true,
-                .search = true,
-                .boxes = Boxes::Word,
-                .defaultButton = Button::Search,
-                .focus = EntryFocus::Word};
-        break;
-    case EditorMode::Found:
-        look = {.abort = true,
-                .deletion = true,
-                .search = true,
-                .boxes = Boxes::Word,
-                .defaultButton = Button::Search,
-                .focus = EntryFocus::Word};
-        break;
-    }
-    return look;
+    using Focus = EntryFocus;
+    // In the order of EditorMode.
+    static constexpr std::array<EntryLook, 6> looks{{
+        {Shown::NewWord, NewWord | Search, NewWord, Boxes::None, Focus::Grid},
+        {Shown::NewWord, NewWord | Add | Abort, Add, Boxes::All, Focus::Word},
+        {Shown::Add, Add | Abort, Add, Boxes::All, Focus::Word},
+        {Shown::Update, Add | Abort | Delete, Add, Boxes::All, Focus::Word},
+        {Shown::NewWord, Abort | Search, Search, Boxes::Word, Focus::Word},
+        {Shown::NewWord, Abort | Delete | Search, Search, Boxes::Word, Focus::Word},
+    }};
+    return looks.at(static_cast<std::size_t>(mode));
 }
 
 EntryFocus boxOfColumn(int column)
 {
-    switch (column) {
-    case 2:
-        return EntryFocus::Definition;
-    case 3:
-        return EntryFocus::Sentence;
-    default:
-        return EntryFocus::Word;
-    }
+    return column == 2   ? EntryFocus::Definition
+           : column == 3 ? EntryFocus::Sentence
+                         : EntryFocus::Word;
 }

@@ -16,25 +16,20 @@ enum class EntryFocus { Grid, NewWord, Word, Definition, Sentence };
 
 struct EntryLook
 {
+    // Add, also as Update, and New Word have one place.
+    enum class Shown { NewWord, Add, Update };
+    enum Button { NewWord = 1, Add = 2, Abort = 4, Delete = 8, Search = 16 };
     enum class Boxes { None, Word, All };
-    enum class Button { NewWord, Add, Search };
 
-    bool showsAdd = false; // in the place of New Word
-    bool isUpdate = false; // the caption of Add
-    // Enabled buttons.
-    bool newWord = false;
-    bool add = false;
-    bool abort = false;
-    bool deletion = false;
-    bool search = false;
+    Shown shown;
+    int enabledButtons; // Button values
+    Button defaultButton;
+    Boxes enabledBoxes;
+    EntryFocus focus;
 
-    Boxes boxes = Boxes::None; // enabled
-    Button defaultButton = Button::NewWord;
-    EntryFocus focus = EntryFocus::Grid;
-
-    bool operator==(const EntryLook &) const = default;
+    [[nodiscard]] bool isEnabled(Button button) const { return (enabledButtons & button) != 0; }
 };
 
-[[nodiscard]] EntryLook lookOf(EditorMode mode);
+[[nodiscard]] const EntryLook &lookOf(EditorMode mode);
 // Where an entry is edited first after a click in this column of the grid.
 [[nodiscard]] EntryFocus boxOfColumn(int column);

@@ -6,6 +6,8 @@
 #include "platform/Guarded.h"
 #include "platform/Screen.h"
 
+#include <array>
+
 namespace {
 
 constexpr int Spacing = 8;     // pixels, as all measures below
@@ -61,59 +63,31 @@ void EntryArea::place(const MainLayout &layout, int height)
 void EntryArea::show(EditorMode mode, EntryFocus focus)
 {
     m_mode = mode;
-    const EntryLook look = lookOf(mode);
-    m_ui.cmdAdd->setVisible(look.showsAdd);
-    m_ui.cmdAdd->setEnabled(look.add);
-    m_ui.cmdAdd->setText(look.isUpdate ? QStringLiteral("&Update") : QStringLiteral("&Add"));
-    m_ui.cmdNewWord->setVisible(!look.showsAdd);
-    m_ui.cmdNewWord->setEnabled(look.newWord);
-    m_ui.cmdAbort->setEnabled(look.abort);
-    m_ui.cmdSearch->setEnabled(look.search);
-    m_ui.cmdDelete->setEnabled(look.deletion);
-    switch (look.boxes) {
-    case EntryLook::Boxes::None:
-        DisableEntryBoxes();
-        break;
-    case EntryLook::Boxes::Word:
-        m_ui.txtWord->setEnabled(true);
-        break;
-    case EntryLook::Boxes::All:
-        EnableEntryBoxes();
-        break;
-    }
-    switch (look.defaultButton) {
-    case EntryLook::Button::NewWord:
-        m_defaultButton.set(m_ui.cmdNewWord);
-        break;
-    case EntryLook::Button::Add:
-        m_defaultButton.set(m_ui.cmdAdd);
-        break;
-    case EntryLook::Button::Search:
-        m_defaultButton.set(m_ui.cmdSearch);
-        break;
-    }
+    const EntryLook &look = lookOf(mode);
+    const bool showsAdd = look.shown != EntryLook::Shown::NewWord;
+    m_ui.cmdAdd->setVisible(showsAdd);
+    m_ui.cmdAdd->setEnabled(look.isEnabled(EntryLook::Add));
+    m_ui.cmdAdd->setText(look.shown == EntryLook::Shown::Update ? QStringLiteral("&Update")
+                                                                : QStringLiteral("&Add"));
+    m_ui.cmdNewWord->setVisible(!showsAdd);
+    m_ui.cmdNewWord->setEnabled(look.isEnabled(EntryLook::NewWord));
+    m_ui.cmdAbort->setEnabled(look.isEnabled(EntryLook::Abort));
+    m_ui.cmdSearch->setEnabled(look.isEnabled(EntryLook::Search));
+    m_ui.cmdDelete->setEnabled(look.isEnabled(EntryLook::Delete));
+    m_ui.txtWord->setEnabled(look.enabledBoxes != EntryLook::Boxes::None);
+    m_ui.txtDefinition->setEnabled(look.enabledBoxes == EntryLook::Boxes::All);
+    m_ui.txtSentence->setEnabled(look.enabledBoxes == EntryLook::Boxes::All);
+    m_defaultButton.set(look.defaultButton == EntryLook::Add      ? m_ui.cmdAdd
+                        : look.defaultButton == EntryLook::Search ? m_ui.cmdSearch
+                                                                  : m_ui.cmdNewWord);
     giveFocus(focus);
 }
 
 void EntryArea::giveFocus(EntryFocus control)
 {
-    switch (control) {
-    case EntryFocus::Grid:
-        m_ui.MSFlexGrid1->setFocus();
-        break;
-    case EntryFocus::NewWord:
-        m_ui.cmdNewWord->setFocus();
-        break;
-    case EntryFocus::Word:
-        m_ui.txtWord->setFocus();
-        break;
-    case EntryFocus::Definition:
-        m_ui.txtDefinition->setFocus();
-        break;
-    case EntryFocus::Sentence:
-        m_ui.txtSentence->setFocus();
-        break;
-    }
+    const std::array<QWidget *, 5> controls{m_ui.MSFlexGrid1, m_ui.cmdNewWord, m_ui.txtWord,
+                                            m_ui.txtDefinition, m_ui.txtSentence};
+    controls.at(static_cast<std::size_t>(control))->setFocus();
 }
 
 bool EntryArea::press(const QKeyEvent &event, QWidget *focus) const
@@ -146,20 +120,6 @@ void EntryArea::selectWord()
 void EntryArea::ClearEntryBoxes()
 {
     showEntry({});
-}
-
-void EntryArea::EnableEntryBoxes()
-{
-    m_ui.txtWord->setEnabled(true);
-    m_ui.txtDefinition->setEnabled(true);
-    m_ui.txtSentence->setEnabled(true);
-}
-
-void EntryArea::DisableEntryBoxes()
-{
-    m_ui.txtWord->setEnabled(false);
-    m_ui.txtDefinition->setEnabled(false);
-    m_ui.txtSentence->setEnabled(false);
 }
 
 void EntryArea::txtDefinition_Change()

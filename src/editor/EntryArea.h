@@ -40,8 +40,6 @@ public:
     void ClearEntryBoxes();
 
 private:
-    void EnableEntryBoxes();
-    void DisableEntryBoxes();
     void txtDefinition_Change();
     void txtSentence_Change();
 

@@ -7,27 +7,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using Shown = EntryLook::Shown;
 using Boxes = EntryLook::Boxes;
-using Button = EntryLook::Button;
 
 constexpr EditorMode Modes[] = {EditorMode::Idle,    EditorMode::NewList, EditorMode::NewWord,
                                 EditorMode::Editing, EditorMode::Search,  EditorMode::Found};
 
 // The captions of the buttons that are shown and enabled, in their order.
-QStringList enabledButtons(const EntryLook &look)
+QString enabledButtons(const EntryLook &look)
 {
     QStringList buttons;
-    if (!look.showsAdd && look.newWord)
+    if (look.shown == Shown::NewWord && look.isEnabled(EntryLook::NewWord))
         buttons += u"New Word"_s;
-    if (look.showsAdd && look.add)
-        buttons += look.isUpdate ? u"Update"_s : u"Add"_s;
-    if (look.abort)
+    if (look.shown != Shown::NewWord && look.isEnabled(EntryLook::Add))
+        buttons += look.shown == Shown::Update ? u"Update"_s : u"Add"_s;
+    if (look.isEnabled(EntryLook::Abort))
         buttons += u"Abort"_s;
-    if (look.deletion)
+    if (look.isEnabled(EntryLook::Delete))
         buttons += u"Delete"_s;
-    if (look.search)
+    if (look.isEnabled(EntryLook::Search))
         buttons += u"Search"_s;
-    return buttons;
+    return buttons.join(u", "_s);
 }
 
 } // namespace
@@ -41,53 +41,47 @@ private Q_SLOTS:
     {
         QTest::addColumn<EditorMode>("mode");
         QTest::addColumn<QString>("buttons");
-        QTest::addColumn<Button>("defaultButton");
+        QTest::addColumn<EntryLook::Button>("defaultButton");
         QTest::addColumn<Boxes>("boxes");
         QTest::addColumn<EntryFocus>("focus");
-        QTest::newRow("Idle") << EditorMode::Idle << u"New Word,Search"_s << Button::NewWord
+        QTest::newRow("Idle") << EditorMode::Idle << u"New Word, Search"_s << EntryLook::NewWord
                               << Boxes::None << EntryFocus::Grid;
-        QTest::newRow("NewList") << EditorMode::NewList << u"New Word,Abort"_s << Button::Add
+        QTest::newRow("NewList") << EditorMode::NewList << u"New Word, Abort"_s << EntryLook::Add
                                  << Boxes::All << EntryFocus::Word;
-        QTest::newRow("NewWord") << EditorMode::NewWord << u"Add,Abort"_s << Button::Add
+        QTest::newRow("NewWord") << EditorMode::NewWord << u"Add, Abort"_s << EntryLook::Add
                                  << Boxes::All << EntryFocus::Word;
-        QTest::newRow("Editing") << EditorMode::Editing << u"Update,Abort,Delete"_s << Button::Add
-                                 << Boxes::All << EntryFocus::Word;
-        QTest::newRow("Search") << EditorMode::Search << u"Abort,Search"_s << Button::Search
+        QTest::newRow("Editing") << EditorMode::Editing << u"Update, Abort, Delete"_s
+                                 << EntryLook::Add << Boxes::All << EntryFocus::Word;
+        QTest::newRow("Search") << EditorMode::Search << u"Abort, Search"_s << EntryLook::Search
                                 << Boxes::Word << EntryFocus::Word;
-        QTest::newRow("Found") << EditorMode::Found << u"Abort,Delete,Search"_s << Button::Search
-                               << Boxes::Word << EntryFocus::Word;
+        QTest::newRow("Found") << EditorMode::Found << u"Abort, Delete, Search"_s
+                               << EntryLook::Search << Boxes::Word << EntryFocus::Word;
     }
 
     void aModeOffers()
     {
         QFETCH(EditorMode, mode);
-        const EntryLook look = lookOf(mode);
-        QTEST(enabledButtons(look).join(QLatin1Char(',')), "buttons");
+        const EntryLook &look = lookOf(mode);
+        QTEST(enabledButtons(look), "buttons");
         QTEST(look.defaultButton, "defaultButton");
-        QTEST(look.boxes, "boxes");
+        QTEST(look.enabledBoxes, "boxes");
         QTEST(look.focus, "focus");
     }
 
     void addIsDisabledWhereItIsHiddenButInANewList()
     {
         for (const EditorMode mode : Modes) {
-            const EntryLook look = lookOf(mode);
-            QCOMPARE(look.add, look.showsAdd || mode == EditorMode::NewList);
-            QVERIFY(!look.isUpdate || look.showsAdd);
-            QVERIFY(!look.showsAdd || !look.newWord);
+            const EntryLook &look = lookOf(mode);
+            const bool isShown = look.shown != Shown::NewWord;
+            QCOMPARE(look.isEnabled(EntryLook::Add), isShown || mode == EditorMode::NewList);
+            QVERIFY(!isShown || !look.isEnabled(EntryLook::NewWord));
         }
     }
 
-    void enterIsNeverDeadAndTheFocusNeverLost()
+    void theDefaultButtonIsEnabledInEachMode()
     {
-        for (const EditorMode mode : Modes) {
-            const EntryLook look = lookOf(mode);
-            const bool enabled = look.defaultButton == Button::Add       ? look.add
-                                 : look.defaultButton == Button::NewWord ? look.newWord
-                                                                         : look.search;
-            QVERIFY(enabled);
-            QCOMPARE(look.focus == EntryFocus::Word, look.boxes != Boxes::None);
-        }
+        for (const EditorMode mode : Modes)
+            QVERIFY(lookOf(mode).isEnabled(lookOf(mode).defaultButton));
     }
 
     void aColumnLeadsToItsBox()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where the main window's controls lie. CTest runs this on screens of several sizes.
 #include "core/Module1.h"
+#include "editor/MainLayout.h"
 #include "platform/Screen.h"
 #include "support/FormTest.h"
 #include "support/MainWindow.h"
@@ -91,39 +92,25 @@ class frmMain_Layout_test final : public QObject
 private Q_SLOTS:
     void theTwipsAreThoseOfTheScreen()
     {
-        struct Twips
-        {
-            QSize screen; // pixels
-            int column1, column2, column3, half, frameWidth, frameDefWidth, frameSenLeft, textWidth,
-                playLeft;
-        };
-        constexpr Twips table[] = {
-            {{1024, 768}, 2194, 5120, 6635, 5760, 15160, 7380, 7580, 6880, 13160},
-            {{1366, 768}, 2927, 6830, 8851, 5760, 20290, 9945, 10145, 9445, 18290},
-            {{1920, 1080}, 4114, 9600, 12441, 8100, 28600, 14100, 14300, 13600, 26600},
-        };
         MainWindow main;
-        const auto *expected =
-            std::find_if(std::begin(table), std::end(table), [&main](const Twips &twips) {
-                return twips.screen == main.window().screen()->size();
-            });
-        QVERIFY2(expected != std::end(table), "a screen whose numbers are not known here");
+        const QSize screen = screenInTwips(main.window());
+        const MainLayout layout = mainLayout(screen.width(), screen.height());
 
         MSFlexGrid &grid = main.grid();
-        QCOMPARE(grid.columnWidth(1), pixels(expected->column1));
-        QCOMPARE(grid.columnWidth(2), pixels(expected->column2));
-        QCOMPARE(grid.columnWidth(3), pixels(expected->column3));
-        QCOMPARE(grid.height() * TwipsPerPixel, expected->half);
+        QCOMPARE(grid.columnWidth(1), pixels(layout.columnWidths[0]));
+        QCOMPARE(grid.columnWidth(2), pixels(layout.columnWidths[1]));
+        QCOMPARE(grid.columnWidth(3), pixels(layout.columnWidths[2]));
+        QCOMPARE(grid.height() * TwipsPerPixel, layout.gridHeight);
         const auto &frame = main.control<QGroupBox>("Frame1");
-        QCOMPARE(frame.y() * TwipsPerPixel, expected->half);
-        QCOMPARE(frame.width(), pixels(expected->frameWidth));
+        QCOMPARE(frame.y() * TwipsPerPixel, layout.gridHeight);
+        QCOMPARE(frame.width(), pixels(layout.frameWidth));
         const auto &frameSen = main.control<QGroupBox>("FrameSen");
-        QCOMPARE(main.control<QGroupBox>("FrameDef").width(), pixels(expected->frameDefWidth));
-        QCOMPARE(frameSen.width(), pixels(expected->frameDefWidth));
-        QCOMPARE(frameSen.x(), pixels(expected->frameSenLeft));
+        QCOMPARE(main.control<QGroupBox>("FrameDef").width(), pixels(layout.frameDefWidth));
+        QCOMPARE(frameSen.width(), pixels(layout.frameDefWidth));
+        QCOMPARE(frameSen.x(), pixels(layout.frameSenLeft));
         for (const char *box : {"txtDefinition", "txtSentence"})
-            QCOMPARE(main.control<QWidget>(box).width(), pixels(expected->textWidth));
-        QCOMPARE(main.control<QWidget>("cmdPlayScramble").x(), pixels(expected->playLeft));
+            QCOMPARE(main.control<QWidget>(box).width(), pixels(layout.textWidth));
+        QCOMPARE(main.control<QWidget>("cmdPlayScramble").x(), pixels(layout.playLeft));
     }
 
     void neighboursTouchAsTheyShould()
