@@ -11,13 +11,13 @@
 #include <cmath>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString pathOfTrack(const QString &set, int level)
 {
-    return QStringLiteral("%1/%2/Track%3.wav")
-        .arg(pathOf(Place::Audio), set)
-        .arg(level, 2, 10, QLatin1Char('0'));
+    return u"%1/%2/Track%3.wav"_s.arg(pathOf(Place::Audio), set).arg(level, 2, 10, QChar(u'0'));
 }
 
 // One channel of a track, from -1 to 1.
@@ -97,7 +97,7 @@ private Q_SLOTS:
             QVERIFY(*lowest > -0.99 && *highest < 0.99);
             for (std::size_t from = 0; from + second <= samples.size(); from += second) {
                 const double level = loudness(samples, from, from + second);
-                QVERIFY2(level > -36, qPrintable(QStringLiteral("%1 dB").arg(level)));
+                QVERIFY2(level > -36, qPrintable(u"%1 dB"_s.arg(level)));
             }
         }
     }
@@ -119,8 +119,7 @@ private Q_SLOTS:
                 loudest = std::max(loudest, level_dB);
             }
         }
-        QVERIFY2(loudest - quietest <= 2,
-                 qPrintable(QStringLiteral("%1 to %2 dB").arg(quietest).arg(loudest)));
+        QVERIFY2(loudest - quietest <= 2, qPrintable(u"%1 to %2 dB"_s.arg(quietest).arg(loudest)));
     }
 
     void noTwoTracksAreTheSame()
@@ -153,7 +152,7 @@ private:
         return readWaveFile(pathOfTrack(set, level));
     }
 
-    static inline const QStringList Sets{QStringLiteral("fastbeat"), QStringLiteral("softbeat")};
+    static inline const QStringList Sets{u"fastbeat"_s, u"softbeat"_s};
 };
 
 QTEST_GUILESS_MAIN(Tracks_test)

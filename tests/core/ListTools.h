@@ -11,10 +11,12 @@
 #include <QStringList>
 #include <QtEndian>
 
+using namespace Qt::StringLiterals;
+
 inline void addWords(cVocabList &list, const QStringList &words)
 {
     for (const QString &word : words)
-        list.AddVocab(word, word + QStringLiteral(" def"), word + QStringLiteral(" sen"));
+        list.AddVocab(word, word + u" def"_s, word + u" sen"_s);
 }
 
 // All entries in order; the current position stays.

@@ -11,6 +11,8 @@
 
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // TANGLEWIT_KILLS=1000 SaveKilled_test: more of them than a run of all tests has time for.
@@ -30,9 +32,8 @@ void writeList(const QString &path, const QString &name, const QString &sentence
 {
     cVocabList list;
     for (int i = 1; i <= Entries; ++i)
-        list.AddVocab(QStringLiteral("%1 word %2").arg(name).arg(i),
-                      QStringLiteral("what word %1 of list %2 means to us").arg(i).arg(name),
-                      sentence);
+        list.AddVocab(u"%1 word %2"_s.arg(name).arg(i),
+                      u"what word %1 of list %2 means to us"_s.arg(i).arg(name), sentence);
     Module1::gFileName = path;
     list.SaveFile();
 }
@@ -100,10 +101,9 @@ private:
 void SaveKilled_test::initTestCase()
 {
     QVERIFY(m_folder.isValid());
-    writeList(path("long.lwx"), QStringLiteral("long"),
-              QStringLiteral("This sentence of the long list is there to be read."));
-    writeList(path("short.lwx"), QStringLiteral("short"),
-              QStringLiteral("The other list says less."));
+    writeList(path("long.lwx"), u"long"_s,
+              u"This sentence of the long list is there to be read."_s);
+    writeList(path("short.lwx"), u"short"_s, u"The other list says less."_s);
     m_long = contentOf(path("long.lwx"));
     m_short = contentOf(path("short.lwx"));
     QVERIFY(m_short.size() > 2'000'000);

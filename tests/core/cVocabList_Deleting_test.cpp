@@ -41,10 +41,10 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(list).join(QString()), left);
         QCOMPARE(list.NumWords().toInt(), 4);
         QCOMPARE(list.CurrentWord().toInt(), current);
-        QCOMPARE(entryText(list, 5), QStringLiteral("%1|%1 def|%1 sen").arg(slotBehind));
+        QCOMPARE(entryText(list, 5), u"%1|%1 def|%1 sen"_s.arg(slotBehind));
         QVERIFY(!hasSlot(list, 6));
         for (int i = 1; i <= 4; ++i)
-            QCOMPARE(entryText(list, i), QStringLiteral("%1|%1 def|%1 sen").arg(left[i - 1]));
+            QCOMPARE(entryText(list, i), u"%1|%1 def|%1 sen"_s.arg(left[i - 1]));
     }
 
     void deletingTheFirstEntryKeepsPositionOne()

@@ -23,8 +23,7 @@ class cVocabList_Model_test : public QObject
     VocabRecord anyRecord()
     {
         ++m_serial; // tells apart entries with the same word
-        return {anyWord(), QStringLiteral("def %1").arg(m_serial),
-                QStringLiteral("sen %1").arg(m_serial)};
+        return {anyWord(), u"def %1"_s.arg(m_serial), u"sen %1"_s.arg(m_serial)};
     }
 
     // The same action on both; both give the same answer or the same error.
@@ -36,12 +35,12 @@ class cVocabList_Model_test : public QObject
         const auto realError = errorNumberOf([&] { return realAnswer = int(real()); });
         const auto plainError = errorNumberOf([&] { return plainAnswer = int(plain()); });
         QVERIFY2(realError == plainError && realAnswer == plainAnswer,
-                 qPrintable(QStringLiteral("%1: %2 instead of %3, error %4 instead of %5")
-                                .arg(QLatin1StringView(what))
-                                .arg(realAnswer)
-                                .arg(plainAnswer)
-                                .arg(int(realError))
-                                .arg(int(plainError))));
+                 qPrintable(
+                     u"%1: %2 instead of %3, error %4 instead of %5"_s.arg(QLatin1StringView(what))
+                         .arg(realAnswer)
+                         .arg(plainAnswer)
+                         .arg(int(realError))
+                         .arg(int(plainError))));
     }
 
     static void areAlike(cVocabList &list, ReferenceList &plain)
@@ -148,14 +147,14 @@ private Q_SLOTS:
                 save(list, plain);
             areAlike(list, plain);
             if (QTest::currentTestFailed())
-                QFAIL(qPrintable(QStringLiteral("at step %1").arg(step)));
+                QFAIL(qPrintable(u"at step %1"_s.arg(step)));
         }
     }
 
     void aLargeListAgrees()
     {
         for (int i = 0; i < 3000; ++i)
-            m_pool << QStringLiteral("word %1").arg(i);
+            m_pool << u"word %1"_s.arg(i);
         cVocabList list;
         ReferenceList plain;
         for (int i = 0; i < 4000; ++i) {
@@ -189,7 +188,7 @@ private Q_SLOTS:
             QCOMPARE(list.NumWords().toInt(), plain.count);
             QCOMPARE(list.CurrentWord().toInt(), plain.current);
             if (QTest::currentTestFailed())
-                QFAIL(qPrintable(QStringLiteral("at step %1").arg(step)));
+                QFAIL(qPrintable(u"at step %1"_s.arg(step)));
         }
         areAlike(list, plain);
         save(list, plain);

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double ReadableText = 4.5; // WCAG 2, level AA
@@ -149,7 +151,7 @@ private Q_SLOTS:
         QFETCH(bool, enabled);
         wear(dark ? darkPalette() : lightPalette());
         QWidget window;
-        QPushButton button(QStringLiteral("IIII"), &window);
+        QPushButton button(u"IIII"_s, &window);
         button.setFont(fontWithThickStrokes());
         button.resize(240, 80);
         button.setDefault(isDefault);
@@ -157,10 +159,9 @@ private Q_SLOTS:
         window.show();
         const Seen seen = lookInside(button);
         const double found = contrast(seen.paper, seen.ink);
-        QVERIFY2(found >= (enabled ? ReadableText : ReadableMark),
-                 qPrintable(QStringLiteral("%1 on %2 has %3")
-                                .arg(seen.ink.name(), seen.paper.name())
-                                .arg(found)));
+        QVERIFY2(
+            found >= (enabled ? ReadableText : ReadableMark),
+            qPrintable(u"%1 on %2 has %3"_s.arg(seen.ink.name(), seen.paper.name()).arg(found)));
         QCOMPARE(seen.paper == accentColour(QApplication::palette()), isDefault && enabled);
     }
 
@@ -169,7 +170,7 @@ private Q_SLOTS:
         for (const QPalette &palette : {lightPalette(), darkPalette()}) {
             for (const bool isDefault : {false, true}) {
                 wear(palette);
-                QPushButton button(QStringLiteral("IIII"));
+                QPushButton button(u"IIII"_s);
                 button.setFont(fontWithThickStrokes());
                 button.resize(240, 80);
                 button.setDefault(isDefault);
@@ -177,7 +178,7 @@ private Q_SLOTS:
                 button.setDown(true);
                 const Seen seen = lookInside(button);
                 QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
-                         qPrintable(seen.ink.name() + QStringLiteral(" on ") + seen.paper.name()));
+                         qPrintable(seen.ink.name() + u" on "_s + seen.paper.name()));
             }
         }
     }
@@ -187,14 +188,14 @@ private Q_SLOTS:
         for (const QPalette &palette : {lightPalette(), darkPalette()}) {
             wear(palette);
             QWidget window;
-            QGroupBox frame(QStringLiteral("IIII"), &window);
+            QGroupBox frame(u"IIII"_s, &window);
             frame.setFont(fontWithThickStrokes());
             frame.resize(300, 200);
             window.resize(320, 220);
             window.show();
             const Seen seen = look(frame.grab(QRect(16, 10, 60, 20)).toImage());
             QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
-                     qPrintable(seen.ink.name() + QStringLiteral(" on ") + seen.paper.name()));
+                     qPrintable(seen.ink.name() + u" on "_s + seen.paper.name()));
         }
     }
 
@@ -202,7 +203,7 @@ private Q_SLOTS:
     {
         for (const QPalette &palette : {lightPalette(), darkPalette()}) {
             wear(palette);
-            QLineEdit box(QStringLiteral("IIIIIIIIIIIIIIII"));
+            QLineEdit box(u"IIIIIIIIIIIIIIII"_s);
             box.setFont(fontWithThickStrokes());
             box.resize(160, 80);
             box.show();
@@ -211,7 +212,7 @@ private Q_SLOTS:
             box.selectAll();
             const Seen seen = look(box.grab(QRect(12, 26, 100, 24)).toImage());
             QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
-                     qPrintable(seen.ink.name() + QStringLiteral(" on ") + seen.paper.name()));
+                     qPrintable(seen.ink.name() + u" on "_s + seen.paper.name()));
         }
     }
 
@@ -237,14 +238,14 @@ private Q_SLOTS:
                 const QColor without = frame();
                 button.setFocus();
                 QVERIFY2(contrast(frame(), without) >= 1.5,
-                         qPrintable(frame().name() + QStringLiteral(" and ") + without.name()));
+                         qPrintable(frame().name() + u" and "_s + without.name()));
             }
         }
     }
 
     void theLookFollowsThePaletteAtRunTime()
     {
-        QPushButton button(QStringLiteral("IIII"));
+        QPushButton button(u"IIII"_s);
         button.setFont(fontWithThickStrokes());
         button.resize(240, 80);
         button.setDefault(true);
@@ -286,7 +287,7 @@ private Q_SLOTS:
 
     void noPlaceholderIsLeftInTheStyleSheet()
     {
-        QVERIFY2(!qApp->styleSheet().contains(QLatin1Char('@')), qPrintable(qApp->styleSheet()));
+        QVERIFY2(!qApp->styleSheet().contains(u'@'), qPrintable(qApp->styleSheet()));
     }
 
 private:

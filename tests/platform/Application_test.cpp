@@ -13,9 +13,11 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString HoldArgument = QStringLiteral("--be-a-copy");
+const QString HoldArgument = u"--be-a-copy"_s;
 
 // Another copy of the program: tells whether it found one before it, then lives until its input
 // ends.
@@ -72,8 +74,8 @@ private Q_SLOTS:
 
     void theTitleIsTanglewit()
     {
-        QCOMPARE(Application::Title(), QStringLiteral("Tanglewit"));
-        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Tanglewit"));
+        QCOMPARE(Application::Title(), u"Tanglewit"_s);
+        QCOMPARE(QCoreApplication::applicationName(), u"Tanglewit"_s);
     }
 
     void theVersionIsOneNoughtNought()
@@ -81,12 +83,12 @@ private Q_SLOTS:
         QCOMPARE(Application::Major(), 1);
         QCOMPARE(Application::Minor(), 0);
         QCOMPARE(Application::Revision(), 0);
-        QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.0.0"));
+        QCOMPARE(QCoreApplication::applicationVersion(), u"1.0.0"_s);
     }
 
     void theLegalNoticeNamesTheMaker()
     {
-        QVERIFY(Application::LegalCopyright().contains(QStringLiteral("LexiBrook")));
+        QVERIFY(Application::LegalCopyright().contains(u"LexiBrook"_s));
     }
 
     void theFirstCopyFindsNoOther()
@@ -159,7 +161,7 @@ private Q_SLOTS:
 
     void whereNoLockCanBeLaidTheProgramStarts()
     {
-        const QString notAFolder = m_data->filePath(QStringLiteral("file"));
+        const QString notAFolder = m_data->filePath(u"file"_s);
         QFile file(notAFolder);
         QVERIFY(file.open(QIODevice::WriteOnly));
         qputenv("XDG_DATA_HOME", QFile::encodeName(notAFolder));
@@ -170,7 +172,7 @@ private Q_SLOTS:
 
     void aWriteBeyondALimitOnTheSizeOfFilesIsAnErrorAndNotTheEnd()
     {
-        const QString path = m_data->filePath(QStringLiteral("list.lwx"));
+        const QString path = m_data->filePath(u"list.lwx"_s);
         QCOMPARE(errorNumberInChildProcess([&path] {
                      const rlimit limit{1000, 1000};
                      setrlimit(RLIMIT_FSIZE, &limit);
@@ -182,7 +184,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] QString lockPath() const
     {
-        return m_data->filePath(QStringLiteral("Lexibrook/tanglewit.lock"));
+        return m_data->filePath(u"Lexibrook/tanglewit.lock"_s);
     }
 
     std::unique_ptr<QTemporaryDir> m_data;

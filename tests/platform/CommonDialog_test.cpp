@@ -14,9 +14,11 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString ListFilter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*");
+const QString ListFilter = u"Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*"_s;
 
 QString offeredName(const QFileDialog &dialog)
 {
@@ -47,7 +49,7 @@ private Q_SLOTS:
         for (const char *folder : {"first", "second", "folder.with.dots"})
             QVERIFY(QDir(m_state->home()).mkdir(QLatin1String(folder)));
         m_dialog = std::make_unique<CommonDialog>(path("first"));
-        m_dialog->DialogTitle = QStringLiteral("Save File As");
+        m_dialog->DialogTitle = u"Save File As"_s;
         m_dialog->Filter = ListFilter;
     }
 
@@ -61,11 +63,11 @@ private Q_SLOTS:
     void titleAndFiltersAreShownExactly()
     {
         const auto inspect = [](QFileDialog &dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save File As"));
+            QCOMPARE(dialog.windowTitle(), u"Save File As"_s);
             const auto &types = Controls::find<QComboBox>(dialog, "fileTypeCombo");
             QCOMPARE(types.count(), 2);
-            QCOMPARE(types.itemText(0), QStringLiteral("Vocab Data (*.lwx)"));
-            QCOMPARE(types.itemText(1), QStringLiteral("All files (*.*)"));
+            QCOMPARE(types.itemText(0), u"Vocab Data (*.lwx)"_s);
+            QCOMPARE(types.itemText(1), u"All files (*.*)"_s);
             QCOMPARE(types.currentIndex(), 0);
         };
         m_answers->cancelFileDialog(inspect);
@@ -77,10 +79,9 @@ private Q_SLOTS:
     void theFirstFilterListsWordListsInEitherCase()
     {
         for (const char *name : {"cat.lwx", "DOG.LWX", "notes.txt", "bare", "cat.lwx.bak"})
-            make(QStringLiteral("first/") + QLatin1String(name));
+            make(u"first/"_s + QLatin1String(name));
         m_answers->cancelFileDialog([](QFileDialog &dialog) {
-            QTRY_COMPARE(filesShown(dialog),
-                         (QStringList{QStringLiteral("DOG.LWX"), QStringLiteral("cat.lwx")}));
+            QTRY_COMPARE(filesShown(dialog), (QStringList{u"DOG.LWX"_s, u"cat.lwx"_s}));
         });
         QVERIFY(!m_dialog->ShowOpen(nullptr));
     }
@@ -88,12 +89,11 @@ private Q_SLOTS:
     void allFilesAreAllFilesWithoutADotToo()
     {
         for (const char *name : {"cat.lwx", "notes.txt", "bare"})
-            make(QStringLiteral("first/") + QLatin1String(name));
+            make(u"first/"_s + QLatin1String(name));
         m_answers->cancelFileDialog([](QFileDialog &dialog) {
             QTest::keyClick(&Controls::find<QComboBox>(dialog, "fileTypeCombo"), Qt::Key_Down);
             QTRY_COMPARE(filesShown(dialog),
-                         (QStringList{QStringLiteral("bare"), QStringLiteral("cat.lwx"),
-                                      QStringLiteral("notes.txt")}));
+                         (QStringList{u"bare"_s, u"cat.lwx"_s, u"notes.txt"_s}));
         });
         QVERIFY(!m_dialog->ShowOpen(nullptr));
     }
@@ -131,58 +131,58 @@ private Q_SLOTS:
 
     void anExistingFileIsReplacedOnlyAfterYes()
     {
-        make(QStringLiteral("first/cat.lwx"));
-        m_dialog->DefaultExt = QStringLiteral("lwx");
+        make(u"first/cat.lwx"_s);
+        m_dialog->DefaultExt = u"lwx"_s;
         m_dialog->OverwritePrompt = true;
-        m_answers->chooseFile(QStringLiteral("cat"));
-        m_answers->answerOverwrite(QStringLiteral("cat.lwx"), QMessageBox::Yes);
+        m_answers->chooseFile(u"cat"_s);
+        m_answers->answerOverwrite(u"cat.lwx"_s, QMessageBox::Yes);
         QVERIFY(m_dialog->ShowSave(nullptr));
-        QCOMPARE(m_dialog->FileTitle, QStringLiteral("cat.lwx"));
+        QCOMPARE(m_dialog->FileTitle, u"cat.lwx"_s);
     }
 
     void afterNoAnotherNameCanBeChosen()
     {
-        make(QStringLiteral("first/cat.lwx"));
+        make(u"first/cat.lwx"_s);
         m_dialog->OverwritePrompt = true;
-        m_answers->chooseFile(QStringLiteral("cat.lwx"));
-        m_answers->answerOverwrite(QStringLiteral("cat.lwx"), QMessageBox::No);
-        m_answers->chooseFile(QStringLiteral("dog.lwx"), [](QFileDialog &dialog) {
+        m_answers->chooseFile(u"cat.lwx"_s);
+        m_answers->answerOverwrite(u"cat.lwx"_s, QMessageBox::No);
+        m_answers->chooseFile(u"dog.lwx"_s, [](QFileDialog &dialog) {
             // The question has just gone: who types waits until the dialog has the focus again.
             dialog.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&dialog));
         });
         QVERIFY(m_dialog->ShowSave(nullptr));
-        QCOMPARE(m_dialog->FileTitle, QStringLiteral("dog.lwx"));
+        QCOMPARE(m_dialog->FileTitle, u"dog.lwx"_s);
 
-        m_answers->chooseFile(QStringLiteral("cat.lwx"));
-        m_answers->answerOverwrite(QStringLiteral("cat.lwx"), QMessageBox::No);
+        m_answers->chooseFile(u"cat.lwx"_s);
+        m_answers->answerOverwrite(u"cat.lwx"_s, QMessageBox::No);
         m_answers->cancelFileDialog();
         QVERIFY(!m_dialog->ShowSave(nullptr));
-        QCOMPARE(m_dialog->FileTitle, QStringLiteral("dog.lwx"));
+        QCOMPARE(m_dialog->FileTitle, u"dog.lwx"_s);
     }
 
     void withoutTheOptionAnExistingFileIsTakenUnasked()
     {
-        make(QStringLiteral("first/cat.lwx"));
+        make(u"first/cat.lwx"_s);
         m_dialog->OverwritePrompt = false;
-        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        m_answers->chooseFile(u"cat.lwx"_s);
         QVERIFY(m_dialog->ShowSave(nullptr));
         QCOMPARE(m_dialog->FileName, path("first/cat.lwx"));
     }
 
     void openingAnExistingFileNeverAsks()
     {
-        make(QStringLiteral("first/cat.lwx"));
+        make(u"first/cat.lwx"_s);
         m_dialog->OverwritePrompt = true;
-        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        m_answers->chooseFile(u"cat.lwx"_s);
         QVERIFY(m_dialog->ShowOpen(nullptr));
         QCOMPARE(m_dialog->FileName, path("first/cat.lwx"));
-        QCOMPARE(m_dialog->FileTitle, QStringLiteral("cat.lwx"));
+        QCOMPARE(m_dialog->FileTitle, u"cat.lwx"_s);
     }
 
     void aNameThatDoesNotExistCanBeOpened()
     {
-        m_answers->chooseFile(QStringLiteral("new.lwx"));
+        m_answers->chooseFile(u"new.lwx"_s);
         QVERIFY(m_dialog->ShowOpen(nullptr));
         QCOMPARE(m_dialog->FileName, path("first/new.lwx"));
         QVERIFY(!QFile::exists(m_dialog->FileName));
@@ -195,8 +195,8 @@ private Q_SLOTS:
                 QCOMPARE(dialog.directory().absolutePath(), m_state->path(folder));
             };
         };
-        const QString first = QStringLiteral("first");
-        const QString second = QStringLiteral("second");
+        const QString first = u"first"_s;
+        const QString second = u"second"_s;
 
         m_answers->cancelFileDialog(startsIn(first));
         QVERIFY(!m_dialog->ShowSave(nullptr));
@@ -209,7 +209,7 @@ private Q_SLOTS:
         QVERIFY(!m_dialog->ShowSave(nullptr));
 
         m_dialog->InitDir = path("second");
-        m_answers->chooseFile(QStringLiteral("cat.lwx"), startsIn(second));
+        m_answers->chooseFile(u"cat.lwx"_s, startsIn(second));
         QVERIFY(m_dialog->ShowOpen(nullptr));
         m_dialog->InitDir.clear();
         m_dialog->FileName.clear();
@@ -221,7 +221,7 @@ private Q_SLOTS:
     {
         m_dialog->FileName = path("second/cat.lwx");
         m_answers->acceptFileDialog(
-            [](QFileDialog &dialog) { QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx")); });
+            [](QFileDialog &dialog) { QCOMPARE(offeredName(dialog), u"cat.lwx"_s); });
         QVERIFY(m_dialog->ShowSave(nullptr));
         QCOMPARE(m_dialog->FileName, path("second/cat.lwx"));
     }
@@ -257,10 +257,10 @@ private Q_SLOTS:
 
     void theLastNameIsOfferedAgain()
     {
-        m_answers->chooseFile(QStringLiteral("cat.lwx"));
+        m_answers->chooseFile(u"cat.lwx"_s);
         QVERIFY(m_dialog->ShowSave(nullptr));
         m_answers->cancelFileDialog(
-            [](QFileDialog &dialog) { QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx")); });
+            [](QFileDialog &dialog) { QCOMPARE(offeredName(dialog), u"cat.lwx"_s); });
         QVERIFY(!m_dialog->ShowSave(nullptr));
     }
 
@@ -274,17 +274,17 @@ private Q_SLOTS:
     void cancelKeepsTheProperties()
     {
         m_dialog->FileName = path("second/cat.lwx");
-        m_dialog->FileTitle = QStringLiteral("cat.lwx");
-        m_dialog->DefaultExt = QStringLiteral("lwx");
+        m_dialog->FileTitle = u"cat.lwx"_s;
+        m_dialog->DefaultExt = u"lwx"_s;
         m_dialog->OverwritePrompt = true;
         for (const bool save : {false, true}) {
             m_answers->cancelFileDialog();
             QVERIFY(!(save ? m_dialog->ShowSave(nullptr) : m_dialog->ShowOpen(nullptr)));
             QCOMPARE(m_dialog->FileName, path("second/cat.lwx"));
-            QCOMPARE(m_dialog->FileTitle, QStringLiteral("cat.lwx"));
-            QCOMPARE(m_dialog->DialogTitle, QStringLiteral("Save File As"));
+            QCOMPARE(m_dialog->FileTitle, u"cat.lwx"_s);
+            QCOMPARE(m_dialog->DialogTitle, u"Save File As"_s);
             QCOMPARE(m_dialog->Filter, ListFilter);
-            QCOMPARE(m_dialog->DefaultExt, QStringLiteral("lwx"));
+            QCOMPARE(m_dialog->DefaultExt, u"lwx"_s);
             QVERIFY(m_dialog->OverwritePrompt);
         }
     }

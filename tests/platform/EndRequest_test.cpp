@@ -18,6 +18,8 @@
 #include <memory>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A window whose close can be refused.
@@ -172,14 +174,14 @@ void EndRequest_test::dialogsAreCancelledFromTheLastOneDown()
                  QTimer::singleShot(0, &first, [&] {
                      QDialog second(&first);
                      QTimer::singleShot(0, &second, [] { raise(SIGTERM); });
-                     ended += QStringLiteral("second %1").arg(second.exec());
+                     ended += u"second %1"_s.arg(second.exec());
                      QVERIFY(m_window->isVisible());
                  });
-                 ended += QStringLiteral("first %1").arg(first.exec());
+                 ended += u"first %1"_s.arg(first.exec());
                  QVERIFY(m_window->isVisible());
              }),
              0);
-    QCOMPARE(ended, (QStringList{QStringLiteral("second 0"), QStringLiteral("first 0")}));
+    QCOMPARE(ended, (QStringList{u"second 0"_s, u"first 0"_s}));
     QVERIFY(!m_window->isVisible());
 }
 
@@ -199,7 +201,7 @@ void EndRequest_test::messageBoxesAreCancelled()
     std::optional<MsgBoxAnswer> given;
     QCOMPARE(run([&] {
                  QTimer::singleShot(0, m_window.get(), [] { raise(SIGTERM); });
-                 given = MsgBox(QStringLiteral("text"), buttons);
+                 given = MsgBox(u"text"_s, buttons);
              }),
              0);
     QVERIFY(given == answer);
@@ -220,7 +222,7 @@ void EndRequest_test::aQuestionWithoutCancelWaitsForItsAnswer()
                      QVERIFY(box && box->isVisible() && m_window->isVisible());
                      QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
                  });
-                 given = MsgBox(QStringLiteral("Do you want to save?"), MsgBoxButtons::YesNo);
+                 given = MsgBox(u"Do you want to save?"_s, MsgBoxButtons::YesNo);
              }),
              0);
     QVERIFY(given == MsgBoxAnswer::Yes);
@@ -243,7 +245,7 @@ void EndRequest_test::aFormThatRefusesToCloseIsEnded()
 void EndRequest_test::aMenuIsClosed()
 {
     QMenu menu;
-    menu.addAction(QStringLiteral("item"));
+    menu.addAction(u"item"_s);
     QCOMPARE(run([&] {
                  menu.popup({});
                  raise(SIGTERM);
@@ -341,7 +343,7 @@ void EndRequest_test::aSecondSignalChangesNothing()
                      QVERIFY(box && box->isVisible());
                      QTest::mouseClick(box->button(QMessageBox::No), Qt::LeftButton);
                  });
-                 MsgBox(QStringLiteral("Do you want to save?"), MsgBoxButtons::YesNo);
+                 MsgBox(u"Do you want to save?"_s, MsgBoxButtons::YesNo);
              }),
              0);
     QCOMPARE(begun.size(), 1);

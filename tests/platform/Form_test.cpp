@@ -12,9 +12,11 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString Report = QStringLiteral("Run-time error '9':\n\nSubscript out of range");
+const QString Report = u"Run-time error '9':\n\nSubscript out of range"_s;
 
 // A form that notes its events and fails in one of them on demand, once.
 template <class Base> class NotingForm final : public Base
@@ -28,16 +30,16 @@ public:
     bool mayUnload = true;
 
 protected:
-    void Form_Load() override { note(QStringLiteral("Load")); }
-    void Form_Activate() override { note(QStringLiteral("Activate")); }
-    void Form_GotFocus() override { note(QStringLiteral("GotFocus")); }
+    void Form_Load() override { note(u"Load"_s); }
+    void Form_Activate() override { note(u"Activate"_s); }
+    void Form_GotFocus() override { note(u"GotFocus"_s); }
     bool Form_QueryUnload() override
     {
-        note(QStringLiteral("QueryUnload"));
+        note(u"QueryUnload"_s);
         return mayUnload;
     }
-    void Form_Unload() override { note(QStringLiteral("Unload")); }
-    void Form_Terminate() override { note(QStringLiteral("Terminate")); }
+    void Form_Unload() override { note(u"Unload"_s); }
+    void Form_Terminate() override { note(u"Terminate"_s); }
 
 private:
     void note(const QString &event)
@@ -71,8 +73,7 @@ private:
     }
 };
 
-const QStringList Unloading = {QStringLiteral("QueryUnload"), QStringLiteral("Unload"),
-                               QStringLiteral("Terminate")};
+const QStringList Unloading = {u"QueryUnload"_s, u"Unload"_s, u"Terminate"_s};
 
 template <class Form> void showActive(Form &form)
 {
@@ -93,7 +94,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(form.takeEvents(), QStringList());
         form.show();
-        QCOMPARE(form.takeEvents().count(QStringLiteral("Load")), 1);
+        QCOMPARE(form.takeEvents().count(u"Load"_s), 1);
     }
 
     void loadComesBeforeActivate()
@@ -101,8 +102,8 @@ private Q_SLOTS:
         Window form;
         showActive(form);
         const QStringList events = form.takeEvents();
-        QCOMPARE(events.first(), QStringLiteral("Load"));
-        QVERIFY(events.contains(QStringLiteral("Activate")));
+        QCOMPARE(events.first(), u"Load"_s);
+        QVERIFY(events.contains(u"Activate"_s));
     }
 
     void hidingAndShowingDoesNotLoadAgain()
@@ -115,8 +116,8 @@ private Q_SLOTS:
         showActive(other);
         showActive(form);
         const QStringList events = form.takeEvents();
-        QVERIFY(!events.contains(QStringLiteral("Load")));
-        QVERIFY(events.contains(QStringLiteral("Activate")));
+        QVERIFY(!events.contains(u"Load"_s));
+        QVERIFY(events.contains(u"Activate"_s));
     }
 
     void closingUnloadsInOrder()
@@ -136,7 +137,7 @@ private Q_SLOTS:
         QVERIFY(form.close());
         static_cast<void>(form.takeEvents());
         form.show();
-        QCOMPARE(form.takeEvents().count(QStringLiteral("Load")), 1);
+        QCOMPARE(form.takeEvents().count(u"Load"_s), 1);
     }
 
     void queryUnloadKeepsTheForm()
@@ -147,10 +148,10 @@ private Q_SLOTS:
         form.mayUnload = false;
         QVERIFY(!form.close());
         QVERIFY(form.isVisible());
-        QCOMPARE(form.takeEvents(), QStringList{QStringLiteral("QueryUnload")});
+        QCOMPARE(form.takeEvents(), QStringList{u"QueryUnload"_s});
         form.hide();
         form.show();
-        QVERIFY(!form.takeEvents().contains(QStringLiteral("Load")));
+        QVERIFY(!form.takeEvents().contains(u"Load"_s));
 
         form.mayUnload = true;
         QVERIFY(form.close());
@@ -177,13 +178,13 @@ private Q_SLOTS:
         QVERIFY(answers.allSeen());
         QVERIFY(form.isVisible());
         QStringList events = form.takeEvents();
-        events.removeAll(QStringLiteral("Activate")); // after the box
-        events.removeAll(QStringLiteral("GotFocus"));
+        events.removeAll(u"Activate"_s); // after the box
+        events.removeAll(u"GotFocus"_s);
         QCOMPARE(events, Unloading.mid(0, failing + 1));
 
         form.hide();
         form.show();
-        QVERIFY(!form.takeEvents().contains(QStringLiteral("Load")));
+        QVERIFY(!form.takeEvents().contains(u"Load"_s));
         QVERIFY(form.close());
         QVERIFY(!form.isVisible());
     }
@@ -197,7 +198,7 @@ private Q_SLOTS:
         static_cast<void>(form.takeEvents());
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));
-        QCOMPARE(form.takeEvents().count(QStringLiteral("Activate")), 1);
+        QCOMPARE(form.takeEvents().count(u"Activate"_s), 1);
     }
 
     void theFocusOfTheFormItselfIsAnEvent()
@@ -209,7 +210,7 @@ private Q_SLOTS:
         box->setFocus();
         static_cast<void>(form.takeEvents());
         form.setFocus();
-        QCOMPARE(form.takeEvents(), QStringList{QStringLiteral("GotFocus")});
+        QCOMPARE(form.takeEvents(), QStringList{u"GotFocus"_s});
         box->setFocus();
         QCOMPARE(form.takeEvents(), QStringList());
     }
@@ -217,9 +218,9 @@ private Q_SLOTS:
     void anErrorInAnyOtherEventIsReportedAndTheFormShows_data()
     {
         QTest::addColumn<QString>("event");
-        QTest::newRow("Load") << QStringLiteral("Load");
-        QTest::newRow("Activate") << QStringLiteral("Activate");
-        QTest::newRow("GotFocus") << QStringLiteral("GotFocus");
+        QTest::newRow("Load") << u"Load"_s;
+        QTest::newRow("Activate") << u"Activate"_s;
+        QTest::newRow("GotFocus") << u"GotFocus"_s;
     }
 
     void anErrorInAnyOtherEventIsReportedAndTheFormShows()
@@ -254,13 +255,13 @@ private Q_SLOTS:
     {
         NotingForm<DialogForm> dialog;
         showActive(dialog);
-        QVERIFY(dialog.takeEvents().contains(QStringLiteral("Load")));
+        QVERIFY(dialog.takeEvents().contains(u"Load"_s));
         QVERIFY(dialog.close());
         QCOMPARE(dialog.takeEvents(), Unloading);
 
         NotingForm<Form<QMainWindow>> window;
         showActive(window);
-        QVERIFY(window.takeEvents().contains(QStringLiteral("Load")));
+        QVERIFY(window.takeEvents().contains(u"Load"_s));
         QVERIFY(window.close());
         QCOMPARE(window.takeEvents(), Unloading);
     }
@@ -283,7 +284,7 @@ private Q_SLOTS:
         dialog.mayUnload = false;
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(dialog.isVisible());
-        QCOMPARE(dialog.takeEvents(), QStringList{QStringLiteral("QueryUnload")});
+        QCOMPARE(dialog.takeEvents(), QStringList{u"QueryUnload"_s});
         dialog.mayUnload = true;
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(!dialog.isVisible());

@@ -10,6 +10,8 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 inline constexpr int Rows = 25;
 inline constexpr int VisibleRows = 24;
 
@@ -34,7 +36,7 @@ public:
     {
         // Qt would take off an older one after a while only.
         for (QWidget *window : QApplication::topLevelWidgets())
-            if (window->objectName() == QLatin1String("qtooltip_label"))
+            if (window->objectName() == "qtooltip_label"_L1)
                 window->hide();
         const QPoint spot = centreOf(row, column);
         QHelpEvent event(QEvent::ToolTip, spot, grid.viewport()->mapToGlobal(spot));

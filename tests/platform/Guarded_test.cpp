@@ -13,6 +13,8 @@
 #include <new>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Failure
@@ -40,7 +42,7 @@ public:
     void bar_Change(int value) { values += value; }
     void hint(const QString &text, int row, bool strong)
     {
-        hints += QStringLiteral("%1 %2 %3").arg(text).arg(row).arg(strong);
+        hints += u"%1 %2 %3"_s.arg(text).arg(row).arg(strong);
     }
 
     QPushButton button;
@@ -91,7 +93,7 @@ private Q_SLOTS:
             QVERIFY(isHandlerAtWork());
         });
         DialogAnswers answers;
-        answers.expectMsgBox(QStringLiteral("Run-time error '6':\n\nOverflow"));
+        answers.expectMsgBox(u"Run-time error '6':\n\nOverflow"_s);
         runGuarded([] { throw RunTimeError(RunTimeError::Overflow); });
         QVERIFY(!isHandlerAtWork());
     }
@@ -104,9 +106,7 @@ private Q_SLOTS:
         const auto row = [](int number, const char *words) {
             QTest::addRow("error %d", number)
                 << Failure{[number] { throw RunTimeError(RunTimeError::Number(number)); }}
-                << QStringLiteral("Run-time error '%1':\n\n%2")
-                       .arg(number)
-                       .arg(QLatin1String(words));
+                << u"Run-time error '%1':\n\n%2"_s.arg(number).arg(QLatin1String(words));
         };
         row(5, "Invalid procedure call or argument");
         row(6, "Overflow");
@@ -121,16 +121,15 @@ private Q_SLOTS:
         row(482, "Printer error");
 
         QTest::newRow("with a detail") << Failure{[] {
-            throw RunTimeError(RunTimeError::PathNotFound,
-                               QStringLiteral("/a/<b>c</b>.lwx: no such folder"));
+            throw RunTimeError(RunTimeError::PathNotFound, u"/a/<b>c</b>.lwx: no such folder"_s);
         }}
-                                       << QStringLiteral("Run-time error '76':\n\nPath not found\n"
-                                                         "/a/<b>c</b>.lwx: no such folder");
-        QTest::newRow("no memory") << Failure{[] { throw std::bad_alloc(); }}
-                                   << QStringLiteral("Run-time error '7':\n\nOut of memory");
+                                       << u"Run-time error '76':\n\nPath not found\n"
+                                          "/a/<b>c</b>.lwx: no such folder"_s;
+        QTest::newRow("no memory")
+            << Failure{[] { throw std::bad_alloc(); }} << u"Run-time error '7':\n\nOut of memory"_s;
         QTest::newRow("an exception of the library")
             << Failure{[] { throw std::out_of_range("element 24 of 24"); }}
-            << QStringLiteral("element 24 of 24");
+            << u"element 24 of 24"_s;
     }
 
     void everyErrorIsReportedAndEndsTheHandler()
@@ -155,7 +154,7 @@ private Q_SLOTS:
         DialogAnswers answers;
         Window window;
         window.error = 9;
-        answers.expectMsgBox(QStringLiteral("Run-time error '9':\n\nSubscript out of range"));
+        answers.expectMsgBox(u"Run-time error '9':\n\nSubscript out of range"_s);
         window.button.click();
         QVERIFY(answers.allSeen());
         QCOMPARE(window.entered, 1);
@@ -179,8 +178,8 @@ private Q_SLOTS:
     {
         Window window;
         const auto hint = guarded(&window, &Window::hint);
-        hint(QStringLiteral("cat"), 3, true);
-        QCOMPARE(window.hints, QStringList{QStringLiteral("cat 3 1")});
+        hint(u"cat"_s, 3, true);
+        QCOMPARE(window.hints, QStringList{u"cat 3 1"_s});
     }
 };
 

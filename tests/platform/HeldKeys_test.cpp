@@ -18,6 +18,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum class Press { First, Repeated };
@@ -54,7 +56,7 @@ public:
 
     OneLineBox *line = new OneLineBox;
     EntryTextBox *lines = new EntryTextBox;
-    QPushButton *button = new QPushButton(QStringLiteral("&Ok"));
+    QPushButton *button = new QPushButton(u"&Ok"_s);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override { m_default.press(*event, focusWidget()); }
@@ -178,12 +180,12 @@ private Q_SLOTS:
 
     void movingAndDeletingAreRepeated()
     {
-        m_window->line->setText(QStringLiteral("abcdefgh"));
+        m_window->line->setText(u"abcdefgh"_s);
         m_window->line->setFocus();
         hold(*m_window->line, Qt::Key_Left);
         QCOMPARE(m_window->line->cursorPosition(), 4);
         hold(*m_window->line, Qt::Key_Backspace);
-        QCOMPARE(m_window->line->text(), QStringLiteral("efgh"));
+        QCOMPARE(m_window->line->text(), u"efgh"_s);
     }
 
     void undoingIsRepeated()
@@ -202,7 +204,7 @@ private Q_SLOTS:
         m_window->lines->setFocus();
         const QSignalSpy clicks(m_window->button, &QPushButton::clicked);
         hold(*m_window->lines, Qt::Key_Return, Qt::ControlModifier);
-        QCOMPARE(m_window->lines->text(), QStringLiteral("\r\n\r\n\r\n\r\n"));
+        QCOMPARE(m_window->lines->text(), u"\r\n\r\n\r\n\r\n"_s);
         QCOMPARE(clicks.count(), 0);
     }
 
@@ -243,11 +245,10 @@ private Q_SLOTS:
             QTest::mouseClick(box->button(QMessageBox::Cancel), Qt::LeftButton);
         });
         keyboard.start(0);
-        const MsgBoxAnswer first = MsgBox(QStringLiteral("First?"), MsgBoxButtons::YesNoCancel);
+        const MsgBoxAnswer first = MsgBox(u"First?"_s, MsgBoxButtons::YesNoCancel);
         QCOMPARE(first, key == Qt::Key_Escape ? MsgBoxAnswer::Cancel : MsgBoxAnswer::Yes);
-        QCOMPARE(MsgBox(QStringLiteral("Second?"), MsgBoxButtons::YesNoCancel),
-                 MsgBoxAnswer::Cancel);
-        QCOMPARE(questions, QStringList({QStringLiteral("First?"), QStringLiteral("Second?")}));
+        QCOMPARE(MsgBox(u"Second?"_s, MsgBoxButtons::YesNoCancel), MsgBoxAnswer::Cancel);
+        QCOMPARE(questions, QStringList({u"First?"_s, u"Second?"_s}));
     }
 
 private:

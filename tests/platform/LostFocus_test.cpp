@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 class LostFocus_test final : public QObject
 {
     Q_OBJECT
@@ -17,8 +19,8 @@ private Q_SLOTS:
     {
         m_window = std::make_unique<QWidget>();
         auto *layout = new QVBoxLayout(m_window.get());
-        m_first = new QLineEdit(QStringLiteral("1"));
-        m_second = new QLineEdit(QStringLiteral("2"));
+        m_first = new QLineEdit(u"1"_s);
+        m_second = new QLineEdit(u"2"_s);
         layout->addWidget(m_first);
         layout->addWidget(m_second);
         m_events.clear();
@@ -53,15 +55,15 @@ private Q_SLOTS:
         else
             m_second->setFocus();
         QVERIFY(m_second->hasFocus());
-        QCOMPARE(m_events, QStringList{QStringLiteral("1")});
+        QCOMPARE(m_events, QStringList{u"1"_s});
     }
 
     void theHandlerSeesWhatWasTyped()
     {
-        QTest::keyClicks(m_first, QStringLiteral("23"));
+        QTest::keyClicks(m_first, u"23"_s);
         QCOMPARE(m_events, QStringList());
         QTest::keyClick(m_first, Qt::Key_Tab);
-        QCOMPARE(m_events, QStringList{QStringLiteral("123")});
+        QCOMPARE(m_events, QStringList{u"123"_s});
     }
 
     void eachLeavingIsAnEvent()
@@ -114,7 +116,7 @@ private Q_SLOTS:
         DialogAnswers answers;
         new LostFocus(m_second, [] { throw RunTimeError(RunTimeError::TypeMismatch); });
         m_second->setFocus();
-        answers.expectMsgBox(QStringLiteral("Run-time error '13':\n\nType mismatch"));
+        answers.expectMsgBox(u"Run-time error '13':\n\nType mismatch"_s);
         m_first->setFocus();
         QVERIFY(answers.allSeen());
         m_window->activateWindow();

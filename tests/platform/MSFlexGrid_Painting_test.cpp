@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 class MSFlexGrid_Painting_test final : public QObject
 {
     Q_OBJECT
@@ -30,7 +32,7 @@ void MSFlexGrid_Painting_test::aYellowCellHasBlackTextInEveryPalette()
         palette.setColor(QPalette::Base, paper);
         palette.setColor(QPalette::Text, paper.lightness() < 128 ? Qt::white : Qt::black);
         page.grid.setPalette(palette);
-        page.grid.setText(1, 1, QStringLiteral("IIII"));
+        page.grid.setText(1, 1, u"IIII"_s);
         page.grid.setCellBold(1, 1, true);
         page.grid.setCellBackColour(1, 1, MSFlexGrid::Yellow);
         QCOMPARE(page.grid.cellBackColour(1, 1), MSFlexGrid::Yellow);
@@ -64,10 +66,9 @@ void MSFlexGrid_Painting_test::aTextThatIsCutHasAToolTip_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("cut");
     QTest::newRow("none") << QString() << false;
-    QTest::newRow("short") << QStringLiteral("cat") << false;
-    QTest::newRow("long") << QStringLiteral("a small animal that sleeps in the sun").repeated(3)
-                          << true;
-    QTest::newRow("two lines") << QStringLiteral("cat\r\ndog") << true;
+    QTest::newRow("short") << u"cat"_s << false;
+    QTest::newRow("long") << u"a small animal that sleeps in the sun"_s.repeated(3) << true;
+    QTest::newRow("two lines") << u"cat\r\ndog"_s << true;
 }
 
 void MSFlexGrid_Painting_test::aTextThatIsCutHasAToolTip()
@@ -76,15 +77,14 @@ void MSFlexGrid_Painting_test::aTextThatIsCutHasAToolTip()
     QFETCH(bool, cut);
     GridPage page;
     page.grid.setText(2, 1, text);
-    QCOMPARE(page.toolTip(2, 1), cut ? QString(text).remove(QLatin1Char('\r')) : QString());
+    QCOMPARE(page.toolTip(2, 1), cut ? QString(text).remove(u'\r') : QString());
     QVERIFY(page.toolTip(3, 1).isEmpty());
 }
 
 void MSFlexGrid_Painting_test::theToolTipShowsMarkupAndLineBreaksAsTheyAre()
 {
     GridPage page;
-    const QString text =
-        QStringLiteral("<b>bold</b> & so on, in a text that is much wider than its cell\nend");
+    const QString text = u"<b>bold</b> & so on, in a text that is much wider than its cell\nend"_s;
     page.grid.setText(2, 2, text);
     QCOMPARE(page.toolTip(2, 2), text);
 }
@@ -94,7 +94,7 @@ void MSFlexGrid_Painting_test::theToolTipIsThereWhereTheTextIsCutAndNowhereElse(
 {
     for (const bool bold : {false, true}) {
         GridPage page;
-        page.grid.setText(2, 1, QStringLiteral("a small animal W"));
+        page.grid.setText(2, 1, u"a small animal W"_s);
         page.grid.setCellBold(2, 1, bold);
         page.grid.setColumnWidth(1, 400);
         const QImage whole = page.cellImage(2, 1);
@@ -108,7 +108,7 @@ void MSFlexGrid_Painting_test::theToolTipIsThereWhereTheTextIsCutAndNowhereElse(
             // The last pixel is a matter of rounding: better a tool tip too many there.
             if (isCut || fitting > 2)
                 QVERIFY2(page.toolTip(2, 1).isEmpty() != isCut,
-                         qPrintable(QStringLiteral("at width %1").arg(width)));
+                         qPrintable(u"at width %1"_s.arg(width)));
         }
         QVERIFY(cut > 0);
         QVERIFY(fitting > 2);
@@ -119,8 +119,8 @@ void MSFlexGrid_Painting_test::aTextOfSeveralLinesIsShownOnOne()
 {
     GridPage page;
     page.grid.setColumnWidth(1, 300);
-    page.grid.setText(2, 1, QStringLiteral("cat\r\ndog\n\n cow"));
-    page.grid.setText(3, 1, QStringLiteral("cat dog cow"));
+    page.grid.setText(2, 1, u"cat\r\ndog\n\n cow"_s);
+    page.grid.setText(3, 1, u"cat dog cow"_s);
     QCOMPARE(page.cellImage(2, 1), page.cellImage(3, 1));
 }
 
@@ -128,7 +128,7 @@ void MSFlexGrid_Painting_test::veryLongTextsArePaintedAsQuicklyAsLongOnes()
 {
     GridPage page;
     const auto paintingTime = [&page](qsizetype length) {
-        const QString text = QStringLiteral("word ").repeated(length / 5);
+        const QString text = u"word "_s.repeated(length / 5);
         for (int row = 1; row < VisibleRows; ++row)
             for (int column = 1; column <= 3; ++column)
                 page.grid.setText(row, column, text);
@@ -144,7 +144,7 @@ void MSFlexGrid_Painting_test::veryLongTextsArePaintedAsQuicklyAsLongOnes()
     const qint64 longOnes = paintingTime(2'000);
     const qint64 longestOnes = paintingTime(2'000'000);
     QVERIFY2(longestOnes < 8 * longOnes,
-             qPrintable(QStringLiteral("%1 and %2 ns").arg(longOnes).arg(longestOnes)));
+             qPrintable(u"%1 and %2 ns"_s.arg(longOnes).arg(longestOnes)));
 }
 
 QTEST_MAIN(MSFlexGrid_Painting_test)

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void turnWheelBy(QWidget &widget, int eighthsOfADegree,
@@ -77,11 +79,11 @@ void MSFlexGrid_test::growingKeepsTheOldCells()
 {
     MSFlexGrid grid;
     grid.setSize(2, 2);
-    grid.setText(1, 1, QStringLiteral("cat"));
+    grid.setText(1, 1, u"cat"_s);
     grid.setSize(3, 3);
-    QCOMPARE(grid.text(1, 1), QStringLiteral("cat"));
-    grid.setText(2, 2, QStringLiteral("dog"));
-    QCOMPARE(grid.text(2, 2), QStringLiteral("dog"));
+    QCOMPARE(grid.text(1, 1), u"cat"_s);
+    grid.setText(2, 2, u"dog"_s);
+    QCOMPARE(grid.text(2, 2), u"dog"_s);
 }
 
 void MSFlexGrid_test::clearEmptiesEveryCellHeaderIncluded()
@@ -90,7 +92,7 @@ void MSFlexGrid_test::clearEmptiesEveryCellHeaderIncluded()
     grid.setSize(Rows, 4);
     for (int row = 0; row < Rows; ++row) {
         for (int column = 0; column < 4; ++column) {
-            grid.setText(row, column, QStringLiteral("cat"));
+            grid.setText(row, column, u"cat"_s);
             grid.setCellBold(row, column, true);
             grid.setCellBackColour(row, column, MSFlexGrid::Yellow);
         }
@@ -111,7 +113,7 @@ void MSFlexGrid_test::aTextIsKeptAsItIs()
 {
     MSFlexGrid grid;
     grid.setSize(2, 2);
-    const QString text = QStringLiteral("  a\tb\r\nc \u00E9 <b>x</b> ");
+    const QString text = u"  a\tb\r\nc \u00E9 <b>x</b> "_s;
     grid.setText(1, 1, text);
     QCOMPARE(grid.text(1, 1), text);
     grid.setText(1, 1, {});
@@ -124,7 +126,7 @@ void MSFlexGrid_test::outsideTheGridReadsEmptyAndWritingFails()
     grid.setSize(2, 2);
     QCOMPARE(grid.text(2, 0), QString());
     QCOMPARE(grid.text(-1, 0), QString());
-    QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setText(2, 0, QStringLiteral("cat")));
+    QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setText(2, 0, u"cat"_s));
     QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setCellBold(0, 2, true));
     QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setCellBackColour(-1, 0, MSFlexGrid::Yellow));
 }
@@ -170,7 +172,7 @@ void MSFlexGrid_test::theTextFitsItsRow()
         page.grid.resize(600, height);
         const int size = page.grid.font().pixelSize();
         QVERIFY2(QFontMetrics(page.grid.font()).height() <= page.grid.rowHeight(1),
-                 qPrintable(QStringLiteral("at height %1").arg(height)));
+                 qPrintable(u"at height %1"_s.arg(height)));
         QVERIFY(size >= previous);
         previous = size;
     }
@@ -268,7 +270,7 @@ void MSFlexGrid_test::withControlOrShiftTheWheelTurnsPages()
 void MSFlexGrid_test::theGridItselfNeverScrolls()
 {
     GridPage page;
-    page.grid.setText(24, 1, QStringLiteral("behind the edge"));
+    page.grid.setText(24, 1, u"behind the edge"_s);
     turnWheel(*page.grid.viewport(), -10);
     for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Down})
         QTest::keyClick(&page.grid, key);
@@ -310,9 +312,9 @@ void MSFlexGrid_test::theMouseClicksTheCellUnderIt()
 void MSFlexGrid_test::typingIsLeftToTheWindow()
 {
     GridPage page;
-    page.grid.setText(5, 1, QStringLiteral("cat"));
+    page.grid.setText(5, 1, u"cat"_s);
     page.grid.setCurrent(1, 1);
-    QKeyEvent event(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier, QStringLiteral("c"));
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier, u"c"_s);
     QCoreApplication::sendEvent(&page.grid, &event);
     QVERIFY(!event.isAccepted());
     QCOMPARE(page.grid.Row(), 1);

@@ -18,6 +18,7 @@
 #include <algorithm>
 
 using namespace PaintedLines;
+using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(MsgBoxButtons)
 
@@ -35,8 +36,7 @@ QList<Said> allTexts()
     using enum MsgBoxButtons;
     const auto text = [](const char *letters) { return QString::fromLatin1(letters); };
     const auto failure = [](int number) {
-        return RunTimeError(RunTimeError::Number(number), QStringLiteral("%1: No such thing"))
-            .report();
+        return RunTimeError(RunTimeError::Number(number), u"%1: No such thing"_s).report();
     };
     return {
         {"changes at the end", text("Your changes have not been saved.  Do you want to save them?"),
@@ -96,15 +96,14 @@ QList<Said> allTexts()
 
 QString path(int folders)
 {
-    return QStringLiteral("/home/anna/Documents") +
-           QStringLiteral("/French_words_for_the_journey").repeated(folders) +
-           QStringLiteral(".lwx");
+    return u"/home/anna/Documents"_s + u"/French_words_for_the_journey"_s.repeated(folders) +
+           u".lwx"_s;
 }
 
 QString withoutBreaks(QString text)
 {
-    text.remove(QLatin1Char(' '));
-    return text.remove(QLatin1Char('\n'));
+    text.remove(u' ');
+    return text.remove(u'\n');
 }
 
 } // namespace
@@ -121,23 +120,23 @@ private Q_SLOTS:
         QTest::addColumn<bool>("mayScroll");
         const auto rows = [](const Said &said, const char *value, const QString &name,
                              bool mayScroll) {
-            if (said.text.contains(QStringLiteral("%1")))
+            if (said.text.contains(u"%1"_s))
                 QTest::addRow("%s, %s", said.name, value)
                     << said.text.arg(name) << said.buttons << mayScroll;
         };
         const QList<Said> texts = allTexts();
         for (const Said &said : texts) {
-            if (!said.text.contains(QStringLiteral("%1")))
+            if (!said.text.contains(u"%1"_s))
                 QTest::addRow("%s", said.name) << said.text << said.buttons << false;
-            rows(said, "short", QStringLiteral("5"), false);
+            rows(said, "short", u"5"_s, false);
             rows(said, "a path", path(3), false);
             rows(said, "a long path", path(12), false);
-            rows(said, "no blank", QString(500, QLatin1Char('m')), false);
+            rows(said, "no blank", QString(500, u'm'), false);
         }
         const auto ofAWord = std::find_if(texts.begin(), texts.end(), [](const Said &said) {
             return qstrcmp(said.name, "delete") == 0;
         });
-        rows(*ofAWord, "the longest", QString(32767, QLatin1Char('m')), true);
+        rows(*ofAWord, "the longest", QString(32767, u'm'), true);
     }
 
     void theWholeTextIsSeenOnTheScreen()
@@ -161,7 +160,7 @@ private:
     // What is painted is the text, and all of it is inside the label.
     static void seeText(const QMessageBox &box, const QString &text)
     {
-        auto *label = box.findChild<QLabel *>(QStringLiteral("lblText"));
+        auto *label = box.findChild<QLabel *>(u"lblText"_s);
         QVERIFY(label && label->isVisible());
         QCOMPARE(label->text(), text);
         const QList<Line> lines = paintedLines(*label);
@@ -185,12 +184,11 @@ private:
         QCOMPARE(area.widget()->width(), area.viewport()->width());
         QCOMPARE(area.verticalScrollBar()->maximum(),
                  std::max(0, area.widget()->height() - area.viewport()->height()));
-        QVERIFY2(area.verticalScrollBar()->maximum() == 0 || mayScroll,
-                 qPrintable(QStringLiteral("%1 in %2")
-                                .arg(area.widget()->height())
-                                .arg(area.viewport()->height())));
+        QVERIFY2(
+            area.verticalScrollBar()->maximum() == 0 || mayScroll,
+            qPrintable(u"%1 in %2"_s.arg(area.widget()->height()).arg(area.viewport()->height())));
         QVERIFY2(box.screen()->availableGeometry().contains(box.frameGeometry()),
-                 qPrintable(QStringLiteral("%1 by %2").arg(box.width()).arg(box.height())));
+                 qPrintable(u"%1 by %2"_s.arg(box.width()).arg(box.height())));
         const int margin = area.x();
         QVERIFY(margin >= 16);
         QCOMPARE(area.y(), margin);

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Buttons = QMessageBox::StandardButtons;
@@ -41,12 +43,12 @@ private Q_SLOTS:
     void theTextIsShownAsItIs_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("plain") << QStringLiteral("End current lesson?");
-        QTest::newRow("markup") << QStringLiteral("<b>x</b> is not in the list.");
-        QTest::newRow("two blanks") << QStringLiteral("Word already exist.  Add word anyway?");
-        QTest::newRow("lines") << QStringLiteral("Run-time error '9':\n\nSubscript out of range");
-        QTest::newRow("ampersand") << QStringLiteral("a & b && c is not in the list.");
-        QTest::newRow("accents") << QStringLiteral("\u00E9t\u00E9 is not in the list.");
+        QTest::newRow("plain") << u"End current lesson?"_s;
+        QTest::newRow("markup") << u"<b>x</b> is not in the list."_s;
+        QTest::newRow("two blanks") << u"Word already exist.  Add word anyway?"_s;
+        QTest::newRow("lines") << u"Run-time error '9':\n\nSubscript out of range"_s;
+        QTest::newRow("ampersand") << u"a & b && c is not in the list."_s;
+        QTest::newRow("accents") << u"\u00E9t\u00E9 is not in the list."_s;
     }
 
     void theTextIsShownAsItIs()
@@ -54,10 +56,10 @@ private Q_SLOTS:
         QFETCH(QString, text);
         DialogAnswers answers;
         answers.expectMsgBox(text, QMessageBox::Ok, [&text](QMessageBox &box) {
-            QCOMPARE(box.windowTitle(), QStringLiteral("Tanglewit"));
+            QCOMPARE(box.windowTitle(), u"Tanglewit"_s);
             QCOMPARE(box.textFormat(), Qt::PlainText);
             QCOMPARE(box.informativeText(), QString());
-            const auto *label = box.findChild<QLabel *>(QStringLiteral("lblText"));
+            const auto *label = box.findChild<QLabel *>(u"lblText"_s);
             QVERIFY(label && label->isVisible());
             QCOMPARE(label->text(), text);
             QCOMPARE(label->textFormat(), Qt::PlainText);
@@ -91,21 +93,21 @@ private Q_SLOTS:
         QFETCH(MsgBoxButtons, buttons);
         QFETCH(int, pressed);
         DialogAnswers answers;
-        answers.expectMsgBox(QStringLiteral("Well?"), QMessageBox::StandardButton(pressed),
+        answers.expectMsgBox(u"Well?"_s, QMessageBox::StandardButton(pressed),
                              [buttons](QMessageBox &box) {
                                  QCOMPARE(box.standardButtons(), expectedButtons(buttons));
                              });
-        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        QTEST(MsgBox(u"Well?"_s, buttons), "answer");
         QVERIFY(answers.allSeen());
     }
 
     void withoutAKindThereIsOnlyOk()
     {
         DialogAnswers answers;
-        answers.expectMsgBox(QStringLiteral("Well."), QMessageBox::Ok, [](QMessageBox &box) {
+        answers.expectMsgBox(u"Well."_s, QMessageBox::Ok, [](QMessageBox &box) {
             QCOMPARE(box.standardButtons(), Buttons(QMessageBox::Ok));
         });
-        QCOMPARE(MsgBox(QStringLiteral("Well.")), MsgBoxAnswer::Ok);
+        QCOMPARE(MsgBox(u"Well."_s), MsgBoxAnswer::Ok);
         QVERIFY(answers.allSeen());
     }
 
@@ -123,7 +125,7 @@ private Q_SLOTS:
     {
         QFETCH(MsgBoxButtons, buttons);
         withBox([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
-        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        QTEST(MsgBox(u"Well?"_s, buttons), "answer");
     }
 
     void escAndTheCloseBoxDismissWhatCanBeDismissed_data()
@@ -139,15 +141,15 @@ private Q_SLOTS:
     {
         QFETCH(MsgBoxButtons, buttons);
         withBox([](QMessageBox &box) { QTest::keyClick(box.defaultButton(), Qt::Key_Escape); });
-        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        QTEST(MsgBox(u"Well?"_s, buttons), "answer");
         withBox([](QMessageBox &box) { box.close(); });
-        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        QTEST(MsgBox(u"Well?"_s, buttons), "answer");
     }
 
     void escAndTheCloseBoxMeanNoWhereNoIsHarmless()
     {
         const auto ask = [] {
-            return MsgBox(QStringLiteral("Well?"), MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo);
+            return MsgBox(u"Well?"_s, MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo);
         };
         withBox([](QMessageBox &box) {
             QCOMPARE(box.defaultButton(), box.button(QMessageBox::Yes));
@@ -164,8 +166,7 @@ private Q_SLOTS:
             QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
             QTest::keyClick(&box, Qt::Key_Return);
         });
-        QCOMPARE(MsgBox(QStringLiteral("Well?"), MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo,
-                        MsgBoxDefault::No),
+        QCOMPARE(MsgBox(u"Well?"_s, MsgBoxButtons::YesNo, MsgBoxEsc::MeansNo, MsgBoxDefault::No),
                  MsgBoxAnswer::No);
     }
 
@@ -184,10 +185,10 @@ private Q_SLOTS:
         QFETCH(MsgBoxButtons, buttons);
         for (const int end : {int(QDialog::Rejected), int(QDialog::Accepted), -1, 77}) {
             withBox([end](QMessageBox &box) { box.done(end); });
-            QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+            QTEST(MsgBox(u"Well?"_s, buttons), "answer");
         }
         withBox([](QMessageBox &box) { box.hide(); });
-        QTEST(MsgBox(QStringLiteral("Well?"), buttons), "answer");
+        QTEST(MsgBox(u"Well?"_s, buttons), "answer");
     }
 
     void aYesNoQuestionIsNotDismissed()
@@ -201,7 +202,7 @@ private Q_SLOTS:
             QVERIFY(box.isVisible());
             QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
         });
-        QCOMPARE(MsgBox(QStringLiteral("Well?"), MsgBoxButtons::YesNo), MsgBoxAnswer::Yes);
+        QCOMPARE(MsgBox(u"Well?"_s, MsgBoxButtons::YesNo), MsgBoxAnswer::Yes);
     }
 
     void theBoxStandsOverTheActiveWindow()
@@ -210,11 +211,11 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         DialogAnswers answers;
-        answers.expectMsgBox(QStringLiteral("Well."), QMessageBox::Ok, [&window](QMessageBox &box) {
+        answers.expectMsgBox(u"Well."_s, QMessageBox::Ok, [&window](QMessageBox &box) {
             QCOMPARE(box.parentWidget(), &window);
             QVERIFY(box.isModal());
         });
-        MsgBox(QStringLiteral("Well."));
+        MsgBox(u"Well."_s);
         QVERIFY(answers.allSeen());
     }
 
@@ -237,7 +238,7 @@ private Q_SLOTS:
             QCOMPARE(box.parentWidget(), nullptr);
             box.accept();
         });
-        MsgBox(QStringLiteral("Well."));
+        MsgBox(u"Well."_s);
         QWidget window;
         window.show();
         above.activateWindow();
@@ -245,7 +246,7 @@ private Q_SLOTS:
             QCOMPARE(box.parentWidget(), &window);
             box.accept();
         });
-        MsgBox(QStringLiteral("Well."));
+        MsgBox(u"Well."_s);
     }
 
     void theBoxStandsOverTheDialogThatIsOpen()
@@ -259,7 +260,7 @@ private Q_SLOTS:
                 QCOMPARE(box.parentWidget(), &dialog);
                 box.accept();
             });
-            MsgBox(QStringLiteral("Well."));
+            MsgBox(u"Well."_s);
             dialog.accept();
         });
         dialog.exec();
@@ -268,8 +269,8 @@ private Q_SLOTS:
     void whatTheDataHasToTellIsShown()
     {
         DialogAnswers answers;
-        answers.expectMsgBox(QStringLiteral("Cannot add any more words."));
-        notice(QStringLiteral("Cannot add any more words."));
+        answers.expectMsgBox(u"Cannot add any more words."_s);
+        notice(u"Cannot add any more words."_s);
         QVERIFY(answers.allSeen());
     }
 

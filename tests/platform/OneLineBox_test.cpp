@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QMimeData>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void copyElsewhere(const QString &text)
@@ -41,25 +43,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("line");
         QTest::newRow("nothing") << QString() << QString();
-        QTest::newRow("no line break") << QStringLiteral(" cat ") << QStringLiteral(" cat ");
+        QTest::newRow("no line break") << u" cat "_s << u" cat "_s;
         for (const auto &[name, lineBreak] :
              {std::pair("LF", "\n"), std::pair("CR", "\r"), std::pair("CR LF", "\r\n"),
               std::pair("line separator", "\u2028"), std::pair("paragraph separator", "\u2029")}) {
             const QString mark = QString::fromUtf8(lineBreak);
-            QTest::addRow("%s at the end", name)
-                << QStringLiteral("big cat") + mark << QStringLiteral("big cat");
-            QTest::addRow("%s at the beginning", name)
-                << mark + QStringLiteral("big cat") << QStringLiteral("big cat");
-            QTest::addRow("%s inside", name) << QStringLiteral("big") + mark + QStringLiteral("cat")
-                                             << QStringLiteral("big cat");
+            QTest::addRow("%s at the end", name) << u"big cat"_s + mark << u"big cat"_s;
+            QTest::addRow("%s at the beginning", name) << mark + u"big cat"_s << u"big cat"_s;
+            QTest::addRow("%s inside", name) << u"big"_s + mark + u"cat"_s << u"big cat"_s;
             QTest::addRow("%s alone", name) << mark << QString();
         }
-        QTest::newRow("several") << QStringLiteral("\r\n\nbig\r\n\r\ncat\n\r\n")
-                                 << QStringLiteral("big  cat");
-        QTest::newRow("blanks beside them")
-            << QStringLiteral("\n big \n cat \n") << QStringLiteral(" big   cat ");
-        QTest::newRow("a tab and a hard blank")
-            << QStringLiteral("a\tb\u00A0c") << QStringLiteral("a\tb\u00A0c");
+        QTest::newRow("several") << u"\r\n\nbig\r\n\r\ncat\n\r\n"_s << u"big  cat"_s;
+        QTest::newRow("blanks beside them") << u"\n big \n cat \n"_s << u" big   cat "_s;
+        QTest::newRow("a tab and a hard blank") << u"a\tb\u00A0c"_s << u"a\tb\u00A0c"_s;
     }
 
     void lineBreaksGoAtTheEndsAndBecomeBlanksInside()
@@ -78,7 +74,7 @@ private Q_SLOTS:
         QTest::newRow("the context menu") << std::function([](OneLineBox &box) {
             const std::unique_ptr<QMenu> menu(box.createStandardContextMenu());
             for (QAction *item : menu->actions())
-                if (item->text().contains(QStringLiteral("&Paste")))
+                if (item->text().contains(u"&Paste"_s))
                     item->trigger();
         });
         QTest::newRow("a drop") << std::function([](OneLineBox &box) {
@@ -95,36 +91,36 @@ private Q_SLOTS:
     void everyWayOfPastingGivesOneLine()
     {
         QFETCH(std::function<void(OneLineBox &)>, paste);
-        copyElsewhere(QStringLiteral("\nbig\r\ncat\r\n"));
+        copyElsewhere(u"\nbig\r\ncat\r\n"_s);
         paste(*m_box);
-        QCOMPARE(m_box->text(), QStringLiteral("big cat"));
+        QCOMPARE(m_box->text(), u"big cat"_s);
     }
 
     void aPasteReplacesWhatIsSelected()
     {
-        m_box->setText(QStringLiteral("dog"));
+        m_box->setText(u"dog"_s);
         m_box->selectAll();
-        copyElsewhere(QStringLiteral("cat\n"));
+        copyElsewhere(u"cat\n"_s);
         QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(m_box->text(), QStringLiteral("cat"));
+        QCOMPARE(m_box->text(), u"cat"_s);
         QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(m_box->text(), QStringLiteral("dog"));
+        QCOMPARE(m_box->text(), u"dog"_s);
     }
 
     void aPasteIsUndoneByItself()
     {
-        QTest::keyClicks(m_box.get(), QStringLiteral("a"));
-        copyElsewhere(QStringLiteral("\nbig\ncat\n"));
+        QTest::keyClicks(m_box.get(), u"a"_s);
+        copyElsewhere(u"\nbig\ncat\n"_s);
         QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
-        QTest::keyClicks(m_box.get(), QStringLiteral("s"));
-        QCOMPARE(m_box->text(), QStringLiteral("abig cats"));
+        QTest::keyClicks(m_box.get(), u"s"_s);
+        QCOMPARE(m_box->text(), u"abig cats"_s);
         for (const char *before : {"abig cat", "a", ""}) {
             QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier);
             QCOMPARE(m_box->text(), QLatin1String(before));
         }
         QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QTest::keyClick(m_box.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(m_box->text(), QStringLiteral("abig cat"));
+        QCOMPARE(m_box->text(), u"abig cat"_s);
     }
 
     void whereNothingCanBePastedWhatIsSelectedStays_data()
@@ -138,26 +134,26 @@ private Q_SLOTS:
     {
         QFETCH(bool, empty);
         if (!empty)
-            copyElsewhere(QStringLiteral("\r\n"));
-        m_box->setText(QStringLiteral("cat"));
+            copyElsewhere(u"\r\n"_s);
+        m_box->setText(u"cat"_s);
         m_box->selectAll();
         QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(m_box->text(), QStringLiteral("cat"));
-        QCOMPARE(m_box->selectedText(), QStringLiteral("cat"));
+        QCOMPARE(m_box->text(), u"cat"_s);
+        QCOMPARE(m_box->selectedText(), u"cat"_s);
     }
 
     void theLongestLengthHoldsForWhatIsLeft()
     {
         m_box->setMaxLength(7);
-        copyElsewhere(QStringLiteral("\n\nbig\ncats\n"));
+        copyElsewhere(u"\n\nbig\ncats\n"_s);
         QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(m_box->text(), QStringLiteral("big cat"));
+        QCOMPARE(m_box->text(), u"big cat"_s);
     }
 
     void aBoxThatIsOnlyReadTakesNothing()
     {
         m_box->setReadOnly(true);
-        copyElsewhere(QStringLiteral("cat"));
+        copyElsewhere(u"cat"_s);
         QTest::keyClick(m_box.get(), Qt::Key_V, Qt::ControlModifier);
         m_box->paste();
         QCOMPARE(m_box->text(), QString());
@@ -165,8 +161,8 @@ private Q_SLOTS:
 
     void aTextThatIsSetIsNotChanged()
     {
-        m_box->setText(QStringLiteral("big\ncat\n"));
-        QCOMPARE(m_box->text(), QStringLiteral("big\ncat\n"));
+        m_box->setText(u"big\ncat\n"_s);
+        QCOMPARE(m_box->text(), u"big\ncat\n"_s);
     }
 
 private:

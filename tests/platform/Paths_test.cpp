@@ -8,6 +8,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 class Paths_test final : public QObject
 {
     Q_OBJECT
@@ -18,13 +20,13 @@ private Q_SLOTS:
         m_home = std::make_unique<QTemporaryDir>();
         QVERIFY(m_home->isValid());
         qputenv("HOME", QFile::encodeName(m_home->path()));
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->filePath(QStringLiteral("data"))));
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home->filePath(QStringLiteral("config"))));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->filePath(u"data"_s)));
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home->filePath(u"config"_s)));
     }
 
     void userDataIsAFolderOfThePersonsDataAndIsMade()
     {
-        const QString folder = m_home->filePath(QStringLiteral("data/Lexibrook"));
+        const QString folder = m_home->filePath(u"data/Lexibrook"_s);
         QVERIFY(!QDir(folder).exists());
         QCOMPARE(pathOf(Place::UserData), folder);
         QVERIFY(QDir(folder).exists());
@@ -33,45 +35,44 @@ private Q_SLOTS:
     void withoutADataFolderOfItsOwnTheDataLiesInTheHome()
     {
         qunsetenv("XDG_DATA_HOME");
-        const QString folder = m_home->filePath(QStringLiteral(".local/share/Lexibrook"));
+        const QString folder = m_home->filePath(u".local/share/Lexibrook"_s);
         QCOMPARE(pathOf(Place::UserData), folder);
         QVERIFY(QDir(folder).exists());
     }
 
     void top10IsAFileOfUserDataWhoseFolderIsMade()
     {
-        const QString file = m_home->filePath(QStringLiteral("data/Lexibrook/top10.bin"));
+        const QString file = m_home->filePath(u"data/Lexibrook/top10.bin"_s);
         QCOMPARE(pathOf(Place::Top10), file);
-        QVERIFY(QDir(m_home->filePath(QStringLiteral("data/Lexibrook"))).exists());
+        QVERIFY(QDir(m_home->filePath(u"data/Lexibrook"_s)).exists());
         QVERIFY(!QFile::exists(file));
     }
 
     void wordListsLieInDocumentsAndOnlyTheFolderAroundThemIsMade()
     {
-        const QString folder = m_home->filePath(QStringLiteral("Documents/Lexibrook/MyLists"));
+        const QString folder = m_home->filePath(u"Documents/Lexibrook/MyLists"_s);
         QCOMPARE(pathOf(Place::WordLists), folder);
-        QVERIFY(QDir(m_home->filePath(QStringLiteral("Documents/Lexibrook"))).exists());
+        QVERIFY(QDir(m_home->filePath(u"Documents/Lexibrook"_s)).exists());
         QVERIFY(!QDir(folder).exists());
     }
 
     void documentsAreWhereTheDesktopSays()
     {
-        QVERIFY(QDir().mkpath(m_home->filePath(QStringLiteral("config"))));
-        QFile places(m_home->filePath(QStringLiteral("config/user-dirs.dirs")));
+        QVERIFY(QDir().mkpath(m_home->filePath(u"config"_s)));
+        QFile places(m_home->filePath(u"config/user-dirs.dirs"_s));
         QVERIFY(places.open(QIODevice::WriteOnly));
         places.write("XDG_DOCUMENTS_DIR=\"$HOME/Schriften\"\n");
         places.close();
-        QCOMPARE(pathOf(Place::WordLists),
-                 m_home->filePath(QStringLiteral("Schriften/Lexibrook/MyLists")));
-        QVERIFY(QDir(m_home->filePath(QStringLiteral("Schriften/Lexibrook"))).exists());
-        QVERIFY(!QDir(m_home->filePath(QStringLiteral("Documents"))).exists());
+        QCOMPARE(pathOf(Place::WordLists), m_home->filePath(u"Schriften/Lexibrook/MyLists"_s));
+        QVERIFY(QDir(m_home->filePath(u"Schriften/Lexibrook"_s)).exists());
+        QVERIFY(!QDir(m_home->filePath(u"Documents"_s)).exists());
     }
 
     // Import tells kinds of files by the first dot of the path.
     void noFixedFolderBringsADotIntoThePath()
     {
         const QString inHome = pathOf(Place::WordLists).mid(m_home->path().size());
-        QVERIFY2(!inHome.contains(QLatin1Char('.')), qPrintable(inHome));
+        QVERIFY2(!inHome.contains(u'.'), qPrintable(inHome));
     }
 
     void aFolderThatIsThereKeepsItsFiles()
@@ -89,11 +90,10 @@ private Q_SLOTS:
     void whatComesWithTheProgramIsFoundFromItsFolderAndNeverMade()
     {
         const QDir program(QCoreApplication::applicationDirPath());
-        QCOMPARE(pathOf(Place::Plugins),
-                 QDir::cleanPath(program.filePath(QStringLiteral("../../plugins"))));
+        QCOMPARE(pathOf(Place::Plugins), QDir::cleanPath(program.filePath(u"../../plugins"_s)));
         QVERIFY(QDir(pathOf(Place::Plugins)).exists());
         QVERIFY(QDir(pathOf(Place::Audio)).isAbsolute());
-        QCOMPARE(QDir(pathOf(Place::Audio)).dirName(), QStringLiteral("Audio"));
+        QCOMPARE(QDir(pathOf(Place::Audio)).dirName(), u"Audio"_s);
     }
 
 private:

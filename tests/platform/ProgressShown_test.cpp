@@ -12,6 +12,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Total = 1000;
@@ -27,7 +29,7 @@ private Q_SLOTS:
     void init()
     {
         m_window = std::make_unique<QWidget>();
-        m_button = new QPushButton(QStringLiteral("Command"), m_window.get());
+        m_button = new QPushButton(u"Command"_s, m_window.get());
         m_button->setGeometry(20, 20, 120, 40);
         m_window->setGeometry(50, 50, 400, 300);
         m_commands = 0;
@@ -68,14 +70,14 @@ private Q_SLOTS:
         QVERIFY(line);
         QCOMPARE(line->maximum(), Total);
         QCOMPARE(line->value(), shownAt);
-        QCOMPARE(label(), QStringLiteral("%1 of 1000").arg(shownAt));
+        QCOMPARE(label(), u"%1 of 1000"_s.arg(shownAt));
 
         // Not at every step, but soon.
         const QDeadlineTimer deadline(LongEnough);
         while (line->value() != 700 && !deadline.hasExpired())
             progress.show(700, Total);
         QCOMPARE(line->value(), 700);
-        QCOMPARE(label(), QStringLiteral("700 of 1000"));
+        QCOMPARE(label(), u"700 of 1000"_s);
     }
 
     void theBarStaysUntilTheLoopIsOver()
@@ -106,7 +108,7 @@ private Q_SLOTS:
     {
         ProgressShown progress(m_window.get());
         showUntilBar(progress);
-        m_button->setText(QStringLiteral("Painted"));
+        m_button->setText(u"Painted"_s);
         PaintCounter paints;
         m_button->installEventFilter(&paints);
         const QDeadlineTimer deadline(LongEnough);

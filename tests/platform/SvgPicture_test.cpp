@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize Size(64, 48);
@@ -70,7 +72,7 @@ private Q_SLOTS:
     void aPictureOfAnotherShapeKeepsItsProportions()
     {
         QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("disc.svg")));
+        QFile file(folder.filePath(u"disc.svg"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
                    "<rect width='100' height='100' fill='#fff'/>"
@@ -87,8 +89,7 @@ private Q_SLOTS:
         for (int y = 0; y < image.height(); ++y)
             down += image.pixelColor(100, y).lightness() < 128 ? 1 : 0;
         QVERIFY(across > 0);
-        QVERIFY2(qAbs(across - down) <= 1,
-                 qPrintable(QStringLiteral("%1 x %2").arg(across).arg(down)));
+        QVERIFY2(qAbs(across - down) <= 1, qPrintable(u"%1 x %2"_s.arg(across).arg(down)));
     }
 
     void withoutASourceNothingIsDrawn()
@@ -103,7 +104,7 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("stripes.svg")); }
+    [[nodiscard]] QString path() const { return m_folder.filePath(u"stripes.svg"_s); }
 
     QTemporaryDir m_folder;
 };

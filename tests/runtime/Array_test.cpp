@@ -8,6 +8,8 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 class Array_test : public QObject
 {
     Q_OBJECT
@@ -15,10 +17,10 @@ class Array_test : public QObject
 private Q_SLOTS:
     void subscriptsBeginAtOne()
     {
-        const Array<QString> array({QStringLiteral("first"), QStringLiteral("second")});
+        const Array<QString> array({u"first"_s, u"second"_s});
         QCOMPARE(array.size(), 2);
-        QCOMPARE(array(1), QStringLiteral("first"));
-        QCOMPARE(array(2), QStringLiteral("second"));
+        QCOMPARE(array(1), u"first"_s);
+        QCOMPARE(array(2), u"second"_s);
     }
 
     void aSubscriptMayBeTheProgramsWholeNumber()

@@ -112,8 +112,7 @@ private Q_SLOTS:
     {
         const TestFolder folder;
         const QString path = folder.path(u"none/list.lwx"_s);
-        const QStringList lines =
-            reportOf([&] { return BinaryFile::read(path); }).split(QLatin1Char('\n'));
+        const QStringList lines = reportOf([&] { return BinaryFile::read(path); }).split(u'\n');
         QCOMPARE(lines.size(), 4);
         QCOMPARE(lines[0], u"Run-time error '76':"_s);
         QCOMPARE(lines[1], QString());

@@ -13,6 +13,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 // The action's result (0 to 255). Negative: the number of the signal that ended it, SIGALRM after
 // a minute without an end.
 template <class Action> [[nodiscard]] int inChildProcess(Action &&action)
@@ -45,7 +47,7 @@ inline void showErrorsToSanitizer()
 {
     static_cast<void>(SystemFile::existing("/missing", O_RDONLY));
     try {
-        throwFileError(ENOENT, QStringLiteral("/missing"));
+        throwFileError(ENOENT, u"/missing"_s);
     } catch (const RunTimeError &error) {
         static_cast<void>(error.number());
     }

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class Currency_test : public QObject
 {
     Q_OBJECT
@@ -124,8 +126,7 @@ private Q_SLOTS:
 
     void aProductIsExactAndChecked()
     {
-        QCOMPARE(Currency::fromText(QStringLiteral("1.26")) * Integer(10),
-                 Currency::fromText(QStringLiteral("12.6")));
+        QCOMPARE(Currency::fromText(u"1.26"_s) * Integer(10), Currency::fromText(u"12.6"_s));
         QCOMPARE(Currency(0) * Integer(-3), Currency(0));
         QCOMPARE(Currency::largest() * Integer(-1), Currency::smallest());
         for (const int factor : {2, -2, Integer::Max, Integer::Min}) {
@@ -138,7 +139,7 @@ private Q_SLOTS:
 
     void theyAreInOrder()
     {
-        QVERIFY(Currency(3) < Currency::fromText(QStringLiteral("3.0001")));
+        QVERIFY(Currency(3) < Currency::fromText(u"3.0001"_s));
         QVERIFY(Currency(-1) < Currency(0));
     }
 };

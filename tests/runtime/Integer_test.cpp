@@ -8,6 +8,8 @@
 #include <array>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Both bounds, their neighbours, and pairs whose sums and products lie next to a bound.
@@ -57,7 +59,7 @@ class Integer_test : public QObject
                 int result = 0;
                 const RunTimeError::Number error =
                     errorNumberOf([&] { return result = narrow(Integer(a), Integer(b)).toInt(); });
-                const auto pair = qPrintable(QStringLiteral("%1, %2").arg(a).arg(b));
+                const auto pair = qPrintable(u"%1, %2"_s.arg(a).arg(b));
                 QVERIFY2(error == (fits(exact) ? NoRunTimeError : RunTimeError::Overflow), pair);
                 QVERIFY2(!fits(exact) || result == exact, pair);
             }
@@ -157,9 +159,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("number");
         QTest::addColumn<QString>("text");
-        QTest::newRow("zero") << 0 << QStringLiteral("0");
-        QTest::newRow("largest") << 32767 << QStringLiteral("32767");
-        QTest::newRow("lowest") << -32768 << QStringLiteral("-32768");
+        QTest::newRow("zero") << 0 << u"0"_s;
+        QTest::newRow("largest") << 32767 << u"32767"_s;
+        QTest::newRow("lowest") << -32768 << u"-32768"_s;
     }
 
     void textHasTheDecimalDigits()

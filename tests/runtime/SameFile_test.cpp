@@ -8,6 +8,8 @@
 
 #include <filesystem>
 
+using namespace Qt::StringLiterals;
+
 class SameFile_test final : public QObject
 {
     Q_OBJECT
@@ -17,15 +19,15 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         QVERIFY(m_folder->isValid());
-        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("lists")));
-        QVERIFY(QFile::link(path(QStringLiteral("lists")), path(QStringLiteral("linked folder"))));
-        for (const QString &name : {QStringLiteral("lists/a.lwx"), QStringLiteral("lists/b.lwx")}) {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"lists"_s));
+        QVERIFY(QFile::link(path(u"lists"_s), path(u"linked folder"_s)));
+        for (const QString &name : {u"lists/a.lwx"_s, u"lists/b.lwx"_s}) {
             QFile file(path(name));
             QVERIFY(file.open(QIODevice::WriteOnly));
         }
-        QVERIFY(QFile::link(path(QStringLiteral("lists/a.lwx")), path(QStringLiteral("link"))));
-        std::filesystem::create_hard_link(path(QStringLiteral("lists/a.lwx")).toStdString(),
-                                          path(QStringLiteral("twin")).toStdString());
+        QVERIFY(QFile::link(path(u"lists/a.lwx"_s), path(u"link"_s)));
+        std::filesystem::create_hard_link(path(u"lists/a.lwx"_s).toStdString(),
+                                          path(u"twin"_s).toStdString());
     }
 
     void isTheSameFile_data()
@@ -59,8 +61,8 @@ private Q_SLOTS:
     void noNameIsNoFile()
     {
         QVERIFY(!isSameFile({}, {}));
-        QVERIFY(!isSameFile(path(QStringLiteral("lists/a.lwx")), {}));
-        QVERIFY(!isSameFile({}, path(QStringLiteral("lists/a.lwx"))));
+        QVERIFY(!isSameFile(path(u"lists/a.lwx"_s), {}));
+        QVERIFY(!isSameFile({}, path(u"lists/a.lwx"_s)));
     }
 
 private:

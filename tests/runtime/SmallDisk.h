@@ -12,6 +12,8 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 inline constexpr qsizetype SmallDiskSize = 64 * 1024;
 
 inline bool writeTo(const QString &path, const QByteArray &text)
@@ -27,9 +29,9 @@ inline bool writeTo(const QString &path, const QByteArray &text)
     const QByteArray user = QByteArray::number(getuid());
     const QByteArray group = QByteArray::number(getgid());
     return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 &&
-           writeTo(QStringLiteral("/proc/self/setgroups"), "deny") &&
-           writeTo(QStringLiteral("/proc/self/uid_map"), "0 " + user + " 1") &&
-           writeTo(QStringLiteral("/proc/self/gid_map"), "0 " + group + " 1") &&
+           writeTo(u"/proc/self/setgroups"_s, "deny") &&
+           writeTo(u"/proc/self/uid_map"_s, "0 " + user + " 1") &&
+           writeTo(u"/proc/self/gid_map"_s, "0 " + group + " 1") &&
            mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, options) == 0;
 }
 

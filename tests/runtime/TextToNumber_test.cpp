@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class TextToNumber_test : public QObject
 {
     Q_OBJECT
@@ -65,9 +67,9 @@ private Q_SLOTS:
             const QString text = QString::number(half, 'f', 1);
             QTest::newRow(qPrintable(text)) << text << even;
         }
-        QTest::newRow("32766.5") << QStringLiteral("32766.5") << 32766;
-        QTest::newRow("-32768.5") << QStringLiteral("-32768.5") << -32768;
-        QTest::newRow("-32767.5") << QStringLiteral("-32767.5") << -32768;
+        QTest::newRow("32766.5") << u"32766.5"_s << 32766;
+        QTest::newRow("-32768.5") << u"-32768.5"_s << -32768;
+        QTest::newRow("-32767.5") << u"-32767.5"_s << -32768;
     }
 
     void halvesGoToTheEvenNumber()
@@ -95,10 +97,10 @@ private Q_SLOTS:
     void whatFitsNoNumberAtAllOverflows_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("1e400") << QStringLiteral("1e400");
-        QTest::newRow("-1e400") << QStringLiteral("-1e400");
-        QTest::newRow("400 digits") << QString(400, QLatin1Char('9'));
-        QTest::newRow("20 digits of exponent") << QStringLiteral("1e99999999999999999999");
+        QTest::newRow("1e400") << u"1e400"_s;
+        QTest::newRow("-1e400") << u"-1e400"_s;
+        QTest::newRow("400 digits") << QString(400, u'9');
+        QTest::newRow("20 digits of exponent") << u"1e99999999999999999999"_s;
     }
 
     void whatFitsNoNumberAtAllOverflows()
@@ -112,19 +114,19 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("nothing") << QString();
-        QTest::newRow("a blank") << QStringLiteral(" ");
+        QTest::newRow("a blank") << u" "_s;
         for (const char *text :
              {"V",  "one", "12a", "a12", "1 2",  "--1",   "+-1",   "1-",  "-",    ".",  "1.2.3",
               "e5", ".e5", "1e",  "1e+", "1e5.", "1e5e5", "\"2\"", "inf", "-inf", "nan"})
             QTest::newRow(text) << QString::fromLatin1(text);
-        QTest::newRow("groups") << QStringLiteral("1,234");
-        QTest::newRow("groups behind a zero") << QStringLiteral("0,001");
-        QTest::newRow("a no-break space") << QStringLiteral("1.5\u00A0");
-        QTest::newRow("a tab") << QStringLiteral("\t1");
-        QTest::newRow("a line break") << QStringLiteral("1\n");
-        QTest::newRow("Arabic digits") << QStringLiteral("\u0661\u0662");
-        QTest::newRow("wide digits") << QStringLiteral("\uFF11");
-        QTest::newRow("a minus of its own") << QStringLiteral("\u22121");
+        QTest::newRow("groups") << u"1,234"_s;
+        QTest::newRow("groups behind a zero") << u"0,001"_s;
+        QTest::newRow("a no-break space") << u"1.5\u00A0"_s;
+        QTest::newRow("a tab") << u"\t1"_s;
+        QTest::newRow("a line break") << u"1\n"_s;
+        QTest::newRow("Arabic digits") << u"\u0661\u0662"_s;
+        QTest::newRow("wide digits") << u"\uFF11"_s;
+        QTest::newRow("a minus of its own") << u"\u22121"_s;
     }
 
     void whatIsNoNumberIsATypeMismatch()
@@ -142,17 +144,17 @@ private Q_SLOTS:
 
     void fractionsAndLargeNumbersStayAsTheyAre()
     {
-        QCOMPARE(toNumber(QStringLiteral(" 0.25 ")), 0.25);
-        QCOMPARE(toNumber(QStringLiteral("-1.75")), -1.75);
-        QCOMPARE(toNumber(QStringLiteral("1234567")), 1234567.0);
+        QCOMPARE(toNumber(u" 0.25 "_s), 0.25);
+        QCOMPARE(toNumber(u"-1.75"_s), -1.75);
+        QCOMPARE(toNumber(u"1234567"_s), 1234567.0);
     }
 
     void thePersonsLanguageDoesNotMatter()
     {
         const QLocale before;
         QLocale::setDefault(QLocale(QLocale::German));
-        const double number = toNumber(QStringLiteral("1.5"));
-        const auto error = errorNumberOf([] { return toNumber(QStringLiteral("1,5")); });
+        const double number = toNumber(u"1.5"_s);
+        const auto error = errorNumberOf([] { return toNumber(u"1,5"_s); });
         QLocale::setDefault(before);
         QCOMPARE(number, 1.5);
         QCOMPARE(error, RunTimeError::TypeMismatch);

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 void Controls::fail(const QString &what)
 {
     qFatal("%s: %s", QTest::currentTestFunction(), qUtf8Printable(what));
@@ -14,21 +16,21 @@ void Controls::fail(const QString &what)
 void Controls::click(QAbstractButton &button)
 {
     if (!button.isVisible() || !button.isEnabled())
-        fail(button.objectName() + QStringLiteral(" is hidden or disabled and cannot be clicked"));
+        fail(button.objectName() + u" is hidden or disabled and cannot be clicked"_s);
     QTest::mouseClick(&button, Qt::LeftButton);
 }
 
 void Controls::choose(QAction &item)
 {
     if (!item.isVisible() || !item.isEnabled())
-        fail(item.objectName() + QStringLiteral(" is hidden or disabled and cannot be chosen"));
+        fail(item.objectName() + u" is hidden or disabled and cannot be chosen"_s);
     item.trigger();
 }
 
 void Controls::type(QWidget &box, const QString &text)
 {
     if (!box.isVisible() || !box.isEnabled())
-        fail(box.objectName() + QStringLiteral(" is hidden or disabled and takes no text"));
+        fail(box.objectName() + u" is hidden or disabled and takes no text"_s);
     box.setFocus();
     QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&box, Qt::Key_Delete);
@@ -39,7 +41,7 @@ void Controls::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QWidget *focus = QApplication::focusWidget();
     if (!focus)
-        fail(QStringLiteral("nothing has the keyboard focus"));
+        fail(u"nothing has the keyboard focus"_s);
     QTest::keyClick(focus, key, modifiers);
 }
 
@@ -47,7 +49,7 @@ void Controls::holdOn(Qt::Key key, const QString &text)
 {
     QWidget *focus = QApplication::focusWidget();
     if (!focus)
-        fail(QStringLiteral("nothing has the keyboard focus"));
+        fail(u"nothing has the keyboard focus"_s);
     QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, text, true);
     QApplication::sendEvent(focus, &again);
 }

@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 class QAbstractButton;
 
 namespace Controls {
@@ -17,7 +19,7 @@ template <class Control> Control &find(const QObject &window, const char *name)
 {
     auto *found = window.findChild<Control *>(QLatin1String(name));
     if (!found)
-        fail(QStringLiteral("no control named %1 of that kind").arg(QLatin1String(name)));
+        fail(u"no control named %1 of that kind"_s.arg(QLatin1String(name)));
     return *found;
 }
 

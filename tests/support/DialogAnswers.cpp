@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int LookInterval = 5; // ms
@@ -27,22 +29,21 @@ void fail(const QString &what)
 void compare(const char *what, const QString &actual, const QString &expected)
 {
     if (actual != expected)
-        fail(QStringLiteral("%1 is \"%2\" instead of \"%3\"")
-                 .arg(QLatin1String(what), actual, expected));
+        fail(u"%1 is \"%2\" instead of \"%3\""_s.arg(QLatin1String(what), actual, expected));
 }
 
 QString describe(const QDialog &dialog)
 {
     if (const auto *box = qobject_cast<const QMessageBox *>(&dialog))
-        return QStringLiteral("message box \"%1\"").arg(box->text());
-    return QStringLiteral("%1 \"%2\"")
-        .arg(QLatin1String(dialog.metaObject()->className()), dialog.windowTitle());
+        return u"message box \"%1\""_s.arg(box->text());
+    return u"%1 \"%2\""_s.arg(QLatin1String(dialog.metaObject()->className()),
+                              dialog.windowTitle());
 }
 
 std::function<void()> pressing(QAbstractButton *button, const QString &name)
 {
     if (!button || !button->isVisible() || !button->isEnabled()) {
-        fail(QStringLiteral("the dialog has no %1 that can be pressed").arg(name));
+        fail(u"the dialog has no %1 that can be pressed"_s.arg(name));
         return {};
     }
     return [button = QPointer(button)] {
@@ -53,12 +54,12 @@ std::function<void()> pressing(QAbstractButton *button, const QString &name)
 
 std::function<void()> answering(QMessageBox &box, QMessageBox::StandardButton answer)
 {
-    return pressing(box.button(answer), QStringLiteral("button %1").arg(answer));
+    return pressing(box.button(answer), u"button %1"_s.arg(answer));
 }
 
 QAbstractButton *buttonOf(QFileDialog &dialog, QDialogButtonBox::StandardButton button)
 {
-    auto *buttons = dialog.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+    auto *buttons = dialog.findChild<QDialogButtonBox *>(u"buttonBox"_s);
     return buttons ? buttons->button(button) : nullptr;
 }
 
@@ -66,7 +67,7 @@ void accept(QFileDialog &dialog)
 {
     const auto button = dialog.acceptMode() == QFileDialog::AcceptOpen ? QDialogButtonBox::Open
                                                                        : QDialogButtonBox::Save;
-    if (const auto press = pressing(buttonOf(dialog, button), QStringLiteral("Open or Save")))
+    if (const auto press = pressing(buttonOf(dialog, button), u"Open or Save"_s))
         press();
 }
 
@@ -81,13 +82,13 @@ DialogAnswers::DialogAnswers()
 DialogAnswers::~DialogAnswers()
 {
     for (const Expected &expected : m_expected)
-        fail(expected.what + QStringLiteral(" did not come"));
+        fail(expected.what + u" did not come"_s);
 }
 
 void DialogAnswers::expectMsgBox(const QString &text, QMessageBox::StandardButton answer,
                                  std::function<void(QMessageBox &)> inspect)
 {
-    expect({QStringLiteral("message box \"%1\"").arg(text), Kind::MessageBox,
+    expect({u"message box \"%1\""_s.arg(text), Kind::MessageBox,
             [text, answer, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 compare("the message", box.text(), text);
@@ -101,7 +102,7 @@ void DialogAnswers::expectMsgBox(const QString &text, QMessageBox::StandardButto
 void DialogAnswers::expectAnyMsgBox(QMessageBox::StandardButton answer,
                                     std::function<void(QMessageBox &)> inspect)
 {
-    expect({QStringLiteral("a message box"), Kind::MessageBox,
+    expect({u"a message box"_s, Kind::MessageBox,
             [answer, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 compare("the message box's title", box.windowTitle(), Application::Title());
@@ -117,7 +118,7 @@ void DialogAnswers::seeOtherMsgBoxes(std::function<void(const QString &)> see)
 
 void DialogAnswers::escapeMsgBox(const QString &text)
 {
-    expect({QStringLiteral("message box \"%1\" to be closed by Esc").arg(text), Kind::MessageBox,
+    expect({u"message box \"%1\" to be closed by Esc"_s.arg(text), Kind::MessageBox,
             [text](QDialog &dialog) -> std::function<void()> {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 compare("the message", box.text(), text);
@@ -130,11 +131,11 @@ void DialogAnswers::escapeMsgBox(const QString &text)
 
 void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect)
 {
-    expectFileDialog(QStringLiteral("file dialog for \"%1\"").arg(name), std::move(inspect),
+    expectFileDialog(u"file dialog for \"%1\""_s.arg(name), std::move(inspect),
                      [name](QFileDialog &dialog) {
-                         auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+                         auto *box = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
                          if (!box)
-                             return fail(QStringLiteral("the file dialog has no box for the name"));
+                             return fail(u"the file dialog has no box for the name"_s);
                          // The completion would guess on while the name is typed, and its list
                          // would pop up between a click and its button.
                          box->setCompleter(nullptr);
@@ -147,28 +148,26 @@ void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDial
 
 void DialogAnswers::acceptFileDialog(std::function<void(QFileDialog &)> inspect)
 {
-    expectFileDialog(QStringLiteral("file dialog to accept"), std::move(inspect), accept);
+    expectFileDialog(u"file dialog to accept"_s, std::move(inspect), accept);
 }
 
 void DialogAnswers::cancelFileDialog(std::function<void(QFileDialog &)> inspect)
 {
-    expectFileDialog(
-        QStringLiteral("file dialog to cancel"), std::move(inspect), [](QFileDialog &dialog) {
-            if (const auto press =
-                    pressing(buttonOf(dialog, QDialogButtonBox::Cancel), QStringLiteral("Cancel")))
-                press();
-        });
+    expectFileDialog(u"file dialog to cancel"_s, std::move(inspect), [](QFileDialog &dialog) {
+        if (const auto press = pressing(buttonOf(dialog, QDialogButtonBox::Cancel), u"Cancel"_s))
+            press();
+    });
 }
 
 void DialogAnswers::answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer)
 {
-    expect({QStringLiteral("question about replacing \"%1\"").arg(fileTitle), Kind::MessageBox,
+    expect({u"question about replacing \"%1\""_s.arg(fileTitle), Kind::MessageBox,
             [fileTitle, answer](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 if (!qobject_cast<QFileDialog *>(box.parentWidget()) ||
                     !box.text().contains(fileTitle))
-                    fail(QStringLiteral("\"%1\" is not the file dialog's question about \"%2\"")
-                             .arg(box.text(), fileTitle));
+                    fail(u"\"%1\" is not the file dialog's question about \"%2\""_s.arg(box.text(),
+                                                                                        fileTitle));
                 return answering(box, answer);
             }});
 }
@@ -183,14 +182,14 @@ void DialogAnswers::useForm(const char *name, std::function<void(QDialog &)> use
                     if (open)
                         use(*open);
                     if (open && open->isVisible())
-                        dismiss(*open, QStringLiteral("%1 stays open after its use"));
+                        dismiss(*open, u"%1 stays open after its use"_s);
                 };
             }});
 }
 
 void DialogAnswers::useMsgBox(const QString &text, std::function<void(QMessageBox &)> use)
 {
-    expect({QStringLiteral("message box \"%1\"").arg(text), Kind::MessageBox,
+    expect({u"message box \"%1\""_s.arg(text), Kind::MessageBox,
             [text, use = std::move(use)](QDialog &dialog) {
                 compare("the message", static_cast<QMessageBox &>(dialog).text(), text);
                 return [use, open = QPointer(&dialog)] {
@@ -204,7 +203,7 @@ bool DialogAnswers::allSeen()
 {
     for (const Expected &expected : std::exchange(m_expected, {})) {
         m_failed = true;
-        fail(expected.what + QStringLiteral(" did not come"));
+        fail(expected.what + u" did not come"_s);
     }
     return !m_failed;
 }
@@ -228,8 +227,7 @@ void DialogAnswers::expectFileDialog(const QString &what,
     expect({what, Kind::FileDialog,
             [inspect = std::move(inspect), answer = std::move(answer)](QDialog &dialog) {
                 auto &fileDialog = static_cast<QFileDialog &>(dialog);
-                compare("the file dialog's name", dialog.objectName(),
-                        QStringLiteral("CommonDialog"));
+                compare("the file dialog's name", dialog.objectName(), u"CommonDialog"_s);
                 if (inspect)
                     inspect(fileDialog);
                 return [answer, open = QPointer(&fileDialog)] {
@@ -274,7 +272,7 @@ void DialogAnswers::look()
         meet(*dialog);
     } else if (++m_waited > MostLooks) {
         m_waited = 0;
-        dismiss(*dialog, QStringLiteral("%1 stays open after its answer"));
+        dismiss(*dialog, u"%1 stays open after its answer"_s);
     }
 }
 
@@ -287,10 +285,9 @@ void DialogAnswers::meet(QDialog &dialog)
                                       Qt::QueuedConnection);
             return;
         }
-        dismiss(dialog, QStringLiteral("unexpected %1") +
-                            (m_expected.empty()
-                                 ? QString()
-                                 : QStringLiteral(" instead of ") + m_expected.front().what));
+        dismiss(dialog,
+                u"unexpected %1"_s +
+                    (m_expected.empty() ? QString() : u" instead of "_s + m_expected.front().what));
         return;
     }
     const Expected expected = std::move(m_expected.front());
@@ -298,7 +295,7 @@ void DialogAnswers::meet(QDialog &dialog)
     ++m_seen;
     const std::function<void()> answer = expected.answer(dialog);
     if (!answer) {
-        dismiss(dialog, QStringLiteral("%1 could not be answered"));
+        dismiss(dialog, u"%1 could not be answered"_s);
         return;
     }
     // An answer may open a further dialog, for which the timer must be able to fire.

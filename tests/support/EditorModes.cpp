@@ -1,65 +1,57 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/EditorModes.h"
 
+using namespace Qt::StringLiterals;
+
 QStringList EditorModes::look(const QStringList &buttons, Boxes boxes)
 {
-    const QString word =
-        boxes == Boxes::Disabled ? QStringLiteral("disabled") : QStringLiteral("enabled");
-    const QString others =
-        boxes == Boxes::Enabled ? QStringLiteral("enabled") : QStringLiteral("disabled");
-    return buttons + QStringList{QStringLiteral("txtWord: ") + word,
-                                 QStringLiteral("txtDefinition: ") + others,
-                                 QStringLiteral("txtSentence: ") + others};
+    const QString word = boxes == Boxes::Disabled ? u"disabled"_s : u"enabled"_s;
+    const QString others = boxes == Boxes::Enabled ? u"enabled"_s : u"disabled"_s;
+    return buttons + QStringList{u"txtWord: "_s + word, u"txtDefinition: "_s + others,
+                                 u"txtSentence: "_s + others};
 }
 
 QStringList EditorModes::idle()
 {
-    return look({QStringLiteral("cmdNewWord: &New Word default"), QStringLiteral("cmdAdd: hidden"),
-                 QStringLiteral("cmdAbort: A&bort disabled"),
-                 QStringLiteral("cmdDelete: &Delete disabled"),
-                 QStringLiteral("cmdSearch: &Search enabled")},
+    return look({u"cmdNewWord: &New Word default"_s, u"cmdAdd: hidden"_s,
+                 u"cmdAbort: A&bort disabled"_s, u"cmdDelete: &Delete disabled"_s,
+                 u"cmdSearch: &Search enabled"_s},
                 Boxes::Disabled);
 }
 
 QStringList EditorModes::newWord()
 {
-    return look({QStringLiteral("cmdNewWord: hidden"), QStringLiteral("cmdAdd: &Add default"),
-                 QStringLiteral("cmdAbort: A&bort enabled"),
-                 QStringLiteral("cmdDelete: &Delete disabled"),
-                 QStringLiteral("cmdSearch: &Search disabled")},
+    return look({u"cmdNewWord: hidden"_s, u"cmdAdd: &Add default"_s, u"cmdAbort: A&bort enabled"_s,
+                 u"cmdDelete: &Delete disabled"_s, u"cmdSearch: &Search disabled"_s},
                 Boxes::Enabled);
 }
 
 QStringList EditorModes::editing()
 {
-    return look({QStringLiteral("cmdNewWord: hidden"), QStringLiteral("cmdAdd: &Update default"),
-                 QStringLiteral("cmdAbort: A&bort enabled"),
-                 QStringLiteral("cmdDelete: &Delete enabled"),
-                 QStringLiteral("cmdSearch: &Search disabled")},
+    return look({u"cmdNewWord: hidden"_s, u"cmdAdd: &Update default"_s,
+                 u"cmdAbort: A&bort enabled"_s, u"cmdDelete: &Delete enabled"_s,
+                 u"cmdSearch: &Search disabled"_s},
                 Boxes::Enabled);
 }
 
 QStringList EditorModes::searching()
 {
-    return look({QStringLiteral("cmdNewWord: &New Word disabled"), QStringLiteral("cmdAdd: hidden"),
-                 QStringLiteral("cmdAbort: A&bort enabled"),
-                 QStringLiteral("cmdDelete: &Delete disabled"),
-                 QStringLiteral("cmdSearch: &Search default")},
+    return look({u"cmdNewWord: &New Word disabled"_s, u"cmdAdd: hidden"_s,
+                 u"cmdAbort: A&bort enabled"_s, u"cmdDelete: &Delete disabled"_s,
+                 u"cmdSearch: &Search default"_s},
                 Boxes::WordOnly);
 }
 
 QStringList EditorModes::found()
 {
-    return look({QStringLiteral("cmdNewWord: &New Word disabled"), QStringLiteral("cmdAdd: hidden"),
-                 QStringLiteral("cmdAbort: A&bort enabled"),
-                 QStringLiteral("cmdDelete: &Delete enabled"),
-                 QStringLiteral("cmdSearch: &Search default")},
+    return look({u"cmdNewWord: &New Word disabled"_s, u"cmdAdd: hidden"_s,
+                 u"cmdAbort: A&bort enabled"_s, u"cmdDelete: &Delete enabled"_s,
+                 u"cmdSearch: &Search default"_s},
                 Boxes::WordOnly);
 }
 
 QStringList EditorModes::filledRow(int position)
 {
     const QString number = QString::number(position);
-    return {number, QStringLiteral("word ") + number, QStringLiteral("definition ") + number,
-            QStringLiteral("sentence ") + number};
+    return {number, u"word "_s + number, u"definition "_s + number, u"sentence "_s + number};
 }

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QSettings>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void resetGlobals()
@@ -49,13 +51,12 @@ FreshState::FreshState()
         QDir().mkpath(path);
         qputenv(variable, QFile::encodeName(path));
     };
-    place("HOME", QStringLiteral("."));
-    place("XDG_DATA_HOME", QStringLiteral(".local/share"));
-    place("XDG_CONFIG_HOME", QStringLiteral(".config"));
-    place("XDG_CACHE_HOME", QStringLiteral(".cache"));
+    place("HOME", u"."_s);
+    place("XDG_DATA_HOME", u".local/share"_s);
+    place("XDG_CONFIG_HOME", u".config"_s);
+    place("XDG_CACHE_HOME", u".cache"_s);
     // Where the file dialog keeps its state.
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       path(QStringLiteral(".config")));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u".config"_s));
     resetGlobals();
 }
 

@@ -13,6 +13,8 @@
 #include <QSignalBlocker>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 MainWindow::MainWindow(Start start)
 {
     // As at any start but the first.
@@ -28,7 +30,7 @@ void MainWindow::show()
 {
     m_window->showMaximized();
     if (!QTest::qWaitForWindowActive(m_window.get()))
-        Controls::fail(QStringLiteral("the main window does not become active"));
+        Controls::fail(u"the main window does not become active"_s);
 }
 
 QScrollBar &MainWindow::bar()
@@ -58,7 +60,7 @@ QString MainWindow::text(const char *box)
         return line->text();
     if (const auto *lines = qobject_cast<EntryTextBox *>(&widget))
         return lines->text();
-    Controls::fail(QLatin1String(box) + QStringLiteral(" is no text box"));
+    Controls::fail(QLatin1String(box) + u" is no text box"_s);
 }
 
 void MainWindow::typeEntry(const QString &word, const QString &definition, const QString &sentence)
@@ -76,8 +78,7 @@ void MainWindow::fill(int entries)
     cVocabList &list = Module1::gVocabList();
     list.ClearList();
     for (const QString &number : words)
-        list.AddVocab(QStringLiteral("word ") + number, QStringLiteral("definition ") + number,
-                      QStringLiteral("sentence ") + number);
+        list.AddVocab(u"word "_s + number, u"definition "_s + number, u"sentence "_s + number);
     showFirstPage();
 }
 
@@ -86,8 +87,7 @@ void MainWindow::fill(const QStringList &words)
     cVocabList &list = Module1::gVocabList();
     list.ClearList();
     for (const QString &word : words)
-        list.AddVocab(word, QStringLiteral("definition of ") + word,
-                      QStringLiteral("sentence of ") + word);
+        list.AddVocab(word, u"definition of "_s + word, u"sentence of "_s + word);
     showFirstPage();
 }
 
@@ -105,7 +105,7 @@ void MainWindow::clickCell(int row, int column)
     MSFlexGrid &table = grid();
     const QRect cell = table.visualItemRect(table.item(row, column));
     if (!table.viewport()->rect().contains(cell.center()))
-        Controls::fail(QStringLiteral("row %1, column %2 is out of sight").arg(row).arg(column));
+        Controls::fail(u"row %1, column %2 is out of sight"_s.arg(row).arg(column));
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
 }
 
@@ -129,7 +129,7 @@ QList<int> MainWindow::markedRows()
         if (marks == 6)
             rows += row;
         else if (marks != 0)
-            Controls::fail(QStringLiteral("row %1 is marked in part").arg(row));
+            Controls::fail(u"row %1 is marked in part"_s.arg(row));
     }
     return rows;
 }
@@ -139,17 +139,16 @@ QStringList MainWindow::look()
     QStringList look;
     for (const char *name : {"cmdNewWord", "cmdAdd", "cmdAbort", "cmdDelete", "cmdSearch"}) {
         const auto &button = control<QPushButton>(name);
-        QString state = QStringLiteral("hidden");
+        QString state = u"hidden"_s;
         if (button.isVisible())
-            state = button.text() + QLatin1Char(' ') +
-                    (!button.isEnabled()  ? QStringLiteral("disabled")
-                     : button.isDefault() ? QStringLiteral("default")
-                                          : QStringLiteral("enabled"));
-        look += QLatin1String(name) + QStringLiteral(": ") + state;
+            state = button.text() + u' ' +
+                    (!button.isEnabled()  ? u"disabled"_s
+                     : button.isDefault() ? u"default"_s
+                                          : u"enabled"_s);
+        look += QLatin1String(name) + u": "_s + state;
     }
     for (const char *name : {"txtWord", "txtDefinition", "txtSentence"})
-        look += QLatin1String(name) + (control<QWidget>(name).isEnabled()
-                                           ? QStringLiteral(": enabled")
-                                           : QStringLiteral(": disabled"));
+        look += QLatin1String(name) +
+                (control<QWidget>(name).isEnabled() ? u": enabled"_s : u": disabled"_s);
     return look;
 }

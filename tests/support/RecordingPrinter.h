@@ -10,6 +10,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 class RecordingPrinter final : public Printer
 {
 public:
@@ -53,8 +55,7 @@ public:
     {
         QStringList places;
         for (const Text &text : texts)
-            places += QStringLiteral("%1: %2,%3 %4")
-                          .arg(text.sheet)
+            places += u"%1: %2,%3 %4"_s.arg(text.sheet)
                           .arg(text.x / CharacterWidth)
                           .arg(text.y / LineHeight)
                           .arg(text.text);

@@ -30,24 +30,23 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QStringList>("lines");
         const auto row = [](const char *name, const QByteArray &bytes, const QString &lines) {
-            QTest::newRow(name) << bytes << lines.split(QLatin1Char('|'));
+            QTest::newRow(name) << bytes << lines.split(u'|');
         };
-        row("CR LF", "one\r\ntwo\r\n", QStringLiteral("one|two"));
-        row("CR", "one\rtwo\r", QStringLiteral("one|two"));
-        row("LF", "one\ntwo\n", QStringLiteral("one|two"));
-        row("CR LF, the last line open", "one\r\ntwo", QStringLiteral("one|two"));
-        row("CR, the last line open", "one\rtwo", QStringLiteral("one|two"));
-        row("LF, the last line open", "one\ntwo", QStringLiteral("one|two"));
-        row("CR and CR LF mixed", "one\rtwo\r\nthree\r", QStringLiteral("one|two|three"));
-        row("LF belongs to a line where there is CR", "one\ntwo\rthree\n",
-            QStringLiteral("one\ntwo|three\n"));
-        row("LF CR is CR after a text", "one\n\rtwo", QStringLiteral("one\n|two"));
-        row("empty lines, CR LF", "\r\n\r\nthree\r\n\r\n", QStringLiteral("||three|"));
-        row("empty lines, CR", "\r\rthree\r\r", QStringLiteral("||three|"));
-        row("empty lines, LF", "\n\nthree\n\n", QStringLiteral("||three|"));
-        row("one line alone", "one", QStringLiteral("one"));
+        row("CR LF", "one\r\ntwo\r\n", u"one|two"_s);
+        row("CR", "one\rtwo\r", u"one|two"_s);
+        row("LF", "one\ntwo\n", u"one|two"_s);
+        row("CR LF, the last line open", "one\r\ntwo", u"one|two"_s);
+        row("CR, the last line open", "one\rtwo", u"one|two"_s);
+        row("LF, the last line open", "one\ntwo", u"one|two"_s);
+        row("CR and CR LF mixed", "one\rtwo\r\nthree\r", u"one|two|three"_s);
+        row("LF belongs to a line where there is CR", "one\ntwo\rthree\n", u"one\ntwo|three\n"_s);
+        row("LF CR is CR after a text", "one\n\rtwo", u"one\n|two"_s);
+        row("empty lines, CR LF", "\r\n\r\nthree\r\n\r\n", u"||three|"_s);
+        row("empty lines, CR", "\r\rthree\r\r", u"||three|"_s);
+        row("empty lines, LF", "\n\nthree\n\n", u"||three|"_s);
+        row("one line alone", "one", u"one"_s);
         row("one line end alone", "\r\n", QString());
-        row("a line of blanks", "  \r\n", QStringLiteral("  "));
+        row("a line of blanks", "  \r\n", u"  "_s);
     }
 
     void aLineEndsAtCarriageReturnOrAtBothOrInAFileWithoutItAtLineFeed()
@@ -60,8 +59,7 @@ private Q_SLOTS:
     {
         const QByteArray lines = "one\ntwo\n" + QByteArray(64 * 1024, 'x') + "\rfour";
         QCOMPARE(linesOf(lines).size(), 3);
-        QCOMPARE(linesOf(lines).first(2),
-                 (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+        QCOMPARE(linesOf(lines).first(2), (QStringList{u"one"_s, u"two"_s}));
         QCOMPARE(linesOf("\r" + lines).size(), 3);
     }
 
@@ -70,7 +68,7 @@ private Q_SLOTS:
         const qsizetype longest = 16 * 1024 * 1024;
         QCOMPARE(linesOf("one\r" + QByteArray(longest, '\0') + "\rthree").size(), 3);
         const QByteArray tooLong = "one\r" + QByteArray(longest + 1, '\0');
-        QCOMPARE(linesOf(tooLong + "\rthree"), QStringList{QStringLiteral("one")});
+        QCOMPARE(linesOf(tooLong + "\rthree"), QStringList{u"one"_s});
         QCOMPARE(difEnd(tooLong), std::optional<qsizetype>(4));
         QCOMPARE(difEnd(tooLong.chopped(1)), std::nullopt);
     }
@@ -125,15 +123,13 @@ private Q_SLOTS:
 
     void charactersAreWindows1252()
     {
-        QCOMPARE(linesOf("cr\xE8me \x96 \x80\r\n"),
-                 QStringList{QStringLiteral("cr\u00E8me \u2013 \u20AC")});
+        QCOMPARE(linesOf("cr\xE8me \x96 \x80\r\n"), QStringList{u"cr\u00E8me \u2013 \u20AC"_s});
     }
 
     void zeroBytesAreCharacters()
     {
-        QCOMPARE(
-            linesOf(QByteArray("a\0b\r\nc", 6)),
-            (QStringList{QStringLiteral("a") + QChar(0) + QLatin1Char('b'), QStringLiteral("c")}));
+        QCOMPARE(linesOf(QByteArray("a\0b\r\nc", 6)),
+                 (QStringList{u"a"_s + QChar(0) + u'b', u"c"_s}));
     }
 
     void aCountFollowsTheFirstComma_data()
@@ -186,7 +182,7 @@ private Q_SLOTS:
 
     void aValueLineShorterThanItsQuotesIsReported()
     {
-        for (const QString &line : {QString(), QStringLiteral("V"), QStringLiteral("\"")})
+        for (const QString &line : {QString(), u"V"_s, u"\""_s})
             QCOMPARE(errorNumberOf([&] { return difValue(line); }),
                      RunTimeError::InvalidProcedureCall);
     }

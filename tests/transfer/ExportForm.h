@@ -15,6 +15,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 class ExportForm final
 {
     FreshState m_state;
@@ -48,7 +50,7 @@ public:
     {
         m_dialog->activateWindow();
         if (!QTest::qWaitForWindowActive(m_dialog.get()))
-            Controls::fail(QStringLiteral("the dialog does not become active"));
+            Controls::fail(u"the dialog does not become active"_s);
     }
 
     [[nodiscard]] dlgExport &dialog() { return *m_dialog; }
@@ -88,7 +90,7 @@ public:
         return words;
     }
 
-    [[nodiscard]] static QString word(int position) { return QStringLiteral("w%1").arg(position); }
+    [[nodiscard]] static QString word(int position) { return u"w%1"_s.arg(position); }
 
     // The words from one position to another, upwards or downwards.
     [[nodiscard]] static QStringList words(int start, int end)
@@ -116,7 +118,7 @@ private:
         if (!m_dialog)
             return;
         for (const char *box : {"txtStart", "txtEnd"})
-            control<QLineEdit>(box).setText(QStringLiteral("1"));
+            control<QLineEdit>(box).setText(u"1"_s);
         m_dialog->close();
     }
 

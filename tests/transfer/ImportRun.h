@@ -10,6 +10,8 @@
 
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 class ImportRun final
 {
     FreshState m_state;
@@ -25,13 +27,13 @@ public:
 
     void wordList(const QByteArray &bytes)
     {
-        use(QStringLiteral("words.lwx"), bytes);
+        use(u"words.lwx"_s, bytes);
         import.ImportWordList();
     }
 
     void dif(const QByteArray &bytes)
     {
-        use(QStringLiteral("words.dif"), bytes);
+        use(u"words.dif"_s, bytes);
         import.ImportDif();
     }
 
@@ -48,13 +50,12 @@ public:
 
     void expectImported(int words)
     {
-        answers.expectMsgBox(QStringLiteral("%1 words imported").arg(words), QMessageBox::Ok,
-                             okOnly);
+        answers.expectMsgBox(u"%1 words imported"_s.arg(words), QMessageBox::Ok, okOnly);
     }
 
     void expectAdded(int words)
     {
-        answers.expectMsgBox(QStringLiteral("%1 words added").arg(words), QMessageBox::Ok, okOnly);
+        answers.expectMsgBox(u"%1 words added"_s.arg(words), QMessageBox::Ok, okOnly);
     }
 
 private:

@@ -13,12 +13,14 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 // An entry is written "word|definition|sentence"; what is missing at the end is empty.
 namespace ImportTools {
 
 inline QStringList parts(const QString &entry)
 {
-    QStringList texts = entry.split(QLatin1Char('|'));
+    QStringList texts = entry.split(u'|');
     while (texts.size() < 3)
         texts += QString();
     return texts;
@@ -28,7 +30,7 @@ inline void writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        Controls::fail(QStringLiteral("cannot write ") + path);
+        Controls::fail(u"cannot write "_s + path);
 }
 
 inline QByteArray listFile(const QStringList &entries)
@@ -53,7 +55,7 @@ inline QByteArrayList difLinesOf(const QStringList &rows, const QByteArray &tupl
                          tuples,  "\"\"", "DATA", "0,0",     "\"\"",  "-1,0"};
     for (const QString &row : rows) {
         lines += "BOT";
-        const QStringList values = row.split(QLatin1Char('|'));
+        const QStringList values = row.split(u'|');
         for (const QString &value : values)
             lines += {"1,0", '"' + value.toLatin1() + '"'};
         lines += "-1,0";
@@ -74,9 +76,8 @@ inline QStringList openEntries()
     QStringList entries;
     for (Integer i = 1; i <= list.NumWords(); ++i) {
         list.CurrentWord(i);
-        QString entry =
-            QStringList{list.Word(), list.Definition(), list.Sentence()}.join(QLatin1Char('|'));
-        while (entry.endsWith(QLatin1Char('|')))
+        QString entry = QStringList{list.Word(), list.Definition(), list.Sentence()}.join(u'|');
+        while (entry.endsWith(u'|'))
             entry.chop(1);
         entries += entry;
     }

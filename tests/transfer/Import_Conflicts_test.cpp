@@ -5,14 +5,13 @@
 
 using namespace ImportTools;
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 // A list file and a DIF file with the words new1, old1, new2, old2, new3.
-const QStringList Incoming{QStringLiteral("new1|n1"), QStringLiteral("OLD1|o1"),
-                           QStringLiteral("new2|n2"), QStringLiteral("OLD2|o2"),
-                           QStringLiteral("new3|n3")};
-const QStringList Open{QStringLiteral("old1|first"), QStringLiteral("old2|second")};
+const QStringList Incoming{u"new1|n1"_s, u"OLD1|o1"_s, u"new2|n2"_s, u"OLD2|o2"_s, u"new3|n3"_s};
+const QStringList Open{u"old1|first"_s, u"old2|second"_s};
 
 const char *const Yes = "cmdYes";
 const char *const No = "cmdNo";
@@ -26,8 +25,8 @@ void addRow(const QList<const char *> &answers, const char *cameIn, int refreshe
     QStringList names;
     for (const char *answer : answers)
         names += QString::fromLatin1(answer);
-    QTest::newRow(qPrintable(names.join(QStringLiteral(", "))))
-        << names << QString::fromLatin1(cameIn).split(QLatin1Char(' ')) << refreshes;
+    QTest::newRow(qPrintable(names.join(u", "_s)))
+        << names << QString::fromLatin1(cameIn).split(u' ') << refreshes;
 }
 
 void addColumns()
@@ -119,71 +118,69 @@ private Q_SLOTS:
         m_run->expectAdded(int(cameIn.size()));
         m_run->dif(joined(difLinesOf(Incoming)));
         checkEnd();
-        QCOMPARE(flags(), QStringLiteral("tasE"));
+        QCOMPARE(flags(), u"tasE"_s);
     }
 
     void aNoToAllOfAWordListHoldsForTheNextDifFileOnly()
     {
-        expectQuestion(m_run->answers, QStringLiteral("cmdNoToAll"));
+        expectQuestion(m_run->answers, u"cmdNoToAll"_s);
         m_run->expectImported(0);
-        m_run->wordList(listFile({QStringLiteral("old1")}));
-        QCOMPARE(flags(), QStringLiteral("taSe"));
+        m_run->wordList(listFile({u"old1"_s}));
+        QCOMPARE(flags(), u"taSe"_s);
 
         m_run->expectAdded(3);
         m_run->dif(joined(difLinesOf(Incoming)));
-        QCOMPARE(flags(), QStringLiteral("tasE"));
+        QCOMPARE(flags(), u"tasE"_s);
 
         for (const char *old : {"old1", "old2"})
-            expectQuestion(m_run->answers, QStringLiteral("cmdNo"), [old](QDialog &) {
+            expectQuestion(m_run->answers, u"cmdNo"_s, [old](QDialog &) {
                 QCOMPARE(gImportWord.toLower(), QLatin1String(old));
             });
         m_run->expectAdded(1);
-        m_run->dif(joined(difLinesOf(
-            {QStringLiteral("OLD1"), QStringLiteral("new4"), QStringLiteral("OLD2")}, "0,1")));
+        m_run->dif(joined(difLinesOf({u"OLD1"_s, u"new4"_s, u"OLD2"_s}, "0,1")));
     }
 
     void aNoToAllOfAWordListDoesNotHoldForTheNextWordList()
     {
         for (int time = 0; time < 2; ++time) {
-            expectQuestion(m_run->answers, QStringLiteral("cmdNoToAll"));
+            expectQuestion(m_run->answers, u"cmdNoToAll"_s);
             m_run->expectImported(0);
-            m_run->wordList(listFile({QStringLiteral("old1"), QStringLiteral("old2")}));
+            m_run->wordList(listFile({u"old1"_s, u"old2"_s}));
         }
     }
 
     void aNoToAllOfADifFileDoesNotHoldForTheNext()
     {
         for (int time = 0; time < 2; ++time) {
-            expectQuestion(m_run->answers, QStringLiteral("cmdNoToAll"));
+            expectQuestion(m_run->answers, u"cmdNoToAll"_s);
             m_run->expectAdded(0);
-            m_run->dif(joined(difLinesOf({QStringLiteral("old1|"), QStringLiteral("old2|")})));
+            m_run->dif(joined(difLinesOf({u"old1|"_s, u"old2|"_s})));
         }
     }
 
     void aYesToAllDoesNotHoldForTheNextImport()
     {
-        expectQuestion(m_run->answers, QStringLiteral("cmdYesToAll"));
+        expectQuestion(m_run->answers, u"cmdYesToAll"_s);
         m_run->expectAdded(1);
-        m_run->dif(joined(difLinesOf({QStringLiteral("old1|")})));
-        expectQuestion(m_run->answers, QStringLiteral("cmdYesToAll"));
+        m_run->dif(joined(difLinesOf({u"old1|"_s})));
+        expectQuestion(m_run->answers, u"cmdYesToAll"_s);
         m_run->expectImported(1);
-        m_run->wordList(listFile({QStringLiteral("old1")}));
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"));
+        m_run->wordList(listFile({u"old1"_s}));
+        expectQuestion(m_run->answers, u"cmdNo"_s);
         m_run->expectAdded(0);
-        m_run->dif(joined(difLinesOf({QStringLiteral("old1|")})));
+        m_run->dif(joined(difLinesOf({u"old1|"_s})));
     }
 
     void aDeletedEntryIsNoConflictAnyMore()
     {
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"), [this](QDialog &form) {
-            m_run->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'OLD1' ?"),
+        expectQuestion(m_run->answers, u"cmdNo"_s, [this](QDialog &form) {
+            m_run->answers.expectMsgBox(u"Are you sure you want to delete 'OLD1' ?"_s,
                                         QMessageBox::Yes);
             m_run->expectImported(1);
-            giveAnswer(form, QStringLiteral("cmdDelete"));
+            giveAnswer(form, u"cmdDelete"_s);
         });
-        m_run->wordList(listFile({QStringLiteral("OLD1|a"), QStringLiteral("OLD1|b")}));
-        QCOMPARE(openEntries(),
-                 (QStringList{QStringLiteral("old2|second"), QStringLiteral("OLD1|b")}));
+        m_run->wordList(listFile({u"OLD1|a"_s, u"OLD1|b"_s}));
+        QCOMPARE(openEntries(), (QStringList{u"old2|second"_s, u"OLD1|b"_s}));
     }
 
 private:
@@ -192,13 +189,13 @@ private:
         QFETCH(QStringList, questions);
         for (qsizetype i = 0; i < questions.size(); ++i)
             expectQuestion(m_run->answers, questions[i], [i](QDialog &form) {
-                QCOMPARE(gImportWord, Incoming[2 * i + 1].section(QLatin1Char('|'), 0, 0));
+                QCOMPARE(gImportWord, Incoming[2 * i + 1].section(u'|', 0, 0));
                 QVERIFY(!gAddThis);
                 QVERIFY(!gAddAll);
                 // Whatever was done to the dialog before.
                 QVERIFY(Controls::find<QPushButton>(form, "cmdAllowModify").isEnabled());
                 QVERIFY(!Controls::find<QPushButton>(form, "cmdUpdate").isEnabled());
-                giveAnswer(form, QStringLiteral("cmdAllowModify"));
+                giveAnswer(form, u"cmdAllowModify"_s);
             });
     }
 
@@ -209,7 +206,7 @@ private:
         QCOMPARE(entries.mid(0, 2), Open);
         QStringList definitions;
         for (const QString &entry : entries.mid(2))
-            definitions += entry.section(QLatin1Char('|'), 1);
+            definitions += entry.section(u'|', 1);
         QCOMPARE(definitions, cameIn);
         QCOMPARE(gImportCount.toInt(), int(cameIn.size()));
         QVERIFY(gChanged);

@@ -9,12 +9,12 @@
 
 using namespace ImportTools;
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList Rows{QStringLiteral("cat|an animal"),     QStringLiteral("dog|a pet"),
-                       QStringLiteral("caf\u00E9|a place"), QStringLiteral("\"\"x\"\"|"),
-                       QStringLiteral("cat|another"),       QStringLiteral("cow|gives milk")};
+const QStringList Rows{u"cat|an animal"_s, u"dog|a pet"_s,   u"caf\u00E9|a place"_s,
+                       u"\"\"x\"\"|"_s,    u"cat|another"_s, u"cow|gives milk"_s};
 constexpr int Header = 13;
 constexpr int LinesOfARow = 6;
 
@@ -35,7 +35,7 @@ private Q_SLOTS:
     void init()
     {
         m_run = std::make_unique<ImportRun>();
-        setOpenEntries({QStringLiteral("dog|old")});
+        setOpenEntries({u"dog|old"_s});
     }
 
     void cleanup()
@@ -57,17 +57,16 @@ private Q_SLOTS:
         QFETCH(int, lines);
         gSkipAll = true;
         const QByteArrayList whole = difLinesOf(Rows);
-        m_run->answers.expectMsgBox(
-            QStringLiteral("Run-time error '9':\n\nSubscript out of range"));
+        m_run->answers.expectMsgBox(u"Run-time error '9':\n\nSubscript out of range"_s);
         run(joined(whole.mid(0, lines)));
         // Opened by BOT, then word and definition with a type line each.
         int rows = 0;
         while (rows < Rows.size() && lines >= Header + rows * LinesOfARow + 5)
             ++rows;
-        QStringList expected{QStringLiteral("dog|old")};
+        QStringList expected{u"dog|old"_s};
         for (int row = 0; row < rows; ++row)
             if (row != 1 && row != 4) // conflicts
-                expected += Rows[row].chopped(Rows[row].endsWith(QLatin1Char('|')) ? 1 : 0);
+                expected += Rows[row].chopped(Rows[row].endsWith(u'|') ? 1 : 0);
         QCOMPARE(openEntries(), expected);
     }
 
@@ -120,24 +119,23 @@ private Q_SLOTS:
         m_run->answers.expectAnyMsgBox(QMessageBox::Ok,
                                        [&told](QMessageBox &box) { told = box.text(); });
         run(bytes);
-        static const QRegularExpression count(QStringLiteral("^(\\d+) words added$"));
-        static const QRegularExpression error(QStringLiteral(
-            "^Run-time error '(5|6|9|13)':\n\n(Invalid procedure call or argument|Overflow|"
-            "Subscript out of range|Type mismatch)$"));
+        static const QRegularExpression count(u"^(\\d+) words added$"_s);
+        static const QRegularExpression error(
+            u"^Run-time error '(5|6|9|13)':\n\n(Invalid procedure call or argument|Overflow|"
+            "Subscript out of range|Type mismatch)$"_s);
         QVERIFY2(count.match(told).hasMatch() || error.match(told).hasMatch(), qPrintable(told));
         const int added = gVocabList().NumWords().toInt() - 1;
         QCOMPARE(gImportCount.toInt(), added);
         if (count.match(told).hasMatch())
             QCOMPARE(count.match(told).captured(1).toInt(), added);
-        QCOMPARE(openEntries().constFirst(), QStringLiteral("dog|old"));
+        QCOMPARE(openEntries().constFirst(), u"dog|old"_s);
     }
 
     // The list is in order for the next import, whatever happened.
     void afterADamagedFileAGoodOneComesInWhole()
     {
         gSkipAll = true;
-        m_run->answers.expectMsgBox(
-            QStringLiteral("Run-time error '5':\n\nInvalid procedure call or argument"));
+        m_run->answers.expectMsgBox(u"Run-time error '5':\n\nInvalid procedure call or argument"_s);
         QByteArrayList lines = difLinesOf(Rows);
         lines[15] = "V";
         run(joined(lines));

@@ -3,6 +3,7 @@
 
 using namespace ImportTools;
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 class Import_Dif_test final : public QObject
 {
@@ -13,8 +14,8 @@ private Q_SLOTS:
     {
         m_run = std::make_unique<ImportRun>();
         gVocabList().ClearList();
-        gImportDef = QStringLiteral("old definition");
-        gImportSen = QStringLiteral("old sentence");
+        gImportDef = u"old definition"_s;
+        gImportSen = u"old sentence"_s;
     }
 
     void cleanup()
@@ -28,16 +29,15 @@ private Q_SLOTS:
         gImportSen.clear();
         gChanged = false;
         m_run->expectAdded(3);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|an animal"), QStringLiteral("dog|a pet"),
-                                      QStringLiteral("caf\u00E9|a place")})));
+        m_run->dif(
+            joined(difLinesOf({u"cat|an animal"_s, u"dog|a pet"_s, u"caf\u00E9|a place"_s})));
         QCOMPARE(openEntries(),
-                 (QStringList{QStringLiteral("cat|an animal"), QStringLiteral("dog|a pet"),
-                              QStringLiteral("caf\u00E9|a place")}));
+                 (QStringList{u"cat|an animal"_s, u"dog|a pet"_s, u"caf\u00E9|a place"_s}));
         QVERIFY(gChanged);
         QCOMPARE(gImportCount.toInt(), 3);
         QCOMPARE(m_run->changed.size(), 0); // Save is none of its business
         QCOMPARE(m_run->refreshed.size(), 0);
-        QCOMPARE(flags(), QStringLiteral("tasE"));
+        QCOMPARE(flags(), u"tasE"_s);
     }
 
     // What is not read stays as the row or import before left it.
@@ -45,12 +45,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("tuples");
         QTest::addColumn<QStringList>("entries");
-        const QStringList wordOnly{QStringLiteral("cat|old definition|old sentence"),
-                                   QStringLiteral("dog|old definition|old sentence")};
-        const QStringList definitions{QStringLiteral("cat|2nd of cat|old sentence"),
-                                      QStringLiteral("dog|2nd of dog|old sentence")};
-        const QStringList sentences{QStringLiteral("cat|old definition|2nd of cat"),
-                                    QStringLiteral("dog|old definition|2nd of dog")};
+        const QStringList wordOnly{u"cat|old definition|old sentence"_s,
+                                   u"dog|old definition|old sentence"_s};
+        const QStringList definitions{u"cat|2nd of cat|old sentence"_s,
+                                      u"dog|2nd of dog|old sentence"_s};
+        const QStringList sentences{u"cat|old definition|2nd of cat"_s,
+                                    u"dog|old definition|2nd of dog"_s};
         const auto row = [](const QByteArray &tuples, const QStringList &entries) {
             QTest::newRow(tuples.constData()) << tuples << entries;
         };
@@ -76,9 +76,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, tuples);
         QFETCH(QStringList, entries);
         m_run->expectAdded(2);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|2nd of cat|3rd of cat"),
-                                      QStringLiteral("dog|2nd of dog|3rd of dog")},
-                                     tuples)));
+        m_run->dif(joined(
+            difLinesOf({u"cat|2nd of cat|3rd of cat"_s, u"dog|2nd of dog|3rd of dog"_s}, tuples)));
         QCOMPARE(openEntries(), entries);
     }
 
@@ -101,16 +100,16 @@ private Q_SLOTS:
         QFETCH(QByteArray, vectors);
         QFETCH(bool, isRead);
         m_run->expectAdded(isRead ? 1 : 0);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|an animal")}, "0,2", vectors)));
+        m_run->dif(joined(difLinesOf({u"cat|an animal"_s}, "0,2", vectors)));
         QCOMPARE(gVocabList().NumWords().toInt(), isRead ? 1 : 0);
         QCOMPARE(gChanged, isRead);
         // Only the end of the data stops an import.
-        QCOMPARE(flags(), isRead ? QStringLiteral("tasE") : QStringLiteral("tase"));
+        QCOMPARE(flags(), isRead ? u"tasE"_s : u"tase"_s);
     }
 
     void onlyTheCountsOfTheHeaderMatter()
     {
-        QByteArrayList lines = difLinesOf({QStringLiteral("cat|an animal")});
+        QByteArrayList lines = difLinesOf({u"cat|an animal"_s});
         for (const int line : {1, 2, 3, 4, 6, 7, 9, 10, 11, 12, 13})
             lines[line - 1] = line % 2 == 0 ? "BOT" : "EOD";
         m_run->expectAdded(1);
@@ -120,27 +119,26 @@ private Q_SLOTS:
 
     void typeLinesAreNotLookedAt()
     {
-        QByteArrayList lines = difLinesOf({QStringLiteral("cat|an animal")});
+        QByteArrayList lines = difLinesOf({u"cat|an animal"_s});
         QCOMPARE(lines[14], QByteArray("1,0"));
         lines[14] = "EOD";
         lines[16] = "BOT";
         m_run->expectAdded(1);
         m_run->dif(joined(lines));
-        QCOMPARE(gImportWord, QStringLiteral("cat"));
-        QCOMPARE(gImportDef, QStringLiteral("an animal"));
+        QCOMPARE(gImportWord, u"cat"_s);
+        QCOMPARE(gImportDef, u"an animal"_s);
     }
 
     // A value of two characters or more loses its first and last, whatever they are.
     void everyValueCountsAsQuoted()
     {
         gImportSen.clear();
-        QByteArrayList lines =
-            difLinesOf({QStringLiteral("cat|an animal"), QStringLiteral("dog|")});
+        QByteArrayList lines = difLinesOf({u"cat|an animal"_s, u"dog|"_s});
         lines[15] = "TRUE";
         lines[17] = "NA";
         m_run->expectAdded(2);
         m_run->dif(joined(lines));
-        QCOMPARE(openEntries(), (QStringList{QStringLiteral("RU"), QStringLiteral("dog")}));
+        QCOMPARE(openEntries(), (QStringList{u"RU"_s, u"dog"_s}));
     }
 
     void quotesAndBlanksStayAsTheyStand()
@@ -148,24 +146,22 @@ private Q_SLOTS:
         gImportSen.clear();
         m_run->expectAdded(3);
         m_run->dif(
-            joined(difLinesOf({QStringLiteral(" cat |say \"\"miaow\"\""),
-                               QStringLiteral("\"\"quoted\"\"|"), QStringLiteral("|empty")})));
+            joined(difLinesOf({u" cat |say \"\"miaow\"\""_s, u"\"\"quoted\"\"|"_s, u"|empty"_s})));
         QCOMPARE(openEntries(),
-                 (QStringList{QStringLiteral(" cat |say \"\"miaow\"\""),
-                              QStringLiteral("\"\"quoted\"\""), QStringLiteral("|empty")}));
+                 (QStringList{u" cat |say \"\"miaow\"\""_s, u"\"\"quoted\"\""_s, u"|empty"_s}));
     }
 
     void anEmptyWordConflictsLikeAnyOther()
     {
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"));
+        expectQuestion(m_run->answers, u"cmdNo"_s);
         m_run->expectAdded(1);
-        m_run->dif(joined(difLinesOf({QStringLiteral("|1"), QStringLiteral("|2")})));
+        m_run->dif(joined(difLinesOf({u"|1"_s, u"|2"_s})));
         QCOMPARE(gVocabList().NumWords().toInt(), 1);
     }
 
     void linesBetweenRowsArePassedOver()
     {
-        QByteArrayList lines = difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")});
+        QByteArrayList lines = difLinesOf({u"cat|1"_s, u"dog|2"_s});
         for (const char *text : {"bot", "BOT ", " BOT", "", "\"BOT\"", "eod", "\"EOD\"", "EOD "})
             lines.insert(13, text);
         m_run->expectAdded(2);
@@ -177,14 +173,14 @@ private Q_SLOTS:
         gImportDef.clear();
         gImportSen.clear();
         m_run->expectAdded(2);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|1|2|3"), QStringLiteral("dog")}, "0,1")));
-        QCOMPARE(openEntries(), (QStringList{QStringLiteral("cat"), QStringLiteral("dog")}));
+        m_run->dif(joined(difLinesOf({u"cat|1|2|3"_s, u"dog"_s}, "0,1")));
+        QCOMPARE(openEntries(), (QStringList{u"cat"_s, u"dog"_s}));
     }
 
     void nothingBehindTheEndIsRead()
     {
-        QByteArrayList lines = difLinesOf({QStringLiteral("cat|1")});
-        lines += difLinesOf({QStringLiteral("dog|2")}).mid(13);
+        QByteArrayList lines = difLinesOf({u"cat|1"_s});
+        lines += difLinesOf({u"dog|2"_s}).mid(13);
         m_run->expectAdded(1);
         m_run->dif(joined(lines));
         QCOMPARE(gVocabList().NumWords().toInt(), 1);
@@ -192,11 +188,11 @@ private Q_SLOTS:
 
     void aValueLineThatIsTheEndMarkEndsTheData()
     {
-        QByteArrayList lines = difLinesOf({QStringLiteral("cat"), QStringLiteral("dog")}, "0,1");
+        QByteArrayList lines = difLinesOf({u"cat"_s, u"dog"_s}, "0,1");
         lines[15] = "EOD"; // the word "O"
         m_run->expectAdded(1);
         m_run->dif(joined(lines));
-        QCOMPARE(gImportWord, QStringLiteral("O"));
+        QCOMPARE(gImportWord, u"O"_s);
     }
 
     void lineEndsMayBeAnyOfThree_data()
@@ -210,12 +206,11 @@ private Q_SLOTS:
     void lineEndsMayBeAnyOfThree()
     {
         QFETCH(QByteArray, lineEnd);
-        const QByteArray bytes =
-            joined(difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")}), lineEnd);
+        const QByteArray bytes = joined(difLinesOf({u"cat|1"_s, u"dog|2"_s}), lineEnd);
         m_run->expectAdded(2);
         m_run->dif(bytes);
         QCOMPARE(gDifLines.size(), 26);
-        QCOMPARE(gDifLines(26), QStringLiteral("EOD"));
+        QCOMPARE(gDifLines(26), u"EOD"_s);
 
         gVocabList().ClearList();
         m_run->expectAdded(2);
@@ -225,21 +220,21 @@ private Q_SLOTS:
     void anEmptyFileKeepsTheLinesOfTheOneBefore()
     {
         m_run->expectAdded(1);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|1")})));
+        m_run->dif(joined(difLinesOf({u"cat|1"_s})));
         gVocabList().ClearList();
         m_run->expectAdded(1);
         m_run->dif(QByteArray());
-        QCOMPARE(gImportWord, QStringLiteral("cat"));
+        QCOMPARE(gImportWord, u"cat"_s);
         QCOMPARE(gVocabList().NumWords().toInt(), 1);
     }
 
     // The import of an empty file goes as far as the one before could have gone.
     void anEmptyFileKeepsTheLinesThatAnAbortLeftUnread()
     {
-        setOpenEntries({QStringLiteral("cat")});
-        expectQuestion(m_run->answers, QStringLiteral("cmdAbort"));
+        setOpenEntries({u"cat"_s});
+        expectQuestion(m_run->answers, u"cmdAbort"_s);
         m_run->expectAdded(0);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")})));
+        m_run->dif(joined(difLinesOf({u"cat|1"_s, u"dog|2"_s})));
         gVocabList().ClearList();
         m_run->expectAdded(2);
         m_run->dif(QByteArray());
@@ -248,17 +243,17 @@ private Q_SLOTS:
 
     void linesBehindTheEndAreNotKept()
     {
-        QByteArray bytes = joined(difLinesOf({QStringLiteral("cat|1")}));
+        QByteArray bytes = joined(difLinesOf({u"cat|1"_s}));
         bytes += QByteArray("more\r\n").repeated(1'000'000);
         m_run->expectAdded(1);
         m_run->dif(bytes);
         QCOMPARE(gDifLines.size(), 20);
-        QCOMPARE(gDifLines(20), QStringLiteral("EOD"));
+        QCOMPARE(gDifLines(20), u"EOD"_s);
     }
 
     void threeGigabytesWithoutALineAreASubscriptError()
     {
-        gFileName = m_run->path(QStringLiteral("video.dif"));
+        gFileName = m_run->path(u"video.dif"_s);
         writeFile(gFileName, {});
         QVERIFY(QFile::resize(gFileName, 3'000'000'000));
         int error = 0;
@@ -276,9 +271,9 @@ private Q_SLOTS:
     void aShorterFileLeavesNoLineOfALongerOneBefore()
     {
         m_run->expectAdded(2);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")})));
+        m_run->dif(joined(difLinesOf({u"cat|1"_s, u"dog|2"_s})));
         gVocabList().ClearList();
-        QCOMPARE(m_run->difError(joined(difLinesOf({QStringLiteral("cow|3")}).mid(0, 18))), 9);
+        QCOMPARE(m_run->difError(joined(difLinesOf({u"cow|3"_s}).mid(0, 18))), 9);
         QCOMPARE(gVocabList().NumWords().toInt(), 1);
         QCOMPARE(gDifLines.size(), 18);
     }
@@ -289,7 +284,7 @@ private Q_SLOTS:
         gImportCount = 5;
         gImportList().CurrentWord(9);
         m_run->expectAdded(1);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|1")})));
+        m_run->dif(joined(difLinesOf({u"cat|1"_s})));
         QCOMPARE(gVocabList().NumWords().toInt(), 1);
         QCOMPARE(gImportList().CurrentWord().toInt(), 1);
     }
@@ -300,15 +295,13 @@ private Q_SLOTS:
         for (int i = 1; i <= 31999; ++i)
             entries += QString::number(i);
         setOpenEntries(entries);
-        const QString full =
-            QStringLiteral("Cannot add any more words. Maximum number of words= 32000");
+        const QString full = u"Cannot add any more words. Maximum number of words= 32000"_s;
         m_run->answers.expectMsgBox(full);
         m_run->answers.expectMsgBox(full);
         m_run->expectAdded(3);
-        m_run->dif(joined(difLinesOf(
-            {QStringLiteral("cat|1"), QStringLiteral("dog|2"), QStringLiteral("cow|3")})));
+        m_run->dif(joined(difLinesOf({u"cat|1"_s, u"dog|2"_s, u"cow|3"_s})));
         QCOMPARE(gVocabList().NumWords().toInt(), 32000);
-        QCOMPARE(openEntries().constLast(), QStringLiteral("cat|1|old sentence"));
+        QCOMPARE(openEntries().constLast(), u"cat|1|old sentence"_s);
         QCOMPARE(gImportCount.toInt(), 3);
         QVERIFY(gChanged);
     }
@@ -316,7 +309,7 @@ private Q_SLOTS:
     void everyStepIsToldToWhoShowsProgress()
     {
         m_run->expectAdded(2);
-        m_run->dif(joined(difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")})));
+        m_run->dif(joined(difLinesOf({u"cat|1"_s, u"dog|2"_s})));
         QVERIFY(!m_run->progress.isEmpty());
         int before = 13;
         for (const QVariantList &step : std::as_const(m_run->progress)) {
@@ -332,7 +325,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<int>("error");
         QTest::addColumn<int>("kept"); // words added before it
-        const QByteArrayList good = difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")});
+        const QByteArrayList good = difLinesOf({u"cat|1"_s, u"dog|2"_s});
         const auto changed = [&good](int line, const QByteArray &text) {
             QByteArrayList lines = good;
             lines[line - 1] = text;
@@ -375,7 +368,7 @@ private Q_SLOTS:
     void aFileThatIsNotThereIsReported()
     {
         gAddThis = true;
-        gFileName = m_run->path(QStringLiteral("lost.dif"));
+        gFileName = m_run->path(u"lost.dif"_s);
         QVERIFY_THROWS_EXCEPTION(RunTimeError, m_run->import.ImportDif());
         QVERIFY(!QFile::exists(gFileName));
         QVERIFY(gAddThis); // it did not get as far as the flags
@@ -383,12 +376,12 @@ private Q_SLOTS:
 
     void anErrorLeavesTheFlagsOfThatMoment()
     {
-        setOpenEntries({QStringLiteral("cat")});
-        expectQuestion(m_run->answers, QStringLiteral("cmdYes"));
-        QByteArrayList lines = difLinesOf({QStringLiteral("cat|1"), QStringLiteral("dog|2")});
+        setOpenEntries({u"cat"_s});
+        expectQuestion(m_run->answers, u"cmdYes"_s);
+        QByteArrayList lines = difLinesOf({u"cat|1"_s, u"dog|2"_s});
         lines[21] = "V";
         QCOMPARE(m_run->difError(joined(lines)), 5);
-        QCOMPARE(flags(), QStringLiteral("Tase"));
+        QCOMPARE(flags(), u"Tase"_s);
         QCOMPARE(gVocabList().NumWords().toInt(), 2);
     }
 

@@ -4,17 +4,17 @@
 
 using namespace ImportTools;
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString ListIsFull =
-    QStringLiteral("Cannot add any more words. Maximum number of words= 32000");
+const QString ListIsFull = u"Cannot add any more words. Maximum number of words= 32000"_s;
 
 QStringList numbered(const char *word, int count)
 {
     QStringList entries;
     for (int i = 1; i <= count; ++i)
-        entries += QStringLiteral("%1 %2|d").arg(QLatin1String(word)).arg(i);
+        entries += u"%1 %2|d"_s.arg(QLatin1String(word)).arg(i);
     return entries;
 }
 
@@ -43,8 +43,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("words");
         QTest::addColumn<QString>("rest");
         QTest::newRow("3") << 3 << QString();
-        QTest::newRow("4") << 4 << QStringLiteral("1 more word has not been added.");
-        QTest::newRow("30000") << 30000 << QStringLiteral("29997 more words have not been added.");
+        QTest::newRow("4") << 4 << u"1 more word has not been added."_s;
+        QTest::newRow("30000") << 30000 << u"29997 more words have not been added."_s;
     }
 
     void threeMessagesAndOneMoreComeBeforeTheCount()
@@ -61,7 +61,7 @@ private Q_SLOTS:
     void eachMessageIsAPause()
     {
         const QSignalSpy paused(&m_run->import, &Import::paused);
-        expectRefusals(QStringLiteral("7 more words have not been added."));
+        expectRefusals(u"7 more words have not been added."_s);
         m_run->expectAdded(10);
         m_run->dif(joined(difLinesOf(numbered("new", 10))));
         QCOMPARE(paused.size(), 2 * 4 + 1); // the count ends the import
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void eachImportTellsAnew()
     {
         for (int time = 0; time < 2; ++time) {
-            expectRefusals(QStringLiteral("2 more words have not been added."));
+            expectRefusals(u"2 more words have not been added."_s);
             m_run->expectAdded(5);
             m_run->dif(joined(difLinesOf(numbered("new", 5))));
         }
@@ -79,7 +79,7 @@ private Q_SLOTS:
     // The last line, which ends the data, is missing.
     void anErrorComesAfterTheRest()
     {
-        expectRefusals(QStringLiteral("2 more words have not been added."));
+        expectRefusals(u"2 more words have not been added."_s);
         QByteArrayList lines = difLinesOf(numbered("new", 5));
         lines.removeLast();
         QCOMPARE(m_run->difError(joined(lines)), 9);

@@ -3,18 +3,19 @@
 
 using namespace ImportTools;
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString ExceedsMaximum =
-    QStringLiteral("Cannot import words because this will exceed maximum number of words. Maximum "
-                   "number of words=32000");
+    u"Cannot import words because this will exceed maximum number of words. Maximum "
+    "number of words=32000"_s;
 
 QStringList numbered(const char *word, int count)
 {
     QStringList entries;
     for (int i = 1; i <= count; ++i)
-        entries += QStringLiteral("%1 %2").arg(QLatin1String(word)).arg(i);
+        entries += u"%1 %2"_s.arg(QLatin1String(word)).arg(i);
     return entries;
 }
 
@@ -35,16 +36,14 @@ private Q_SLOTS:
 
     void newWordsAreAppendedAsTheyAre()
     {
-        setOpenEntries({QStringLiteral("dog|a pet|Dogs bark.")});
+        setOpenEntries({u"dog|a pet|Dogs bark."_s});
         gChanged = false;
         m_run->expectImported(3);
         m_run->wordList(
-            listFile({QStringLiteral("zebra| striped |A zebra."), QStringLiteral(" cat "),
-                      QStringLiteral("caf\u00E9||One\r\ntwo")}));
+            listFile({u"zebra| striped |A zebra."_s, u" cat "_s, u"caf\u00E9||One\r\ntwo"_s}));
         QCOMPARE(openEntries(),
-                 (QStringList{QStringLiteral("dog|a pet|Dogs bark."),
-                              QStringLiteral("zebra| striped |A zebra."), QStringLiteral(" cat "),
-                              QStringLiteral("caf\u00E9||One\r\ntwo")}));
+                 (QStringList{u"dog|a pet|Dogs bark."_s, u"zebra| striped |A zebra."_s, u" cat "_s,
+                              u"caf\u00E9||One\r\ntwo"_s}));
         QVERIFY(gChanged);
         QCOMPARE(gImportCount.toInt(), 3);
         QCOMPARE(m_run->changed.size(), 1);
@@ -55,37 +54,32 @@ private Q_SLOTS:
     {
         gVocabList().ClearList();
         m_run->expectImported(2);
-        m_run->wordList(listFile({QStringLiteral("cat"), QStringLiteral("dog")}));
-        QCOMPARE(openEntries(), (QStringList{QStringLiteral("cat"), QStringLiteral("dog")}));
+        m_run->wordList(listFile({u"cat"_s, u"dog"_s}));
+        QCOMPARE(openEntries(), (QStringList{u"cat"_s, u"dog"_s}));
     }
 
     void theMessageComesWhenAllIsAdded()
     {
-        m_run->answers.expectMsgBox(QStringLiteral("2 words imported"), QMessageBox::Ok,
-                                    [this](QMessageBox &) {
-                                        QCOMPARE(gVocabList().NumWords().toInt(), 2);
-                                        QCOMPARE(m_run->changed.size(), 1);
-                                    });
-        m_run->wordList(listFile({QStringLiteral("cat"), QStringLiteral("dog")}));
+        m_run->answers.expectMsgBox(u"2 words imported"_s, QMessageBox::Ok, [this](QMessageBox &) {
+            QCOMPARE(gVocabList().NumWords().toInt(), 2);
+            QCOMPARE(m_run->changed.size(), 1);
+        });
+        m_run->wordList(listFile({u"cat"_s, u"dog"_s}));
     }
 
     void entriesWithoutAWordAreSkippedAndNotCounted()
     {
         m_run->expectImported(3);
-        m_run->wordList(listFile({QStringLiteral("|lost"), QStringLiteral("cat"), QString(),
-                                  QStringLiteral(" |a blank"), QStringLiteral("||Nothing."),
-                                  QStringLiteral("dog"), QString()}));
-        QCOMPARE(openEntries(), (QStringList{QStringLiteral("cat"), QStringLiteral(" |a blank"),
-                                             QStringLiteral("dog")}));
+        m_run->wordList(listFile({u"|lost"_s, u"cat"_s, QString(), u" |a blank"_s, u"||Nothing."_s,
+                                  u"dog"_s, QString()}));
+        QCOMPARE(openEntries(), (QStringList{u"cat"_s, u" |a blank"_s, u"dog"_s}));
     }
 
     void whatIsImportedLastIsInTheGlobals()
     {
         m_run->expectImported(2);
-        m_run->wordList(
-            listFile({QStringLiteral("cat|1|2"), QStringLiteral("dog|3|4"), QString()}));
-        QCOMPARE((QStringList{gImportWord, gImportDef, gImportSen}),
-                 parts(QStringLiteral("dog|3|4")));
+        m_run->wordList(listFile({u"cat|1|2"_s, u"dog|3|4"_s, QString()}));
+        QCOMPARE((QStringList{gImportWord, gImportDef, gImportSen}), parts(u"dog|3|4"_s));
         QCOMPARE(gImportList().CurrentWord().toInt(), 4);
     }
 
@@ -100,121 +94,119 @@ private Q_SLOTS:
 
     void withoutANewWordThereIsNothingToSave()
     {
-        setOpenEntries({QStringLiteral("cat")});
+        setOpenEntries({u"cat"_s});
         gChanged = true;
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"));
+        expectQuestion(m_run->answers, u"cmdNo"_s);
         m_run->expectImported(0);
-        m_run->wordList(listFile({QStringLiteral("cat")}));
+        m_run->wordList(listFile({u"cat"_s}));
         QVERIFY(!gChanged);
         QCOMPARE(m_run->changed.size(), 0);
     }
 
     void anUpdateInTheDialogIsSomethingToSave()
     {
-        setOpenEntries({QStringLiteral("cat")});
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"), [this](QDialog &form) {
-            giveAnswer(form, QStringLiteral("cmdAllowModify"));
+        setOpenEntries({u"cat"_s});
+        expectQuestion(m_run->answers, u"cmdNo"_s, [this](QDialog &form) {
+            giveAnswer(form, u"cmdAllowModify"_s);
             m_run->answers.expectMsgBox(
-                QStringLiteral("Are you sure you want to change the content of this word?"));
+                u"Are you sure you want to change the content of this word?"_s);
             m_run->expectImported(0);
-            giveAnswer(form, QStringLiteral("cmdUpdate"));
+            giveAnswer(form, u"cmdUpdate"_s);
         });
-        m_run->wordList(listFile({QStringLiteral("cat")}));
+        m_run->wordList(listFile({u"cat"_s}));
         QVERIFY(gChanged);
         QCOMPARE(m_run->changed.size(), 1);
     }
 
     void withoutAFileNameItEndsSilently()
     {
-        setOpenEntries({QStringLiteral("cat")});
+        setOpenEntries({u"cat"_s});
         gFileName.clear();
         gAddThis = gAddAll = gSkipAll = gStopImport = true;
         gImportCount = 7;
         m_run->import.ImportWordList();
-        QCOMPARE(openEntries(), QStringList{QStringLiteral("cat")});
-        QCOMPARE(flags(), QStringLiteral("tase"));
+        QCOMPARE(openEntries(), QStringList{u"cat"_s});
+        QCOMPARE(flags(), u"tase"_s);
         QCOMPARE(gImportCount.toInt(), 0);
         QCOMPARE(m_run->answers.seen(), 0);
     }
 
     void theFlagsOfTheImportBeforeDoNotMatter()
     {
-        setOpenEntries({QStringLiteral("cat")});
+        setOpenEntries({u"cat"_s});
         gAddThis = gAddAll = gSkipAll = gStopImport = true;
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"));
+        expectQuestion(m_run->answers, u"cmdNo"_s);
         m_run->expectImported(1);
-        m_run->wordList(listFile({QStringLiteral("cat"), QStringLiteral("dog")}));
-        QCOMPARE(openEntries(), (QStringList{QStringLiteral("cat"), QStringLiteral("dog")}));
+        m_run->wordList(listFile({u"cat"_s, u"dog"_s}));
+        QCOMPARE(openEntries(), (QStringList{u"cat"_s, u"dog"_s}));
     }
 
     void theFlagsAfterwards_data()
     {
         QTest::addColumn<QString>("answer");
         QTest::addColumn<QString>("flags");
-        QTest::newRow("cmdYes") << QStringLiteral("cmdYes") << QStringLiteral("tase");
-        QTest::newRow("cmdNo") << QStringLiteral("cmdNo") << QStringLiteral("tase");
-        QTest::newRow("cmdYesToAll") << QStringLiteral("cmdYesToAll") << QStringLiteral("tase");
-        QTest::newRow("cmdNoToAll") << QStringLiteral("cmdNoToAll") << QStringLiteral("taSe");
-        QTest::newRow("cmdAbort") << QStringLiteral("cmdAbort") << QStringLiteral("tasE");
-        QTest::newRow(Close) << QString::fromLatin1(Close) << QStringLiteral("tase");
+        QTest::newRow("cmdYes") << u"cmdYes"_s << u"tase"_s;
+        QTest::newRow("cmdNo") << u"cmdNo"_s << u"tase"_s;
+        QTest::newRow("cmdYesToAll") << u"cmdYesToAll"_s << u"tase"_s;
+        QTest::newRow("cmdNoToAll") << u"cmdNoToAll"_s << u"taSe"_s;
+        QTest::newRow("cmdAbort") << u"cmdAbort"_s << u"tasE"_s;
+        QTest::newRow(Close) << QString::fromLatin1(Close) << u"tase"_s;
     }
 
     void theFlagsAfterwards()
     {
         QFETCH(QString, answer);
-        setOpenEntries({QStringLiteral("cat")});
+        setOpenEntries({u"cat"_s});
         expectQuestion(m_run->answers, answer);
         m_run->answers.expectAnyMsgBox(QMessageBox::Ok, [](QMessageBox &box) {
-            QVERIFY(box.text().endsWith(QStringLiteral(" words imported")));
+            QVERIFY(box.text().endsWith(u" words imported"_s));
         });
-        m_run->wordList(listFile({QStringLiteral("cat")}));
+        m_run->wordList(listFile({u"cat"_s}));
         QTEST(flags(), "flags");
     }
 
     void aWordIsLookedUpWholeAndRegardlessOfCase()
     {
-        setOpenEntries(
-            {QStringLiteral("cats"), QStringLiteral("a cat"), QStringLiteral("\u00C9T\u00C9")});
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"), [](QDialog &) {
-            QCOMPARE(gImportWord, QStringLiteral("\u00E9t\u00E9"));
+        setOpenEntries({u"cats"_s, u"a cat"_s, u"\u00C9T\u00C9"_s});
+        expectQuestion(m_run->answers, u"cmdNo"_s, [](QDialog &) {
+            QCOMPARE(gImportWord, u"\u00E9t\u00E9"_s);
             QCOMPARE(gVocabList().CurrentWord().toInt(), 3);
         });
         m_run->expectImported(2);
-        m_run->wordList(listFile(
-            {QStringLiteral("cat"), QStringLiteral("\u00E9t\u00E9"), QStringLiteral("ca")}));
-        QCOMPARE(openEntries().mid(3), (QStringList{QStringLiteral("cat"), QStringLiteral("ca")}));
+        m_run->wordList(listFile({u"cat"_s, u"\u00E9t\u00E9"_s, u"ca"_s}));
+        QCOMPARE(openEntries().mid(3), (QStringList{u"cat"_s, u"ca"_s}));
     }
 
     void aWordThatComesTwiceConflictsWithItself()
     {
-        expectQuestion(m_run->answers, QStringLiteral("cmdYes"),
+        expectQuestion(m_run->answers, u"cmdYes"_s,
                        [](QDialog &) { QCOMPARE(gVocabList().CurrentWord().toInt(), 1); });
         m_run->expectImported(2);
-        m_run->wordList(listFile({QStringLiteral("cat|1"), QStringLiteral("CAT|2")}));
-        QCOMPARE(openEntries(), (QStringList{QStringLiteral("cat|1"), QStringLiteral("CAT|2")}));
+        m_run->wordList(listFile({u"cat|1"_s, u"CAT|2"_s}));
+        QCOMPARE(openEntries(), (QStringList{u"cat|1"_s, u"CAT|2"_s}));
     }
 
     void theFirstOfSeveralMatchesIsShown()
     {
-        setOpenEntries({QStringLiteral("dog"), QStringLiteral("cat|1"), QStringLiteral("cat|2")});
+        setOpenEntries({u"dog"_s, u"cat|1"_s, u"cat|2"_s});
         gVocabList().CurrentWord(3);
-        expectQuestion(m_run->answers, QStringLiteral("cmdNo"),
+        expectQuestion(m_run->answers, u"cmdNo"_s,
                        [](QDialog &) { QCOMPARE(gVocabList().CurrentWord().toInt(), 2); });
         m_run->expectImported(0);
-        m_run->wordList(listFile({QStringLiteral("cat")}));
+        m_run->wordList(listFile({u"cat"_s}));
     }
 
     void deleteAndYesReplaceTheEntryAtTheEndOfTheList()
     {
-        setOpenEntries({QStringLiteral("cat|old"), QStringLiteral("dog")});
-        expectQuestion(m_run->answers, QStringLiteral("cmdYes"), [this](QDialog &form) {
-            m_run->answers.expectMsgBox(QStringLiteral("Are you sure you want to delete 'cat' ?"),
+        setOpenEntries({u"cat|old"_s, u"dog"_s});
+        expectQuestion(m_run->answers, u"cmdYes"_s, [this](QDialog &form) {
+            m_run->answers.expectMsgBox(u"Are you sure you want to delete 'cat' ?"_s,
                                         QMessageBox::Yes);
             m_run->expectImported(1);
-            giveAnswer(form, QStringLiteral("cmdDelete"));
+            giveAnswer(form, u"cmdDelete"_s);
         });
-        m_run->wordList(listFile({QStringLiteral("cat|new")}));
-        QCOMPARE(openEntries(), (QStringList{QStringLiteral("dog"), QStringLiteral("cat|new")}));
+        m_run->wordList(listFile({u"cat|new"_s}));
+        QCOMPARE(openEntries(), (QStringList{u"dog"_s, u"cat|new"_s}));
     }
 
     void aListThatWouldGrowBeyondTheMaximumTakesNothing_data()
@@ -245,12 +237,12 @@ private Q_SLOTS:
     // Only a file can make such a list.
     void aListBeyondTheMaximumTakesNothing()
     {
-        gFileName = m_run->path(QStringLiteral("large.lwx"));
+        gFileName = m_run->path(u"large.lwx"_s);
         writeFile(gFileName, listFile(numbered("word", 32001)));
         QVERIFY(gVocabList().OpenFile());
         m_run->answers.expectMsgBox(
-            QStringLiteral("Cannot import any more words. Maximum number of words=32000"));
-        m_run->wordList(listFile({QStringLiteral("cat")}));
+            u"Cannot import any more words. Maximum number of words=32000"_s);
+        m_run->wordList(listFile({u"cat"_s}));
         QCOMPARE(gVocabList().NumWords().toInt(), 32001);
         QCOMPARE(gImportCount.toInt(), 0);
     }
@@ -273,17 +265,17 @@ private Q_SLOTS:
 
     void aFileThatCannotBeReadIsReportedAndAddsNothing()
     {
-        setOpenEntries({QStringLiteral("cat")});
-        gFileName = m_run->path(QStringLiteral("broken.lwx"));
+        setOpenEntries({u"cat"_s});
+        gFileName = m_run->path(u"broken.lwx"_s);
         writeFile(gFileName, QByteArray("\xFF\xFF", 2)); // -1 words
         QVERIFY_THROWS_EXCEPTION(RunTimeError, m_run->import.ImportWordList());
-        QCOMPARE(openEntries(), QStringList{QStringLiteral("cat")});
+        QCOMPARE(openEntries(), QStringList{u"cat"_s});
     }
 
     void everyStepIsToldToWhoShowsProgress()
     {
         m_run->expectImported(2);
-        m_run->wordList(listFile({QStringLiteral("cat"), QString(), QStringLiteral("dog")}));
+        m_run->wordList(listFile({u"cat"_s, QString(), u"dog"_s}));
         QCOMPARE(m_run->progress.size(), 3);
         for (int i = 0; i < 3; ++i)
             QCOMPARE(m_run->progress.at(i), (QVariantList{i + 1, 3}));

@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 // Found by a look into the open dialog.
 struct WordExistForm
 {
@@ -44,8 +46,8 @@ struct WordExistForm
         const bool definition = Controls::find<EntryTextBox>(form, "txtCurDef").isReadOnly();
         const bool sentence = Controls::find<EntryTextBox>(form, "txtCurSen").isReadOnly();
         if (word != definition || word != sentence)
-            Controls::fail(QStringLiteral("the boxes are locked in part"));
-        QStringList state{word ? QStringLiteral("locked") : QStringLiteral("unlocked")};
+            Controls::fail(u"the boxes are locked in part"_s);
+        QStringList state{word ? u"locked"_s : u"unlocked"_s};
         for (const char *name : {"cmdAllowModify", "cmdUpdate", "cmdDelete"})
             if (button(name).isEnabled())
                 state += button(name).text();
@@ -72,11 +74,11 @@ private:
 // What state() says of an entry that is on show, locked or not, and of one that nobody has seen.
 inline QStringList shownLocked()
 {
-    return {QStringLiteral("locked"), QStringLiteral("Allow Modify"), QStringLiteral("Delete")};
+    return {u"locked"_s, u"Allow Modify"_s, u"Delete"_s};
 }
 inline QStringList shownUnlocked()
 {
-    return {QStringLiteral("unlocked"), QStringLiteral("Update changes"), QStringLiteral("Delete")};
+    return {u"unlocked"_s, u"Update changes"_s, u"Delete"_s};
 }
 
 class WordExistQuestion final
@@ -96,14 +98,14 @@ public:
     int ask(DialogAnswers &answers, const std::function<void(const WordExistForm &)> &use)
     {
         if (!Module1::gVocabList().Exist(Module1::gImportWord, 1))
-            Controls::fail(QStringLiteral("no conflict"));
+            Controls::fail(u"no conflict"_s);
         answers.useForm("dlgWordExist", [use](QDialog &dialog) { use(WordExistForm(dialog)); });
         dlgWordExist dialog;
         int refreshed = 0;
         QObject::connect(&dialog, &dlgWordExist::refresh, &dialog, [&] {
             ++refreshed;
             if (dialog.isVisible())
-                Controls::fail(QStringLiteral("refreshed before the dialog is gone"));
+                Controls::fail(u"refreshed before the dialog is gone"_s);
         });
         dialog.exec();
         return refreshed;

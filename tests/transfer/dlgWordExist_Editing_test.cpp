@@ -3,13 +3,13 @@
 
 using namespace ImportTools;
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString SureToChange =
-    QStringLiteral("Are you sure you want to change the content of this word?");
-const QString SureToDelete = QStringLiteral("Are you sure you want to delete 'CAT' ?");
-const QString SearchEnded = QStringLiteral("Search ended. No more words found.");
+const QString SureToChange = u"Are you sure you want to change the content of this word?"_s;
+const QString SureToDelete = u"Are you sure you want to delete 'CAT' ?"_s;
+const QString SearchEnded = u"Search ended. No more words found."_s;
 
 QStringList unseen(const QString &locked)
 {
@@ -42,12 +42,12 @@ private Q_SLOTS:
         ask([this](const WordExistForm &form) {
             const QStringList before = form.existing();
             for (const char *box : {"txtCurWord", "txtCurDef", "txtCurSen"})
-                form.type(box, QStringLiteral("x"));
+                form.type(box, u"x"_s);
             QCOMPARE(form.existing(), before);
             form.click("cmdAllowModify");
             QCOMPARE(form.state(), shownUnlocked());
-            form.type("txtCurWord", QStringLiteral("x"));
-            QCOMPARE(form.existing().constFirst(), QStringLiteral("x"));
+            form.type("txtCurWord", u"x"_s);
+            QCOMPARE(form.existing().constFirst(), u"x"_s);
             form.close();
         });
         QCOMPARE(openEntries(), m_entries); // typed, not updated
@@ -78,7 +78,7 @@ private Q_SLOTS:
     {
         ask([this](const WordExistForm &form) {
             form.click("cmdAllowModify");
-            form.type("txtCurDef", QStringLiteral("a pet"));
+            form.type("txtCurDef", u"a pet"_s);
             m_answers->expectMsgBox(SureToChange, QMessageBox::Cancel);
             Controls::press(Qt::Key_Return);
             QVERIFY(form.form.isVisible());
@@ -91,9 +91,9 @@ private Q_SLOTS:
     {
         ask([this](const WordExistForm &form) {
             form.click("cmdAllowModify");
-            form.type("txtCurWord", QStringLiteral(" cat "));
-            form.type("txtCurDef", QStringLiteral("   a  small animal"));
-            form.type("txtCurSen", QStringLiteral("Cats sleep.  "));
+            form.type("txtCurWord", u" cat "_s);
+            form.type("txtCurDef", u"   a  small animal"_s);
+            form.type("txtCurSen", u"Cats sleep.  "_s);
             m_answers->expectMsgBox(SureToChange, QMessageBox::Ok, [](QMessageBox &box) {
                 QCOMPARE(box.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
             });
@@ -101,11 +101,11 @@ private Q_SLOTS:
             QVERIFY(form.form.isVisible());
             QCOMPARE(form.state(), shownUnlocked());
             QVERIFY(gChanged);
-            QCOMPARE(entry(2), QStringLiteral("cat|a  small animal|Cats sleep."));
+            QCOMPARE(entry(2), u"cat|a  small animal|Cats sleep."_s);
             form.close();
         });
         QStringList expected = m_entries;
-        expected[1] = QStringLiteral("cat|a  small animal|Cats sleep.");
+        expected[1] = u"cat|a  small animal|Cats sleep."_s;
         QCOMPARE(openEntries(), expected);
     }
 
@@ -113,13 +113,13 @@ private Q_SLOTS:
     {
         ask([this](const WordExistForm &form) {
             form.click("cmdAllowModify");
-            form.type("txtCurWord", QStringLiteral("tomcat"));
+            form.type("txtCurWord", u"tomcat"_s);
             m_answers->expectMsgBox(SureToChange, QMessageBox::Cancel);
             form.click("cmdUpdate");
             QVERIFY(form.form.isVisible());
             QCOMPARE(form.state(), shownUnlocked());
             // What was typed stays, so that it can still be stored.
-            QCOMPARE(form.existing().constFirst(), QStringLiteral("tomcat"));
+            QCOMPARE(form.existing().constFirst(), u"tomcat"_s);
             form.close();
         });
         QCOMPARE(openEntries(), m_entries);
@@ -130,7 +130,7 @@ private Q_SLOTS:
     {
         ask([this](const WordExistForm &form) {
             form.click("cmdAllowModify");
-            for (const QString &word : {QStringLiteral("tom"), QString(), QStringLiteral("tib")}) {
+            for (const QString &word : {u"tom"_s, QString(), u"tib"_s}) {
                 form.type("txtCurWord", word);
                 m_answers->expectMsgBox(SureToChange, QMessageBox::Ok);
                 form.click("cmdUpdate");
@@ -138,21 +138,20 @@ private Q_SLOTS:
             }
             form.click("cmdNo");
         });
-        QCOMPARE(parts(entry(2)).constFirst(), QStringLiteral("tib"));
+        QCOMPARE(parts(entry(2)).constFirst(), u"tib"_s);
     }
 
     void updateKeepsTheLinesOfATextThatWasNotTouched()
     {
-        setOpenEntries({QStringLiteral("cat|one\r\ntwo|\u201CThree\u201D\r\n\r\nfour")});
+        setOpenEntries({u"cat|one\r\ntwo|\u201CThree\u201D\r\n\r\nfour"_s});
         ask([this](const WordExistForm &form) {
             form.click("cmdAllowModify");
-            form.type("txtCurWord", QStringLiteral("cats"));
+            form.type("txtCurWord", u"cats"_s);
             m_answers->expectMsgBox(SureToChange, QMessageBox::Ok);
             form.click("cmdUpdate");
             form.close();
         });
-        QCOMPARE(openEntries(),
-                 QStringList{QStringLiteral("cats|one\r\ntwo|\u201CThree\u201D\r\n\r\nfour")});
+        QCOMPARE(openEntries(), QStringList{u"cats|one\r\ntwo|\u201CThree\u201D\r\n\r\nfour"_s});
     }
 
     void deleteNamesTheIncomingWordAndTakesTheExistingEntryOut()
@@ -190,13 +189,13 @@ private Q_SLOTS:
 
     void deletingTheOnlyEntryLeavesAnEmptyList()
     {
-        setOpenEntries({QStringLiteral("cat|an animal")});
+        setOpenEntries({u"cat|an animal"_s});
         ask([this](const WordExistForm &form) {
             m_answers->expectMsgBox(SureToDelete, QMessageBox::Yes);
             form.click("cmdDelete");
             m_answers->expectMsgBox(SearchEnded);
             form.click("cmdFindNext");
-            QCOMPARE(form.state(), unseen(QStringLiteral("locked")));
+            QCOMPARE(form.state(), unseen(u"locked"_s));
             form.click("cmdYes");
         });
         QCOMPARE(openEntries(), QStringList());
@@ -206,17 +205,17 @@ private Q_SLOTS:
     {
         ask([this](const WordExistForm &form) {
             form.click("cmdFindNext");
-            QCOMPARE(form.frame(), QStringLiteral("Current word: 4"));
-            QCOMPARE(form.existing(), parts(QStringLiteral("Cat|a whip")));
+            QCOMPARE(form.frame(), u"Current word: 4"_s);
+            QCOMPARE(form.existing(), parts(u"Cat|a whip"_s));
             QCOMPARE(form.state(), shownLocked());
             QCOMPARE(gVocabList().CurrentWord().toInt(), 4);
             // The question and the incoming entry are still the same.
-            QCOMPARE(form.question(), QStringLiteral("'cat' already exist. Add anyway?"));
-            QCOMPARE(form.incoming(), parts(QStringLiteral("CAT|a pet|My cat is black.")));
+            QCOMPARE(form.question(), u"'cat' already exist. Add anyway?"_s);
+            QCOMPARE(form.incoming(), parts(u"CAT|a pet|My cat is black."_s));
 
             form.click("cmdFindNext");
-            QCOMPARE(form.frame(), QStringLiteral("Current word: 5"));
-            QCOMPARE(form.existing(), parts(QStringLiteral("caT|a boat|We sailed the cat.")));
+            QCOMPARE(form.frame(), u"Current word: 5"_s);
+            QCOMPARE(form.existing(), parts(u"caT|a boat|We sailed the cat."_s));
             form.close();
         });
         QCOMPARE(openEntries(), m_entries);
@@ -232,8 +231,8 @@ private Q_SLOTS:
                     QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
                 });
                 form.click("cmdFindNext");
-                QCOMPARE(form.frame(), QStringLiteral("Current word: 5"));
-                QCOMPARE(form.existing(), parts(QStringLiteral("caT|a boat|We sailed the cat.")));
+                QCOMPARE(form.frame(), u"Current word: 5"_s);
+                QCOMPARE(form.existing(), parts(u"caT|a boat|We sailed the cat."_s));
                 QCOMPARE(gVocabList().CurrentWord().toInt(), 5);
             }
             form.close();
@@ -242,13 +241,12 @@ private Q_SLOTS:
 
     void findNextWithASingleMatchKeepsTheFirst()
     {
-        setOpenEntries({QStringLiteral("dog"), QStringLiteral("cat|an animal"),
-                        QStringLiteral("cats"), QStringLiteral("a cat")});
+        setOpenEntries({u"dog"_s, u"cat|an animal"_s, u"cats"_s, u"a cat"_s});
         ask([this](const WordExistForm &form) {
             m_answers->expectMsgBox(SearchEnded);
             form.click("cmdFindNext");
-            QCOMPARE(form.frame(), QStringLiteral("Word in current wordlist: 2"));
-            QCOMPARE(form.existing(), parts(QStringLiteral("cat|an animal")));
+            QCOMPARE(form.frame(), u"Word in current wordlist: 2"_s);
+            QCOMPARE(form.existing(), parts(u"cat|an animal"_s));
             QCOMPARE(form.state(), shownLocked());
             QCOMPARE(gVocabList().CurrentWord().toInt(), 2);
             form.close();
@@ -261,14 +259,14 @@ private Q_SLOTS:
             form.click("cmdAllowModify");
             form.click("cmdFindNext");
             QCOMPARE(form.state(), shownUnlocked());
-            QCOMPARE(form.existing(), parts(QStringLiteral("Cat|a whip")));
-            form.type("txtCurDef", QStringLiteral("a rope"));
+            QCOMPARE(form.existing(), parts(u"Cat|a whip"_s));
+            form.type("txtCurDef", u"a rope"_s);
             m_answers->expectMsgBox(SureToChange, QMessageBox::Ok);
             form.click("cmdUpdate");
             form.close();
         });
         QStringList expected = m_entries;
-        expected[3] = QStringLiteral("Cat|a rope"); // the one found, not the first
+        expected[3] = u"Cat|a rope"_s; // the one found, not the first
         QCOMPARE(openEntries(), expected);
     }
 
@@ -296,7 +294,7 @@ private Q_SLOTS:
     void afterADeletionNothingCanBeEditedUntilAnEntryIsShown()
     {
         QFETCH(bool, unlocked);
-        const QString lock = unlocked ? QStringLiteral("unlocked") : QStringLiteral("locked");
+        const QString lock = unlocked ? u"unlocked"_s : u"locked"_s;
         ask([this, unlocked, lock](const WordExistForm &form) {
             if (unlocked)
                 form.click("cmdAllowModify");
@@ -306,14 +304,14 @@ private Q_SLOTS:
             QVERIFY(form.button("cmdFindNext").isEnabled());
 
             form.click("cmdFindNext");
-            QCOMPARE(form.frame(), QStringLiteral("Current word: 3"));
-            QCOMPARE(form.existing(), parts(QStringLiteral("Cat|a whip")));
+            QCOMPARE(form.frame(), u"Current word: 3"_s);
+            QCOMPARE(form.existing(), parts(u"Cat|a whip"_s));
             QCOMPARE(form.state(), unlocked ? shownUnlocked() : shownLocked());
 
             m_answers->expectMsgBox(SureToDelete, QMessageBox::Yes);
             form.click("cmdDelete");
             form.click("cmdFindNext");
-            QCOMPARE(form.frame(), QStringLiteral("Current word: 3"));
+            QCOMPARE(form.frame(), u"Current word: 3"_s);
             m_answers->expectMsgBox(SureToDelete, QMessageBox::Yes);
             form.click("cmdDelete");
             m_answers->expectMsgBox(SearchEnded);
@@ -328,13 +326,13 @@ private Q_SLOTS:
     // Deleting the first entry keeps position 1, and the search goes on behind it.
     void afterDeletingTheFirstEntryTheOneInItsPlaceIsPassedOver()
     {
-        setOpenEntries({QStringLiteral("cat|1"), QStringLiteral("cat|2"), QStringLiteral("cat|3")});
+        setOpenEntries({u"cat|1"_s, u"cat|2"_s, u"cat|3"_s});
         ask([this](const WordExistForm &form) {
             m_answers->expectMsgBox(SureToDelete, QMessageBox::Yes);
             form.click("cmdDelete");
             form.click("cmdFindNext");
-            QCOMPARE(form.frame(), QStringLiteral("Current word: 2"));
-            QCOMPARE(form.existing(), parts(QStringLiteral("cat|3")));
+            QCOMPARE(form.frame(), u"Current word: 2"_s);
+            QCOMPARE(form.existing(), parts(u"cat|3"_s));
             form.close();
         });
     }
@@ -342,15 +340,14 @@ private Q_SLOTS:
 private:
     void ask(const std::function<void(const WordExistForm &)> &use)
     {
-        WordExistQuestion(QStringLiteral("CAT|a pet|My cat is black.")).ask(*m_answers, use);
+        WordExistQuestion(u"CAT|a pet|My cat is black."_s).ask(*m_answers, use);
     }
 
     [[nodiscard]] static QString entry(int position) { return openEntries().at(position - 1); }
 
-    const QStringList m_entries{QStringLiteral("dog|a pet"),
-                                QStringLiteral("cat|an animal|The cat sleeps."),
-                                QStringLiteral("cow|gives milk"), QStringLiteral("Cat|a whip"),
-                                QStringLiteral("caT|a boat|We sailed the cat.")};
+    const QStringList m_entries{u"dog|a pet"_s, u"cat|an animal|The cat sleeps."_s,
+                                u"cow|gives milk"_s, u"Cat|a whip"_s,
+                                u"caT|a boat|We sailed the cat."_s};
     std::unique_ptr<FreshState> m_state;
     std::unique_ptr<DialogAnswers> m_answers;
 };

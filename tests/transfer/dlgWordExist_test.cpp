@@ -3,6 +3,7 @@
 
 using namespace ImportTools;
 using namespace Module1;
+using namespace Qt::StringLiterals;
 
 class dlgWordExist_test final : public QObject
 {
@@ -26,19 +27,19 @@ private Q_SLOTS:
     void theControlsBearTheirCaptions()
     {
         ask([](const WordExistForm &form) {
-            QCOMPARE(form.form.windowTitle(), QStringLiteral("Word already existed"));
+            QCOMPARE(form.form.windowTitle(), u"Word already existed"_s);
             QCOMPARE(Controls::find<QGroupBox>(form.form, "Frame2").title(),
-                     QStringLiteral("Add this word to current wordlist"));
+                     u"Add this word to current wordlist"_s);
             const QList<std::pair<const char *, QString>> captions{
-                {"cmdYes", QStringLiteral("&Yes")},
-                {"cmdNo", QStringLiteral("&No")},
-                {"cmdYesToAll", QStringLiteral("Y&es To All")},
-                {"cmdNoToAll", QStringLiteral("N&o To All")},
-                {"cmdAbort", QStringLiteral("&Abort")},
-                {"cmdFindNext", QStringLiteral("Find Next")},
-                {"cmdAllowModify", QStringLiteral("Allow Modify")},
-                {"cmdUpdate", QStringLiteral("Update changes")},
-                {"cmdDelete", QStringLiteral("Delete")}};
+                {"cmdYes", u"&Yes"_s},
+                {"cmdNo", u"&No"_s},
+                {"cmdYesToAll", u"Y&es To All"_s},
+                {"cmdNoToAll", u"N&o To All"_s},
+                {"cmdAbort", u"&Abort"_s},
+                {"cmdFindNext", u"Find Next"_s},
+                {"cmdAllowModify", u"Allow Modify"_s},
+                {"cmdUpdate", u"Update changes"_s},
+                {"cmdDelete", u"Delete"_s}};
             for (const auto &[name, caption] : captions) {
                 QCOMPARE(form.button(name).text(), caption);
                 QVERIFY(form.button(name).isVisible());
@@ -50,10 +51,10 @@ private Q_SLOTS:
     void theIncomingEntryStandsBesideTheExistingOne()
     {
         ask([](const WordExistForm &form) {
-            QCOMPARE(form.question(), QStringLiteral("'cat' already exist. Add anyway?"));
-            QCOMPARE(form.frame(), QStringLiteral("Word in current wordlist: 2"));
-            QCOMPARE(form.existing(), parts(QStringLiteral("cat|an animal|The cat sleeps.")));
-            QCOMPARE(form.incoming(), parts(QStringLiteral("CAT|a pet|My cat is black.")));
+            QCOMPARE(form.question(), u"'cat' already exist. Add anyway?"_s);
+            QCOMPARE(form.frame(), u"Word in current wordlist: 2"_s);
+            QCOMPARE(form.existing(), parts(u"cat|an animal|The cat sleeps."_s));
+            QCOMPARE(form.incoming(), parts(u"CAT|a pet|My cat is black."_s));
             QCOMPARE(form.state(), shownLocked());
             QVERIFY(form.button("cmdFindNext").isEnabled());
             form.close();
@@ -64,22 +65,21 @@ private Q_SLOTS:
     {
         QStringList entries;
         for (int i = 1; i <= 12; ++i)
-            entries += QStringLiteral("word %1").arg(i);
+            entries += u"word %1"_s.arg(i);
         setOpenEntries(entries);
-        WordExistQuestion(QStringLiteral("word 12")).ask(*m_answers, [](const WordExistForm &form) {
-            QCOMPARE(form.frame(), QStringLiteral("Word in current wordlist: 12"));
+        WordExistQuestion(u"word 12"_s).ask(*m_answers, [](const WordExistForm &form) {
+            QCOMPARE(form.frame(), u"Word in current wordlist: 12"_s);
             form.close();
         });
     }
 
     void textsAreShownAsTheyAre()
     {
-        const QString word = QStringLiteral("<b>R&D</b> \u00E9");
-        const QString entry = word + QStringLiteral("| two\r\nlines |\ttab");
+        const QString word = u"<b>R&D</b> \u00E9"_s;
+        const QString entry = word + u"| two\r\nlines |\ttab"_s;
         setOpenEntries({entry});
         WordExistQuestion(entry).ask(*m_answers, [&](const WordExistForm &form) {
-            QCOMPARE(form.question(),
-                     QLatin1Char('\'') + word + QStringLiteral("' already exist. Add anyway?"));
+            QCOMPARE(form.question(), u'\'' + word + u"' already exist. Add anyway?"_s);
             QCOMPARE(form.existing(), parts(entry));
             QCOMPARE(form.incoming(), parts(entry));
             QCOMPARE(Controls::find<QLabel>(form.form, "lblWordExist").textFormat(), Qt::PlainText);
@@ -113,7 +113,7 @@ private Q_SLOTS:
             gAddThis = gAddAll = gSkipAll = gStopImport = before;
             const int refreshes = ask([&](const WordExistForm &form) {
                 // Opening cleared these two and left the others.
-                QCOMPARE(flags(), before ? QStringLiteral("taSE") : QStringLiteral("tase"));
+                QCOMPARE(flags(), before ? u"taSE"_s : u"tase"_s);
                 giveAnswer(form.form, answer);
             });
             QTEST(flags(), before ? "fromAll" : "fromNone");
@@ -128,7 +128,7 @@ private Q_SLOTS:
         gSkipAll = gStopImport = true;
         const int refreshes =
             ask([](const WordExistForm &form) { QTest::keyClick(&form.form, Qt::Key_Escape); });
-        QCOMPARE(flags(), QStringLiteral("taSE"));
+        QCOMPARE(flags(), u"taSE"_s);
         QCOMPARE(refreshes, 0);
     }
 
@@ -136,11 +136,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("key");
         QTest::addColumn<QString>("flags");
-        QTest::newRow("Alt+Y") << int(Qt::Key_Y) << QStringLiteral("Tase");
-        QTest::newRow("Alt+N") << int(Qt::Key_N) << QStringLiteral("tase");
-        QTest::newRow("Alt+E") << int(Qt::Key_E) << QStringLiteral("tAse");
-        QTest::newRow("Alt+O") << int(Qt::Key_O) << QStringLiteral("taSe");
-        QTest::newRow("Alt+A") << int(Qt::Key_A) << QStringLiteral("tasE");
+        QTest::newRow("Alt+Y") << int(Qt::Key_Y) << u"Tase"_s;
+        QTest::newRow("Alt+N") << int(Qt::Key_N) << u"tase"_s;
+        QTest::newRow("Alt+E") << int(Qt::Key_E) << u"tAse"_s;
+        QTest::newRow("Alt+O") << int(Qt::Key_O) << u"taSe"_s;
+        QTest::newRow("Alt+A") << int(Qt::Key_A) << u"tasE"_s;
     }
 
     void theAnswersHaveKeys()
@@ -175,7 +175,7 @@ private Q_SLOTS:
             }
             form.close();
         });
-        QCOMPARE(flags(), QStringLiteral("tase"));
+        QCOMPARE(flags(), u"tase"_s);
     }
 
     void openingTwiceStartsBothTimesLocked()
@@ -183,7 +183,7 @@ private Q_SLOTS:
         for (int time = 0; time < 2; ++time)
             ask([](const WordExistForm &form) {
                 QCOMPARE(form.state(), shownLocked());
-                QCOMPARE(form.frame(), QStringLiteral("Word in current wordlist: 2"));
+                QCOMPARE(form.frame(), u"Word in current wordlist: 2"_s);
                 form.click("cmdAllowModify");
                 QCOMPARE(form.state(), shownUnlocked());
                 form.click("cmdNo");
@@ -193,15 +193,15 @@ private Q_SLOTS:
     void aLongWordDoesNotWidenTheDialog_data()
     {
         QTest::addColumn<QString>("word");
-        QTest::newRow("without a blank") << QString(5000, QLatin1Char('x'));
-        QTest::newRow("with blanks") << QStringLiteral("abc ").repeated(1250) + QLatin1Char('.');
+        QTest::newRow("without a blank") << QString(5000, u'x');
+        QTest::newRow("with blanks") << u"abc "_s.repeated(1250) + u'.';
     }
 
     void aLongWordDoesNotWidenTheDialog()
     {
         QFETCH(QString, word);
-        setOpenEntries({word, QStringLiteral("cat")});
-        const QSize ofShort = smallestSize(QStringLiteral("cat"));
+        setOpenEntries({word, u"cat"_s});
+        const QSize ofShort = smallestSize(u"cat"_s);
         QCOMPARE(smallestSize(word), ofShort);
     }
 
@@ -235,8 +235,7 @@ private:
     {
         QSize size;
         WordExistQuestion(word).ask(*m_answers, [&](const WordExistForm &form) {
-            QCOMPARE(form.question(),
-                     QLatin1Char('\'') + word + QStringLiteral("' already exist. Add anyway?"));
+            QCOMPARE(form.question(), u'\'' + word + u"' already exist. Add anyway?"_s);
             size = form.form.minimumSize();
             form.close();
         });
@@ -245,12 +244,11 @@ private:
 
     int ask(const std::function<void(const WordExistForm &)> &use)
     {
-        return WordExistQuestion(QStringLiteral("CAT|a pet|My cat is black.")).ask(*m_answers, use);
+        return WordExistQuestion(u"CAT|a pet|My cat is black."_s).ask(*m_answers, use);
     }
 
-    const QStringList m_entries{QStringLiteral("dog|a pet"),
-                                QStringLiteral("cat|an animal|The cat sleeps."),
-                                QStringLiteral("cow|gives milk")};
+    const QStringList m_entries{u"dog|a pet"_s, u"cat|an animal|The cat sleeps."_s,
+                                u"cow|gives milk"_s};
     std::unique_ptr<FreshState> m_state;
     std::unique_ptr<DialogAnswers> m_answers;
 };
