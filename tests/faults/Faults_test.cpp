@@ -130,24 +130,262 @@ class Faults_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        m_main = std::make_unique<MainWindow>();
+        QVERIFY(QDir().mkdir(m_main->path(u"disk"_s)));
+        for (const QStringList &entry : m_entries)
+            gVocabList().AddVocab(entry[0], entry[1], entry[2]);
+        setSoundPlayer([](const QString &, unsigned) {});
+        m_main->answers.seeOtherMsgBoxes([this](const QString &text) { m_told += text; });
+    }
 
-    void theOldFileOrTheNewOneIsThere_data();
-    void theOldFileOrTheNewOneIsThere();
-    void theSampleListsAreThereWholeOrNotAtAll_data();
-    void theSampleListsAreThereWholeOrNotAtAll();
+    void cleanupTestCase()
+    {
+        setSoundPlayer({});
+        m_main.reset();
+    }
+
+    void theOldFileOrTheNewOneIsThere_data()
+    {
+        QTest::addColumn<std::size_t>("number");
+        QTest::addColumn<Function>("function");
+        const std::vector<FileCommand> commands = this->commands();
+        for (std::size_t i = 0; i < commands.size(); ++i)
+            for (const Function function : FailingFunctions)
+                QTest::addRow("%s, %s", commands[i].name, nameOf(function)) << i << function;
+    }
+
+    void theOldFileOrTheNewOneIsThere()
+    {
+        QFETCH(std::size_t, number);
+        QFETCH(Function, function);
+        const FileCommand command = commands()[number];
+        m_wrong.clear();
+        std::vector<Way> ways = command.isSlow ? MainWays : AllWays;
+        if (command.isSlow && checksRights(function))
+            ways.push_back({EACCES});
+        if (function == Function::Write)
+            ways.push_back({FailingCall::StopsShort});
+        for (const Way &way : ways) {
+            int call = 1;
+            while (failsRightly(command, {function, call, way.reason, way.lasting}))
+                ++call;
+            if (call == 1)
+                break; // the command does without the function
+        }
+        QVERIFY(m_main->answers.allSeen());
+        QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
+    }
+
+    void theSampleListsAreThereWholeOrNotAtAll_data()
+    {
+        QTest::addColumn<Function>("function");
+        for (const Function function : FailingFunctions)
+            QTest::newRow(nameOf(function)) << function;
+    }
+
+    void theSampleListsAreThereWholeOrNotAtAll()
+    {
+        QFETCH(Function, function);
+        const QStringList samples = QDir(u":/lists"_s).entryList(QDir::Files);
+        const QDir folder(disk(u"samples"_s));
+        m_wrong.clear();
+        for (const Way &way : MainWays) {
+            bool happens = true;
+            for (int call = 1; happens; ++call) {
+                const FailingCall::Fault fault{function, call, way.reason, way.lasting};
+                QVERIFY(QDir().mkdir(folder.path()));
+                QString error;
+                try {
+                    const FailingCall failing(folder.path(), fault);
+                    const auto note = qScopeGuard([&] { happens = failing.hasFailed(); });
+                    installSampleLists(folder.filePath(u"MyLists"_s));
+                } catch (const RunTimeError &reported) {
+                    error = reported.report();
+                }
+                const QStringList expected =
+                    error.isEmpty() ? QStringList(u"MyLists"_s) : QStringList();
+                const QStringList names =
+                    folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+                const QStringList lists =
+                    QDir(folder.filePath(u"MyLists"_s)).entryList(QDir::Files);
+                if (names != expected || (error.isEmpty() && lists != samples) ||
+                    (!error.isEmpty() && !error.startsWith(reportStart(way.reason))))
+                    m_wrong += QString::fromUtf8(describe(fault)) + u": "_s + error + u" ["_s +
+                               names.join(u", "_s) + u"] "_s + lists.join(u", "_s);
+                QVERIFY(QDir(folder.path()).removeRecursively());
+            }
+        }
+        QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
+    }
 
 private:
-    [[nodiscard]] std::vector<FileCommand> commands();
-    void answerFileDialog(const QString &path);
-    void exportTo(const QString &path);
-    void printTo(const QString &path);
-    void enterScore();
-    void prepare(const FileCommand &command);
+    [[nodiscard]] std::vector<FileCommand> commands()
+    {
+        const QByteArray list = listBytes(m_entries);
+        const QByteArray longList = listBytes(someEntries(600, u"plant"_s));
+        const QByteArray otherList = listBytes(someEntries(2, u"plant"_s));
+        const QByteArray text = textOfList(gVocabList());
+        const QByteArray freeScore = fileRow(today(), "", 0);
+        const auto save = [this] { m_main->choose("mnuSave"); };
+        const auto ask = [this](const char *item, const QString &path) {
+            return [this, item, path] {
+                answerFileDialog(path);
+                m_main->choose(item);
+            };
+        };
+        const auto withPath = [this](void (Faults_test::*give)(const QString &),
+                                     const QString &path) {
+            return [this, give, path] { (this->*give)(path); };
+        };
+        const QString own = disk(u"list.lwx"_s);
+        const QString other = disk(u"other.lwx"_s);
+        const QString textFile = disk(u"list.txt"_s);
+        const QString pdf = disk(u"list.pdf"_s);
+        return {
+            {"Save over a longer list", own, longList, equals(list + longList.mid(list.size())),
+             save},
+            {"Save of a file that is gone", own, {}, equals(list), save},
+            {"Save As", other, {}, equals(list), ask("mnuSaveAs", other), true},
+            {"Save As over a file", other, "old", equals(list), ask("mnuSaveAs", other), true},
+            {"Text file over a file", textFile, text.toUpper() + "more", equals(text + "more"),
+             ask("mnuCreateTextFile", textFile), true},
+            {"Export", other, {}, equals(list), withPath(&Faults_test::exportTo, other)},
+            {"Export to a list", other, otherList,
+             equals(listBytes(someEntries(2, u"plant"_s) + m_entries)),
+             withPath(&Faults_test::exportTo, other)},
+            {"Print to PDF", pdf, {}, isWholePdf, withPath(&Faults_test::printTo, pdf), true},
+            {"Print to PDF over a file", pdf, "old", isWholePdf,
+             withPath(&Faults_test::printTo, pdf), true},
+            {"A name for the Top 10", pathOf(Place::Top10), freeScore.repeated(10),
+             equals(fileRow(today(), "Ann", 25) + freeScore.repeated(9)), [this] { enterScore(); },
+             true},
+        };
+    }
+
+    void answerFileDialog(const QString &path)
+    {
+        m_main->answers.chooseFile(path);
+        if (QFileInfo::exists(path))
+            m_main->answers.answerOverwrite(QFileInfo(path).fileName(), QMessageBox::Yes);
+    }
+
+    void exportTo(const QString &path)
+    {
+        m_main->answers.useForm("dlgExport", [path](QDialog &dialog) {
+            Controls::find<QLineEdit>(dialog, "txtFilename").setText(path);
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdOk"));
+            if (dialog.isVisible())
+                Controls::click(Controls::find<QPushButton>(dialog, "cmdCancel"));
+        });
+        m_main->choose("mnuExport");
+    }
+
+    void printTo(const QString &path)
+    {
+        m_main->answers.useForm("frmPrint", [this, path](QDialog &dialog) {
+            answerFileDialog(path);
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdPrint"));
+            if (dialog.isVisible())
+                Controls::click(Controls::find<QPushButton>(dialog, "cmdCancel"));
+        });
+        m_main->choose("mnuPrint");
+    }
+
+    void enterScore()
+    {
+        gTop10 = emptyTop10(QDate::currentDate());
+        gScore = 25;
+        QAction upbeat;
+        QAction soothing;
+        QAction off;
+        Music music(MusicMenu{upbeat, soothing, off});
+        m_main->answers.useForm("dlgGameOver", [](QDialog &dialog) {
+            Controls::find<QLineEdit>(dialog, "txtName").setText(u"Ann"_s);
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdEnter"));
+            dialog.close();
+        });
+        dlgGameOver(music, nullptr).exec();
+    }
+
+    // A changed list with a name, and on the disk the old file alone.
+    void prepare(const FileCommand &command)
+    {
+        const QDir folder = QFileInfo(command.path).dir();
+        const QStringList names = folder.entryList(QDir::Files | QDir::Hidden | QDir::System);
+        for (const QString &name : names)
+            QFile::remove(folder.filePath(name));
+        if (!command.before.isNull())
+            writeFile(command.path, command.before);
+        gFileName = gOpenedFile = disk(u"list.lwx"_s);
+        gFileTitle = u"list.lwx"_s;
+        gChanged = true;
+        gSaved = false;
+        m_main->action("mnuSave").setEnabled(true);
+        m_main->window().setWindowTitle(CaptionStart + gFileTitle);
+        m_told.clear();
+    }
+
     // True where the call was made.
-    [[nodiscard]] bool failsRightly(const FileCommand &command, const FailingCall::Fault &fault);
-    void savesElsewhere();
+    [[nodiscard]] bool failsRightly(const FileCommand &command, const FailingCall::Fault &fault)
+    {
+        prepare(command);
+        const OpenList before(*m_main);
+        bool happened = false;
+        bool onFolder = false;
+        {
+            const FailingCall failing(QFileInfo(command.path).path(), fault);
+            command.give();
+            happened = failing.hasFailed();
+            onFolder = failing.wasOnFolder();
+        }
+        const auto wrong = [&](const QString &what) {
+            m_wrong += QString::fromUtf8(describe(fault)) + u": "_s + what;
+        };
+        const QStringList errors = m_told.filter(u"error"_s);
+        const bool told = !errors.isEmpty();
+        const bool isThere = QFileInfo::exists(command.path);
+        const QByteArray content = isThere ? readFile(command.path) : QByteArray();
+        if (told && fault.reason == EINTR) {
+            wrong(u"an interruption is told: "_s + errors.constFirst());
+        } else if (told) {
+            if (content != command.before || isThere == command.before.isNull())
+                wrong(u"the old file is not whole"_s);
+            if (!errors.constFirst().startsWith(reportStart(fault.reason)) ||
+                !errors.constFirst().contains(command.path) ||
+                !errors.constFirst().contains(qt_error_string(fault.reason)))
+                wrong(u"told as "_s + errors.constFirst());
+            if (!(OpenList(*m_main) == before) || gSaved)
+                wrong(u"the open list is not as before"_s);
+            savesElsewhere();
+        } else {
+            if (happened && !mayBeSilent(fault, onFolder, command.isSlow))
+                wrong(u"not told"_s);
+            if (!command.isDone(content))
+                wrong(u"the new file is not whole"_s);
+        }
+        if (openEntries() != m_entries)
+            wrong(u"the list has changed"_s);
+        QStringList names =
+            QFileInfo(command.path)
+                .dir()
+                .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+        names.removeAll(QFileInfo(command.path).fileName());
+        if (!names.isEmpty())
+            wrong(u"left beside the file: "_s + names.join(u", "_s));
+        return happened;
+    }
+
+    void savesElsewhere()
+    {
+        gFileName = m_main->path(u"elsewhere.lwx"_s);
+        m_main->choose("mnuSave");
+        QCOMPARE(readFile(gFileName), listBytes(m_entries));
+        QVERIFY(!gChanged);
+        QVERIFY(QFile::remove(gFileName));
+    }
+
     [[nodiscard]] QString disk(const QString &name) const
     {
         return m_main->path(u"disk/"_s + name);
@@ -158,257 +396,6 @@ private:
     QStringList m_told;
     QStringList m_wrong;
 };
-
-void Faults_test::initTestCase()
-{
-    m_main = std::make_unique<MainWindow>();
-    QVERIFY(QDir().mkdir(m_main->path(u"disk"_s)));
-    for (const QStringList &entry : m_entries)
-        gVocabList().AddVocab(entry[0], entry[1], entry[2]);
-    setSoundPlayer([](const QString &, unsigned) {});
-    m_main->answers.seeOtherMsgBoxes([this](const QString &text) { m_told += text; });
-}
-
-void Faults_test::cleanupTestCase()
-{
-    setSoundPlayer({});
-    m_main.reset();
-}
-
-std::vector<FileCommand> Faults_test::commands()
-{
-    const QByteArray list = listBytes(m_entries);
-    const QByteArray longList = listBytes(someEntries(600, u"plant"_s));
-    const QByteArray otherList = listBytes(someEntries(2, u"plant"_s));
-    const QByteArray text = textOfList(gVocabList());
-    const QByteArray freeScore = fileRow(today(), "", 0);
-    const auto save = [this] { m_main->choose("mnuSave"); };
-    const auto ask = [this](const char *item, const QString &path) {
-        return [this, item, path] {
-            answerFileDialog(path);
-            m_main->choose(item);
-        };
-    };
-    const auto withPath = [this](void (Faults_test::*give)(const QString &), const QString &path) {
-        return [this, give, path] { (this->*give)(path); };
-    };
-    const QString own = disk(u"list.lwx"_s);
-    const QString other = disk(u"other.lwx"_s);
-    const QString textFile = disk(u"list.txt"_s);
-    const QString pdf = disk(u"list.pdf"_s);
-    return {
-        {"Save over a longer list", own, longList, equals(list + longList.mid(list.size())), save},
-        {"Save of a file that is gone", own, {}, equals(list), save},
-        {"Save As", other, {}, equals(list), ask("mnuSaveAs", other), true},
-        {"Save As over a file", other, "old", equals(list), ask("mnuSaveAs", other), true},
-        {"Text file over a file", textFile, text.toUpper() + "more", equals(text + "more"),
-         ask("mnuCreateTextFile", textFile), true},
-        {"Export", other, {}, equals(list), withPath(&Faults_test::exportTo, other)},
-        {"Export to a list", other, otherList,
-         equals(listBytes(someEntries(2, u"plant"_s) + m_entries)),
-         withPath(&Faults_test::exportTo, other)},
-        {"Print to PDF", pdf, {}, isWholePdf, withPath(&Faults_test::printTo, pdf), true},
-        {"Print to PDF over a file", pdf, "old", isWholePdf, withPath(&Faults_test::printTo, pdf),
-         true},
-        {"A name for the Top 10", pathOf(Place::Top10), freeScore.repeated(10),
-         equals(fileRow(today(), "Ann", 25) + freeScore.repeated(9)), [this] { enterScore(); },
-         true},
-    };
-}
-
-void Faults_test::answerFileDialog(const QString &path)
-{
-    m_main->answers.chooseFile(path);
-    if (QFileInfo::exists(path))
-        m_main->answers.answerOverwrite(QFileInfo(path).fileName(), QMessageBox::Yes);
-}
-
-void Faults_test::exportTo(const QString &path)
-{
-    m_main->answers.useForm("dlgExport", [path](QDialog &dialog) {
-        Controls::find<QLineEdit>(dialog, "txtFilename").setText(path);
-        Controls::click(Controls::find<QPushButton>(dialog, "cmdOk"));
-        if (dialog.isVisible())
-            Controls::click(Controls::find<QPushButton>(dialog, "cmdCancel"));
-    });
-    m_main->choose("mnuExport");
-}
-
-void Faults_test::printTo(const QString &path)
-{
-    m_main->answers.useForm("frmPrint", [this, path](QDialog &dialog) {
-        answerFileDialog(path);
-        Controls::click(Controls::find<QPushButton>(dialog, "cmdPrint"));
-        if (dialog.isVisible())
-            Controls::click(Controls::find<QPushButton>(dialog, "cmdCancel"));
-    });
-    m_main->choose("mnuPrint");
-}
-
-void Faults_test::enterScore()
-{
-    gTop10 = emptyTop10(QDate::currentDate());
-    gScore = 25;
-    QAction upbeat;
-    QAction soothing;
-    QAction off;
-    Music music(MusicMenu{upbeat, soothing, off});
-    m_main->answers.useForm("dlgGameOver", [](QDialog &dialog) {
-        Controls::find<QLineEdit>(dialog, "txtName").setText(u"Ann"_s);
-        Controls::click(Controls::find<QPushButton>(dialog, "cmdEnter"));
-        dialog.close();
-    });
-    dlgGameOver(music, nullptr).exec();
-}
-
-// A changed list with a name, and on the disk the old file alone.
-void Faults_test::prepare(const FileCommand &command)
-{
-    const QDir folder = QFileInfo(command.path).dir();
-    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden | QDir::System);
-    for (const QString &name : names)
-        QFile::remove(folder.filePath(name));
-    if (!command.before.isNull())
-        writeFile(command.path, command.before);
-    gFileName = gOpenedFile = disk(u"list.lwx"_s);
-    gFileTitle = u"list.lwx"_s;
-    gChanged = true;
-    gSaved = false;
-    m_main->action("mnuSave").setEnabled(true);
-    m_main->window().setWindowTitle(CaptionStart + gFileTitle);
-    m_told.clear();
-}
-
-bool Faults_test::failsRightly(const FileCommand &command, const FailingCall::Fault &fault)
-{
-    prepare(command);
-    const OpenList before(*m_main);
-    bool happened = false;
-    bool onFolder = false;
-    {
-        const FailingCall failing(QFileInfo(command.path).path(), fault);
-        command.give();
-        happened = failing.hasFailed();
-        onFolder = failing.wasOnFolder();
-    }
-    const auto wrong = [&](const QString &what) {
-        m_wrong += QString::fromUtf8(describe(fault)) + u": "_s + what;
-    };
-    const QStringList errors = m_told.filter(u"error"_s);
-    const bool told = !errors.isEmpty();
-    const bool isThere = QFileInfo::exists(command.path);
-    const QByteArray content = isThere ? readFile(command.path) : QByteArray();
-    if (told && fault.reason == EINTR) {
-        wrong(u"an interruption is told: "_s + errors.constFirst());
-    } else if (told) {
-        if (content != command.before || isThere == command.before.isNull())
-            wrong(u"the old file is not whole"_s);
-        if (!errors.constFirst().startsWith(reportStart(fault.reason)) ||
-            !errors.constFirst().contains(command.path) ||
-            !errors.constFirst().contains(qt_error_string(fault.reason)))
-            wrong(u"told as "_s + errors.constFirst());
-        if (!(OpenList(*m_main) == before) || gSaved)
-            wrong(u"the open list is not as before"_s);
-        savesElsewhere();
-    } else {
-        if (happened && !mayBeSilent(fault, onFolder, command.isSlow))
-            wrong(u"not told"_s);
-        if (!command.isDone(content))
-            wrong(u"the new file is not whole"_s);
-    }
-    if (openEntries() != m_entries)
-        wrong(u"the list has changed"_s);
-    QStringList names =
-        QFileInfo(command.path)
-            .dir()
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    names.removeAll(QFileInfo(command.path).fileName());
-    if (!names.isEmpty())
-        wrong(u"left beside the file: "_s + names.join(u", "_s));
-    return happened;
-}
-
-void Faults_test::savesElsewhere()
-{
-    gFileName = m_main->path(u"elsewhere.lwx"_s);
-    m_main->choose("mnuSave");
-    QCOMPARE(readFile(gFileName), listBytes(m_entries));
-    QVERIFY(!gChanged);
-    QVERIFY(QFile::remove(gFileName));
-}
-
-void Faults_test::theOldFileOrTheNewOneIsThere_data()
-{
-    QTest::addColumn<std::size_t>("number");
-    QTest::addColumn<Function>("function");
-    const std::vector<FileCommand> commands = this->commands();
-    for (std::size_t i = 0; i < commands.size(); ++i)
-        for (const Function function : FailingFunctions)
-            QTest::addRow("%s, %s", commands[i].name, nameOf(function)) << i << function;
-}
-
-void Faults_test::theOldFileOrTheNewOneIsThere()
-{
-    QFETCH(std::size_t, number);
-    QFETCH(Function, function);
-    const FileCommand command = commands()[number];
-    m_wrong.clear();
-    std::vector<Way> ways = command.isSlow ? MainWays : AllWays;
-    if (command.isSlow && checksRights(function))
-        ways.push_back({EACCES});
-    if (function == Function::Write)
-        ways.push_back({FailingCall::StopsShort});
-    for (const Way &way : ways) {
-        int call = 1;
-        while (failsRightly(command, {function, call, way.reason, way.lasting}))
-            ++call;
-        if (call == 1)
-            break; // the command does without the function
-    }
-    QVERIFY(m_main->answers.allSeen());
-    QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
-}
-
-void Faults_test::theSampleListsAreThereWholeOrNotAtAll_data()
-{
-    QTest::addColumn<Function>("function");
-    for (const Function function : FailingFunctions)
-        QTest::newRow(nameOf(function)) << function;
-}
-
-void Faults_test::theSampleListsAreThereWholeOrNotAtAll()
-{
-    QFETCH(Function, function);
-    const QStringList samples = QDir(u":/lists"_s).entryList(QDir::Files);
-    const QDir folder(disk(u"samples"_s));
-    m_wrong.clear();
-    for (const Way &way : MainWays) {
-        bool happens = true;
-        for (int call = 1; happens; ++call) {
-            const FailingCall::Fault fault{function, call, way.reason, way.lasting};
-            QVERIFY(QDir().mkdir(folder.path()));
-            QString error;
-            try {
-                const FailingCall failing(folder.path(), fault);
-                const auto note = qScopeGuard([&] { happens = failing.hasFailed(); });
-                installSampleLists(folder.filePath(u"MyLists"_s));
-            } catch (const RunTimeError &reported) {
-                error = reported.report();
-            }
-            const QStringList expected =
-                error.isEmpty() ? QStringList(u"MyLists"_s) : QStringList();
-            const QStringList names =
-                folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-            const QStringList lists = QDir(folder.filePath(u"MyLists"_s)).entryList(QDir::Files);
-            if (names != expected || (error.isEmpty() && lists != samples) ||
-                (!error.isEmpty() && !error.startsWith(reportStart(way.reason))))
-                m_wrong += QString::fromUtf8(describe(fault)) + u": "_s + error + u" ["_s +
-                           names.join(u", "_s) + u"] "_s + lists.join(u", "_s);
-            QVERIFY(QDir(folder.path()).removeRecursively());
-        }
-    }
-    QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
-}
 
 int main(int argc, char *argv[])
 {

@@ -14,138 +14,130 @@ class MSFlexGrid_Painting_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aYellowCellHasBlackTextInEveryPalette();
-    void aWhiteCellHasThePalettesOwnBackground();
-    void aTextThatIsCutHasAToolTip_data();
-    void aTextThatIsCutHasAToolTip();
-    void theToolTipShowsMarkupAndLineBreaksAsTheyAre();
-    void theToolTipIsThereWhereTheTextIsCutAndNowhereElse();
-    void aTextOfSeveralLinesIsShownOnOne();
-    void veryLongTextsArePaintedAsQuicklyAsLongOnes();
+    void aYellowCellHasBlackTextInEveryPalette()
+    {
+        for (const QColor &paper : {QColor(Qt::white), QColor(0x20, 0x20, 0x20)}) {
+            GridPage page;
+            QPalette palette = page.grid.palette();
+            palette.setColor(QPalette::Base, paper);
+            palette.setColor(QPalette::Text, paper.lightness() < 128 ? Qt::white : Qt::black);
+            page.grid.setPalette(palette);
+            page.grid.setText(1, 1, u"IIII"_s);
+            page.grid.setCellBold(1, 1, true);
+            page.grid.setCellBackColour(1, 1, MSFlexGrid::Yellow);
+            QCOMPARE(page.grid.cellBackColour(1, 1), MSFlexGrid::Yellow);
+            QVERIFY(page.grid.cellBold(1, 1));
+
+            const QImage image = page.cellImage(1, 1);
+            QCOMPARE(image.pixelColor(image.width() - 4, image.height() / 2), QColor(255, 255, 0));
+            int darkest = 255;
+            for (int x = 2; x < image.width() - 2; ++x)
+                darkest = std::min(darkest, image.pixelColor(x, image.height() / 2).lightness());
+            QVERIFY2(darkest < 40, qPrintable(QString::number(darkest)));
+        }
+    }
+
+    void aWhiteCellHasThePalettesOwnBackground()
+    {
+        for (const QColor &paper : {QColor(Qt::white), QColor(0x20, 0x20, 0x20)}) {
+            GridPage page;
+            QPalette palette = page.grid.palette();
+            palette.setColor(QPalette::Base, paper);
+            page.grid.setPalette(palette);
+            page.grid.setCellBackColour(1, 1, MSFlexGrid::Yellow);
+            page.grid.setCellBackColour(1, 1, MSFlexGrid::White);
+            const QImage image = page.cellImage(1, 1);
+            QCOMPARE(image.pixelColor(image.width() / 2, image.height() / 2), paper);
+        }
+    }
+
+    void aTextThatIsCutHasAToolTip_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("cut");
+        QTest::newRow("none") << QString() << false;
+        QTest::newRow("short") << u"cat"_s << false;
+        QTest::newRow("long") << u"a small animal that sleeps in the sun"_s.repeated(3) << true;
+        QTest::newRow("two lines") << u"cat\r\ndog"_s << true;
+    }
+
+    void aTextThatIsCutHasAToolTip()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, cut);
+        GridPage page;
+        page.grid.setText(2, 1, text);
+        QCOMPARE(page.toolTip(2, 1), cut ? QString(text).remove(u'\r') : QString());
+        QVERIFY(page.toolTip(3, 1).isEmpty());
+    }
+
+    void theToolTipShowsMarkupAndLineBreaksAsTheyAre()
+    {
+        GridPage page;
+        const QString text =
+            u"<b>bold</b> & so on, in a text that is much wider than its cell\nend"_s;
+        page.grid.setText(2, 2, text);
+        QCOMPARE(page.toolTip(2, 2), text);
+    }
+
+    // Seen in the pixels: a text that is not cut looks the same in a wider column.
+    void theToolTipIsThereWhereTheTextIsCutAndNowhereElse()
+    {
+        for (const bool bold : {false, true}) {
+            GridPage page;
+            page.grid.setText(2, 1, u"a small animal W"_s);
+            page.grid.setCellBold(2, 1, bold);
+            page.grid.setColumnWidth(1, 400);
+            const QImage whole = page.cellImage(2, 1);
+            int cut = 0;
+            int fitting = 0;
+            for (int width = 80; width < 200; ++width) {
+                page.grid.setColumnWidth(1, width);
+                const QRect text(2, 2, width - 4, whole.height() - 4);
+                const bool isCut = page.cellImage(2, 1).copy(text) != whole.copy(text);
+                (isCut ? cut : fitting) += 1;
+                // The last pixel is a matter of rounding: better a tool tip too many there.
+                if (isCut || fitting > 2)
+                    QVERIFY2(page.toolTip(2, 1).isEmpty() != isCut,
+                             qPrintable(u"at width %1"_s.arg(width)));
+            }
+            QVERIFY(cut > 0);
+            QVERIFY(fitting > 2);
+        }
+    }
+
+    void aTextOfSeveralLinesIsShownOnOne()
+    {
+        GridPage page;
+        page.grid.setColumnWidth(1, 300);
+        page.grid.setText(2, 1, u"cat\r\ndog\n\n cow"_s);
+        page.grid.setText(3, 1, u"cat dog cow"_s);
+        QCOMPARE(page.cellImage(2, 1), page.cellImage(3, 1));
+    }
+
+    void veryLongTextsArePaintedAsQuicklyAsLongOnes()
+    {
+        GridPage page;
+        const auto paintingTime = [&page](qsizetype length) {
+            const QString text = u"word "_s.repeated(length / 5);
+            for (int row = 1; row < VisibleRows; ++row)
+                for (int column = 1; column <= 3; ++column)
+                    page.grid.setText(row, column, text);
+            qint64 best = std::numeric_limits<qint64>::max();
+            for (int i = 0; i < 3; ++i) {
+                QElapsedTimer timer;
+                timer.start();
+                page.grid.grab();
+                best = std::min(best, timer.nsecsElapsed());
+            }
+            return best;
+        };
+        const qint64 longOnes = paintingTime(2'000);
+        const qint64 longestOnes = paintingTime(2'000'000);
+        QVERIFY2(longestOnes < 8 * longOnes,
+                 qPrintable(u"%1 and %2 ns"_s.arg(longOnes).arg(longestOnes)));
+    }
 };
-
-void MSFlexGrid_Painting_test::aYellowCellHasBlackTextInEveryPalette()
-{
-    for (const QColor &paper : {QColor(Qt::white), QColor(0x20, 0x20, 0x20)}) {
-        GridPage page;
-        QPalette palette = page.grid.palette();
-        palette.setColor(QPalette::Base, paper);
-        palette.setColor(QPalette::Text, paper.lightness() < 128 ? Qt::white : Qt::black);
-        page.grid.setPalette(palette);
-        page.grid.setText(1, 1, u"IIII"_s);
-        page.grid.setCellBold(1, 1, true);
-        page.grid.setCellBackColour(1, 1, MSFlexGrid::Yellow);
-        QCOMPARE(page.grid.cellBackColour(1, 1), MSFlexGrid::Yellow);
-        QVERIFY(page.grid.cellBold(1, 1));
-
-        const QImage image = page.cellImage(1, 1);
-        QCOMPARE(image.pixelColor(image.width() - 4, image.height() / 2), QColor(255, 255, 0));
-        int darkest = 255;
-        for (int x = 2; x < image.width() - 2; ++x)
-            darkest = std::min(darkest, image.pixelColor(x, image.height() / 2).lightness());
-        QVERIFY2(darkest < 40, qPrintable(QString::number(darkest)));
-    }
-}
-
-void MSFlexGrid_Painting_test::aWhiteCellHasThePalettesOwnBackground()
-{
-    for (const QColor &paper : {QColor(Qt::white), QColor(0x20, 0x20, 0x20)}) {
-        GridPage page;
-        QPalette palette = page.grid.palette();
-        palette.setColor(QPalette::Base, paper);
-        page.grid.setPalette(palette);
-        page.grid.setCellBackColour(1, 1, MSFlexGrid::Yellow);
-        page.grid.setCellBackColour(1, 1, MSFlexGrid::White);
-        const QImage image = page.cellImage(1, 1);
-        QCOMPARE(image.pixelColor(image.width() / 2, image.height() / 2), paper);
-    }
-}
-
-void MSFlexGrid_Painting_test::aTextThatIsCutHasAToolTip_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("cut");
-    QTest::newRow("none") << QString() << false;
-    QTest::newRow("short") << u"cat"_s << false;
-    QTest::newRow("long") << u"a small animal that sleeps in the sun"_s.repeated(3) << true;
-    QTest::newRow("two lines") << u"cat\r\ndog"_s << true;
-}
-
-void MSFlexGrid_Painting_test::aTextThatIsCutHasAToolTip()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, cut);
-    GridPage page;
-    page.grid.setText(2, 1, text);
-    QCOMPARE(page.toolTip(2, 1), cut ? QString(text).remove(u'\r') : QString());
-    QVERIFY(page.toolTip(3, 1).isEmpty());
-}
-
-void MSFlexGrid_Painting_test::theToolTipShowsMarkupAndLineBreaksAsTheyAre()
-{
-    GridPage page;
-    const QString text = u"<b>bold</b> & so on, in a text that is much wider than its cell\nend"_s;
-    page.grid.setText(2, 2, text);
-    QCOMPARE(page.toolTip(2, 2), text);
-}
-
-// Seen in the pixels: a text that is not cut looks the same in a wider column.
-void MSFlexGrid_Painting_test::theToolTipIsThereWhereTheTextIsCutAndNowhereElse()
-{
-    for (const bool bold : {false, true}) {
-        GridPage page;
-        page.grid.setText(2, 1, u"a small animal W"_s);
-        page.grid.setCellBold(2, 1, bold);
-        page.grid.setColumnWidth(1, 400);
-        const QImage whole = page.cellImage(2, 1);
-        int cut = 0;
-        int fitting = 0;
-        for (int width = 80; width < 200; ++width) {
-            page.grid.setColumnWidth(1, width);
-            const QRect text(2, 2, width - 4, whole.height() - 4);
-            const bool isCut = page.cellImage(2, 1).copy(text) != whole.copy(text);
-            (isCut ? cut : fitting) += 1;
-            // The last pixel is a matter of rounding: better a tool tip too many there.
-            if (isCut || fitting > 2)
-                QVERIFY2(page.toolTip(2, 1).isEmpty() != isCut,
-                         qPrintable(u"at width %1"_s.arg(width)));
-        }
-        QVERIFY(cut > 0);
-        QVERIFY(fitting > 2);
-    }
-}
-
-void MSFlexGrid_Painting_test::aTextOfSeveralLinesIsShownOnOne()
-{
-    GridPage page;
-    page.grid.setColumnWidth(1, 300);
-    page.grid.setText(2, 1, u"cat\r\ndog\n\n cow"_s);
-    page.grid.setText(3, 1, u"cat dog cow"_s);
-    QCOMPARE(page.cellImage(2, 1), page.cellImage(3, 1));
-}
-
-void MSFlexGrid_Painting_test::veryLongTextsArePaintedAsQuicklyAsLongOnes()
-{
-    GridPage page;
-    const auto paintingTime = [&page](qsizetype length) {
-        const QString text = u"word "_s.repeated(length / 5);
-        for (int row = 1; row < VisibleRows; ++row)
-            for (int column = 1; column <= 3; ++column)
-                page.grid.setText(row, column, text);
-        qint64 best = std::numeric_limits<qint64>::max();
-        for (int i = 0; i < 3; ++i) {
-            QElapsedTimer timer;
-            timer.start();
-            page.grid.grab();
-            best = std::min(best, timer.nsecsElapsed());
-        }
-        return best;
-    };
-    const qint64 longOnes = paintingTime(2'000);
-    const qint64 longestOnes = paintingTime(2'000'000);
-    QVERIFY2(longestOnes < 8 * longOnes,
-             qPrintable(u"%1 and %2 ns"_s.arg(longOnes).arg(longestOnes)));
-}
 
 QTEST_MAIN(MSFlexGrid_Painting_test)
 #include "MSFlexGrid_Painting_test.moc"
