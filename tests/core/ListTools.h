@@ -5,8 +5,8 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "runtime/ErrorNumber.h"
-#include "runtime/TestFiles.h"
 #include "runtime/Windows1252.h"
+#include "support/TestFiles.h"
 
 #include <QStringList>
 #include <QtEndian>

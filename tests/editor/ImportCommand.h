@@ -2,9 +2,9 @@
 // File > Import in a freshly started main window, the file to import chosen in the real dialog.
 #pragma once
 
-#include "support/EditorModes.h"
+#include "editor/EditorModes.h"
+#include "editor/MainWindow.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 #include "transfer/ImportTools.h"
 
 #include <QDir>

@@ -5,7 +5,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "support/MainWindow.h"
+#include "editor/MainWindow.h"
 
 #include <QFile>
 #include <QPushButton>

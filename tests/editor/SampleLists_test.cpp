@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/SampleLists.h"
 
+#include "core/FreshState.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "runtime/ChildProcess.h"
-#include "support/FreshState.h"
 
 #include <QDir>
 #include <QFile>

@@ -4,8 +4,8 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "support/EditorModes.h"
-#include "support/MainWindow.h"
+#include "editor/EditorModes.h"
+#include "editor/MainWindow.h"
 
 #include <QTest>
 

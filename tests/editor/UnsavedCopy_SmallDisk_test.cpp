@@ -7,7 +7,7 @@
 #include "platform/Paths.h"
 #include "runtime/ChildProcess.h"
 #include "runtime/SmallDisk.h"
-#include "runtime/TestFiles.h"
+#include "support/TestFiles.h"
 
 #include <QCoreApplication>
 #include <QTest>

@@ -2,8 +2,8 @@
 #include "core/ListFile.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/MainWindow.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QFile>
 #include <QFileDialog>

@@ -2,10 +2,10 @@
 // The main window before, during and after the game, and its Music menu.
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/MainWindow.h"
 #include "game/frmTanglewit.h"
 #include "platform/sndPlaySoundA.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,9 +2,9 @@
 // Where the main window's controls lie. CTest runs this on screens of several sizes.
 #include "core/Module1.h"
 #include "editor/MainLayout.h"
+#include "editor/MainWindow.h"
 #include "platform/Screen.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QAccessible>
 #include <QGroupBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lists longer than the editor makes them, up to the most that a file can hold. Where a row
 // or a position does not fit into 16 bits, a command ends with error 6 and loses nothing.
+#include "editor/EditorModes.h"
 #include "editor/OpenList.h"
-#include "support/EditorModes.h"
 #include "support/FormTest.h"
 
 using namespace Module1;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's printing commands, where "Print to PDF" is the only printer.
 #include "core/ListTools.h"
+#include "editor/MainWindow.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

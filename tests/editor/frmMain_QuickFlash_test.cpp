@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flash/FlashCard.h"
 
+#include "editor/EditorModes.h"
 #include "editor/OpenList.h"
-#include "support/EditorModes.h"
 #include "support/FormTest.h"
 
 using namespace Module1;

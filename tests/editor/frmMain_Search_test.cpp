@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Module1.h"
 #include "core/cVocabList.h"
-#include "support/EditorModes.h"
+#include "editor/EditorModes.h"
+#include "editor/MainWindow.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QLineEdit>
 #include <QScrollBar>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/EditorModes.h"
+#include "editor/MainWindow.h"
 #include "platform/Paths.h"
-#include "support/EditorModes.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/EditorModes.h"
 #include "editor/OpenList.h"
-#include "support/EditorModes.h"
 #include "support/FormTest.h"
 
 #include <QPushButton>

@@ -2,13 +2,13 @@
 // For tests: the flash cards with a list.
 #pragma once
 
+#include "core/FreshState.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "flash/FlashCard.h"
 #include "flash/dlgQuickFlash.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
-#include "support/FreshState.h"
 
 #include <QPushButton>
 #include <QSignalSpy>

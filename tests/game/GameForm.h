@@ -3,6 +3,7 @@
 // recorded instead of played.
 #pragma once
 
+#include "core/FreshState.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "game/SoundRequests.h"
@@ -10,7 +11,6 @@
 #include "game/frmTanglewit.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
-#include "support/FreshState.h"
 
 #include <QAction>
 #include <QDialog>

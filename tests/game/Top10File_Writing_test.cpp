@@ -4,7 +4,7 @@
 
 #include "game/Top10Rows.h"
 #include "runtime/ChildProcess.h"
-#include "runtime/TestFiles.h"
+#include "support/TestFiles.h"
 
 #include <QTest>
 

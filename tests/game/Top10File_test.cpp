@@ -3,8 +3,8 @@
 
 #include "game/Top10Rows.h"
 #include "runtime/ErrorNumber.h"
-#include "runtime/TestFiles.h"
 #include "runtime/Windows1252.h"
+#include "support/TestFiles.h"
 
 #include <QDataStream>
 #include <QTest>

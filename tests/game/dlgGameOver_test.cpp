@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/dlgGameOver.h"
 
+#include "core/FreshState.h"
 #include "game/Music.h"
 #include "game/OpenDialog.h"
 #include "game/SoundRequests.h"
@@ -9,7 +10,6 @@
 #include "platform/Paths.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
-#include "support/FreshState.h"
 
 #include <QAction>
 #include <QFile>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/dlgIncorrectAnswer.h"
 
+#include "core/FreshState.h"
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "game/OpenDialog.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
-#include "support/FreshState.h"
 
 #include <QAction>
 #include <QClipboard>

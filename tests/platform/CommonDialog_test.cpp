@@ -5,7 +5,7 @@
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
-#include "support/FreshState.h"
+#include "support/FreshHome.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -44,7 +44,7 @@ class CommonDialog_test final : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_state = std::make_unique<FreshState>();
+        m_state = std::make_unique<FreshHome>();
         m_answers = std::make_unique<DialogAnswers>();
         for (const char *folder : {"first", "second", "folder.with.dots"})
             QVERIFY(QDir(m_state->home()).mkdir(QLatin1String(folder)));
@@ -317,7 +317,7 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
 
-    std::unique_ptr<FreshState> m_state;
+    std::unique_ptr<FreshHome> m_state;
     std::unique_ptr<DialogAnswers> m_answers;
     std::unique_ptr<CommonDialog> m_dialog;
 };

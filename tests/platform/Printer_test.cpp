@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Printer.h"
 
-#include "support/RecordingPrinter.h"
+#include "platform/RecordingPrinter.h"
 
 #include <QTest>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/PagePreview.h"
 
+#include "core/FreshState.h"
 #include "core/ListTools.h"
 #include "platform/PrintMetrics.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
-#include "support/FreshState.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>

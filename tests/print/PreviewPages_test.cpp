@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/PreviewPages.h"
 
+#include "core/FreshState.h"
 #include "core/ListTools.h"
 #include "platform/PrintMetrics.h"
 #include "platform/Printer.h"
-#include "support/FreshState.h"
 
 #include <QTest>
 

@@ -2,6 +2,7 @@
 // The print dialog with a list of "w1", "w2", … for its tests.
 #pragma once
 
+#include "core/FreshState.h"
 #include "core/ListTools.h"
 #include "platform/SystemPrinter.h"
 #include "print/PagePreview.h"
@@ -9,7 +10,6 @@
 #include "print/frmPrint.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
-#include "support/FreshState.h"
 
 #include <QLineEdit>
 #include <QListWidget>

@@ -2,10 +2,10 @@
 // Which entries a job prints, in which styles and at which places.
 #include "print/WordListPrint.h"
 
+#include "core/FreshState.h"
 #include "core/ListTools.h"
+#include "platform/RecordingPrinter.h"
 #include "print/UnevenPrinter.h"
-#include "support/FreshState.h"
-#include "support/RecordingPrinter.h"
 
 #include <QTest>
 

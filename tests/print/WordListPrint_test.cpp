@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/WordListPrint.h"
 
+#include "core/FreshState.h"
 #include "core/ListTools.h"
-#include "support/FreshState.h"
-#include "support/RecordingPrinter.h"
+#include "platform/RecordingPrinter.h"
 
 #include <QTest>
 

@@ -4,7 +4,7 @@
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
-#include "runtime/TestFiles.h"
+#include "support/TestFiles.h"
 
 #include <QTest>
 

@@ -5,8 +5,8 @@
 // their answers, and then presses. Every random decision comes from the seed.
 #pragma once
 
+#include "editor/MainWindow.h"
 #include "soak/Model.h"
-#include "support/MainWindow.h"
 
 #include <QStringList>
 

@@ -4,8 +4,8 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/EditorModes.h"
 #include "platform/Paths.h"
-#include "support/EditorModes.h"
 
 #include <QApplication>
 #include <QDirIterator>

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/DialogAnswers.h"
 
-#include "platform/Application.h"
-
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -17,6 +15,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr auto Title = "Tanglewit"_L1; // of every message box
 
 constexpr int LookInterval = 5; // ms
 constexpr int MostLooks = 600;  // at a dialog that should close
@@ -92,7 +92,7 @@ void DialogAnswers::expectMsgBox(const QString &text, QMessageBox::StandardButto
             [text, answer, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 compare("the message", box.text(), text);
-                compare("the message box's title", box.windowTitle(), Application::Title());
+                compare("the message box's title", box.windowTitle(), Title);
                 if (inspect)
                     inspect(box);
                 return answering(box, answer);
@@ -105,7 +105,7 @@ void DialogAnswers::expectAnyMsgBox(QMessageBox::StandardButton answer,
     expect({u"a message box"_s, Kind::MessageBox,
             [answer, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
-                compare("the message box's title", box.windowTitle(), Application::Title());
+                compare("the message box's title", box.windowTitle(), Title);
                 inspect(box);
                 return answering(box, answer);
             }});

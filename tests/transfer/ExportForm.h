@@ -2,10 +2,10 @@
 // The export dialog over a list of "w1", "w2", … as its tests use it.
 #pragma once
 
+#include "core/FreshState.h"
 #include "core/ListTools.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
-#include "support/FreshState.h"
 #include "transfer/dlgExport.h"
 
 #include <QLineEdit>

@@ -2,9 +2,9 @@
 // An import by itself, without the main window: its file, the person, what it signalled.
 #pragma once
 
+#include "core/FreshState.h"
 #include "runtime/RunTimeError.h"
 #include "support/FormTest.h"
-#include "support/FreshState.h"
 #include "transfer/Import.h"
 #include "transfer/ImportTools.h"
 

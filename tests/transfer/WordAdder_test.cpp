@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "transfer/WordAdder.h"
 
+#include "core/FreshState.h"
 #include "core/ListTools.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
-#include "support/FreshState.h"
 
 #include <memory>
 

@@ -2,9 +2,9 @@
 // The existing-word dialog over an open list, as an import opens it.
 #pragma once
 
+#include "core/FreshState.h"
 #include "platform/EntryTextBox.h"
 #include "support/FormTest.h"
-#include "support/FreshState.h"
 #include "transfer/ImportTools.h"
 #include "transfer/dlgWordExist.h"
 

@@ -2,8 +2,8 @@
 // What an export that fails leaves behind: nothing, whichever way it fails.
 #include "transfer/dlgExport.h"
 
-#include "runtime/TestFiles.h"
 #include "support/FormTest.h"
+#include "support/TestFiles.h"
 #include "transfer/ExportForm.h"
 
 #include <sys/resource.h>

@@ -3,11 +3,11 @@
 // answers its dialogs.
 #pragma once
 
+#include "core/FreshState.h"
 #include "editor/frmMain.h"
 #include "platform/MSFlexGrid.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
-#include "support/FreshState.h"
 
 #include <QList>
 #include <QStringList>

@@ -3,10 +3,10 @@
 #include "game/Music.h"
 
 #include "core/Module1.h"
+#include "editor/MainWindow.h"
 #include "game/SoundRequests.h"
 #include "platform/Paths.h"
 #include "support/FormTest.h"
-#include "support/MainWindow.h"
 
 #include <QDialog>
 #include <QPushButton>
@@ -50,7 +50,7 @@ const QString Stop = u"NULL 0"_s;
 
 } // namespace
 
-class Music_test final : public QObject
+class frmMain_Music_test final : public QObject
 {
     Q_OBJECT
 
@@ -394,7 +394,7 @@ private:
 
 int main(int argc, char *argv[])
 {
-    return runFormTest<Music_test>(argc, argv);
+    return runFormTest<frmMain_Music_test>(argc, argv);
 }
 
-#include "Music_test.moc"
+#include "frmMain_Music_test.moc"

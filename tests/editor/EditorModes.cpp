@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/EditorModes.h"
+#include "editor/EditorModes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/MainWindow.h"
+#include "editor/MainWindow.h"
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
