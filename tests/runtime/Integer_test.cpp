@@ -59,7 +59,7 @@ class Integer_test : public QObject
                 int result = 0;
                 const RunTimeError::Number error =
                     errorNumberOf([&] { return result = narrow(Integer(a), Integer(b)).toInt(); });
-                const auto pair = qPrintable(u"%1, %2"_s.arg(a).arg(b));
+                const QByteArray pair = u"%1, %2"_s.arg(a).arg(b).toLatin1();
                 QVERIFY2(error == (fits(exact) ? NoRunTimeError : RunTimeError::Overflow), pair);
                 QVERIFY2(!fits(exact) || result == exact, pair);
             }
