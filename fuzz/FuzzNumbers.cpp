@@ -133,7 +133,7 @@ Wide units(const Decimal &decimal, int decimals)
         number = number * 10 + (digits[std::size_t(i)] - '0');
     // Two of the digits left are enough: the second says whether anything follows the first.
     const std::string rest = digits.substr(std::size_t(wholeDigits));
-    const int first = rest.empty() ? 0 : rest[0] - '0';
+    const Wide first = rest.empty() ? 0 : rest[0] - '0';
     const bool more = rest.find_first_not_of('0', 1) != std::string::npos;
     number = halfToEven(number * 100 + first * 10 + (more ? 1 : 0), 100);
     return decimal.negative ? -number : number;
