@@ -19,8 +19,8 @@ QString userData()
     return madeFolder(QStandardPaths::GenericDataLocation, QStringLiteral("Lexibrook"));
 }
 
-// A folder that comes with the program: where the installation puts it; in a build beside the
-// program, and two folders above its tests.
+// A folder that is installed with the program. In a build it is beside the program, and two folders
+// above the tests.
 QString ownFolder(const QString &installed, const QString &name)
 {
     const QDir program(QCoreApplication::applicationDirPath());

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's fixed places.
+// The fixed files and folders of the program.
 #pragma once
 
 #include <QString>
 
 enum class Place {
-    UserData,     // folder of what the program keeps for this person
-    InstanceLock, // file that tells whether the program runs
+    UserData,     // folder of the files that the program keeps for the user
+    InstanceLock, // file that is locked while the program runs
     Top10,        // file of the Top 10 table, in UserData
     WordLists,    // start folder for word lists
     Audio,        // folder of the music that comes with the program
-    Plugins,      // folder of the libraries that the program loads when it needs them
+    Plugins,      // folder of the program's plugins
 };
 
-// The absolute path. The folder that it lies in is made where it is missing; WordLists itself is
-// not, so that its absence tells the first start. What comes with the program is never made: it is
-// sought from the program's own folder, and the path leads nowhere if it is missing.
+// The absolute path. Makes UserData, and the folder that contains a file or WordLists, if it is
+// missing. WordLists itself is not made: at the first start of the program it does not exist yet.
+// Audio and Plugins are installed with the program, and the path may not exist.
 [[nodiscard]] QString pathOf(Place place);
