@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's look: one accent colour, round corners, even spacing, in light and dark palettes.
+// The style sheet of the program, for light and dark palettes.
 #pragma once
 
 #include <QColor>
@@ -9,5 +9,5 @@ class QPalette;
 
 [[nodiscard]] QColor accentColour(const QPalette &palette);
 
-// Follows the application's palette; to be called again when that changes.
+// Takes its colours from the application's palette. Call it again when the palette has changed.
 void applyAppearance(QApplication &application);

@@ -25,7 +25,7 @@ const QVersionNumber &version()
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
-    // Else a write beyond a limit on the size of files would end the program instead of failing.
+    // A write beyond the limit on file sizes then fails instead of ending the program.
     std::signal(SIGXFSZ, SIG_IGN);
     setApplicationName(Title());
     setApplicationVersion(QLatin1String(TANGLEWIT_VERSION));
@@ -41,8 +41,8 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 bool Application::PrevInstance()
 {
     m_instanceLock = std::make_unique<QLockFile>(pathOf(Place::InstanceLock));
-    // A lock that a living copy holds cannot be taken away; any other one, even an empty file that
-    // a power cut left, does not count.
+    // A lock is stale unless the process that made it runs; so is an empty lock file, which a power
+    // failure can leave.
     m_instanceLock->setStaleLockTime(1);
     return !m_instanceLock->tryLock() && m_instanceLock->error() == QLockFile::LockFailedError;
 }

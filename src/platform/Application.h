@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The application object: what the program is called, which version it is, and whether it runs
-// already.
+// The application object with the name and version of the program, and the test for another copy of
+// it that runs already.
 #pragma once
 
 #include <QApplication>
@@ -16,7 +16,7 @@ public:
     // The arguments must outlive the object.
     Application(int &argc, char **argv);
 
-    // True where another copy of the program runs for this person.
+    // True if the same user runs another copy of the program.
     [[nodiscard]] bool PrevInstance();
 
     [[nodiscard]] static QString Title();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The short motion of a card that is turned over: its old side narrows, its new one widens.
+// The animation of a card that is turned over: the old side gets narrower, then the new side gets
+// wider.
 #pragma once
 
 #include <QBrush>
@@ -12,10 +13,10 @@ class CardTurn final : public QWidget
     Q_OBJECT
 
 public:
-    // Plays over the card and goes away by itself, or at the call of end; not at all where the
-    // style asks for no motion.
+    // Removes an animation that is still running.
     static void end(QWidget &card);
-    // `behind` is what is seen beside the card while it turns.
+    // Plays on top of the card, then removes itself. Does nothing if the style has no animations.
+    // `behind` fills the area beside the narrow card.
     static void play(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide,
                      const QBrush &behind);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The button of a window that Enter presses wherever the keyboard is, unless it is on another
-// button. A window hands the keys that it gets to it.
+// The default button of a window that is no QDialog: Enter clicks it, unless another button has the
+// keyboard focus. The window passes its key events to press().
 #pragma once
 
 #include <QPointer>
@@ -11,9 +11,10 @@ class QKeyEvent;
 class DefaultButton final
 {
 public:
-    // Null = none.
+    // Null for no default button.
     void set(QPushButton *button);
-    // Presses for Enter, given the control that has the keyboard. False for any other key.
+    // Clicks a button if the key is Enter; false for any other key. `focus` is the control that has
+    // the keyboard focus.
     bool press(const QKeyEvent &event, QWidget *focus) const;
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A modal form: Esc and every other way of ending it go through the life cycle of a form.
+// A dialog that is a Form: Esc and reject() close it in the same way as its close box.
 #pragma once
 
 #include "platform/Form.h"

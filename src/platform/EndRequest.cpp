@@ -15,15 +15,14 @@ namespace {
 
 constexpr int LookInterval = 20; // ms
 
-// Whether a command has not ended yet. It may still wait for a dialog, or go on after one that has
-// just been closed.
+// Whether a command is waiting for a dialog, or goes on after its dialog was closed.
 bool isCommandRunning()
 {
     return QThread::currentThread()->loopLevel() > 1 || QApplication::activeModalWidget();
 }
 
-// False where it goes by itself: some questions have no Cancel, and a progress bar goes when its
-// loop is over.
+// False if the dialog cannot be cancelled: some questions have no Cancel, and a progress dialog
+// closes at the end of its loop.
 bool cancel(QWidget &dialog)
 {
     if (dialog.close())
@@ -44,7 +43,7 @@ QWidget *openWindow()
     return found == windows.end() ? nullptr : *found;
 }
 
-// One that closes may show another one. False where one stays.
+// A window that closes may show another one. False if a window stays open.
 bool closeWindows()
 {
     while (QWidget *window = openWindow())
@@ -63,7 +62,7 @@ EndRequest::EndRequest(std::function<bool()> isWorkUnsaved)
     m_timer.setInterval(LookInterval);
     connect(&m_timer, &QTimer::timeout, this, &EndRequest::look);
     connect(&m_signals, &EndSignals::received, this, &EndRequest::begin);
-    // The session manager takes what this returns with for the answer.
+    // The session manager gets its answer when the slot returns.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &EndRequest::commitData,
             Qt::DirectConnection);
 }
@@ -97,13 +96,13 @@ bool EndRequest::mayLogOut()
         return false;
     if (!isCommandRunning())
         return closeWindows();
-    // A command cannot end before this function does: the person is asked soon after, and can
-    // then log out again.
+    // The running command cannot end before this function returns. The user is asked afterwards,
+    // and can then log out again.
     begin();
     return false;
 }
 
-// Where the session manager lets nobody be asked, the copy of the unsaved work has to do.
+// If the session manager allows no questions, the copy of the unsaved work has to be enough.
 void EndRequest::commitData(QSessionManager &session)
 {
     if (!m_isWorkUnsaved() || !session.allowsInteraction())

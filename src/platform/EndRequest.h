@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Requests from outside to end the program: the system's signals (EndSignals) and the session
-// manager's at logout.
+// Ends the program when the system asks for it: by a signal (EndSignals), or by the session manager
+// at logout.
 //
-// The open dialogs are cancelled, the last one first, so that their commands end. Then the windows
-// are closed as by their close boxes, which ask a person with unsaved changes, and the program
-// ends with 0. A question without Cancel waits for its answer, as long as it takes. Where a window
-// stays, as after a save that failed, the program goes on, and so does the session.
+// It cancels the open dialogs, the last one first, so that their commands end. Then it closes the
+// windows, which ask about unsaved changes, and the program ends with exit code 0. If a question
+// has no Cancel, it waits for the answer. If a window stays open, for example because saving has
+// failed, the program goes on, and the session too.
 #pragma once
 
 #include "platform/EndSignals.h"
@@ -23,17 +23,17 @@ class EndRequest final : public QObject
     Q_OBJECT
 
 public:
-    // Without unsaved work nobody is asked anything at logout.
+    // At logout the user is asked only if the function returns true.
     explicit EndRequest(std::function<bool()> isWorkUnsaved);
 
-    // Does nothing more while a request is under way.
+    // Does nothing if a request has begun and not ended.
     void begin();
-    // At logout with unsaved work: closes the windows at once where no command is running, else
-    // soon. False where the session must go on.
+    // At logout with unsaved work: closes the windows, or begins to if a command is running. False
+    // if the session must go on.
     [[nodiscard]] bool mayLogOut();
 
 Q_SIGNALS:
-    // Commands that run on without a dialog should end soon.
+    // Commands that are running should end soon.
     void begun();
 
 private:
@@ -42,12 +42,12 @@ private:
 
     std::function<bool()> m_isWorkUnsaved;
     EndSignals m_signals;
-    QTimer m_timer;               // runs while dialogs go
+    QTimer m_timer;               // runs until the dialogs are closed
     QPointer<QWidget> m_waitsFor; // the dialog that could not be cancelled
 };
 
-// While one lives, the dialogs belong to the end of the program itself, however it was begun, and
-// no request cancels them.
+// While an object of this class exists, no request cancels a dialog: the program is ending, and the
+// dialogs ask about that.
 class LastQuestions final
 {
 public:

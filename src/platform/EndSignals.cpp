@@ -10,14 +10,14 @@ namespace {
 
 constexpr std::array Signals{SIGTERM, SIGINT, SIGHUP};
 
-// The two ends of a pipe: a signal handler may do little more than write a byte into it.
+// The ends of a pipe. Writing into it is one of the few things that a signal handler may do.
 std::array<int, 2> pipeEnds{-1, -1};
 
 void tell(int /*signal*/)
 {
     const int error = errno;
     const char byte = 0;
-    static_cast<void>(!write(pipeEnds[1], &byte, 1)); // a full pipe tells it already
+    static_cast<void>(!write(pipeEnds[1], &byte, 1)); // a full pipe has been written to before
     errno = error;
 }
 
@@ -26,7 +26,7 @@ void tell(int /*signal*/)
 EndSignals::EndSignals()
 {
     if (pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0)
-        return; // the signals end the program as if it had no handlers
+        return; // without handlers the signals end the program
     m_notifier = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &EndSignals::readPipe);
     for (std::size_t i = 0; i < Signals.size(); ++i) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The system's signals that ask the program to end (SIGTERM, SIGINT, SIGHUP), brought into the
-// event loop. One that the program was started to ignore, as by nohup, stays ignored.
+// Delivers SIGTERM, SIGINT and SIGHUP in the event loop. A signal that was ignored when the program
+// started (as nohup does with SIGHUP) stays ignored.
 #pragma once
 
 #include <QObject>
@@ -16,7 +16,7 @@ class EndSignals final : public QObject
     Q_OBJECT
 
 public:
-    // There may be one such object at a time. The signals do what they did before when it goes.
+    // There can be one object at a time. Its destructor restores the previous signal handlers.
     EndSignals();
     ~EndSignals() override;
 

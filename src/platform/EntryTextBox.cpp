@@ -16,7 +16,7 @@ QString EntryTextBox::text() const
 {
     if (!document()->isModified())
         return m_setText;
-    // Not toPlainText: that would turn hard blanks into blanks.
+    // toPlainText would replace no-break spaces by spaces.
     const QString lineBreak = QStringLiteral("\r\n");
     return document()
         ->toRawText()
@@ -52,13 +52,14 @@ bool EntryTextBox::canInsertFromMimeData(const QMimeData *source) const
     return source && source->hasText();
 }
 
-// Qt's own code takes the first of the formats unseen, and a clipboard without an owner has none.
+// Qt's implementation reads the first format without a check, and crashes if there is none, as in a
+// clipboard without an owner.
 void EntryTextBox::insertFromMimeData(const QMimeData *source)
 {
     const QString text = source && !isReadOnly() ? source->text() : QString();
     if (text.isEmpty())
-        return; // what is selected stays
-    // A fragment is undone by itself, a text together with what was typed before it.
+        return; // keep the selection
+    // Undo removes an inserted fragment alone, but an inserted text with what was typed before it.
     textCursor().insertFragment(QTextDocumentFragment::fromPlainText(text));
     ensureCursorVisible();
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A box for a text of an entry that may have several lines. A line break is the two characters
-// CR LF.
+// An edit box for a text of several lines, with CR LF as line break.
 //
-// A text that the person has not changed comes back exactly as it was set, other line breaks
-// included. Enter is left to the window (its default button); Ctrl+Enter and Shift+Enter break the
-// line. Tab leaves the box. What is pasted or dropped comes in as plain text; where there is none,
-// nothing changes.
+// A text that the user has not changed is returned exactly as it was set, with any other line
+// breaks. Enter is passed to the window (for its default button); Ctrl+Enter and Shift+Enter insert
+// a line break. Tab moves to the next control. Pasting and dropping insert plain text, or nothing
+// if there is none.
 #pragma once
 
 #include <QPlainTextEdit>

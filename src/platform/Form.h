@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A window with the life cycle of the program's forms.
+// The base class of the program's windows.
 //
-// Form_Load runs when the form is shown for the first time after it was made or unloaded. Closing
-// it runs Form_QueryUnload, Form_Unload and Form_Terminate; where one of them refuses or fails,
-// the form stays. All of them are guarded.
+// Form_Load runs when the form is shown for the first time, and for the first time after it was
+// closed. Closing the form runs Form_QueryUnload, Form_Unload and Form_Terminate; if the first
+// returns false or one of them throws, the form stays open. All handlers are run by runGuarded.
 #pragma once
 
 #include "platform/Guarded.h"
@@ -20,7 +20,7 @@ public:
     using Window::Window;
 
 protected:
-    // Connects the button's clicks with the form's handler, guarded:
+    // Connects the clicks on a button to a handler of the form:
     //   onClick(m_ui->cmdAdd, &frmMain::cmdAdd_Click);
     template <class Class> void onClick(QAbstractButton *button, void (Class::*handler)())
     {

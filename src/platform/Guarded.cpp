@@ -11,10 +11,10 @@
 
 namespace {
 
-// How many event loops were under way when the innermost handler began; -1 where none runs.
-int loopsAroundHandler = -1;
+// The level of nested event loops at which the innermost handler began; -1 if none runs.
+int handlerLevel = -1;
 
-int loopsUnderWay()
+int loopLevel()
 {
     return QThread::currentThread()->loopLevel();
 }
@@ -23,12 +23,12 @@ int loopsUnderWay()
 
 bool isHandlerAtWork()
 {
-    return loopsAroundHandler >= loopsUnderWay();
+    return handlerLevel >= loopLevel();
 }
 
 bool runGuarded(const std::function<void()> &handler)
 {
-    const QScopedValueRollback atWork(loopsAroundHandler, loopsUnderWay());
+    const QScopedValueRollback atWork(handlerLevel, loopLevel());
     try {
         handler();
         return true;

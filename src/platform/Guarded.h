@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Event handlers that may fail: an error ends the handler, is reported, and the program goes on.
+// Event handlers that may throw: the exception ends the handler and is shown in a message box, and
+// the program goes on.
 #pragma once
 
 #include <functional>
 
-// Runs the handler; what it throws is reported and stops here. True where it ran to its end.
+// Runs the handler and shows what it throws. True if it threw nothing.
 bool runGuarded(const std::function<void()> &handler);
 
-// Whether a handler is at work. It is not while it waits for the answer to a dialog, but it is
-// while it has events handled in between.
+// Whether a handler is running. One that waits for the answer to a dialog does not count; one that
+// calls processEvents does.
 [[nodiscard]] bool isHandlerAtWork();
 
-// The handler of `form` as a slot that no exception leaves:
+// A slot that calls the handler of `form` by runGuarded:
 //   connect(cmdAdd, &QPushButton::clicked, this, guarded(this, &frmMain::cmdAdd_Click));
 template <class Form, class Class, class... Arguments>
 [[nodiscard]] auto guarded(Form *form, void (Class::*handler)(Arguments...))

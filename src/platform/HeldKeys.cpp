@@ -13,15 +13,15 @@ bool isAnswer(const QWidget &receiver, int key)
     switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // In a box of several lines the key breaks the line. Where it does not, the box passes the
-        // event on to its window, and the filter sees it there.
+        // In an EntryTextBox the key may insert a line break. Otherwise the box passes the event to
+        // its window, where the filter sees it again.
         return !qobject_cast<const EntryTextBox *>(&receiver);
     case Qt::Key_Escape:
         return true;
     case Qt::Key_Space:
         return !receiver.testAttribute(Qt::WA_InputMethodEnabled);
     default:
-        // A letter of a button's caption answers a message box.
+        // In a message box the underlined letter of a button clicks it.
         return qobject_cast<const QMessageBox *>(&receiver) != nullptr;
     }
 }
@@ -50,8 +50,8 @@ bool HeldKeys::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-// An X server repeats a key by a release and a press of the same moment. Qt misses that where the
-// press has not arrived when it takes the release.
+// An X server sends a repeat as a release and a press with the same time stamp. Qt does not
+// recognise it if the press arrives after Qt has handled the release.
 bool HeldKeys::isRepeat(const QKeyEvent &press) const
 {
     return press.isAutoRepeat() || (press.timestamp() != 0 && press.timestamp() == m_releasedAt &&

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a key that is held down may repeat: typing, moving, scrolling, but no press of a button and
-// no answer to a dialog. Filters the events of the whole application.
+// An event filter for the application. A key that is held down repeats typing, moving and
+// scrolling, but does not click buttons, trigger shortcuts or answer dialogs again.
 #pragma once
 
 #include <QObject>
@@ -18,7 +18,7 @@ public:
 private:
     [[nodiscard]] bool isRepeat(const QKeyEvent &press) const;
 
-    bool m_repeated = false; // the key that is being looked up among the shortcuts
+    bool m_repeated = false; // the key event that Qt compares with the shortcuts is a repeat
     int m_releasedKey = 0;
     quint64 m_releasedAt = 0;
 };

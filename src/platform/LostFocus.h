@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The event of a control that the keyboard leaves for another control of its window. Another
-// window coming up is no such event.
+// Runs a handler when the keyboard focus leaves a control for another control of the window. It
+// does not run when another window or a menu takes the focus.
 #pragma once
 
 #include "platform/Guarded.h"

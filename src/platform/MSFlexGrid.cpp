@@ -17,7 +17,7 @@
 
 namespace {
 
-// More than any cell can show on one line.
+// No cell can show so many characters on one line.
 constexpr int LongestShown = 1000;
 
 QString onOneLine(const QString &text)
@@ -25,7 +25,7 @@ QString onOneLine(const QString &text)
     return text.left(LongestShown).simplified();
 }
 
-// Rich text, so that long lines are wrapped.
+// Only a rich text is wrapped in a tool tip.
 QString wrappingToolTip(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -44,7 +44,7 @@ public:
     }
 
 protected:
-    // Header and item numbers frame the page.
+    // The header and the item numbers have the background of the window.
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
@@ -143,13 +143,13 @@ bool MSFlexGrid::cellBold(int row, int column) const
 
 void MSFlexGrid::setCellBackColour(int row, int column, CellColour colour)
 {
-    // White is the palette's own background, so that a dark palette stays dark.
+    // White means the background of the palette, which may be dark.
     QTableWidgetItem &item = cell(row, column);
     const bool yellow = colour == Yellow;
     item.setData(Qt::BackgroundRole, yellow ? QVariant(QBrush(Qt::yellow)) : QVariant());
     item.setData(Qt::ForegroundRole, yellow ? QVariant(QBrush(Qt::black)) : QVariant());
     if (column == columnCount() - 1)
-        viewport()->update(); // the row goes on to the right edge
+        viewport()->update(); // paintEvent fills the rest of the row
 }
 
 MSFlexGrid::CellColour MSFlexGrid::cellBackColour(int row, int column) const
@@ -178,7 +178,7 @@ int MSFlexGrid::RowHeight(int row) const
     return rowHeight(row) * TwipsPerPixel;
 }
 
-// Where the columns leave room, the rows go on to the right edge.
+// Continues the rows from the last column to the right edge.
 void MSFlexGrid::paintEvent(QPaintEvent *event)
 {
     QTableWidget::paintEvent(event);
@@ -208,7 +208,7 @@ void MSFlexGrid::resizeEvent(QResizeEvent *event)
 
 void MSFlexGrid::wheelEvent(QWheelEvent *event)
 {
-    // By a page with Ctrl or Shift, as over a scroll bar.
+    // Ctrl or Shift scroll by a page, as they do on a scroll bar.
     const bool byPage = (event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) != 0;
     const int rowsPerStep = byPage ? m_visibleRows - 1 : QApplication::wheelScrollLines();
     const int rows = -m_wheel.turned(event->angleDelta().y() * rowsPerStep);
@@ -223,7 +223,7 @@ void MSFlexGrid::keyPressEvent(QKeyEvent *event)
     else if (event->key() == Qt::Key_Space)
         Q_EMIT Click(Row(), Col());
     else
-        event->ignore(); // Enter belongs to the window's default button
+        event->ignore(); // Enter is for the window's default button
 }
 
 bool MSFlexGrid::viewportEvent(QEvent *event)

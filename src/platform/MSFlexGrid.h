@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A page of cells without a scroll bar of its own: row 0 is the header, column 0 the item numbers.
+// A grid that shows one page of a list, without a scroll bar. Row 0 is the header, column 0 holds
+// the item numbers.
 //
-// Rows and columns count from 0. Measures are in twips. Wheel and keys only say where they lead:
-// what the page shows is its owner's. Space clicks the current row.
+// Rows and columns count from 0, sizes are in twips. The grid does not scroll: for the wheel and
+// the keys it emits signals, and its owner fills the page. The space key clicks the current row.
 #pragma once
 
 #include "platform/GridMove.h"
@@ -21,7 +22,7 @@ public:
 
     // New rows and columns are empty.
     void setSize(int rows, int columns);
-    // Empties every cell, header included, and takes off bold and background.
+    // Empties every cell, header included, and resets bold and background.
     void Clear();
 
     void setText(int row, int column, const QString &text);
@@ -34,8 +35,8 @@ public:
 
     void setColWidth(int column, int twips);
     [[nodiscard]] int ColWidth(int column) const;
-    // The rows from 0 on share the grid's height exactly; the text size follows. Rows behind them
-    // stay below the edge.
+    // The first `rows` rows, header included, fill the grid's height exactly, and the size of the
+    // text follows. Further rows are below the visible area.
     void setVisibleRows(int rows);
     [[nodiscard]] int RowHeight(int row) const;
 

@@ -70,7 +70,7 @@ public:
 
     void setEsc(MsgBoxEsc esc) { m_esc = esc; }
 
-    // As wide as the lines of the text ask for, and no higher than the screen.
+    // As wide as the lines of the text need, and not higher than the screen.
     void fitToText()
     {
         m_label->ensurePolished();
@@ -85,7 +85,7 @@ public:
         const int height = m_label->heightForWidth(width);
         const bool scrolls = height > room.height();
         const int bar = scrolls ? m_area->verticalScrollBar()->sizeHint().width() : 0;
-        // A bar that comes by itself takes the room in which the text would do without it.
+        // With ScrollBarAsNeeded a bar could stay although the text fits without it.
         m_area->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn
                                                    : Qt::ScrollBarAlwaysOff);
         m_area->setMinimumWidth(width + bar);
@@ -114,7 +114,7 @@ private:
     static constexpr int Widest = 440;
     static constexpr int FrameOfWindow = 40;
 
-    // Qt's own label cuts a path that is wider than the box. It keeps the text for text().
+    // QMessageBox cuts off a path that is wider than the box. Its label stays, for text().
     void replaceLayout(const QString &text)
     {
         findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))->hide();
@@ -125,7 +125,7 @@ private:
         m_label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         m_label->setText(text);
         m_area->setWidget(m_label);
-        std::unique_ptr<QLayout>(layout()).reset(); // a widget has room for one
+        std::unique_ptr<QLayout>(layout()).reset(); // a widget has one layout
         auto *column = new QVBoxLayout(this);
         column->setContentsMargins(Margin, Margin, Margin, Margin);
         column->setSpacing(Margin);
@@ -144,14 +144,14 @@ private:
     QDialogButtonBox *m_buttons = nullptr;
 };
 
-// Not a tool tip, a menu or the splash, which may vanish below the box.
+// A tool tip, a menu or the splash may close while the box is open.
 bool mayOwn(const QWidget *window)
 {
     return window && window->isVisible() &&
            (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
 }
 
-// No window is active right after one has closed.
+// Just after a window was closed, no window is active.
 QWidget *owner()
 {
     for (QWidget *window : {QApplication::activeModalWidget(), QApplication::activeWindow()})

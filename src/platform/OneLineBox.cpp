@@ -53,15 +53,15 @@ void OneLineBox::pasteFrom(QClipboard::Mode mode)
 {
     const QString line = oneLine(QGuiApplication::clipboard()->text(mode));
     if (line.isEmpty() || isReadOnly())
-        return; // what is selected stays
+        return; // keep the selection
     if (!hasSelectedText())
         endUndoStep();
     insert(line);
     endUndoStep();
 }
 
-// An undo step ends where the cursor moves, so the cursor is moved away and back. What is typed
-// before and after a paste is then undone by itself.
+// Moving the cursor ends an undo step, so it is moved away and back. A paste is then undone
+// separately from what was typed before and after it.
 void OneLineBox::endUndoStep()
 {
     const int place = cursorPosition();

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A box for a text of one line, whatever is pasted or dropped: a cell of a spreadsheet, for
-// example, comes with a line break at its end.
-//
-// A text that the program sets is not changed.
+// An edit box for one line. Pasting and dropping insert a text without its line breaks: a cell of a
+// spreadsheet, for example, has one at its end. A text that the program sets is not changed.
 #pragma once
 
 #include <QClipboard>
 #include <QLineEdit>
 
-// The text without the line breaks at its ends, and with a blank for each one inside.
+// The text without line breaks at its start and end, and with a space for each one inside.
 [[nodiscard]] QString oneLine(const QString &text);
 
 class OneLineBox final : public QLineEdit
@@ -19,7 +17,7 @@ public:
     using QLineEdit::QLineEdit;
 
 public Q_SLOTS:
-    // The box's context menu calls it by its name, in place of the slot of QLineEdit.
+    // Replaces the slot of QLineEdit, which the context menu calls by its name.
     void paste() { pasteFrom(QClipboard::Clipboard); }
 
 protected:

@@ -10,9 +10,9 @@
 namespace {
 
 constexpr int FirstShown = 400; // milliseconds
-constexpr int Interval = 50;
+constexpr int Interval = 50;    // milliseconds
 
-// Goes only when the loop is over: without it the windows below could be used.
+// Cannot be closed: while it is open, the windows below it cannot be used.
 class StayingProgressDialog final : public QProgressDialog
 {
 public:
@@ -56,7 +56,7 @@ void ProgressShown::show(int done, int total)
     m_dialog->setLabelText(QStringLiteral("%1 of %2").arg(done).arg(total));
     m_dialog->setValue(done);
     m_dialog->show();
-    QCoreApplication::processEvents(); // the windows repaint
+    QCoreApplication::processEvents(); // repaints the windows
     m_sinceShown.restart();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Keeps a window alive during a long loop: a wait cursor at once and, once the loop has run for a
-// moment, a bar with its progress. No command but Cancel, where it is offered, can be given
-// meanwhile.
+// The progress of a long loop: a wait cursor from the start and, after 0.4 seconds, a dialog with a
+// progress bar. Meanwhile the windows are repainted, but no command can be given except Cancel, if
+// it is offered.
 #pragma once
 
 #include <QElapsedTimer>
@@ -24,8 +24,8 @@ public:
 
     // Cheap enough to be called at every step.
     void show(int done, int total);
-    // Before and after the loop waits for the person: that time does not count, and no bar stands
-    // behind a question.
+    // Call it before and after the loop shows a question: the progress dialog is hidden, and the
+    // time of the question does not count.
     void pause();
     [[nodiscard]] bool wasCancelled() const;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The screen in twips: 1/1440 inch, 15 to a logical pixel at any scale factor.
+// Sizes in twips (1/1440 inch). A logical pixel has 15 at any scale factor.
 #pragma once
 
 #include <QSize>
@@ -8,7 +8,7 @@ class QWidget;
 
 inline constexpr int TwipsPerPixel = 15;
 
-// Of the whole screen that the window is on, panels included.
+// The size of the window's screen, panels included.
 [[nodiscard]] QSize screenInTwips(const QWidget &window);
 
 // Rounded to the nearest pixel.

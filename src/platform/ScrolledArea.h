@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The place of a long text, which scrolls up and down where the text is higher. The keyboard comes
-// to it when there is something to scroll.
+// A scroll area for a long text. It takes the keyboard focus only if there is something to scroll.
 #pragma once
 
 #include <QScrollArea>

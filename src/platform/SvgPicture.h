@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A picture drawn from an SVG file, sharp at any scale factor. It fills the widget and keeps its
-// proportions.
+// A widget that shows an SVG file. The picture fills the widget and keeps its proportions, so that
+// two of its edges may be outside.
 #pragma once
 
 #include <QWidget>
@@ -19,7 +19,6 @@ public:
     ~SvgPicture() override;
 
     [[nodiscard]] QString source() const { return m_source; }
-    // A file or resource path.
     void setSource(const QString &path);
 
 protected:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Steps of a wheel, put together from the parts of a step that fine wheels and touchpads send.
+// Adds up the parts of a wheel step that high-resolution wheels and touchpads send.
 #pragma once
 
 #include <QWheelEvent>
@@ -7,8 +7,8 @@
 class WheelSteps
 {
 public:
-    // How many steps are completed by turning it that far, in eighths of a degree; upwards is
-    // positive. Turned back, it starts anew.
+    // Takes a wheel event's angle in eighths of a degree. Returns the whole steps since the last
+    // ones; upwards is positive. A change of direction drops the part of a step turned before.
     [[nodiscard]] int turned(int delta)
     {
         if ((delta < 0) != (m_rest < 0))

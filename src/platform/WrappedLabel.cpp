@@ -16,7 +16,7 @@ QString oneParagraph(QString text)
     return text.replace(QLatin1Char('\n'), QChar::LineSeparator);
 }
 
-// Lines from the top down; returns the room that they take.
+// Places the lines from the top down and returns their size.
 QSizeF breakLines(QTextLayout &layout, double width, Qt::Alignment alignment)
 {
     QTextOption option(alignment & Qt::AlignHorizontal_Mask);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A label whose lines break at words, and inside a word that is wider than the label. It is as
-// high as that makes it, so that it belongs into a scroll area. Lines are centred unless another
-// alignment is set.
+// A label that wraps its text at words, and inside words that are wider than the label. Its height
+// follows from its width; put it into a scroll area. Lines are centred unless another alignment is
+// set.
 #pragma once
 
 #include <QLabel>
@@ -19,7 +19,7 @@ public:
     {
         return sizeWithin(width).height();
     }
-    // Of the lines as they break in a label of that width; the longest may be shorter.
+    // The size of the text when it is wrapped at this width.
     [[nodiscard]] QSize sizeWithin(int width) const;
 
 protected:

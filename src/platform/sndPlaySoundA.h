@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sound as the game asks for it: one at a time, each request in the place of the one before.
+// Plays one sound at a time: each request replaces the one before.
 #pragma once
 
 #include <QString>
@@ -9,13 +9,13 @@
 namespace SoundFlags {
 
 inline constexpr unsigned Asynchronous = 1; // return at once
-inline constexpr unsigned Loop = 8;         // over and over until the next request
+inline constexpr unsigned Loop = 8;         // repeat until the next request
 
 } // namespace SoundFlags
 
-// With Loop the wave file is played from now on; any other request is silence. Returns at once and
-// reports nothing: a file that is missing or damaged, and a machine without sound, are silence too.
+// With Loop it plays the wave file over and over, without Loop it stops the sound. Returns at once.
+// Errors are not reported: if the file cannot be played, there is silence.
 void sndPlaySoundA(const QString &fileName, unsigned flags);
 
-// Puts a player of the caller's in the place of the machine's; an empty function puts that back.
+// Sends all requests to the function instead, until an empty function is set.
 void setSoundPlayer(std::function<void(const QString &fileName, unsigned flags)> player);

@@ -14,7 +14,7 @@ public:
     Array() = default;
     explicit Array(std::vector<T> elements) : m_elements(std::move(elements)) {}
 
-    // Keeps what fits; new elements are empty.
+    // New elements are default-constructed.
     void resize(int size) { m_elements.resize(static_cast<std::size_t>(size)); }
     [[nodiscard]] int size() const { return static_cast<int>(m_elements.size()); }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads little-endian numbers and length-prefixed texts off a byte span, never beyond its end.
-//
-// A number that does not lie in the span whole is zero; a text cut off keeps what is there.
+// Reads little-endian numbers and texts with a length prefix from a range of bytes, never beyond
+// its end. A number that is not complete is read as zero, a text that is not complete as its start.
 #pragma once
 
 #include "runtime/Windows1252.h"
@@ -15,7 +14,7 @@ public:
 
     [[nodiscard]] bool atEnd() const { return m_rest.isEmpty(); }
     [[nodiscard]] qsizetype left() const { return m_rest.size(); }
-    // Whether something was asked for that does not lie in the span whole.
+    // Whether something was read that is not complete.
     [[nodiscard]] bool ranOut() const { return m_ranOut; }
 
     // As many bytes as there are, up to the size.

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the data has to tell the person, without a window of its own.
+// Messages to the user from code that has no windows.
 #pragma once
 
 #include <QString>
 
 #include <functional>
 
-// Shows the text with an OK button through the hook that the windows put in; without one it is
-// dropped.
+// Passes the text to the hook, which shows it and waits for OK. Does nothing if no hook is set.
 void notice(const QString &text);
 
 void setNoticeHook(std::function<void(const QString &)> hook);

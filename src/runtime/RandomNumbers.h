@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's one source of random numbers, uniform in [0, 1) with 24 bits.
+// The random numbers of the program: uniform in [0, 1), with 24 bits.
 #pragma once
 
 #include <functional>
 
 namespace RandomNumbers {
 
-// Starts a new sequence from the clock. No two calls start the same one, however fast they
-// follow, so that numbers drawn with a re-seeding before each draw are uniform too.
+// Starts a new sequence from the clock. Two calls never start the same sequence, so that numbers
+// are uniform even if each is drawn after a new seeding.
 void reseedFromClock();
 
 [[nodiscard]] float next();
 
-// Puts a source of the caller's in the place of the generator; an empty function puts the
-// generator back. While it is set, re-seeding does nothing.
+// Takes all numbers from the function instead, until an empty function is set. While one is set,
+// seeding does nothing.
 void setSource(std::function<float()> source);
 
 } // namespace RandomNumbers

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A failure that ends the action under way: thrown by value, reported to the person as a
-// numbered run-time error.
+// An error that ends the running command, thrown by value and shown as a numbered run-time error.
 #pragma once
 
 #include <QString>
@@ -32,8 +31,8 @@ public:
     explicit RunTimeError(Number number, QString detail = {});
 
     [[nodiscard]] Number number() const noexcept { return m_number; }
-    // What the person reads: the numbered line, an empty line, the words and, where there is
-    // one, the detail on a line of its own.
+    // The text for the message box: the line with the number, an empty line, the description, and
+    // the detail, if any, on another line.
     [[nodiscard]] QString report() const;
     [[nodiscard]] const char *what() const noexcept override { return m_what.constData(); }
 

@@ -15,11 +15,11 @@ struct Decimal
 {
     QString text; // without outer blanks
     bool isNegative = false;
-    QString digits;     // before and behind the point
-    qint64 pointAt = 0; // as many digits are before it; may lie outside them
+    QString digits;     // those before and after the point
+    qint64 pointAt = 0; // number of digits before the point; may be negative or too large
 };
 
-// The library would also take groups of digits, other blanks and the digits of other scripts.
+// Qt's conversions also accept group separators, other white space and digits of other scripts.
 Decimal decimalOf(const QString &text)
 {
     static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
@@ -30,7 +30,7 @@ Decimal decimalOf(const QString &text)
     const QString digits = whole + match.captured(3);
     if (!match.hasMatch() || digits.isEmpty())
         throw RunTimeError(RunTimeError::TypeMismatch);
-    // Larger than any number of digits could make up for.
+    // No text has so many digits that they could compensate for such an exponent.
     constexpr double beyondAll = 1e12;
     const double exponent = std::clamp(match.captured(4).toDouble(), -beyondAll, beyondAll);
     return {inner, match.captured(1) == QLatin1Char('-'), digits,
@@ -67,7 +67,7 @@ std::int64_t toUnits(const QString &text, int decimals)
     std::int64_t units = whole.isEmpty() ? 0 : whole.toLongLong(&fits);
     if (!fits || units >= tooLarge)
         throw RunTimeError(RunTimeError::Overflow);
-    // Digits of the same number compare as their texts do.
+    // Two texts of the same number of digits compare like their numbers.
     const QString rest = decimal.digits.mid(wholeDigits);
     const QString half = QStringLiteral("5").leftJustified(rest.size(), u'0');
     if (rest > half || (rest == half && units % 2 != 0))
