@@ -5,6 +5,8 @@
 #include "game/GameForm.h"
 #include "support/FormTest.h"
 
+#include <QSignalSpy>
+
 #include <algorithm>
 
 using namespace Module1;
@@ -107,7 +109,10 @@ private Q_SLOTS:
         QFETCH(QString, state);
         bring(state);
         const bool plays = state == u"playing"_s || state == u"new pass at 0"_s;
+        const QSignalSpy left(&m_form->window(), &frmTanglewit::left);
+        qsizetype leftBefore = 0;
         const auto inspect = [&](QDialog &dialog) {
+            leftBefore = left.count();
             QVERIFY(dialog.isModal());
             QVERIFY(!m_form->window().isVisible());
             QVERIFY(!m_form->timer().isActive());
@@ -124,6 +129,7 @@ private Q_SLOTS:
         QVERIFY(m_form->answers.allSeen());
         QVERIFY(!m_form->window().isVisible());
         QVERIFY(m_form->mainWindow().isVisible());
+        QCOMPARE(left.count(), leftBefore + 1);
         QVERIFY(!m_form->timer().isActive());
         QCOMPARE(m_form->sounds(),
                  plays || state == u"ready"_s ? QStringList{u"NULL 0"_s} : QStringList());
