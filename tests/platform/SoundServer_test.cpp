@@ -225,7 +225,7 @@ private:
             m_server.listen();
             return condition();
         };
-        return QTest::qWaitFor(listen, 30'000);
+        return QTest::qWaitFor(listen, 120'000);
     }
     [[nodiscard]] bool listenFor(std::size_t samples)
     {

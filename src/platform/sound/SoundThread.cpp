@@ -62,6 +62,10 @@ SoundThread::SoundThread()
     worker->moveToThread(this);
     connect(this, &SoundThread::requested, worker.get(), &Worker::loop);
     m_worker = std::move(worker);
+    // The sound that the server keeps in store, in milliseconds, so that music goes on while the
+    // machine is busy. QSoundEffect has no other way to set it.
+    if (!qEnvironmentVariableIsSet("PULSE_LATENCY_MSEC"))
+        qputenv("PULSE_LATENCY_MSEC", "1000");
     if (!g_nextHandler)
         g_nextHandler = qInstallMessageHandler(dropMessagesOfSoundThread);
     qAddPostRoutine(&SoundThread::end);
