@@ -33,8 +33,7 @@ public:
                                  static_cast<QWidget *>(after)})
             column->addWidget(control);
         show();
-        if (!QTest::qWaitForWindowActive(this))
-            Controls::fail(u"the window does not become active"_s);
+        Controls::waitUntilActive(*this);
         box->setFocus();
     }
 

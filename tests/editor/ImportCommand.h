@@ -17,57 +17,65 @@ public:
 
     // Writes the file below the fresh home and chooses it.
     void import(const QString &name, const QByteArray &bytes,
-                std::function<void(QFileDialog &)> inspect = {})
+                std::function<void(QFileDialog &)> inspect = {}, Caller caller = Caller::current())
     {
         const QString file = main.path(name);
         QDir().mkpath(QFileInfo(file).path());
-        ImportTools::writeFile(file, bytes);
-        choose(file, std::move(inspect));
+        ImportTools::writeFile(file, bytes, caller);
+        choose(file, std::move(inspect), caller);
     }
 
-    void importList(const QStringList &entries)
+    void importList(const QStringList &entries, Caller caller = Caller::current())
     {
-        import(QStringLiteral("words.lwx"), ImportTools::listFile(entries));
+        import(QStringLiteral("words.lwx"), ImportTools::listFile(entries), {}, caller);
     }
 
-    void importDif(const QByteArrayList &lines)
+    void importDif(const QByteArrayList &lines, Caller caller = Caller::current())
     {
-        import(QStringLiteral("words.dif"), ImportTools::joined(lines));
+        import(QStringLiteral("words.dif"), ImportTools::joined(lines), {}, caller);
     }
 
     // What the person meets after the file dialog has been told before, by the functions below.
-    void choose(const QString &file, std::function<void(QFileDialog &)> inspect = {})
+    void choose(const QString &file, std::function<void(QFileDialog &)> inspect = {},
+                Caller caller = Caller::current())
     {
-        main.answers.chooseFile(file, std::move(inspect));
+        main.answers.chooseFile(file, std::move(inspect), caller);
         for (const auto &expect : std::exchange(m_after, {}))
             expect();
-        main.choose("mnuImport");
+        main.choose("mnuImport", caller);
     }
 
     // What the person meets once the file is chosen, in this order.
-    void expectYesNo(const QString &text, QMessageBox::StandardButton answer)
+    void expectYesNo(const QString &text, QMessageBox::StandardButton answer,
+                     Caller caller = Caller::current())
     {
-        m_after.emplace_back([this, text, answer] { main.answers.expectMsgBox(text, answer); });
+        m_after.emplace_back([=, this] { main.answers.expectMsgBox(text, answer, {}, caller); });
     }
-    void expectMsgBox(const QString &text, std::function<void(QMessageBox &)> inspect = {})
+    void expectMsgBox(const QString &text, std::function<void(QMessageBox &)> inspect = {},
+                      Caller caller = Caller::current())
     {
-        m_after.emplace_back([this, text, inspect = std::move(inspect)] {
-            main.answers.expectMsgBox(text, QMessageBox::Ok, inspect);
+        m_after.emplace_back([this, text, caller, inspect = std::move(inspect)] {
+            main.answers.expectMsgBox(text, QMessageBox::Ok, inspect, caller);
         });
     }
-    void expectQuestion(const QString &answer, std::function<void(QDialog &)> look = {})
+    void expectQuestion(const QString &answer, std::function<void(QDialog &)> look = {},
+                        Caller caller = Caller::current())
     {
-        m_after.emplace_back([this, answer, look = std::move(look)] {
-            ImportTools::expectQuestion(main.answers, answer, look);
+        m_after.emplace_back([this, answer, caller, look = std::move(look)] {
+            ImportTools::expectQuestion(main.answers, answer, look, caller);
         });
     }
-    void expectReport(const QString &start, const QString &part = {})
+    void expectReport(const QString &start, const QString &part = {},
+                      Caller caller = Caller::current())
     {
-        m_after.emplace_back([this, start, part] {
-            main.answers.expectAnyMsgBox(QMessageBox::Ok, [start, part](QMessageBox &box) {
-                QVERIFY2(box.text().startsWith(start) && box.text().contains(part),
-                         qPrintable(box.text()));
-            });
+        m_after.emplace_back([this, start, part, caller] {
+            main.answers.expectAnyMsgBox(
+                QMessageBox::Ok,
+                [start, part](QMessageBox &box) {
+                    QVERIFY2(box.text().startsWith(start) && box.text().contains(part),
+                             qPrintable(box.text()));
+                },
+                caller);
         });
     }
 

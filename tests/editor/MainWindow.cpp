@@ -15,22 +15,21 @@
 
 using namespace Qt::StringLiterals;
 
-MainWindow::MainWindow(Start start)
+MainWindow::MainWindow(Start start, Caller caller) : answers(caller)
 {
     // As at any start but the first.
     QDir().mkpath(pathOf(Place::WordLists));
     m_window = std::make_unique<frmMain>();
     if (start == Start::Shown)
-        show();
+        show(caller);
 }
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::show()
+void MainWindow::show(Caller caller)
 {
     m_window->showMaximized();
-    if (!QTest::qWaitForWindowActive(m_window.get()))
-        Controls::fail(u"the main window does not become active"_s);
+    Controls::waitUntilActive(*m_window, caller);
 }
 
 QScrollBar &MainWindow::bar()
@@ -38,36 +37,38 @@ QScrollBar &MainWindow::bar()
     return control<QScrollBar>("VScroll1");
 }
 
-void MainWindow::click(const char *button)
+void MainWindow::click(const char *button, Caller caller)
 {
-    Controls::click(control<QPushButton>(button));
+    Controls::click(control<QPushButton>(button, caller), caller);
 }
 
-void MainWindow::choose(const char *menuItem)
+void MainWindow::choose(const char *menuItem, Caller caller)
 {
-    Controls::choose(action(menuItem));
+    Controls::choose(action(menuItem, caller), caller);
 }
 
-void MainWindow::type(const char *box, const QString &text)
+void MainWindow::type(const char *box, const QString &text, Caller caller)
 {
-    Controls::type(control<QWidget>(box), text);
+    Controls::type(control<QWidget>(box, caller), text, caller);
 }
 
-QString MainWindow::text(const char *box)
+QString MainWindow::text(const char *box, Caller caller)
 {
-    auto &widget = control<QWidget>(box);
+    auto &widget = control<QWidget>(box, caller);
     if (const auto *line = qobject_cast<QLineEdit *>(&widget))
         return line->text();
     if (const auto *lines = qobject_cast<EntryTextBox *>(&widget))
         return lines->text();
-    Controls::fail(QLatin1String(box) + u" is no text box"_s);
+    failTest(QLatin1String(box) + u" is no text box"_s, caller);
+    return {};
 }
 
-void MainWindow::typeEntry(const QString &word, const QString &definition, const QString &sentence)
+void MainWindow::typeEntry(const QString &word, const QString &definition, const QString &sentence,
+                           Caller caller)
 {
-    type("txtWord", word);
-    type("txtDefinition", definition);
-    type("txtSentence", sentence);
+    type("txtWord", word, caller);
+    type("txtDefinition", definition, caller);
+    type("txtSentence", sentence, caller);
 }
 
 void MainWindow::fill(int entries)
@@ -100,12 +101,12 @@ void MainWindow::showFirstPage()
     bar().setValue(1);
 }
 
-void MainWindow::clickCell(int row, int column)
+void MainWindow::clickCell(int row, int column, Caller caller)
 {
     MSFlexGrid &table = grid();
     const QRect cell = table.visualItemRect(table.item(row, column));
     if (!table.viewport()->rect().contains(cell.center()))
-        Controls::fail(u"row %1, column %2 is out of sight"_s.arg(row).arg(column));
+        return failTest(u"row %1, column %2 is out of sight"_s.arg(row).arg(column), caller);
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
 }
 
@@ -117,7 +118,7 @@ QStringList MainWindow::row(int row)
     return texts;
 }
 
-QList<int> MainWindow::markedRows()
+QList<int> MainWindow::markedRows(Caller caller)
 {
     QList<int> rows;
     for (int row = 1; row < grid().rowCount(); ++row) {
@@ -129,7 +130,7 @@ QList<int> MainWindow::markedRows()
         if (marks == 6)
             rows += row;
         else if (marks != 0)
-            Controls::fail(u"row %1 is marked in part"_s.arg(row));
+            failTest(u"row %1 is marked in part"_s.arg(row), caller);
     }
     return rows;
 }

@@ -21,36 +21,40 @@ class MainWindow final
 
 public:
     enum class Start { Shown, Hidden };
-    explicit MainWindow(Start start = Start::Shown);
+    explicit MainWindow(Start start = Start::Shown, Caller caller = Caller::current());
     ~MainWindow();
     Q_DISABLE_COPY_MOVE(MainWindow)
 
     DialogAnswers answers;
 
     // Shows the window maximised and waits until it is active.
-    void show();
+    void show(Caller caller = Caller::current());
 
     [[nodiscard]] frmMain &window() { return *m_window; }
     // A path in the fresh home.
     [[nodiscard]] QString path(const QString &name) const { return m_state.path(name); }
 
-    template <class Control> [[nodiscard]] Control &control(const char *name)
+    template <class Control>
+    [[nodiscard]] Control &control(const char *name, Caller caller = Caller::current())
     {
-        return Controls::find<Control>(*m_window, name);
+        return Controls::find<Control>(*m_window, name, caller);
     }
-    [[nodiscard]] QAction &action(const char *name) { return control<QAction>(name); }
+    [[nodiscard]] QAction &action(const char *name, Caller caller = Caller::current())
+    {
+        return control<QAction>(name, caller);
+    }
     [[nodiscard]] MSFlexGrid &grid() { return control<MSFlexGrid>("MSFlexGrid1"); }
     [[nodiscard]] QScrollBar &bar();
 
-    void click(const char *button);
-    void choose(const char *menuItem);
-    void type(const char *box, const QString &text);
+    void click(const char *button, Caller caller = Caller::current());
+    void choose(const char *menuItem, Caller caller = Caller::current());
+    void type(const char *box, const QString &text, Caller caller = Caller::current());
     // Of txtWord, txtDefinition or txtSentence.
-    [[nodiscard]] QString text(const char *box);
+    [[nodiscard]] QString text(const char *box, Caller caller = Caller::current());
 
     // Types an entry into the boxes, which must be enabled.
     void typeEntry(const QString &word, const QString &definition = {},
-                   const QString &sentence = {});
+                   const QString &sentence = {}, Caller caller = Caller::current());
 
     // Puts entries ("word 1", "definition 1", "sentence 1"), … into the list in place of what it
     // held and shows the page from entry 1.
@@ -59,12 +63,12 @@ public:
     void fill(const QStringList &words);
 
     // Clicks the middle of a cell, which must be in sight.
-    void clickCell(int row, int column);
+    void clickCell(int row, int column, Caller caller = Caller::current());
     // Item number, word, definition and sentence that the grid shows in the row.
     [[nodiscard]] QStringList row(int row);
     // The rows that are marked in all three data columns. A row that is marked in part, or whose
-    // bold and yellow disagree, ends the test.
-    [[nodiscard]] QList<int> markedRows();
+    // bold and yellow disagree, fails the test.
+    [[nodiscard]] QList<int> markedRows(Caller caller = Caller::current());
 
     // What a person sees of the entry area, control by control: "hidden", or the button's caption
     // and then "disabled", "enabled" or "default"; of the text boxes "disabled" or "enabled".

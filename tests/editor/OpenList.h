@@ -55,14 +55,14 @@ inline void writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        Controls::fail(QStringLiteral("cannot write ") + path);
+        failTest(QStringLiteral("cannot write ") + path);
 }
 
 inline QByteArray readFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        Controls::fail(QStringLiteral("cannot read ") + path);
+        failTest(QStringLiteral("cannot read ") + path);
     return file.readAll();
 }
 
@@ -108,20 +108,20 @@ struct OpenList
 };
 
 // Opens a list file in a window whose list is unchanged.
-inline void openList(MainWindow &main, const QString &path)
+inline void openList(MainWindow &main, const QString &path, Caller caller = Caller::current())
 {
-    main.answers.expectMsgBox(EndLesson, QMessageBox::Ok);
-    main.answers.chooseFile(path);
-    main.choose("mnuOpen");
+    main.answers.expectMsgBox(EndLesson, QMessageBox::Ok, {}, caller);
+    main.answers.chooseFile(path, {}, caller);
+    main.choose("mnuOpen", caller);
 }
 
 // Types a new entry and ends the entry mode.
-inline void addEntry(MainWindow &main, const QString &word)
+inline void addEntry(MainWindow &main, const QString &word, Caller caller = Caller::current())
 {
-    main.click("cmdNewWord");
-    main.typeEntry(word, QStringLiteral("a definition"), QStringLiteral("A sentence."));
-    main.click("cmdAdd");
-    main.click("cmdAbort");
+    main.click("cmdNewWord", caller);
+    main.typeEntry(word, QStringLiteral("a definition"), QStringLiteral("A sentence."), caller);
+    main.click("cmdAdd", caller);
+    main.click("cmdAbort", caller);
 }
 
 inline QStringList addedEntry(const QString &word)

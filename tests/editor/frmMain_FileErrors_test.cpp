@@ -32,7 +32,7 @@ private:
         rlimit limit = m_oldLimit;
         limit.rlim_cur = largestFile;
         if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
-            Controls::fail(u"the size of files cannot be limited"_s);
+            failTest(u"the size of files cannot be limited"_s);
     }
 
     rlimit m_oldLimit{};

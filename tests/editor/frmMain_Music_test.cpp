@@ -365,7 +365,8 @@ private:
         for (QWidget *window : QApplication::topLevelWidgets())
             if (window->objectName() == u"frmTanglewit"_s)
                 return *window;
-        Controls::fail(u"there is no game window"_s);
+        failTest(u"there is no game window"_s);
+        return Controls::missing<QWidget>();
     }
 
     void openGame(const char *item)

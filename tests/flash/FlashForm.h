@@ -27,44 +27,58 @@ public:
     DialogAnswers answers;
 
     // A list of "word 1" with "definition 1", and so on.
-    explicit FlashForm(int entries = 5)
+    explicit FlashForm(int entries = 5, Caller caller = Caller::current()) : answers(caller)
     {
         for (int i = 1; i <= entries; ++i)
             Module1::gVocabList().AddVocab(u"word %1"_s.arg(i), u"definition %1"_s.arg(i), {});
-        open();
+        open(caller);
     }
     // A list of a single word with this definition.
-    explicit FlashForm(const QString &definition)
+    explicit FlashForm(const QString &definition, Caller caller = Caller::current())
+        : answers(caller)
     {
         Module1::gVocabList().AddVocab(u"word 1"_s, definition, {});
-        open();
+        open(caller);
     }
 
     [[nodiscard]] dlgQuickFlash &dialog() { return *m_dialog; }
-    template <class Control> [[nodiscard]] Control &control(const char *name)
+    template <class Control>
+    [[nodiscard]] Control &control(const char *name, Caller caller = Caller::current())
     {
-        return Controls::find<Control>(*m_dialog, name);
+        return Controls::find<Control>(*m_dialog, name, caller);
     }
-    [[nodiscard]] QPushButton &button(const char *name) { return control<QPushButton>(name); }
-    [[nodiscard]] QTimer &timer(const char *name) { return control<QTimer>(name); }
-    [[nodiscard]] FlashCard &card(const char *name) { return control<FlashCard>(name); }
+    [[nodiscard]] QPushButton &button(const char *name, Caller caller = Caller::current())
+    {
+        return control<QPushButton>(name, caller);
+    }
+    [[nodiscard]] QTimer &timer(const char *name, Caller caller = Caller::current())
+    {
+        return control<QTimer>(name, caller);
+    }
+    [[nodiscard]] FlashCard &card(const char *name, Caller caller = Caller::current())
+    {
+        return control<FlashCard>(name, caller);
+    }
     [[nodiscard]] QString word() { return card("txtWord").toPlainText(); }
     [[nodiscard]] QString definition() { return card("txtDef").toPlainText(); }
 
-    void click(const char *name) { Controls::click(button(name)); }
+    void click(const char *name, Caller caller = Caller::current())
+    {
+        Controls::click(button(name, caller), caller);
+    }
     void clickCard() { QTest::mouseClick(card("txtDef").viewport(), Qt::LeftButton); }
 
     // Lets a running timer fire now.
-    void passTime(const char *name)
+    void passTime(const char *name, Caller caller = Caller::current())
     {
-        QTimer &running = timer(name);
+        QTimer &running = timer(name, caller);
         if (!running.isActive())
-            Controls::fail(QLatin1String(name) + u" does not run"_s);
+            return failTest(QLatin1String(name) + u" does not run"_s, caller);
         const int interval = running.interval();
         QSignalSpy fired(&running, &QTimer::timeout);
         running.setInterval(1);
         if (!fired.wait())
-            Controls::fail(QLatin1String(name) + u" does not fire"_s);
+            failTest(QLatin1String(name) + u" does not fire"_s, caller);
         running.setInterval(interval);
     }
 
@@ -105,12 +119,11 @@ public:
     }
 
 private:
-    void open()
+    void open(Caller caller)
     {
         m_dialog = std::make_unique<dlgQuickFlash>();
         m_dialog->show();
-        if (!QTest::qWaitForWindowActive(m_dialog.get()))
-            Controls::fail(u"the dialog does not become active"_s);
+        Controls::waitUntilActive(*m_dialog, caller);
     }
 
     std::unique_ptr<dlgQuickFlash> m_dialog;

@@ -38,7 +38,8 @@ class GameForm final
 public:
     DialogAnswers answers;
 
-    explicit GameForm(const QStringList &words = fiveWords())
+    explicit GameForm(const QStringList &words = fiveWords(), Caller caller = Caller::current())
+        : answers(caller)
     {
         Module1::gTop10 = emptyTop10(QDate::currentDate());
         Module1::gUpbeatMusic = true;
@@ -95,15 +96,22 @@ public:
 
     [[nodiscard]] frmTanglewit &window() { return *m_window; }
     [[nodiscard]] QWidget &mainWindow() { return m_mainWindow; }
-    template <class Control> [[nodiscard]] Control &control(const char *name)
+    template <class Control>
+    [[nodiscard]] Control &control(const char *name, Caller caller = Caller::current())
     {
-        return Controls::find<Control>(*m_window, name);
+        return Controls::find<Control>(*m_window, name, caller);
     }
-    [[nodiscard]] QPushButton &button(const char *name) { return control<QPushButton>(name); }
+    [[nodiscard]] QPushButton &button(const char *name, Caller caller = Caller::current())
+    {
+        return control<QPushButton>(name, caller);
+    }
     [[nodiscard]] QTimer &timer() { return control<QTimer>("Timer1"); }
     [[nodiscard]] QLineEdit &answerBox() { return control<QLineEdit>("txtUserAnswer"); }
     [[nodiscard]] QScrollBar &levelSwitch() { return control<QScrollBar>("VScroll1"); }
-    [[nodiscard]] QString text(const char *label) { return control<QLabel>(label).text(); }
+    [[nodiscard]] QString text(const char *label, Caller caller = Caller::current())
+    {
+        return control<QLabel>(label, caller).text();
+    }
     [[nodiscard]] QString hitsTitle() { return control<QGroupBox>("frmHits").title(); }
     [[nodiscard]] QStringList lines(const char *list)
     {
@@ -114,118 +122,136 @@ public:
         return lines;
     }
 
-    void click(const char *name) { Controls::click(button(name)); }
+    void click(const char *name, Caller caller = Caller::current())
+    {
+        Controls::click(button(name, caller), caller);
+    }
 
     // After this call time passes only in passTime.
-    void open()
+    void open(Caller caller = Caller::current())
     {
         m_mainWindow.hide();
         m_window->show();
         timer().setInterval(std::chrono::hours(1));
-        waitForWindow();
+        waitForWindow(caller);
     }
-    void start()
+    void start(Caller caller = Caller::current())
     {
-        open();
-        click("cmdStart");
+        open(caller);
+        click("cmdStart", caller);
     }
-    void waitForWindow()
+    void waitForWindow(Caller caller = Caller::current())
     {
-        if (!QTest::qWaitForWindowActive(m_window.get()))
-            Controls::fail(u"the game window does not become active"_s);
+        Controls::waitUntilActive(*m_window, caller);
     }
     // Click an arrow of the level switch.
-    void raiseStartLevel(int times)
+    void raiseStartLevel(int times, Caller caller = Caller::current())
     {
         for (; times > 0; --times)
-            clickArrow(QStyle::SC_ScrollBarSubLine);
+            clickArrow(QStyle::SC_ScrollBarSubLine, caller);
     }
-    void lowerStartLevel(int times)
+    void lowerStartLevel(int times, Caller caller = Caller::current())
     {
         for (; times > 0; --times)
-            clickArrow(QStyle::SC_ScrollBarAddLine);
+            clickArrow(QStyle::SC_ScrollBarAddLine, caller);
     }
 
     // Lets the countdown, which must run, count seconds.
-    void passTime(int seconds = 1)
+    void passTime(int seconds = 1, Caller caller = Caller::current())
     {
         for (; seconds > 0; --seconds) {
             if (!timer().isActive())
-                Controls::fail(u"Timer1 does not run"_s);
+                return failTest(u"Timer1 does not run"_s, caller);
             QMetaObject::invokeMethod(&timer(), "timeout", Qt::DirectConnection);
         }
     }
     // Lets the countdown end and answers the dialog that follows.
-    void timeOut()
+    void timeOut(Caller caller = Caller::current())
     {
-        expectMiss();
-        passTime(text("lblCountDown").toInt());
+        expectMiss({}, caller);
+        passTime(text("lblCountDown", caller).toInt(), caller);
     }
 
     // Types the text and presses Enter.
-    void answer(const QString &text)
+    void answer(const QString &text, Caller caller = Caller::current())
     {
-        waitForWindow();
-        Controls::type(answerBox(), text);
-        Controls::press(Qt::Key_Return);
+        waitForWindow(caller);
+        Controls::type(answerBox(), text, caller);
+        Controls::press(Qt::Key_Return, {}, caller);
     }
-    void answerRight(int times = 1)
+    void answerRight(int times = 1, Caller caller = Caller::current())
     {
         for (; times > 0; --times)
-            answer(word());
+            answer(word(), caller);
     }
     // Enters a wrong word and answers the dialog that follows.
-    void answerWrong(const QString &wrong = u"wrong"_s)
+    void answerWrong(const QString &wrong = u"wrong"_s, Caller caller = Caller::current())
     {
-        expectMiss();
-        answer(wrong);
+        expectMiss({}, caller);
+        answer(wrong, caller);
     }
 
     // The next dialog is dlgIncorrectAnswer: calls `inspect`, then types the right word.
-    void expectMiss(const std::function<void(QDialog &)> &inspect = {})
+    void expectMiss(const std::function<void(QDialog &)> &inspect = {},
+                    Caller caller = Caller::current())
     {
-        answers.useForm("dlgIncorrectAnswer", [inspect](QDialog &dialog) {
-            if (inspect)
-                inspect(dialog);
-            Controls::type(Controls::find<QLineEdit>(dialog, "txtUserAnswer"), word());
-            Controls::click(Controls::find<QPushButton>(dialog, "cmdOK"));
-        });
+        answers.useForm(
+            "dlgIncorrectAnswer",
+            [inspect, caller](QDialog &dialog) {
+                if (inspect)
+                    inspect(dialog);
+                Controls::type(Controls::find<QLineEdit>(dialog, "txtUserAnswer", caller), word(),
+                               caller);
+                Controls::click(Controls::find<QPushButton>(dialog, "cmdOK", caller), caller);
+            },
+            caller);
     }
     // The next dialog is dlgGameOver: calls `inspect`, then clicks Close.
-    void expectTop10(const std::function<void(QDialog &)> &inspect = {})
+    void expectTop10(const std::function<void(QDialog &)> &inspect = {},
+                     Caller caller = Caller::current())
     {
-        answers.useForm("dlgGameOver", [inspect](QDialog &dialog) {
-            if (inspect)
-                inspect(dialog);
-            Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
-        });
+        answers.useForm(
+            "dlgGameOver",
+            [inspect, caller](QDialog &dialog) {
+                if (inspect)
+                    inspect(dialog);
+                Controls::click(Controls::find<QPushButton>(dialog, "cmdClose", caller), caller);
+            },
+            caller);
     }
     // The same with a score that enters the table under this name.
-    void expectTop10Entry(const QString &name, const std::function<void(QDialog &)> &inspect = {})
+    void expectTop10Entry(const QString &name, const std::function<void(QDialog &)> &inspect = {},
+                          Caller caller = Caller::current())
     {
-        answers.useForm("dlgGameOver", [name, inspect](QDialog &dialog) {
-            if (inspect)
-                inspect(dialog);
-            Controls::type(Controls::find<QLineEdit>(dialog, "txtName"), name);
-            Controls::click(Controls::find<QPushButton>(dialog, "cmdEnter"));
-            Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
-        });
+        answers.useForm(
+            "dlgGameOver",
+            [name, inspect, caller](QDialog &dialog) {
+                if (inspect)
+                    inspect(dialog);
+                Controls::type(Controls::find<QLineEdit>(dialog, "txtName", caller), name, caller);
+                Controls::click(Controls::find<QPushButton>(dialog, "cmdEnter", caller), caller);
+                Controls::click(Controls::find<QPushButton>(dialog, "cmdClose", caller), caller);
+            },
+            caller);
     }
-    void expectLevel(int level) { answers.expectMsgBox(u"Level %1"_s.arg(level)); }
+    void expectLevel(int level, Caller caller = Caller::current())
+    {
+        answers.expectMsgBox(u"Level %1"_s.arg(level), QMessageBox::Ok, {}, caller);
+    }
 
     // Enters wrong answers until the game is over. name: for a score that enters the table; null if
     // none does.
-    void loseAllLives(const QString &name = {})
+    void loseAllLives(const QString &name = {}, Caller caller = Caller::current())
     {
-        while (text("lblNumLifes").toInt() > 1)
-            answerWrong();
-        expectMiss();
+        while (text("lblNumLifes", caller).toInt() > 1 && !QTest::currentTestFailed())
+            answerWrong(u"wrong"_s, caller);
+        expectMiss({}, caller);
         if (name.isNull())
-            expectTop10();
+            expectTop10({}, caller);
         else
-            expectTop10Entry(name);
-        answer(u"wrong"_s);
-        waitForWindow();
+            expectTop10Entry(name, {}, caller);
+        answer(u"wrong"_s, caller);
+        waitForWindow(caller);
     }
 
     void choose(const char *music)
@@ -304,7 +330,7 @@ private:
         return names;
     }
 
-    void clickArrow(QStyle::SubControl arrow)
+    void clickArrow(QStyle::SubControl arrow, Caller caller)
     {
         QScrollBar &bar = levelSwitch();
         QStyleOptionSlider option;
@@ -319,7 +345,7 @@ private:
         option.pageStep = bar.pageStep();
         const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, arrow, &bar);
         if (place.isEmpty() || !bar.rect().contains(place.center()))
-            Controls::fail(u"the level switch has no such arrow"_s);
+            return failTest(u"the level switch has no such arrow"_s, caller);
         QTest::mouseClick(&bar, Qt::LeftButton, {}, place.center());
     }
 

@@ -24,9 +24,10 @@ QString wordOf(int letters)
     return word;
 }
 
-LetterTile &tile(const TileRack &rack, int number)
+QPushButton &tile(const TileRack &rack, int number)
 {
-    return Controls::find<LetterTile>(rack, QByteArray("cmdLetters_") + QByteArray::number(number));
+    return Controls::find<QPushButton>(rack,
+                                       QByteArray("cmdLetters_") + QByteArray::number(number));
 }
 
 // Numbers and letters of the tiles that are turned up, such as "14a 15b".
@@ -196,7 +197,7 @@ private Q_SLOTS:
         uncoverAll(rack, u"cac"_s);
         QVERIFY(tile(rack, 15).grab().toImage() == tile(rack, 17).grab().toImage());
         QVERIFY(tile(rack, 15).grab().toImage() != tile(rack, 16).grab().toImage());
-        LetterTile &accented = tile(rack, 16);
+        QPushButton &accented = tile(rack, 16);
         accented.setText(u"á"_s);
         QVERIFY(tile(rack, 15).grab().toImage() != accented.grab().toImage());
     }
@@ -207,7 +208,7 @@ private Q_SLOTS:
         rack.prepare(3);
         rack.show();
         uncoverAll(rack, u"cat"_s);
-        const LetterTile &open = tile(rack, 15);
+        const QPushButton &open = tile(rack, 15);
         QCOMPARE(open.focusPolicy(), Qt::NoFocus);
         QCOMPARE(rack.childAt(open.geometry().center()), nullptr);
     }
@@ -252,9 +253,9 @@ private Q_SLOTS:
     }
 
 private:
-    static std::vector<LetterTile *> turnedUpTiles(const TileRack &rack)
+    static std::vector<QPushButton *> turnedUpTiles(const TileRack &rack)
     {
-        std::vector<LetterTile *> tiles;
+        std::vector<QPushButton *> tiles;
         for (int number = 1; number <= 30; ++number)
             if (!tile(rack, number).isHidden())
                 tiles.push_back(&tile(rack, number));
@@ -264,10 +265,10 @@ private:
     // `count` tiles of one size are turned up, in a row in the middle of the rack.
     static void verifyTiles(const TileRack &rack, int count)
     {
-        const std::vector<LetterTile *> tiles = turnedUpTiles(rack);
+        const std::vector<QPushButton *> tiles = turnedUpTiles(rack);
         QCOMPARE(int(tiles.size()), count);
         int left = 0;
-        for (const LetterTile *each : tiles) {
+        for (const QPushButton *each : tiles) {
             const QRect place = each->geometry();
             QVERIFY(rack.rect().contains(place));
             QVERIFY(place.left() >= left);

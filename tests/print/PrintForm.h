@@ -26,7 +26,7 @@ public:
     DialogAnswers answers;
     SystemPrinter printer;
 
-    explicit PrintForm(int entries = 20)
+    explicit PrintForm(int entries = 20, Caller caller = Caller::current()) : answers(caller)
     {
         QStringList words;
         for (int i = 1; i <= entries; ++i)
@@ -35,43 +35,55 @@ public:
         Module1::PrintItemNumber = true;
         Module1::PrintOrientation = QStringLiteral("Portrait");
         printer.select(SystemPrinter::printToPdf());
-        open();
+        open(caller);
     }
 
     // Replaces the dialog by a new one and shows it.
-    void open()
+    void open(Caller caller = Caller::current())
     {
         m_dialog = std::make_unique<frmPrint>(printer);
         m_dialog->show();
-        if (!QTest::qWaitForWindowActive(m_dialog.get()))
-            Controls::fail(QStringLiteral("the dialog does not become active"));
+        Controls::waitUntilActive(*m_dialog, caller);
     }
 
     [[nodiscard]] frmPrint &dialog() { return *m_dialog; }
     [[nodiscard]] QString path(const QString &name) const { return m_state.path(name); }
 
-    template <class Control> [[nodiscard]] Control &control(const char *name)
+    template <class Control>
+    [[nodiscard]] Control &control(const char *name, Caller caller = Caller::current())
     {
-        return Controls::find<Control>(*m_dialog, name);
+        return Controls::find<Control>(*m_dialog, name, caller);
     }
-    [[nodiscard]] QString text(const char *box) { return control<QLineEdit>(box).text(); }
-    [[nodiscard]] int value(const char *bar) { return control<StepBar>(bar).value(); }
-    [[nodiscard]] bool isEnabled(const char *name) { return control<QWidget>(name).isEnabled(); }
-    [[nodiscard]] bool isChecked(const char *name)
+    [[nodiscard]] QString text(const char *box, Caller caller = Caller::current())
     {
-        return control<QAbstractButton>(name).isChecked();
+        return control<QLineEdit>(box, caller).text();
+    }
+    [[nodiscard]] int value(const char *bar, Caller caller = Caller::current())
+    {
+        return control<StepBar>(bar, caller).value();
+    }
+    [[nodiscard]] bool isEnabled(const char *name, Caller caller = Caller::current())
+    {
+        return control<QWidget>(name, caller).isEnabled();
+    }
+    [[nodiscard]] bool isChecked(const char *name, Caller caller = Caller::current())
+    {
+        return control<QAbstractButton>(name, caller).isChecked();
     }
 
-    void click(const char *button) { Controls::click(control<QAbstractButton>(button)); }
-    void type(const char *box, const QString &text)
+    void click(const char *button, Caller caller = Caller::current())
     {
-        Controls::type(control<QLineEdit>(box), text);
+        Controls::click(control<QAbstractButton>(button, caller), caller);
+    }
+    void type(const char *box, const QString &text, Caller caller = Caller::current())
+    {
+        Controls::type(control<QLineEdit>(box, caller), text, caller);
     }
     // Types and moves the focus to the next control.
-    void typeAndLeave(const char *box, const QString &text)
+    void typeAndLeave(const char *box, const QString &text, Caller caller = Caller::current())
     {
-        type(box, text);
-        Controls::press(Qt::Key_Tab);
+        type(box, text, caller);
+        Controls::press(Qt::Key_Tab, {}, caller);
     }
 
 private:

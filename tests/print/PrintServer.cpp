@@ -18,7 +18,7 @@ void write(const QString &path, const QByteArray &text)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        Controls::fail(file.errorString());
+        failTest(file.errorString());
 }
 
 constexpr const char *Places = R"(ServerRoot FOLDER/root
@@ -70,7 +70,7 @@ PrintServer::PrintServer()
     const QString socket = path(QStringLiteral("socket"));
     if (!m_process.waitForStarted() ||
         !QTest::qWaitFor([&] { return QFile::exists(socket); }, LongestWait))
-        Controls::fail(QStringLiteral("no print server: ") + m_process.errorString());
+        failTest(QStringLiteral("no print server: ") + m_process.errorString());
 }
 
 PrintServer::~PrintServer()
@@ -148,7 +148,7 @@ QString PrintServer::printed(const QString &queue) const
                !listed(queue, QStringLiteral("completed")).isEmpty();
     };
     if (!QTest::qWaitFor(isDone, LongestWait))
-        Controls::fail(QStringLiteral("the queue %1 does not print its jobs").arg(queue));
+        failTest(QStringLiteral("the queue %1 does not print its jobs").arg(queue));
     return path(QStringLiteral("printed/")) + queue;
 }
 
@@ -158,7 +158,7 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
     process.start(program, arguments);
     if (!process.waitForFinished(LongestWait) || process.exitStatus() != QProcess::NormalExit ||
         process.exitCode() != 0)
-        Controls::fail(program + QStringLiteral(": ") + process.errorString() + u' ' +
-                       QString::fromLocal8Bit(process.readAllStandardError()));
+        failTest(program + QStringLiteral(": ") + process.errorString() + u' ' +
+                 QString::fromLocal8Bit(process.readAllStandardError()));
     return process.readAllStandardOutput();
 }

@@ -286,7 +286,7 @@ private Q_SLOTS:
         const auto pages = [&form] {
             const auto &label = form.control<QLabel>("lblPage");
             if (!QTest::qWaitFor([&label] { return !label.text().contains(u"about"_s); }))
-                Controls::fail(u"the pages are not counted"_s);
+                failTest(u"the pages are not counted"_s);
             return label.text().section(QLatin1Char(' '), -1).toInt();
         };
         const int all = pages();

@@ -38,7 +38,7 @@ QString outputOf(const QString &tool, const QStringList &arguments)
     QProcess process;
     process.start(tool, arguments);
     if (!process.waitForFinished() || process.exitCode() != 0)
-        Controls::fail(tool + u" fails: "_s + process.errorString());
+        failTest(tool + u" fails: "_s + process.errorString());
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
@@ -118,7 +118,7 @@ void write(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        Controls::fail(file.errorString());
+        failTest(file.errorString());
 }
 
 } // namespace
@@ -365,7 +365,7 @@ private:
         form.answers.chooseFile(path);
         form.click("cmdPrint");
         if (!form.answers.allSeen() || form.dialog().isVisible())
-            Controls::fail(u"the list is not printed"_s);
+            failTest(u"the list is not printed"_s);
         return path;
     }
 

@@ -108,12 +108,13 @@ private Q_SLOTS:
     }
 
 private:
-    static QString teachersFile(const TestFolder &folder, mode_t mode)
+    static QString teachersFile(const TestFolder &folder, mode_t mode,
+                                Caller caller = Caller::current())
     {
         const QString path = folder.write(Name, "0123456789"_ba);
         const QByteArray name = QFile::encodeName(path);
         if (chown(name, Teacher, Class) != 0 || chmod(name, mode) != 0)
-            qFatal("The test cannot give a file away");
+            failTest(u"cannot give a file away"_s, caller);
         return path;
     }
 };

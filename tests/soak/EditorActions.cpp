@@ -242,7 +242,7 @@ void search(Soak &soak)
         soak.expectPage(hit);
     soak.main().click(SearchButton);
     if (isShown && soak.main().text(DefinitionBox) != model.entry(hit).definition)
-        Controls::fail(u"the boxes do not show entry %1"_s.arg(hit));
+        failTest(u"the boxes do not show entry %1"_s.arg(hit));
 }
 
 } // namespace

@@ -72,7 +72,7 @@ private:
         Controls::type(box(name), QString::number(typed));
         Soak::press(box(name), Qt::Key_Tab);
         if (box(name).text() != QString::number(number))
-            Controls::fail(u"%1 shows %2"_s.arg(QLatin1String(name), box(name).text()));
+            failTest(u"%1 shows %2"_s.arg(QLatin1String(name), box(name).text()));
     }
 
     // So that the files do not all become long ones.
@@ -113,7 +113,7 @@ private:
             m_soak.expectMsgBox(chosen + u" file is currently in use."_s);
         click("cmdBrowse");
         if (box("txtFilename").text() != (inUse ? before : chosen))
-            Controls::fail(u"txtFilename shows "_s + box("txtFilename").text());
+            failTest(u"txtFilename shows "_s + box("txtFilename").text());
     }
 
     [[nodiscard]] QString target()

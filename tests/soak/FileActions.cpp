@@ -76,7 +76,7 @@ void compareOffered(QFileDialog &dialog, const QString &name)
 {
     const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
     if (offered != name)
-        Controls::fail(u"the name \"%1\" is offered"_s.arg(offered));
+        failTest(u"the name \"%1\" is offered"_s.arg(offered));
 }
 
 Outcome expectSaveAs(Soak &soak)
@@ -310,7 +310,7 @@ void exitProgram(Soak &soak)
     else
         soak.main().window().close();
     if (soak.main().window().isVisible() == ends)
-        Controls::fail(ends ? u"the window is still there"_s : u"the window is gone"_s);
+        failTest(ends ? u"the window is still there"_s : u"the window is gone"_s);
     if (ends && soak.answers().allSeen())
         soak.startAnew();
 }

@@ -68,7 +68,7 @@ void useCards(Soak &soak, QDialog &form)
         // Line breaks and hard blanks as a text box has them.
         const QString word = QPlainTextEdit(Module1::gVocabList().Word()).toPlainText();
         if (Controls::find<FlashCard>(form, "txtWord").toPlainText() != word)
-            Controls::fail(u"the card shows another word"_s);
+            failTest(u"the card shows another word"_s);
     }
     if (soak.chance(50))
         Controls::click(Controls::find<QPushButton>(form, "CancelButton"));

@@ -39,7 +39,7 @@ void compareBoxes(Soak &soak)
     MainWindow &main = soak.main();
     if (main.text("txtWord") != entry.word || main.text("txtDefinition") != entry.definition ||
         main.text("txtSentence") != entry.sentence)
-        Controls::fail(u"the boxes do not show entry %1"_s.arg(model.shown));
+        failTest(u"the boxes do not show entry %1"_s.arg(model.shown));
 }
 
 void clickCell(Soak &soak)
@@ -75,7 +75,7 @@ void comparePage(Soak &soak, int firstBefore)
     const int last = std::max({1, soak.model.count() - 22, firstBefore});
     const bool isShown = soak.model.count() > 0 && !soak.model.overflowsOnPage(1);
     if (isShown && (first < 1 || first > last))
-        Controls::fail(u"the page begins at %1"_s.arg(first));
+        failTest(u"the page begins at %1"_s.arg(first));
 }
 
 void pressGridKeys(Soak &soak)

@@ -194,7 +194,7 @@ private:
         if (shown != title + QString::number(m_current) ||
             Controls::find<QLineEdit>(form, "txtCurWord").text() != model.entry(m_current).word ||
             Controls::find<QLineEdit>(form, "txtImportWord").text() != model.imported.word)
-            Controls::fail(u"the dialog shows \"%1\" for entry %2"_s.arg(shown).arg(m_current));
+            failTest(u"the dialog shows \"%1\" for entry %2"_s.arg(shown).arg(m_current));
     }
 
     void expectEnd()
@@ -301,7 +301,7 @@ void importDif(Soak &soak)
     const DifFile dif = someDifFile(soak, soak.model.imported);
     QFile file(soak.path(u"words.dif"_s));
     if (!file.open(QIODevice::WriteOnly) || file.write(dif.bytes) != dif.bytes.size())
-        Controls::fail(u"cannot write "_s + file.fileName());
+        failTest(u"cannot write "_s + file.fileName());
     file.close();
     QStringList words;
     for (const Entry &entry : dif.words)

@@ -76,7 +76,7 @@ void pasteByMenu(Soak & /*soak*/, QWidget &box)
     QCoreApplication::sendEvent(&place, &event);
     auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     if (!menu)
-        Controls::fail(u"no menu opens over "_s + box.objectName());
+        return failTest(u"no menu opens over "_s + box.objectName());
     const QList<QAction *> items = menu->actions();
     for (QAction *item : items)
         if (item->text().startsWith(u"&Paste"_s) && item->isEnabled())
@@ -103,7 +103,7 @@ void paste(Soak &soak, Way way)
     soak.note(u"into "_s + box.objectName());
     way(soak, box);
     if (!hadTwoLines && soak.main().text("txtWord").contains(u'\n'))
-        Controls::fail(u"the word has two lines"_s);
+        failTest(u"the word has two lines"_s);
 }
 
 template <Way How> void pasteBy(Soak &soak)

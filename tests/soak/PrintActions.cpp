@@ -42,7 +42,7 @@ void checkPdf(const QString &path)
     QFile file(path);
     if (!path.isEmpty() && (!file.open(QIODevice::ReadOnly) || file.read(5) != "%PDF-" ||
                             !file.readAll().trimmed().endsWith("%%EOF")))
-        Controls::fail(path + u" is no whole PDF file"_s);
+        failTest(path + u" is no whole PDF file"_s);
 }
 
 void printWholeList(Soak &soak)

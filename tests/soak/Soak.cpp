@@ -131,8 +131,8 @@ void Soak::waitFor(QWidget &window)
 {
     QCoreApplication::processEvents(); // a menu that has closed may leave no window active
     if (!QTest::qWaitForWindowActive(&window))
-        Controls::fail(u"%1 does not become active, but %2"_s.arg(
-            window.objectName(), nameOf(QApplication::activeWindow())));
+        failTest(u"%1 does not become active, but %2"_s.arg(window.objectName(),
+                                                            nameOf(QApplication::activeWindow())));
 }
 
 void Soak::note(const QString &what)
@@ -227,7 +227,7 @@ void Soak::expectRunTimeError(int number)
     note(u"then "_s + start);
     answers().expectAnyMsgBox(QMessageBox::Ok, [start](QMessageBox &box) {
         if (!box.text().startsWith(start))
-            Controls::fail(u"\"%1\" instead of %2"_s.arg(box.text(), start));
+            failTest(u"\"%1\" instead of %2"_s.arg(box.text(), start));
     });
 }
 

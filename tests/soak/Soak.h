@@ -89,7 +89,7 @@ private:
     void compareEditor();
     void compareGrid();
     void compareDisk();
-    void check(bool condition, const QString &what) const;
+    void check(bool condition, const QString &what, Caller caller = Caller::current()) const;
 
     std::mt19937 m_random;
     std::unique_ptr<MainWindow> m_main;

@@ -16,10 +16,10 @@
 using namespace Qt::StringLiterals;
 using namespace Module1;
 
-void Soak::check(bool condition, const QString &what) const
+void Soak::check(bool condition, const QString &what, Caller caller) const
 {
     if (!condition)
-        Controls::fail(what);
+        failTest(what, caller);
 }
 
 void Soak::compare()
@@ -46,12 +46,14 @@ void Soak::compareList()
     const cVocabList &list = gVocabList();
     check(list.NumWords() == model.count(),
           u"%1 entries instead of %2"_s.arg(list.NumWords().toInt()).arg(model.count()));
+    if (QTest::currentTestFailed())
+        return;
     for (int position = 1; position <= model.count(); ++position) {
         const VocabRecord &entry = list.entry(position);
         const Entry &expected = model.entry(position);
         if (entry.Word != expected.word || entry.Definition != expected.definition ||
             entry.Sentence != expected.sentence)
-            Controls::fail(u"entry %1 is \"%2\" instead of \"%3\", or its texts differ"_s.arg(
+            return failTest(u"entry %1 is \"%2\" instead of \"%3\", or its texts differ"_s.arg(
                 QString::number(position), entry.Word, expected.word));
     }
 }

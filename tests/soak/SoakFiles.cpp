@@ -58,7 +58,7 @@ void Soak::put(const QString &name, const QByteArray &bytes)
 {
     QFile file(inLists(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        Controls::fail(u"cannot write "_s + file.fileName());
+        failTest(u"cannot write "_s + file.fileName());
     model.disk[file.fileName()] = bytes;
 }
 

@@ -1,57 +1,74 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/Controls.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-void Controls::fail(const QString &what)
+namespace {
+
+bool isUsable(const QWidget &control)
 {
-    qFatal("%s: %s", QTest::currentTestFunction(), qUtf8Printable(what));
+    return control.isVisible() && control.isEnabled();
 }
 
-void Controls::click(QAbstractButton &button)
+// The control that has the focus. None fails the test.
+QWidget *focusWidget(Caller caller)
 {
-    if (!button.isVisible() || !button.isEnabled())
-        fail(button.objectName() + u" is hidden or disabled and cannot be clicked"_s);
+    QWidget *focus = QApplication::focusWidget();
+    if (!focus)
+        failTest(u"no control has the keyboard focus"_s, caller);
+    return focus;
+}
+
+} // namespace
+
+void Controls::waitUntilActive(QWidget &window, Caller caller)
+{
+    if (!QTest::qWaitForWindowActive(&window))
+        failTest(window.objectName() + u" does not become active"_s, caller);
+}
+
+void Controls::click(QAbstractButton &button, Caller caller)
+{
+    if (!isUsable(button))
+        return failTest(button.objectName() + u" is hidden or disabled and cannot be clicked"_s,
+                        caller);
     QTest::mouseClick(&button, Qt::LeftButton);
 }
 
-void Controls::choose(QAction &item)
+void Controls::choose(QAction &item, Caller caller)
 {
     if (!item.isVisible() || !item.isEnabled())
-        fail(item.objectName() + u" is hidden or disabled and cannot be chosen"_s);
+        return failTest(item.objectName() + u" is hidden or disabled and cannot be chosen"_s,
+                        caller);
     item.trigger();
 }
 
-void Controls::type(QWidget &box, const QString &text)
+void Controls::type(QWidget &box, const QString &text, Caller caller)
 {
-    if (!box.isVisible() || !box.isEnabled())
-        fail(box.objectName() + u" is hidden or disabled and takes no text"_s);
+    if (!isUsable(box))
+        return failTest(box.objectName() + u" is hidden or disabled and takes no text"_s, caller);
     box.setFocus();
     QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&box, Qt::Key_Delete);
     QTest::keyClicks(&box, text);
 }
 
-void Controls::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+void Controls::press(Qt::Key key, Qt::KeyboardModifiers modifiers, Caller caller)
 {
-    QWidget *focus = QApplication::focusWidget();
-    if (!focus)
-        fail(u"nothing has the keyboard focus"_s);
-    QTest::keyClick(focus, key, modifiers);
+    if (QWidget *focus = focusWidget(caller))
+        QTest::keyClick(focus, key, modifiers);
 }
 
-void Controls::holdOn(Qt::Key key, const QString &text)
+void Controls::holdOn(Qt::Key key, const QString &text, Caller caller)
 {
-    QWidget *focus = QApplication::focusWidget();
-    if (!focus)
-        fail(u"nothing has the keyboard focus"_s);
-    QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, text, true);
-    QApplication::sendEvent(focus, &again);
+    if (QWidget *focus = focusWidget(caller)) {
+        QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+        QApplication::sendEvent(focus, &again);
+    }
 }
 
 QString Controls::focusedControl()
@@ -60,12 +77,12 @@ QString Controls::focusedControl()
     return focus ? focus->objectName() : QString();
 }
 
-QStringList Controls::tabRound(Qt::Key key, Qt::KeyboardModifiers modifiers)
+QStringList Controls::tabRound(Qt::Key key, Qt::KeyboardModifiers modifiers, Caller caller)
 {
     constexpr int mostControls = 40; // of any window
     QStringList round{focusedControl()};
     while (round.size() < mostControls) {
-        press(key, modifiers);
+        press(key, modifiers, caller);
         if (focusedControl() == round.constFirst())
             return round;
         round += focusedControl();

@@ -16,20 +16,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto Title = "Tanglewit"_L1; // of every message box
-
 constexpr int LookInterval = 5; // ms
 constexpr int MostLooks = 600;  // at a dialog that should close
 
-void fail(const QString &what)
-{
-    QTest::qFail(qUtf8Printable(what), __FILE__, __LINE__);
-}
+constexpr auto Title = "Tanglewit"_L1; // of every message box
 
-void compare(const char *what, const QString &actual, const QString &expected)
+void compare(const char *what, const QString &actual, const QString &expected, Caller caller)
 {
     if (actual != expected)
-        fail(u"%1 is \"%2\" instead of \"%3\""_s.arg(QLatin1String(what), actual, expected));
+        failTest(u"%1 is \"%2\" instead of \"%3\""_s.arg(QLatin1String(what), actual, expected),
+                 caller);
 }
 
 QString describe(const QDialog &dialog)
@@ -40,10 +36,10 @@ QString describe(const QDialog &dialog)
                               dialog.windowTitle());
 }
 
-std::function<void()> pressing(QAbstractButton *button, const QString &name)
+std::function<void()> pressing(QAbstractButton *button, const QString &name, Caller caller)
 {
     if (!button || !button->isVisible() || !button->isEnabled()) {
-        fail(u"the dialog has no %1 that can be pressed"_s.arg(name));
+        failTest(u"the dialog has no %1 that can be pressed"_s.arg(name), caller);
         return {};
     }
     return [button = QPointer(button)] {
@@ -52,9 +48,9 @@ std::function<void()> pressing(QAbstractButton *button, const QString &name)
     };
 }
 
-std::function<void()> answering(QMessageBox &box, QMessageBox::StandardButton answer)
+std::function<void()> answering(QMessageBox &box, QMessageBox::StandardButton answer, Caller caller)
 {
-    return pressing(box.button(answer), u"button %1"_s.arg(answer));
+    return pressing(box.button(answer), u"button %1"_s.arg(answer), caller);
 }
 
 QAbstractButton *buttonOf(QFileDialog &dialog, QDialogButtonBox::StandardButton button)
@@ -63,17 +59,17 @@ QAbstractButton *buttonOf(QFileDialog &dialog, QDialogButtonBox::StandardButton 
     return buttons ? buttons->button(button) : nullptr;
 }
 
-void accept(QFileDialog &dialog)
+void accept(QFileDialog &dialog, Caller caller)
 {
     const auto button = dialog.acceptMode() == QFileDialog::AcceptOpen ? QDialogButtonBox::Open
                                                                        : QDialogButtonBox::Save;
-    if (const auto press = pressing(buttonOf(dialog, button), u"Open or Save"_s))
+    if (const auto press = pressing(buttonOf(dialog, button), u"Open or Save"_s, caller))
         press();
 }
 
 } // namespace
 
-DialogAnswers::DialogAnswers()
+DialogAnswers::DialogAnswers(Caller caller) : m_caller(caller)
 {
     connect(&m_timer, &QTimer::timeout, this, &DialogAnswers::look);
     m_timer.start(LookInterval);
@@ -82,32 +78,32 @@ DialogAnswers::DialogAnswers()
 DialogAnswers::~DialogAnswers()
 {
     for (const Expected &expected : m_expected)
-        fail(expected.what + u" did not come"_s);
+        failTest(expected.what + u" did not come"_s, expected.caller);
 }
 
 void DialogAnswers::expectMsgBox(const QString &text, QMessageBox::StandardButton answer,
-                                 std::function<void(QMessageBox &)> inspect)
+                                 std::function<void(QMessageBox &)> inspect, Caller caller)
 {
-    expect({u"message box \"%1\""_s.arg(text), Kind::MessageBox,
-            [text, answer, inspect = std::move(inspect)](QDialog &dialog) {
+    expect({u"message box \"%1\""_s.arg(text), caller, Kind::MessageBox,
+            [text, answer, caller, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
-                compare("the message", box.text(), text);
-                compare("the message box's title", box.windowTitle(), Title);
+                compare("the message", box.text(), text, caller);
+                compare("the message box's title", box.windowTitle(), Title, caller);
                 if (inspect)
                     inspect(box);
-                return answering(box, answer);
+                return answering(box, answer, caller);
             }});
 }
 
 void DialogAnswers::expectAnyMsgBox(QMessageBox::StandardButton answer,
-                                    std::function<void(QMessageBox &)> inspect)
+                                    std::function<void(QMessageBox &)> inspect, Caller caller)
 {
-    expect({u"a message box"_s, Kind::MessageBox,
-            [answer, inspect = std::move(inspect)](QDialog &dialog) {
+    expect({u"a message box"_s, caller, Kind::MessageBox,
+            [answer, caller, inspect = std::move(inspect)](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
-                compare("the message box's title", box.windowTitle(), Title);
+                compare("the message box's title", box.windowTitle(), Title, caller);
                 inspect(box);
-                return answering(box, answer);
+                return answering(box, answer, caller);
             }});
 }
 
@@ -116,12 +112,12 @@ void DialogAnswers::seeOtherMsgBoxes(std::function<void(const QString &)> see)
     m_seeOther = std::move(see);
 }
 
-void DialogAnswers::escapeMsgBox(const QString &text)
+void DialogAnswers::escapeMsgBox(const QString &text, Caller caller)
 {
-    expect({u"message box \"%1\" to be closed by Esc"_s.arg(text), Kind::MessageBox,
-            [text](QDialog &dialog) -> std::function<void()> {
+    expect({u"message box \"%1\" to be closed by Esc"_s.arg(text), caller, Kind::MessageBox,
+            [text, caller](QDialog &dialog) -> std::function<void()> {
                 auto &box = static_cast<QMessageBox &>(dialog);
-                compare("the message", box.text(), text);
+                compare("the message", box.text(), text, caller);
                 return [box = QPointer(&box)] {
                     if (box)
                         QTest::keyClick(box->defaultButton(), Qt::Key_Escape);
@@ -129,69 +125,81 @@ void DialogAnswers::escapeMsgBox(const QString &text)
             }});
 }
 
-void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect)
+void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect,
+                               Caller caller)
 {
-    expectFileDialog(u"file dialog for \"%1\""_s.arg(name), std::move(inspect),
-                     [name](QFileDialog &dialog) {
-                         auto *box = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
-                         if (!box)
-                             return fail(u"the file dialog has no box for the name"_s);
-                         // The completion would guess on while the name is typed, and its list
-                         // would pop up between a click and its button.
-                         box->setCompleter(nullptr);
-                         box->setFocus();
-                         box->selectAll();
-                         box->insert(name);
-                         accept(dialog);
-                     });
+    expectFileDialog(
+        u"file dialog for \"%1\""_s.arg(name), std::move(inspect),
+        [name, caller](QFileDialog &dialog) {
+            auto *box = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
+            if (!box)
+                return failTest(u"the file dialog has no box for the name"_s, caller);
+            // The completion would guess on while the name is typed, and its list
+            // would pop up between a click and its button.
+            box->setCompleter(nullptr);
+            box->setFocus();
+            box->selectAll();
+            box->insert(name);
+            accept(dialog, caller);
+        },
+        caller);
 }
 
-void DialogAnswers::acceptFileDialog(std::function<void(QFileDialog &)> inspect)
+void DialogAnswers::acceptFileDialog(std::function<void(QFileDialog &)> inspect, Caller caller)
 {
-    expectFileDialog(u"file dialog to accept"_s, std::move(inspect), accept);
+    expectFileDialog(
+        u"file dialog to accept"_s, std::move(inspect),
+        [caller](QFileDialog &dialog) { accept(dialog, caller); }, caller);
 }
 
-void DialogAnswers::cancelFileDialog(std::function<void(QFileDialog &)> inspect)
+void DialogAnswers::cancelFileDialog(std::function<void(QFileDialog &)> inspect, Caller caller)
 {
-    expectFileDialog(u"file dialog to cancel"_s, std::move(inspect), [](QFileDialog &dialog) {
-        if (const auto press = pressing(buttonOf(dialog, QDialogButtonBox::Cancel), u"Cancel"_s))
-            press();
-    });
+    expectFileDialog(
+        u"file dialog to cancel"_s, std::move(inspect),
+        [caller](QFileDialog &dialog) {
+            if (const auto press =
+                    pressing(buttonOf(dialog, QDialogButtonBox::Cancel), u"Cancel"_s, caller))
+                press();
+        },
+        caller);
 }
 
-void DialogAnswers::answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer)
+void DialogAnswers::answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer,
+                                    Caller caller)
 {
-    expect({u"question about replacing \"%1\""_s.arg(fileTitle), Kind::MessageBox,
-            [fileTitle, answer](QDialog &dialog) {
+    expect({u"question about replacing \"%1\""_s.arg(fileTitle), caller, Kind::MessageBox,
+            [fileTitle, answer, caller](QDialog &dialog) {
                 auto &box = static_cast<QMessageBox &>(dialog);
                 if (!qobject_cast<QFileDialog *>(box.parentWidget()) ||
                     !box.text().contains(fileTitle))
-                    fail(u"\"%1\" is not the file dialog's question about \"%2\""_s.arg(box.text(),
-                                                                                        fileTitle));
-                return answering(box, answer);
+                    failTest(u"\"%1\" is not the file dialog's question about \"%2\""_s.arg(
+                                 box.text(), fileTitle),
+                             caller);
+                return answering(box, answer, caller);
             }});
 }
 
-void DialogAnswers::useForm(const char *name, std::function<void(QDialog &)> use)
+void DialogAnswers::useForm(const char *name, std::function<void(QDialog &)> use, Caller caller)
 {
     const QString form = QLatin1String(name);
-    expect({form, Kind::Form, [this, form, use = std::move(use)](QDialog &dialog) {
-                compare("the form's name", dialog.objectName(), form);
+    expect({form, caller, Kind::Form, [this, form, caller, use = std::move(use)](QDialog &dialog) {
+                compare("the form's name", dialog.objectName(), form, caller);
                 m_inUse.emplace_back(&dialog);
-                return [this, use, open = QPointer(&dialog)] {
+                return [this, caller, use, open = QPointer(&dialog)] {
                     if (open)
                         use(*open);
                     if (open && open->isVisible())
-                        dismiss(*open, u"%1 stays open after its use"_s);
+                        dismiss(*open, u"%1 stays open after its use"_s, caller);
                 };
             }});
 }
 
-void DialogAnswers::useMsgBox(const QString &text, std::function<void(QMessageBox &)> use)
+void DialogAnswers::useMsgBox(const QString &text, std::function<void(QMessageBox &)> use,
+                              Caller caller)
 {
-    expect({u"message box \"%1\""_s.arg(text), Kind::MessageBox,
-            [text, use = std::move(use)](QDialog &dialog) {
-                compare("the message", static_cast<QMessageBox &>(dialog).text(), text);
+    expect({u"message box \"%1\""_s.arg(text), caller, Kind::MessageBox,
+            [text, caller, use = std::move(use)](QDialog &dialog) {
+                compare("the message", static_cast<QMessageBox &>(dialog).text(), text, caller);
                 return [use, open = QPointer(&dialog)] {
                     if (open)
                         use(static_cast<QMessageBox &>(*open));
@@ -203,7 +211,7 @@ bool DialogAnswers::allSeen()
 {
     for (const Expected &expected : std::exchange(m_expected, {})) {
         m_failed = true;
-        fail(expected.what + u" did not come"_s);
+        failTest(expected.what + u" did not come"_s, expected.caller);
     }
     return !m_failed;
 }
@@ -222,12 +230,12 @@ void DialogAnswers::expect(Expected expected)
 
 void DialogAnswers::expectFileDialog(const QString &what,
                                      std::function<void(QFileDialog &)> inspect,
-                                     std::function<void(QFileDialog &)> answer)
+                                     std::function<void(QFileDialog &)> answer, Caller caller)
 {
-    expect({what, Kind::FileDialog,
-            [inspect = std::move(inspect), answer = std::move(answer)](QDialog &dialog) {
+    expect({what, caller, Kind::FileDialog,
+            [caller, inspect = std::move(inspect), answer = std::move(answer)](QDialog &dialog) {
                 auto &fileDialog = static_cast<QFileDialog &>(dialog);
-                compare("the file dialog's name", dialog.objectName(), u"CommonDialog"_s);
+                compare("the file dialog's name", dialog.objectName(), u"CommonDialog"_s, caller);
                 if (inspect)
                     inspect(fileDialog);
                 return [answer, open = QPointer(&fileDialog)] {
@@ -272,7 +280,7 @@ void DialogAnswers::look()
         meet(*dialog);
     } else if (++m_waited > MostLooks) {
         m_waited = 0;
-        dismiss(*dialog, u"%1 stays open after its answer"_s);
+        dismiss(*dialog, u"%1 stays open after its answer"_s, m_caller);
     }
 }
 
@@ -285,27 +293,30 @@ void DialogAnswers::meet(QDialog &dialog)
                                       Qt::QueuedConnection);
             return;
         }
-        dismiss(dialog,
-                u"unexpected %1"_s +
-                    (m_expected.empty() ? QString() : u" instead of "_s + m_expected.front().what));
+        if (m_expected.empty())
+            dismiss(dialog, u"unexpected %1"_s, m_caller);
+        else
+            dismiss(dialog, u"unexpected %1 instead of "_s + m_expected.front().what,
+                    m_expected.front().caller);
         return;
     }
     const Expected expected = std::move(m_expected.front());
     m_expected.pop_front();
     ++m_seen;
+    m_caller = expected.caller;
     const std::function<void()> answer = expected.answer(dialog);
     if (!answer) {
-        dismiss(dialog, u"%1 could not be answered"_s);
+        dismiss(dialog, u"%1 could not be answered"_s, m_caller);
         return;
     }
     // An answer may open a further dialog, for which the timer must be able to fire.
     QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
 }
 
-void DialogAnswers::dismiss(QDialog &dialog, const QString &reason)
+void DialogAnswers::dismiss(QDialog &dialog, const QString &reason, Caller caller)
 {
     m_failed = true;
-    fail(reason.arg(describe(dialog)));
+    failTest(reason.arg(describe(dialog)), caller);
     QMetaObject::invokeMethod(
         &dialog, [&dialog] { dialog.done(QDialog::Rejected); }, Qt::QueuedConnection);
 }

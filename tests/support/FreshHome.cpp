@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/FreshHome.h"
 
-#include "support/Controls.h"
+#include "support/Caller.h"
 
 #include <QDir>
 #include <QSettings>
@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 FreshHome::FreshHome()
 {
     if (!m_home.isValid())
-        Controls::fail(m_home.errorString());
+        failTest(m_home.errorString());
     const auto place = [this](const char *variable, const QString &folder) {
         const QString path = this->path(folder);
         QDir().mkpath(path);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files put there and looked at without the code under test.
+// Files that a test writes and reads without the code under test.
 #pragma once
+
+#include "support/Caller.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,20 +11,36 @@
 #include <random>
 #include <sys/stat.h>
 
+inline void writeFile(const QString &path, const QByteArray &bytes,
+                      Caller caller = Caller::current())
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+        failTest(QLatin1String("cannot write ") + path, caller);
+}
+
+[[nodiscard]] inline QByteArray readFile(const QString &path, Caller caller = Caller::current())
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        failTest(QLatin1String("cannot read ") + path, caller);
+    return file.readAll();
+}
+
 class TestFolder
 {
 public:
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     [[nodiscard]] QString path() const { return m_folder.path(); }
 
-    QString write(const QString &name, const QByteArray &bytes) const
+    QString write(const QString &name, const QByteArray &bytes,
+                  Caller caller = Caller::current()) const
     {
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("The test cannot write %s", qPrintable(file.fileName()));
-        return file.fileName();
+        writeFile(path(name), bytes, caller);
+        return path(name);
     }
 
+    // "(cannot be read)" where there is no such file.
     [[nodiscard]] QByteArray bytes(const QString &name) const
     {
         QFile file(path(name));

@@ -24,60 +24,66 @@ class ExportForm final
 public:
     DialogAnswers answers;
 
-    explicit ExportForm(int entries = 10)
+    explicit ExportForm(int entries = 10, Caller caller = Caller::current()) : answers(caller)
     {
         QStringList words;
         for (int i = 1; i <= entries; ++i)
             words += word(i);
         addWords(Module1::gVocabList(), words);
-        open();
+        open(caller);
     }
 
     ~ExportForm() { closeDialog(); }
     Q_DISABLE_COPY_MOVE(ExportForm)
 
     // Shows a new dialog in place of the one before.
-    void open()
+    void open(Caller caller = Caller::current())
     {
         closeDialog();
         m_dialog = std::make_unique<dlgExport>(m_state.home());
         m_dialog->show();
-        activate();
+        activate(caller);
     }
 
     // As a window manager does when what was open over the dialog is gone.
-    void activate()
+    void activate(Caller caller = Caller::current())
     {
         m_dialog->activateWindow();
-        if (!QTest::qWaitForWindowActive(m_dialog.get()))
-            Controls::fail(u"the dialog does not become active"_s);
+        Controls::waitUntilActive(*m_dialog, caller);
     }
 
     [[nodiscard]] dlgExport &dialog() { return *m_dialog; }
     [[nodiscard]] QString path(const QString &name) const { return m_state.path(name); }
 
-    template <class Control> [[nodiscard]] Control &control(const char *name)
+    template <class Control>
+    [[nodiscard]] Control &control(const char *name, Caller caller = Caller::current())
     {
-        return Controls::find<Control>(*m_dialog, name);
+        return Controls::find<Control>(*m_dialog, name, caller);
     }
-    [[nodiscard]] QString text(const char *box) { return control<QLineEdit>(box).text(); }
-    void type(const char *box, const QString &text)
+    [[nodiscard]] QString text(const char *box, Caller caller = Caller::current())
     {
-        activate();
-        Controls::type(control<QLineEdit>(box), text);
+        return control<QLineEdit>(box, caller).text();
     }
-    void click(const char *button) { Controls::click(control<QPushButton>(button)); }
+    void type(const char *box, const QString &text, Caller caller = Caller::current())
+    {
+        activate(caller);
+        Controls::type(control<QLineEdit>(box, caller), text, caller);
+    }
+    void click(const char *button, Caller caller = Caller::current())
+    {
+        Controls::click(control<QPushButton>(button, caller), caller);
+    }
 
     // Types a number and goes on to the next control.
-    void typeAndLeave(const char *box, const QString &text)
+    void typeAndLeave(const char *box, const QString &text, Caller caller = Caller::current())
     {
-        type(box, text);
-        Controls::press(Qt::Key_Tab);
+        type(box, text, caller);
+        Controls::press(Qt::Key_Tab, {}, caller);
     }
-    void chooseRange(int start, int end)
+    void chooseRange(int start, int end, Caller caller = Caller::current())
     {
-        typeAndLeave("txtStart", QString::number(start));
-        typeAndLeave("txtEnd", QString::number(end));
+        typeAndLeave("txtStart", QString::number(start), caller);
+        typeAndLeave("txtEnd", QString::number(end), caller);
     }
     void typeTarget(const QString &path) { control<QLineEdit>("txtFilename").setText(path); }
 

@@ -48,14 +48,14 @@ public:
         return 0;
     }
 
-    void expectImported(int words)
+    void expectImported(int words, Caller caller = Caller::current())
     {
-        answers.expectMsgBox(u"%1 words imported"_s.arg(words), QMessageBox::Ok, okOnly);
+        answers.expectMsgBox(u"%1 words imported"_s.arg(words), QMessageBox::Ok, okOnly, caller);
     }
 
-    void expectAdded(int words)
+    void expectAdded(int words, Caller caller = Caller::current())
     {
-        answers.expectMsgBox(u"%1 words added"_s.arg(words), QMessageBox::Ok, okOnly);
+        answers.expectMsgBox(u"%1 words added"_s.arg(words), QMessageBox::Ok, okOnly, caller);
     }
 
 private:

@@ -30,7 +30,7 @@ inline void writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        Controls::fail(u"cannot write "_s + path);
+        failTest(u"cannot write "_s + path);
 }
 
 inline QByteArray listFile(const QStringList &entries)
@@ -98,23 +98,27 @@ inline void setOpenEntries(const QStringList &entries)
 // The answers to a word that exists already, by their button; closing is none of them.
 inline const char *const Close = "close";
 
-inline void giveAnswer(QDialog &form, const QString &answer)
+inline void giveAnswer(QDialog &form, const QString &answer, Caller caller = Caller::current())
 {
     if (answer == QLatin1String(Close))
         form.close();
     else
-        Controls::click(Controls::find<QPushButton>(form, qPrintable(answer)));
+        Controls::click(Controls::find<QPushButton>(form, qPrintable(answer), caller), caller);
 }
 
 // The next dialog is that question; `look` comes before the answer.
 inline void expectQuestion(DialogAnswers &answers, const QString &answer,
-                           std::function<void(QDialog &)> look = {})
+                           std::function<void(QDialog &)> look = {},
+                           Caller caller = Caller::current())
 {
-    answers.useForm("dlgWordExist", [answer, look = std::move(look)](QDialog &form) {
-        if (look)
-            look(form);
-        giveAnswer(form, answer);
-    });
+    answers.useForm(
+        "dlgWordExist",
+        [answer, caller, look = std::move(look)](QDialog &form) {
+            if (look)
+                look(form);
+            giveAnswer(form, answer, caller);
+        },
+        caller);
 }
 
 // The four flags as letters: T(his), A(ll), S(kip all), E(nd); small where they are not set.

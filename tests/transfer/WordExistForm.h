@@ -19,11 +19,14 @@ struct WordExistForm
 {
     explicit WordExistForm(QDialog &dialog) : form(dialog) {}
 
-    [[nodiscard]] QPushButton &button(const char *name) const
+    [[nodiscard]] QPushButton &button(const char *name, Caller caller = Caller::current()) const
     {
-        return Controls::find<QPushButton>(form, name);
+        return Controls::find<QPushButton>(form, name, caller);
     }
-    void click(const char *name) const { Controls::click(button(name)); }
+    void click(const char *name, Caller caller = Caller::current()) const
+    {
+        Controls::click(button(name, caller), caller);
+    }
     void close() const { form.close(); }
 
     // The existing entry's boxes: word, definition, sentence.
@@ -40,13 +43,13 @@ struct WordExistForm
 
     // Of the three boxes: "locked" or "unlocked"; then of the editing buttons, "Allow Modify",
     // "Update changes", "Delete", those that can be pressed.
-    [[nodiscard]] QStringList state() const
+    [[nodiscard]] QStringList state(Caller caller = Caller::current()) const
     {
         const bool word = Controls::find<QLineEdit>(form, "txtCurWord").isReadOnly();
         const bool definition = Controls::find<EntryTextBox>(form, "txtCurDef").isReadOnly();
         const bool sentence = Controls::find<EntryTextBox>(form, "txtCurSen").isReadOnly();
         if (word != definition || word != sentence)
-            Controls::fail(u"the boxes are locked in part"_s);
+            failTest(u"the boxes are locked in part"_s, caller);
         QStringList state{word ? u"locked"_s : u"unlocked"_s};
         for (const char *name : {"cmdAllowModify", "cmdUpdate", "cmdDelete"})
             if (button(name).isEnabled())
@@ -54,9 +57,9 @@ struct WordExistForm
         return state;
     }
 
-    void type(const char *box, const QString &text) const
+    void type(const char *box, const QString &text, Caller caller = Caller::current()) const
     {
-        Controls::type(Controls::find<QWidget>(form, box), text);
+        Controls::type(Controls::find<QWidget>(form, box, caller), text, caller);
     }
 
     QDialog &form;
@@ -84,7 +87,7 @@ inline QStringList shownUnlocked()
 class WordExistQuestion final
 {
 public:
-    // The incoming entry; where the open list does not hold its word, the test ends.
+    // The incoming entry, whose word the open list must hold.
     explicit WordExistQuestion(const QString &incoming)
     {
         const QStringList texts = ImportTools::parts(incoming);
@@ -95,17 +98,19 @@ public:
 
     // Shows the dialog about the first entry with the word, as an import does. `use` must close
     // it. Returns how often the main window was asked to be brought up to date.
-    int ask(DialogAnswers &answers, const std::function<void(const WordExistForm &)> &use)
+    int ask(DialogAnswers &answers, const std::function<void(const WordExistForm &)> &use,
+            Caller caller = Caller::current())
     {
         if (!Module1::gVocabList().Exist(Module1::gImportWord, 1))
-            Controls::fail(u"no conflict"_s);
-        answers.useForm("dlgWordExist", [use](QDialog &dialog) { use(WordExistForm(dialog)); });
+            failTest(u"the open list has no such word"_s, caller);
+        answers.useForm(
+            "dlgWordExist", [use](QDialog &dialog) { use(WordExistForm(dialog)); }, caller);
         dlgWordExist dialog;
         int refreshed = 0;
-        QObject::connect(&dialog, &dlgWordExist::refresh, &dialog, [&] {
+        QObject::connect(&dialog, &dlgWordExist::refresh, &dialog, [&, caller] {
             ++refreshed;
             if (dialog.isVisible())
-                Controls::fail(u"refreshed before the dialog is gone"_s);
+                failTest(u"refreshed before the dialog is gone"_s, caller);
         });
         dialog.exec();
         return refreshed;

@@ -28,11 +28,11 @@ public:
     SmallFiles()
     {
         if (getrlimit(RLIMIT_FSIZE, &m_usual) != 0)
-            Controls::fail(u"the limit cannot be read"_s);
+            failTest(u"the limit cannot be read"_s);
         rlimit small = m_usual;
         small.rlim_cur = 16 * 1024;
         if (setrlimit(RLIMIT_FSIZE, &small) != 0)
-            Controls::fail(u"the limit cannot be set"_s);
+            failTest(u"the limit cannot be set"_s);
     }
     ~SmallFiles() { setrlimit(RLIMIT_FSIZE, &m_usual); }
     Q_DISABLE_COPY_MOVE(SmallFiles)

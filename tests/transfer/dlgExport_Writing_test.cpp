@@ -28,7 +28,7 @@ void write(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        Controls::fail(u"cannot write "_s + path);
+        failTest(u"cannot write "_s + path);
 }
 
 } // namespace
