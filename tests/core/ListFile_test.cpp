@@ -5,6 +5,7 @@
 
 #include <QDataStream>
 #include <QTest>
+#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -59,9 +60,9 @@ int countOf(const QByteArray &bytes)
 
 QByteArray severalEntries()
 {
-    return fileCount(4) + fileRecord("cat", "a small animal", "The cat sat.") +
-           fileRecord("", "", "") + fileRecord("\xE9t\xE9", "line\r\nbreak", "") +
-           fileRecord("dog", "x", "y") + fileRecord("behind", "the", "count");
+    return number16(4) + recordBytes("cat", "a small animal", "The cat sat.") +
+           recordBytes("", "", "") + recordBytes("\xE9t\xE9", "line\r\nbreak", "") +
+           recordBytes("dog", "x", "y") + recordBytes("behind", "the", "count");
 }
 
 } // namespace
@@ -75,11 +76,11 @@ private Q_SLOTS:
     {
         const std::vector<VocabRecord> records{{u"cat"_s, u"a small animal"_s, u"The cat sat."_s},
                                                {u"été"_s, QString(), u"a\r\nb"_s}};
-        const QByteArray first = fileRecord("cat", "a small animal", "The cat sat.");
-        const QByteArray second = fileRecord("\xE9t\xE9", "", "a\r\nb");
-        QCOMPARE(ListFile::encode(2, records), fileCount(2) + first + second);
-        QCOMPARE(ListFile::encode(1, records), fileCount(1) + first + second);
-        QCOMPARE(ListFile::encode(0, {}), fileCount(0));
+        const QByteArray first = recordBytes("cat", "a small animal", "The cat sat.");
+        const QByteArray second = recordBytes("\xE9t\xE9", "", "a\r\nb");
+        QCOMPARE(ListFile::encode(2, records), number16(2) + first + second);
+        QCOMPARE(ListFile::encode(1, records), number16(1) + first + second);
+        QCOMPARE(ListFile::encode(0, {}), number16(0));
         QCOMPARE(ListFile::encode(32000, {}), QByteArray::fromHex("007D"));
     }
 
@@ -156,7 +157,7 @@ private Q_SLOTS:
     void theRecordsAreWholeFromTheirEndOn()
     {
         const QByteArray whole = severalEntries();
-        const qsizetype end = whole.size() - fileRecord("behind", "the", "count").size();
+        const qsizetype end = whole.size() - recordBytes("behind", "the", "count").size();
         for (qsizetype size = 0; size <= whole.size(); ++size) {
             const QByteArray start = whole.first(size);
             QCOMPARE(ListFile::RecordsEnd(MaxCount).isIn(start), size >= end);
@@ -168,7 +169,7 @@ private Q_SLOTS:
     void theEndOfTheRecordsIsFoundPieceByPiece()
     {
         const QByteArray whole = severalEntries();
-        const qsizetype end = whole.size() - fileRecord("behind", "the", "count").size();
+        const qsizetype end = whole.size() - recordBytes("behind", "the", "count").size();
         for (qsizetype step = 1; step <= whole.size(); ++step) {
             ListFile::RecordsEnd records(MaxCount);
             for (qsizetype size = 0; size <= whole.size(); size += step)
@@ -178,7 +179,7 @@ private Q_SLOTS:
 
     void whatIsBehindTheRecordsIsNotKept()
     {
-        const QByteArray records = fileCount(2) + fileRecord("cat") + fileRecord("dog");
+        const QByteArray records = number16(2) + addedRecord("cat") + addedRecord("dog");
         const ListFile::Content content =
             ListFile::decode(records + QByteArray(1'000'000, 't'), MaxCount);
         QCOMPARE(content.characters.size(), records.size());
@@ -204,7 +205,7 @@ private Q_SLOTS:
         QFETCH(int, count);
         QFETCH(int, maximum);
         QFETCH(bool, accepted);
-        const QByteArray bytes = fileCount(count);
+        const QByteArray bytes = number16(count);
         // A count that is refused is enough to know.
         QCOMPARE(ListFile::RecordsEnd(maximum).isIn(bytes), !accepted || count == 0);
         std::size_t records = 0;
@@ -229,7 +230,7 @@ private Q_SLOTS:
         for (unsigned i = 0; i < 2000; ++i) {
             QByteArray bytes = randomBytes(qsizetype(random() % 2000), i);
             if (i % 50 != 0 && bytes.size() >= 2)
-                bytes.replace(0, 2, fileCount(int(random() % 100)));
+                bytes.replace(0, 2, number16(random() % 100));
             if (countOf(bytes) < 0 || countOf(bytes) > MaxCount) {
                 QCOMPARE(errorNumberOf([&] { return ListFile::decode(bytes, MaxCount); }),
                          RunTimeError::SubscriptOutOfRange);

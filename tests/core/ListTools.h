@@ -6,10 +6,10 @@
 #include "core/cVocabList.h"
 #include "runtime/ErrorNumber.h"
 #include "runtime/Windows1252.h"
+#include "support/ListBytes.h"
 #include "support/TestFiles.h"
 
 #include <QStringList>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -52,28 +52,8 @@ inline void addWords(cVocabList &list, const QStringList &words)
     return exists;
 }
 
-// A text of a list file.
-[[nodiscard]] inline QByteArray fileText(const QByteArray &text)
+// The record of a word that addWords() added, in a list file.
+[[nodiscard]] inline QByteArray addedRecord(const QByteArray &word)
 {
-    return QByteArray{}
-        .append(char(text.size() & 0xFF))
-        .append(char(text.size() >> 8))
-        .append(text);
-}
-
-[[nodiscard]] inline QByteArray fileRecord(const QByteArray &word, const QByteArray &definition,
-                                           const QByteArray &sentence)
-{
-    return fileText(word) + fileText(definition) + fileText(sentence);
-}
-
-// The record of a word that addWords() added.
-[[nodiscard]] inline QByteArray fileRecord(const QByteArray &word)
-{
-    return fileRecord(word, word + " def", word + " sen");
-}
-
-[[nodiscard]] inline QByteArray fileCount(int count)
-{
-    return QByteArray{}.append(char(count & 0xFF)).append(char((count >> 8) & 0xFF));
+    return recordBytes(word, word + " def", word + " sen");
 }

@@ -97,10 +97,10 @@ public:
     // What saving writes.
     [[nodiscard]] QByteArray fileBytes() const
     {
-        QByteArray bytes = fileCount(count);
+        QByteArray bytes = number16(count);
         for (const auto &[number, record] : slots)
-            bytes += fileRecord(toWindows1252(record.Word), toWindows1252(record.Definition),
-                                toWindows1252(record.Sentence));
+            bytes += recordBytes(toWindows1252(record.Word), toWindows1252(record.Definition),
+                                 toWindows1252(record.Sentence));
         return bytes;
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "support/TestFiles.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -20,12 +21,6 @@ const int Kills = qEnvironmentVariableIsSet("TANGLEWIT_KILLS")
                       ? qEnvironmentVariableIntValue("TANGLEWIT_KILLS")
                       : 200;
 constexpr int Entries = cVocabList::MaxWords;
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // A list of the largest size with texts of everyday length, which name the list.
 void writeList(const QString &path, const QString &name, const QString &sentence)
@@ -87,8 +82,8 @@ private Q_SLOTS:
         writeList(path("long.lwx"), u"long"_s,
                   u"This sentence of the long list is there to be read."_s);
         writeList(path("short.lwx"), u"short"_s, u"The other list says less."_s);
-        m_long = contentOf(path("long.lwx"));
-        m_short = contentOf(path("short.lwx"));
+        m_long = readFile(path("long.lwx"));
+        m_short = readFile(path("short.lwx"));
         QVERIFY(m_short.size() > 2'000'000);
         QVERIFY(m_long.size() > m_short.size());
         m_short += m_long.sliced(m_short.size());
@@ -122,7 +117,7 @@ private Q_SLOTS:
             QVERIFY(saving.isRunning());
             saving.kill();
 
-            const QByteArray found = contentOf(path("target.lwx"));
+            const QByteArray found = readFile(path("target.lwx"));
             const QByteArray context = "kill " + QByteArray::number(killed);
             QVERIFY2(found == m_long || found == m_short, context);
             newFiles += found == before ? 0 : 1;

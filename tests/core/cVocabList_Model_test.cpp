@@ -96,11 +96,11 @@ class cVocabList_Model_test : public QObject
     void open(cVocabList &list, ReferenceList &plain)
     {
         std::vector<VocabRecord> records(std::size_t(below(30)));
-        QByteArray bytes = fileCount(int(records.size()));
+        QByteArray bytes = number16(qsizetype(records.size()));
         for (VocabRecord &record : records) {
             record = anyRecord();
-            bytes += fileRecord(toWindows1252(record.Word), toWindows1252(record.Definition),
-                                toWindows1252(record.Sentence));
+            bytes += recordBytes(toWindows1252(record.Word), toWindows1252(record.Definition),
+                                 toWindows1252(record.Sentence));
         }
         Module1::gFileName = m_folder.write(u"open.lwx"_s, bytes);
         answerAlike([&] { return list.OpenFile(); }, [] { return true; }, "OpenFile");

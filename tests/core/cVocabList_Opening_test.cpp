@@ -5,6 +5,7 @@
 #include "support/AllocatedBytes.h"
 
 #include <QTest>
+#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 using Module1::gChanged;
@@ -15,10 +16,8 @@ namespace {
 // From files, by this process.
 qint64 bytesReadSoFar()
 {
-    QFile io(u"/proc/self/io"_s);
-    if (!io.open(QIODevice::ReadOnly))
-        qFatal("The test cannot tell how much was read");
-    return io.readLine().mid(int(qstrlen("rchar: "))).trimmed().toLongLong();
+    const QByteArray io = readFile(u"/proc/self/io"_s);
+    return io.left(io.indexOf('\n')).mid(int(qstrlen("rchar: "))).trimmed().toLongLong();
 }
 
 // A list that was in use when the next file is opened: stale slot, a search under way.
@@ -44,8 +43,8 @@ private Q_SLOTS:
     {
         const TestFolder folder;
         gFileName =
-            folder.write(u"list.lwx"_s, fileCount(2) + fileRecord("cat", "animal", "Meow.") +
-                                            fileRecord("old", "", "s"));
+            folder.write(u"list.lwx"_s, number16(2) + recordBytes("cat", "animal", "Meow.") +
+                                            recordBytes("old", "", "s"));
         cVocabList list;
         fill(list);
         QVERIFY(list.OpenFile());
@@ -77,8 +76,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("no bytes") << QByteArray();
         QTest::newRow("half a count") << QByteArray("\x05");
-        QTest::newRow("count 0") << fileCount(0);
-        QTest::newRow("count 0 before records") << fileCount(0) + fileRecord("cat");
+        QTest::newRow("count 0") << number16(0);
+        QTest::newRow("count 0 before records") << number16(0) + addedRecord("cat");
     }
 
     void anEmptyFileOpensAsAnEmptyListWithOneSlot()
@@ -117,7 +116,7 @@ private Q_SLOTS:
     void aFileShorterThanItsCountGivesEmptyTexts()
     {
         const TestFolder folder;
-        gFileName = folder.write(u"list.lwx"_s, fileCount(4) + fileRecord("cat"));
+        gFileName = folder.write(u"list.lwx"_s, number16(4) + addedRecord("cat"));
         cVocabList list;
         QVERIFY(list.OpenFile());
         QCOMPARE(wordsOf(list), (QStringList{u"cat"_s, QString(), QString(), QString()}));
@@ -144,9 +143,9 @@ private Q_SLOTS:
     void aFileOfTheLargestCountOpensAndIsSavedAsTheSameBytes()
     {
         const int count = 32767;
-        QByteArray bytes = fileCount(count);
+        QByteArray bytes = number16(count);
         for (int i = 1; i <= count; ++i)
-            bytes += fileRecord(QByteArray::number(i));
+            bytes += addedRecord(QByteArray::number(i));
         const TestFolder folder;
         gFileName = folder.write(u"list.lwx"_s, bytes);
         cVocabList list;
@@ -177,11 +176,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("count");
         QTest::addColumn<qint64>("bytesOfRecords");
         QTest::newRow("no entry") << QByteArray(2, '\0') << 0 << qint64(2);
-        const QByteArray two = fileCount(2) + fileRecord("cat") + fileRecord("dog");
+        const QByteArray two = number16(2) + addedRecord("cat") + addedRecord("dog");
         QTest::newRow("two entries") << two << 2 << qint64(two.size());
         QTest::newRow("empty entries to the end of the records")
-            << fileCount(32767) << 32767 << qint64(2 + 32767 * 6);
-        QTest::newRow("a count that is refused") << fileCount(-1) << -1 << qint64(2);
+            << number16(32767) << 32767 << qint64(2 + 32767 * 6);
+        QTest::newRow("a count that is refused") << number16(-1) << -1 << qint64(2);
     }
 
     // A video may begin with two zeros: it opens as fast as an empty list.
@@ -215,9 +214,9 @@ private Q_SLOTS:
     {
         QFETCH(bool, clear);
         const TestFolder folder;
-        QByteArray bytes = fileCount(32000);
+        QByteArray bytes = number16(32000);
         for (int i = 1; i <= 32000; ++i)
-            bytes += fileRecord(QByteArray::number(i));
+            bytes += addedRecord(QByteArray::number(i));
         const QString large = folder.write(u"large.lwx"_s, bytes);
         const QString empty = folder.write(u"empty.lwx"_s, {});
         cVocabList list;
@@ -284,7 +283,7 @@ private Q_SLOTS:
             << u"folder"_s << QByteArray() << int(RunTimeError::PathFileAccess);
         for (const int count : {-1, -2, -32768})
             QTest::addRow("count %d", count)
-                << u"list.lwx"_s << fileCount(count) + fileRecord("cat") << subscript;
+                << u"list.lwx"_s << number16(count) + addedRecord("cat") << subscript;
     }
 
     void aFileThatCannotBeOpenedLeavesAllAsItWas()
@@ -314,7 +313,7 @@ private Q_SLOTS:
     void aFileCutAnywhereOpensOrLeavesAllAsItWas()
     {
         const QByteArray whole =
-            fileCount(3) + fileRecord("cat") + fileRecord("", "", "x") + fileRecord("dog");
+            number16(3) + addedRecord("cat") + recordBytes("", "", "x") + addedRecord("dog");
         const TestFolder folder;
         for (qsizetype size = 0; size <= whole.size(); ++size) {
             gFileName = folder.write(u"list.lwx"_s, whole.first(size));
@@ -340,7 +339,7 @@ private Q_SLOTS:
         for (unsigned i = 0; i < 2000; ++i) {
             QByteArray bytes = randomBytes(qsizetype(random() % 600), i);
             if (i % 50 != 0 && bytes.size() >= 2)
-                bytes.replace(0, 2, fileCount(int(random() % 50)));
+                bytes.replace(0, 2, number16(random() % 50));
             gFileName = folder.write(u"list.lwx"_s, bytes);
             const QStringList before = wordsOf(list);
             const int count = bytes.size() < 2 ? 0 : qFromLittleEndian<qint16>(bytes.constData());

@@ -71,9 +71,9 @@ private Q_SLOTS:
         list.CurrentWord(deleted);
         list.DeleteVocab();
         list.SaveFile();
-        QByteArray expected = fileCount(3);
+        QByteArray expected = number16(3);
         for (const char word : words)
-            expected += fileRecord(QByteArray(1, word));
+            expected += addedRecord(QByteArray(1, word));
         QCOMPARE(folder.bytes(u"list.lwx"_s), expected);
         cVocabList opened;
         QVERIFY(opened.OpenFile());
@@ -92,12 +92,12 @@ private Q_SLOTS:
         list.DeleteVocab();
         list.SaveFile();
         QCOMPARE(folder.bytes(u"list.lwx"_s),
-                 fileCount(2) + fileRecord("c") + fileRecord("d") + fileRecord("d"));
+                 number16(2) + addedRecord("c") + addedRecord("d") + addedRecord("d"));
         addWords(list, {u"e"_s});
         gFileName = folder.path(u"other.lwx"_s);
         list.SaveFile();
         QCOMPARE(folder.bytes(u"other.lwx"_s),
-                 fileCount(3) + fileRecord("c") + fileRecord("d") + fileRecord("e"));
+                 number16(3) + addedRecord("c") + addedRecord("d") + addedRecord("e"));
     }
 
     void theFirstEntryAfterClearingHasNoPlaceholderInTheFile()
@@ -108,7 +108,7 @@ private Q_SLOTS:
         list.ClearList();
         addWords(list, {u"a"_s});
         list.SaveFile();
-        QCOMPARE(folder.bytes(u"list.lwx"_s), fileCount(1) + fileRecord("a"));
+        QCOMPARE(folder.bytes(u"list.lwx"_s), number16(1) + addedRecord("a"));
     }
 
     void aShorterListKeepsTheTailOfALongerFile()
@@ -122,7 +122,8 @@ private Q_SLOTS:
         list.ClearList();
         addWords(list, {u"x"_s, u"y"_s, u"z"_s});
         list.SaveFile();
-        const QByteArray start = fileCount(3) + fileRecord("x") + fileRecord("y") + fileRecord("z");
+        const QByteArray start =
+            number16(3) + addedRecord("x") + addedRecord("y") + addedRecord("z");
         QCOMPARE(folder.bytes(u"list.lwx"_s), start + before.sliced(start.size()));
         cVocabList opened;
         QVERIFY(opened.OpenFile());
@@ -176,7 +177,7 @@ private Q_SLOTS:
         list.SaveFile();
         QVERIFY(!gChanged);
         QCOMPARE(folder.bytes(u"elsewhere.lwx"_s),
-                 fileCount(2) + fileRecord("a") + fileRecord("b"));
+                 number16(2) + addedRecord("a") + addedRecord("b"));
     }
 
     void aTextOfMoreThan65535BytesIsRefusedBeforeTheFileIsTouched_data()

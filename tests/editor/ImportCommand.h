@@ -21,7 +21,7 @@ public:
     {
         const QString file = main.path(name);
         QDir().mkpath(QFileInfo(file).path());
-        ImportTools::writeFile(file, bytes, caller);
+        writeFile(file, bytes, caller);
         choose(file, std::move(inspect), caller);
     }
 

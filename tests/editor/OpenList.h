@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The list open in the main window as the tests of the file commands see it, and list files made
-// byte by byte without the program's own code.
+// The list open in the main window as the tests of the file commands see it.
 #pragma once
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/MainWindow.h"
+#include "support/ListBytes.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -18,28 +18,6 @@ const QString CaptionStart = QStringLiteral("LexiBrook- The Tanglewit: ");
 
 using Entries = QList<QStringList>; // word, definition and sentence each
 
-inline QByteArray number16(int value)
-{
-    const char bytes[] = {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8 & 0xFF)};
-    return QByteArray(bytes, 2);
-}
-
-inline QByteArray recordBytes(const QStringList &entry)
-{
-    QByteArray bytes;
-    for (const QString &text : entry)
-        bytes += number16(int(text.size())) + text.toLatin1();
-    return bytes;
-}
-
-inline QByteArray listBytes(const Entries &entries)
-{
-    QByteArray bytes = number16(int(entries.size()));
-    for (const QStringList &entry : entries)
-        bytes += recordBytes(entry);
-    return bytes;
-}
-
 // "name 1", "definition 1 of name", "sentence 1 of name", …
 inline Entries someEntries(int count, const QString &name)
 {
@@ -49,21 +27,6 @@ inline Entries someEntries(int count, const QString &name)
                     QStringLiteral("definition %2 of %1").arg(name).arg(i),
                     QStringLiteral("sentence %2 of %1").arg(name).arg(i)};
     return entries;
-}
-
-inline void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        failTest(QStringLiteral("cannot write ") + path);
-}
-
-inline QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        failTest(QStringLiteral("cannot read ") + path);
-    return file.readAll();
 }
 
 inline Entries openEntries()

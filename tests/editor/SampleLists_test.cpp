@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "runtime/ChildProcess.h"
+#include "support/TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,13 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString Folder = u"MyLists"_s;
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
 
 // Inflected words differ at their ends, so only their beginnings are compared.
 bool isMentioned(const QString &word, const QString &sentence)

@@ -6,6 +6,7 @@
 #include "core/ListTools.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
+#include "support/TestFiles.h"
 #include "transfer/dlgExport.h"
 
 #include <QLineEdit>
@@ -113,7 +114,7 @@ public:
     {
         QByteArray bytes;
         for (const QString &word : words)
-            bytes += fileRecord(word.toLatin1());
+            bytes += addedRecord(word.toLatin1());
         return bytes;
     }
 

@@ -67,6 +67,6 @@ private:
     void use(const QString &name, const QByteArray &bytes)
     {
         Module1::gFileName = path(name);
-        ImportTools::writeFile(Module1::gFileName, bytes);
+        writeFile(Module1::gFileName, bytes);
     }
 };

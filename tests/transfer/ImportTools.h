@@ -7,9 +7,10 @@
 #include "core/cVocabList.h"
 #include "support/Controls.h"
 #include "support/DialogAnswers.h"
+#include "support/ListBytes.h"
+#include "support/TestFiles.h"
 
 #include <QDialog>
-#include <QFile>
 #include <QPushButton>
 #include <QTest>
 
@@ -26,25 +27,12 @@ inline QStringList parts(const QString &entry)
     return texts;
 }
 
-inline void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        failTest(u"cannot write "_s + path);
-}
-
 inline QByteArray listFile(const QStringList &entries)
 {
-    const auto number = [](qsizetype value) {
-        const char bytes[] = {static_cast<char>(value & 0xFF),
-                              static_cast<char>(value >> 8 & 0xFF)};
-        return QByteArray(bytes, 2);
-    };
-    QByteArray bytes = number(entries.size());
+    QList<QStringList> all;
     for (const QString &entry : entries)
-        for (const QString &text : parts(entry))
-            bytes += number(text.size()) + text.toLatin1();
-    return bytes;
+        all += parts(entry);
+    return listBytes(all);
 }
 
 // The lines of a DIF file whose rows have the values given, apart by '|'.

@@ -116,7 +116,7 @@ private Q_SLOTS:
         m_form->answers.expectMsgBox(u"10 words has been added to "_s + target);
         exportInto(target);
         QCOMPARE(m_folder->bytes(u"new.lwx"_s),
-                 fileCount(10) + ExportForm::records(ExportForm::words(1, 10)));
+                 number16(10) + ExportForm::records(ExportForm::words(1, 10)));
     }
 
 private:

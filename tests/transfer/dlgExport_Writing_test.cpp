@@ -18,19 +18,6 @@ namespace {
 
 const QString OpenList = u"/lists/animals.lwx"_s;
 
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "(cannot be read)";
-}
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        failTest(u"cannot write "_s + path);
-}
-
 } // namespace
 
 class dlgExport_Writing_test final : public QObject
@@ -67,7 +54,7 @@ private Q_SLOTS:
         const QStringList words = ExportForm::words(start, end);
         expectAdded(int(words.size()));
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(int(words.size())) + ExportForm::records(words));
+        QCOMPARE(readFile(m_target), number16(words.size()) + ExportForm::records(words));
         QCOMPARE(gVocabList().CurrentWord(), Integer(end));
         QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
     }
@@ -99,17 +86,18 @@ private Q_SLOTS:
         QCOMPARE(m_form->preview(), QStringList());
         expectAdded(1);
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(1) + ExportForm::records({u"w1"_s}));
+        QCOMPARE(readFile(m_target), number16(1) + ExportForm::records({u"w1"_s}));
     }
 
     void wordsAreAppendedToThoseOfTheTargetWhetherItHasThemOrNot()
     {
-        write(m_target, fileCount(2) + fileRecord("old", "a", "b") + fileRecord("w4"));
+        writeFile(m_target, number16(2) + recordBytes("old", "a", "b") + addedRecord("w4"));
         m_form->chooseRange(3, 5);
         expectAdded(3);
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(5) + fileRecord("old", "a", "b") + fileRecord("w4") +
-                                        ExportForm::records(ExportForm::words(3, 5)));
+        QCOMPARE(readFile(m_target), number16(5) + recordBytes("old", "a", "b") +
+                                         addedRecord("w4") +
+                                         ExportForm::records(ExportForm::words(3, 5)));
     }
 
     void exportingTwiceAppendsTheRangeTwice()
@@ -122,27 +110,27 @@ private Q_SLOTS:
         expectAdded(3);
         ok();
         const QByteArray once = ExportForm::records(ExportForm::words(3, 5));
-        QCOMPARE(bytesOf(m_target), fileCount(6) + once + once);
+        QCOMPARE(readFile(m_target), number16(6) + once + once);
     }
 
     void anEmptyTargetTakesTheWords()
     {
-        write(m_target, {});
+        writeFile(m_target, {});
         expectAdded(10);
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(10) + ExportForm::records(ExportForm::words(1, 10)));
+        QCOMPARE(readFile(m_target), number16(10) + ExportForm::records(ExportForm::words(1, 10)));
     }
 
     void bytesBehindTheNewEndOfTheTargetStay()
     {
         const QByteArray tail(100, 't');
-        write(m_target, fileCount(1) + fileRecord("old") + tail);
+        writeFile(m_target, number16(1) + addedRecord("old") + tail);
         m_form->chooseRange(2, 3);
         expectAdded(2);
         ok();
-        const QByteArray added = fileRecord("w2") + fileRecord("w3");
-        QCOMPARE(bytesOf(m_target),
-                 fileCount(3) + fileRecord("old") + added + tail.mid(added.size()));
+        const QByteArray added = addedRecord("w2") + addedRecord("w3");
+        QCOMPARE(readFile(m_target),
+                 number16(3) + addedRecord("old") + added + tail.mid(added.size()));
     }
 
     void theTypedNameCountsWithoutOuterBlanks()
@@ -155,12 +143,12 @@ private Q_SLOTS:
 
     void theOpenListsOwnFileMayBeTyped()
     {
-        write(m_target, fileCount(1) + fileRecord("w1"));
+        writeFile(m_target, number16(1) + addedRecord("w1"));
         gOpenedFile = gFileName = m_target;
         m_form->chooseRange(2, 2);
         expectAdded(1);
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(2) + fileRecord("w1") + fileRecord("w2"));
+        QCOMPARE(readFile(m_target), number16(2) + addedRecord("w1") + addedRecord("w2"));
         QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
     }
 
@@ -170,8 +158,8 @@ private Q_SLOTS:
         gVocabList().Edit(u"d\u00E9j\u00E0 vu"_s, u"\u20AC \u4E2D"_s, u"two\r\nlines"_s);
         expectAdded(1);
         ok();
-        QCOMPARE(bytesOf(m_target),
-                 fileCount(1) + fileRecord("d\xE9j\xE0 vu", "\x80 ?", "two\r\nlines"));
+        QCOMPARE(readFile(m_target),
+                 number16(1) + recordBytes("d\xE9j\xE0 vu", "\x80 ?", "two\r\nlines"));
     }
 
     void withoutAFileNameOkDoesNothing()
@@ -202,30 +190,30 @@ private Q_SLOTS:
     {
         QByteArray records;
         for (int i = 0; i < 31'999; ++i)
-            records += fileRecord("old");
-        write(m_target, fileCount(31'999) + records);
+            records += addedRecord("old");
+        writeFile(m_target, number16(31'999) + records);
         m_form->chooseRange(3, 5);
         const QString full = u"Cannot add any more words. Maximum number of words= 32000"_s;
         m_form->answers.expectMsgBox(full);
         m_form->answers.expectMsgBox(full);
         expectAdded(3);
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(32'000) + records + fileRecord("w3"));
+        QCOMPARE(readFile(m_target), number16(32'000) + records + addedRecord("w3"));
     }
 
     void aFullTargetTellsAtOnceOfTheWordsBeyondThree()
     {
         QByteArray records;
         for (int i = 0; i < 32'000; ++i)
-            records += fileRecord("old");
-        write(m_target, fileCount(32'000) + records);
+            records += addedRecord("old");
+        writeFile(m_target, number16(32'000) + records);
         for (int i = 0; i < 3; ++i)
             m_form->answers.expectMsgBox(
                 u"Cannot add any more words. Maximum number of words= 32000"_s);
         m_form->answers.expectMsgBox(u"7 more words have not been added."_s);
         expectAdded(10);
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(32'000) + records);
+        QCOMPARE(readFile(m_target), number16(32'000) + records);
     }
 
     void enterInARangeBoxTakesWhatIsTypedThere_data()
@@ -250,7 +238,7 @@ private Q_SLOTS:
         expectAdded(int(words.size()));
         Controls::press(Qt::Key_Return);
         QVERIFY(!m_form->dialog().isVisible());
-        QCOMPARE(bytesOf(m_target), fileCount(int(words.size())) + ExportForm::records(words));
+        QCOMPARE(readFile(m_target), number16(words.size()) + ExportForm::records(words));
     }
 
     void aRangeThatIsReportedIsNotExported_data()
@@ -310,7 +298,7 @@ private Q_SLOTS:
         m_form->activate();
         expectAdded(3);
         ok();
-        QCOMPARE(bytesOf(m_target), fileCount(3) + ExportForm::records(ExportForm::words(3, 5)));
+        QCOMPARE(readFile(m_target), number16(3) + ExportForm::records(ExportForm::words(3, 5)));
     }
 
     void enterTakesTheBoxThatHasTheKeyboardAndNotTheOneLeftWithAMistake()
@@ -321,21 +309,21 @@ private Q_SLOTS:
         m_form->type("txtEnd", u"4"_s);
         expectAdded(4);
         Controls::press(Qt::Key_Return);
-        QCOMPARE(bytesOf(m_target), fileCount(4) + ExportForm::records(ExportForm::words(1, 4)));
+        QCOMPARE(readFile(m_target), number16(4) + ExportForm::records(ExportForm::words(1, 4)));
     }
 
     void aTargetThatIsNoListIsRefusedAndLeftAsItIs_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("one byte") << QByteArray("x");
-        QTest::newRow("a count without records") << fileCount(1);
-        QTest::newRow("the largest count without records") << fileCount(32'767);
-        QTest::newRow("a record cut off") << fileCount(1) + fileRecord("old").chopped(1);
-        QTest::newRow("one record of two") << fileCount(2) + fileRecord("old");
-        QTest::newRow("count -1") << fileCount(-1);
-        QTest::newRow("the smallest count") << fileCount(-32768);
+        QTest::newRow("a count without records") << number16(1);
+        QTest::newRow("the largest count without records") << number16(32'767);
+        QTest::newRow("a record cut off") << number16(1) + addedRecord("old").chopped(1);
+        QTest::newRow("one record of two") << number16(2) + addedRecord("old");
+        QTest::newRow("count -1") << number16(-1);
+        QTest::newRow("the smallest count") << number16(-32768);
         QTest::newRow("a negative count before good entries")
-            << fileCount(-2) + fileRecord("a") + fileRecord("b");
+            << number16(-2) + addedRecord("a") + addedRecord("b");
         QTest::newRow("a DIF file") << QByteArray("TABLE\r\n0,1\r\n\"\"\r\nVECTORS\r\n0,1\r\n");
         QTest::newRow("a text") << QByteArray("Words of a language");
     }
@@ -343,11 +331,11 @@ private Q_SLOTS:
     void aTargetThatIsNoListIsRefusedAndLeftAsItIs()
     {
         QFETCH(QByteArray, bytes);
-        write(m_target, bytes);
+        writeFile(m_target, bytes);
         expectReport(u"Run-time error '321':\n\nInvalid file format\n"_s + m_target);
         ok();
         verifyNothingHappened();
-        QCOMPARE(bytesOf(m_target), bytes);
+        QCOMPARE(readFile(m_target), bytes);
     }
 
     void aTargetThatCannotBeOpenedIsReported_data()
@@ -376,8 +364,8 @@ private Q_SLOTS:
 
     void aTargetThatTheDiskDoesNotTakeStaysWhole()
     {
-        const QByteArray old = fileCount(1) + fileRecord("old");
-        write(m_target, old);
+        const QByteArray old = number16(1) + addedRecord("old");
+        writeFile(m_target, old);
         gVocabList().CurrentWord(7);
         gVocabList().Edit(u"w7"_s, QString(60'000, u'x'), u"w7 sen"_s);
         rlimit before{};
@@ -389,19 +377,19 @@ private Q_SLOTS:
         ok();
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
         verifyNothingHappened();
-        QCOMPARE(bytesOf(m_target), old);
+        QCOMPARE(readFile(m_target), old);
     }
 
     void aTextTooLongForTheFileIsReportedBeforeTheFileIsTouched()
     {
-        const QByteArray old = fileCount(1) + fileRecord("old");
-        write(m_target, old);
+        const QByteArray old = number16(1) + addedRecord("old");
+        writeFile(m_target, old);
         gVocabList().CurrentWord(7);
         gVocabList().Edit(u"w7"_s, u"w7 def"_s, QString(65'536, u'x'));
         expectReport(u"Run-time error '6':\n\nOverflow\n"_s);
         ok();
         verifyNothingHappened();
-        QCOMPARE(bytesOf(m_target), old);
+        QCOMPARE(readFile(m_target), old);
     }
 
 private:
