@@ -43,7 +43,7 @@ double loudness(const std::vector<double> &samples, std::size_t from, std::size_
     return decibels(squares, double(to - from));
 }
 
-// The step from one sample to the next that all but a hundredth of the steps stay below.
+// 99 % of the steps from one sample to the next are smaller than this.
 double usualStep(const std::vector<double> &samples)
 {
     std::vector<double> steps;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a first start finds: an empty home folder of its own and the shared globals as they are at
-// the start. The globals are reset again at the end of the object.
+// What the first start of the program finds: an empty home folder, and the shared globals with
+// their first values. The destructor resets the globals.
 #pragma once
 
 #include "core/Module1.h"

@@ -18,7 +18,7 @@ QString textOf(const VocabRecord &record)
     return QStringList{record.Word, record.Definition, record.Sentence}.join(u'|');
 }
 
-// The layout read in another way, field by field off a stream.
+// Reads the layout in another way: field by field with QDataStream.
 QStringList readByStream(const QByteArray &bytes)
 {
     QDataStream stream(bytes);
@@ -148,20 +148,20 @@ private Q_SLOTS:
             const QByteArray cut = whole.first(size);
             QCOMPARE(readByDecode(cut), readByStream(cut));
         }
-        // The same in plain words at three places.
+        // Three places as examples.
         QCOMPARE(readByDecode(whole.first(1)), QStringList());
         QCOMPARE(readByDecode(whole.first(6)), (QStringList{u"ca||"_s, u"||"_s, u"||"_s, u"||"_s}));
         QCOMPARE(readByDecode(whole.first(8)).first(), u"cat||"_s);
     }
 
-    void theRecordsAreWholeFromTheirEndOn()
+    void recordsAreWholeOnceTheLastOneIsComplete()
     {
         const QByteArray whole = severalEntries();
         const qsizetype end = whole.size() - recordBytes("behind", "the", "count").size();
         for (qsizetype size = 0; size <= whole.size(); ++size) {
             const QByteArray start = whole.first(size);
             QCOMPARE(ListFile::RecordsEnd(MaxCount).isIn(start), size >= end);
-            // No bytes at all are a list without entries.
+            // An empty file is a list without entries.
             QCOMPARE(ListFile::decode(start, MaxCount).isWhole, size >= end || size == 0);
         }
     }
@@ -177,7 +177,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatIsBehindTheRecordsIsNotKept()
+    void bytesAfterTheRecordsAreNotKept()
     {
         const QByteArray records = number16(2) + addedRecord("cat") + addedRecord("dog");
         const ListFile::Content content =
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QFETCH(int, maximum);
         QFETCH(bool, accepted);
         const QByteArray bytes = number16(count);
-        // A count that is refused is enough to know.
+        // The count alone is refused, without any records.
         QCOMPARE(ListFile::RecordsEnd(maximum).isIn(bytes), !accepted || count == 0);
         std::size_t records = 0;
         const auto decode = [&] {

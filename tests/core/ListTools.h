@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What tests of the list have in common: filling it, looking at it, its files.
+// Helpers for tests of the list: fill it, read its entries, make the bytes of its file.
 #pragma once
 
 #include "core/Module1.h"
@@ -32,7 +32,7 @@ inline void addWords(cVocabList &list, const QStringList &words)
     return words;
 }
 
-// "word|definition|sentence" of an entry or of a slot behind the entries.
+// "word|definition|sentence" of an entry, or of a slot after the last entry.
 [[nodiscard]] inline QString entryText(cVocabList &list, int position)
 {
     const Integer current = list.CurrentWord();

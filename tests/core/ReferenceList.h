@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The rules of the word list once more, as plainly as they can be put: an array with bounds that
-// is walked from slot to slot. Slow, and the measure of the real one.
+// A second, simple implementation of the word list, to compare the real one with: slots with
+// numbers, and every look-up goes from slot to slot.
 #pragma once
 
 #include "core/ListTools.h"
@@ -49,7 +49,7 @@ public:
 
     void Edit(const VocabRecord &record)
     {
-        slot(current) = record; // fails before anything changes
+        slot(current) = record; // throws before anything changes
         searchPos = 0;
     }
 
@@ -94,7 +94,7 @@ public:
         return found->second;
     }
 
-    // What saving writes.
+    // The bytes of the file after a save.
     [[nodiscard]] QByteArray fileBytes() const
     {
         QByteArray bytes = number16(count);
@@ -105,7 +105,7 @@ public:
     }
 
 private:
-    // Slots 1 to last; what stays keeps its texts.
+    // Keeps the slots 1 to last with their texts and adds the missing ones.
     void resize(int last)
     {
         slots.erase(slots.begin(), slots.lower_bound(1));

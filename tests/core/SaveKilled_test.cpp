@@ -16,13 +16,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// TANGLEWIT_KILLS=1000 SaveKilled_test: more of them than a run of all tests has time for.
+// The environment variable TANGLEWIT_KILLS sets another number.
 const int Kills = qEnvironmentVariableIsSet("TANGLEWIT_KILLS")
                       ? qEnvironmentVariableIntValue("TANGLEWIT_KILLS")
                       : 200;
 constexpr int Entries = cVocabList::MaxWords;
 
-// A list of the largest size with texts of everyday length, which name the list.
+// Saves a list with as many entries as can be added. Its texts contain the name.
 void writeList(const QString &path, const QString &name, const QString &sentence)
 {
     cVocabList list;
@@ -33,7 +33,7 @@ void writeList(const QString &path, const QString &name, const QString &sentence
     list.SaveFile();
 }
 
-// A process that saves without end.
+// A process that saves until it is killed.
 class SavingProcess
 {
 public:
@@ -92,11 +92,11 @@ private Q_SLOTS:
 
     void aSaveKilledAtAnyMomentLeavesTheOldFileOrTheNewOneWhole()
     {
-        std::mt19937 random(20'240); // the same moments at every run
-        // As a part of a save's duration; beyond one for the save's end and for slower ones.
+        std::mt19937 random(20'240); // the same moments in every run
+        // In units of one save. Above 1 for the end of a save and for slow saves.
         std::uniform_real_distribution moment(0.0, 1.5);
         QByteArray before = m_long;
-        double microseconds = 0; // that a save takes at present
+        double microseconds = 0; // that one save takes
         int newFiles = 0;
         for (int killed = 1; killed <= Kills; ++killed) {
             const bool longIsNew = before == m_short;
@@ -133,7 +133,7 @@ private Q_SLOTS:
                      context);
         }
         qInfo("%d of %d kills left the new file", newFiles, Kills);
-        // The kills were spread over the save: before the new file was in place, and after.
+        // Some kills came before the new file was in place, others after.
         QVERIFY(newFiles > Kills / 20);
         QVERIFY(newFiles < Kills * 19 / 20);
     }
@@ -143,8 +143,7 @@ private:
     {
         return m_folder.filePath(QLatin1String(name));
     }
-    // Removes what a killed save may leave beside the lists: its unfinished file, where that has a
-    // name yet.
+    // A killed save may leave its temporary file.
     void removeLeftovers() const
     {
         QStringList names = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
@@ -156,7 +155,7 @@ private:
 
     QTemporaryDir m_folder;
     QByteArray m_long;  // the file after a save of the long list
-    QByteArray m_short; // and of the short one over it, which keeps the long one's tail
+    QByteArray m_short; // the short list saved over it: the rest of the long one stays at the end
 };
 
 QTEST_GUILESS_MAIN(SaveKilled_test)

@@ -40,7 +40,7 @@ private Q_SLOTS:
         QCOMPARE(index.find(QString(), 1), 0);
     }
 
-    void rebuildingForgetsWhatWasThere()
+    void rebuildingForgetsTheOldWords()
     {
         WordIndex index;
         index.rebuild(records({u"cat"_s, u"dog"_s}));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How a word order uses the random numbers: this program is linked with a generator of its own
-// that notes down what it is asked for.
+// How a word order uses the random numbers. The test is linked with a generator of its own, which
+// records the calls.
 #include "core/WordOrder.h"
 
 #include "runtime/RandomNumbers.h"
@@ -37,14 +37,14 @@ class WordOrder_Seeding_test final : public QObject
 private Q_SLOTS:
     void init() { asked.clear(); }
 
-    void everyDrawIsSeededAnew()
+    void everyDrawIsSeeded()
     {
         numbers = {0.0F, 0.5F};
         QCOMPARE(drawWordOrder(2, 2).size(), 2);
         QCOMPARE(asked, std::string("sdsd"));
     }
 
-    void aDrawThatIsMadeAgainIsSeededAnewToo()
+    void aRepeatedDrawIsSeededToo()
     {
         numbers = {0.5F, 0.5F, 0.75F, 0.25F};
         QCOMPARE(drawWordOrder(2, 2).size(), 2);

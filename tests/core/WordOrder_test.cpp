@@ -15,7 +15,7 @@ namespace {
 
 constexpr float LargestNumber = 1 - 1.0F / (1 << 24);
 
-// In the place of the clock's random numbers, for as long as the object lives.
+// Replaces the random numbers for the lifetime of the object.
 class Source
 {
 public:
@@ -24,7 +24,7 @@ public:
     Q_DISABLE_COPY_MOVE(Source)
 };
 
-// The same even numbers in every run.
+// Uniform numbers, the same in every run.
 std::function<float()> evenNumbers(unsigned seed)
 {
     return [engine = std::mt19937(seed)]() mutable {
@@ -40,7 +40,7 @@ std::vector<int> positions(const Array<Integer> &order)
     return positions;
 }
 
-// How far the orders of all `count` positions are from equally likely.
+// The chi-square statistic of the orders of all `count` positions.
 double unevenness(int count, int orders)
 {
     std::vector<int> order(static_cast<std::size_t>(count));
@@ -94,7 +94,7 @@ private Q_SLOTS:
         std::vector<float> numbers{0.5F, 0.0F, 0.74F, 0.24F, 0.99F, 0.5F, 0.25F};
         std::size_t next = 0;
         const Source source([&] { return numbers.at(next++); });
-        // 0.74, 0.24 and the second 0.5 draw positions that are there already.
+        // 0.74, 0.24 and the second 0.5 draw positions that were drawn before.
         QCOMPARE(positions(drawWordOrder(4, 4)), (std::vector{3, 1, 4, 2}));
         QCOMPARE(next, numbers.size());
     }
@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         QFETCH(unsigned, seed);
         const Source source(evenNumbers(seed));
-        // 24 orders: one even source in ten thousand exceeds 57.
+        // 24 orders: uniform numbers exceed 57 once in ten thousand runs.
         QVERIFY(unevenness(4, 24'000) < 57);
     }
 

@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(list.NumWords().toInt(), 32000);
         QCOMPARE(list.CurrentWord().toInt(), 7);
         QVERIFY(!hasSlot(list, 32001));
-        // The search goes on behind 7: an entry 7 that is first found again would be a restart.
+        // The search continues after entry 7. If it started again, it would find entry 7 first.
         QCOMPARE(list.SearchWord(u"7"_s).toInt(), 0);
         QVERIFY(!list.Exist(u"too much"_s, 1));
         list.CurrentWord(32000);

@@ -249,11 +249,11 @@ private Q_SLOTS:
         QVERIFY(!list.Exist(QString(), 1));
     }
 
-    void whatChangesIsFoundAtOnce()
+    void changesAreFoundAtOnce()
     {
         cVocabList list;
         addWords(list, {u"cat"_s, u"dog"_s, u"owl"_s});
-        QVERIFY(list.Exist(u"owl"_s, 1)); // from here on the words are known
+        QVERIFY(list.Exist(u"owl"_s, 1)); // builds the index
         addWords(list, {u"cow"_s});
         QVERIFY(list.Exist(u"cow"_s, 1));
         list.CurrentWord(2);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The list and a plain transcription of its rules, side by side through thousands of operations.
+// Thousands of operations on the list and on ReferenceList; both must always agree.
 #include "core/cVocabList.h"
 
 #include "core/ReferenceList.h"
@@ -22,11 +22,11 @@ class cVocabList_Model_test : public QObject
 
     VocabRecord anyRecord()
     {
-        ++m_serial; // tells apart entries with the same word
+        ++m_serial; // makes entries with the same word different
         return {anyWord(), u"def %1"_s.arg(m_serial), u"sen %1"_s.arg(m_serial)};
     }
 
-    // The same action on both; both give the same answer or the same error.
+    // Does the same with both and compares the results or the errors.
     template <class Real, class Plain>
     static void answerAlike(Real &&real, Plain &&plain, const char *what)
     {

@@ -13,14 +13,14 @@ using Module1::gFileName;
 
 namespace {
 
-// From files, by this process.
+// The bytes that this process has read from files.
 qint64 bytesReadSoFar()
 {
     const QByteArray io = readFile(u"/proc/self/io"_s);
     return io.left(io.indexOf('\n')).mid(int(qstrlen("rchar: "))).trimmed().toLongLong();
 }
 
-// A list that was in use when the next file is opened: stale slot, a search under way.
+// A list in use before the next file is opened, with a deleted entry and an unfinished search.
 void fill(cVocabList &list)
 {
     addWords(list, {u"old"_s, u"two"_s, u"old"_s, u"four"_s});
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QVERIFY(!hasSlot(list, 0));
         QVERIFY(!hasSlot(list, 3));
         QVERIFY(!list.Exist(u"two"_s, 1));
-        QCOMPARE(list.SearchWord(u"cat"_s).toInt(), 1); // the search began anew
+        QCOMPARE(list.SearchWord(u"cat"_s).toInt(), 1); // the search starts at the beginning
     }
 
     void withoutANameTheListStaysButForPositionSearchAndChanges()
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(opened.CurrentWord().toInt(), 32000);
     }
 
-    // More than can be added: the number of entries is all that the file's count can say.
+    // A file may hold more entries than can be added: as many as its 16-bit count allows.
     void aFileOfTheLargestCountOpensAndIsSavedAsTheSameBytes()
     {
         const int count = 32767;
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(list.NumWords().toInt(), count);
         QVERIFY(!list.Exist(u"new"_s, 1));
         QVERIFY(list.Exist(u"32767"_s, 1));
-        // Behind the last entry the search starts over.
+        // After the last entry the search starts at the beginning again.
         QCOMPARE(list.SearchWord(u"32767"_s).toInt(), count);
         QCOMPARE(list.SearchWord(u"32767"_s).toInt(), 0);
         QCOMPARE(list.SearchWord(u"1"_s).toInt(), 1);
@@ -183,7 +183,8 @@ private Q_SLOTS:
         QTest::newRow("a count that is refused") << number16(-1) << -1 << qint64(2);
     }
 
-    // A video may begin with two zeros: it opens as fast as an empty list.
+    // A large file of another kind (a video) may begin with two zeros. It is opened as an empty
+    // list, without reading the rest.
     void onlyTheRecordsAreRead()
     {
         QFETCH(QByteArray, bytes);

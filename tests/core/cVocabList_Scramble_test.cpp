@@ -19,8 +19,8 @@ namespace {
 
 using Positions = std::vector<int>;
 
-// Makes the scramble of a word of n characters draw these positions one after another; drawing
-// beyond them ends the scramble with Type mismatch.
+// Makes the scramble of a word of n characters draw these positions one after another. One more
+// draw throws Type mismatch.
 class Script
 {
 public:
@@ -77,7 +77,7 @@ QString sorted(QString text)
     return text;
 }
 
-// All results of many scrambles, with how often each came.
+// The results of many scrambles, and how often each of them came.
 std::map<QString, int> resultsOf(const QString &word, int times)
 {
     cVocabList list;
@@ -107,8 +107,8 @@ private Q_SLOTS:
         setNoticeHook({});
     }
 
-    // An attempt that is accepted uses n draws; one that is rejected is followed by a whole new
-    // one, here the word backwards, which never has a run.
+    // An accepted attempt uses n draws. A rejected one is followed by a new one, here the word
+    // backwards, which is always accepted.
     void anAttemptIsAcceptedExactlyWithoutARunOfThree_data()
     {
         QTest::addColumn<QString>("word");
@@ -179,7 +179,7 @@ private Q_SLOTS:
         setNoticeHook([&](const QString &text) { notices << text; });
         cVocabList list;
         list.AddVocab(u"abc"_s, {}, {});
-        // Draws of 0 cannot come from a number between 0 and 1.
+        // The generator never gives such a number: the drawn position would be 0.
         RandomNumbers::setSource(
             [numbers = std::vector{0.1F, -0.25F, 0.5F, 0.9F, -1.0F / 3}]() mutable {
                 const float number = numbers.back();
@@ -217,7 +217,7 @@ private Q_SLOTS:
         std::vector<int> counts;
         for (const auto &[text, times] : results)
             counts.push_back(times);
-        // 20 degrees of freedom: one even source in a thousand exceeds 45.3.
+        // 20 degrees of freedom: uniform numbers exceed 45.3 once in a thousand runs.
         const double statistic = chiSquare(counts);
         QVERIFY2(statistic < 45.3, qPrintable(QString::number(statistic)));
     }
@@ -229,7 +229,7 @@ private Q_SLOTS:
         for (const auto &[text, times] : results)
             counts.push_back(times);
         QCOMPARE(counts.size(), std::size_t(21));
-        // An even source exceeds this less than once in 10^10 runs.
+        // Uniform numbers exceed this less than once in 10^10 runs.
         const double statistic = chiSquare(counts);
         QVERIFY2(statistic < 90, qPrintable(QString::number(statistic)));
     }

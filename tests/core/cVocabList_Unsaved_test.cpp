@@ -47,14 +47,14 @@ private Q_SLOTS:
         QCOMPARE(m_calls, 1);
     }
 
-    void aListThatTakesTheOldOnesPlaceIsTold_data()
+    void replacingTheListIsTold_data()
     {
         QTest::addColumn<bool>("changed");
         QTest::newRow("after a change") << true;
         QTest::newRow("after none") << false;
     }
 
-    void aListThatTakesTheOldOnesPlaceIsTold()
+    void replacingTheListIsTold()
     {
         QFETCH(bool, changed);
         gChanged = changed;
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QCOMPARE(m_calls, 3);
     }
 
-    void whatFailsOrDoesNothingIsNotTold()
+    void failuresAreNotTold()
     {
         gFileName = m_folder.filePath(u"nowhere/list.lwx"_s);
         QVERIFY_THROWS_EXCEPTION(RunTimeError, m_list.SaveFile());
@@ -98,7 +98,7 @@ private Q_SLOTS:
     void theFileBytesAreThoseOfTheEntriesAlone()
     {
         m_list.AddVocab(u"dog"_s, {}, {});
-        m_list.DeleteVocab(); // its slot stays behind
+        m_list.DeleteVocab(); // its slot stays
         const QByteArray bytes = m_list.fileBytes();
         gFileName = m_folder.filePath(u"copy.lwx"_s);
         QFile copy(gFileName);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// saving_child TARGET FIRST SECOND: reads two list files and saves them over TARGET in turns until
-// it is killed. Writes a dot before each save and a comma after it.
+// saving_child TARGET FIRST SECOND: reads the list files FIRST and SECOND and saves them as TARGET,
+// one after the other, until it is killed. Prints a dot before each save and a comma after it.
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 

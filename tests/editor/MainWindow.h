@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A freshly started main window, shown maximised and active, in a fresh home, with the person who
-// answers its dialogs.
+// The main window after a start of the program: shown maximised and active, with a fresh home
+// folder and the answers to its dialogs.
 #pragma once
 
 #include "core/FreshState.h"

@@ -18,7 +18,7 @@ using Function = FailingCall::Function;
 
 namespace {
 
-// Without Qt, whose own calls come here.
+// Does not use Qt, because Qt calls these functions.
 struct State
 {
     bool active = false;
@@ -45,7 +45,7 @@ bool isFolder(const char *path)
     return stat(path, &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-// Counts the call. True where it has to fail, with errno set.
+// Counts the call. Returns true, with errno set, if it must fail.
 bool fails(Function function, const char *path)
 {
     if (!state.active || function != state.fault.function ||
@@ -76,7 +76,7 @@ bool fails(Function function, int file)
     return fails(function, path);
 }
 
-// The function of the C library that stands behind the one here.
+// The function of the C library that this file replaces.
 template <class Call> Call *original(const char *name)
 {
     void *const found = dlsym(RTLD_NEXT, name);
@@ -150,7 +150,7 @@ int open(const char *path, int flags, ...)
     static auto *const next = original<int(const char *, int, mode_t)>("open");
     va_list arguments;
     va_start(arguments, flags);
-    const auto mode = va_arg(arguments, mode_t); // read only where the flags ask for it
+    const auto mode = va_arg(arguments, mode_t); // used only if the flags need it
     va_end(arguments);
     return fails(Function::Open, path) ? -1 : next(path, flags, mode);
 }
@@ -160,7 +160,7 @@ int open64(const char *path, int flags, ...)
     static auto *const next = original<int(const char *, int, mode_t)>("open64");
     va_list arguments;
     va_start(arguments, flags);
-    const auto mode = va_arg(arguments, mode_t); // read only where the flags ask for it
+    const auto mode = va_arg(arguments, mode_t); // used only if the flags need it
     va_end(arguments);
     return fails(Function::Open, path) ? -1 : next(path, flags, mode);
 }
@@ -170,7 +170,7 @@ int openat(int folder, const char *path, int flags, ...)
     static auto *const next = original<int(int, const char *, int, mode_t)>("openat");
     va_list arguments;
     va_start(arguments, flags);
-    const auto mode = va_arg(arguments, mode_t); // read only where the flags ask for it
+    const auto mode = va_arg(arguments, mode_t); // used only if the flags need it
     va_end(arguments);
     const bool failed = fails(Function::Open, path) || fails(Function::Open, folder);
     return failed ? -1 : next(folder, path, flags, mode);
@@ -196,7 +196,7 @@ ssize_t sendfile(int to, int from, off_t *offset, size_t size) noexcept
     return fails(Function::Write, to) ? -1 : next(to, from, offset, size);
 }
 
-// The tests look at what the process leaves, which needs no disk and its time.
+// No flush: the tests look at the files of a running system, and a flush takes long.
 int fsync(int file)
 {
     return fails(Function::Fsync, file) ? -1 : 0;

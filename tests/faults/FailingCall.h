@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One of the system's file functions that fails: for as long as the object lives, the calls of it
-// that this thread makes on files and folders below a folder are counted, and the one with a given
-// number fails with a given reason, or it and all after it.
+// Makes a call of a system function fail: during the lifetime of the object, the calls that this
+// thread makes for files below a folder are counted, and the one with a given number fails, or that
+// one and all later ones.
 //
-// FailingCall.cpp puts functions of its own in the place of those of the C library, for the
-// program's code and for Qt's, in every test that is linked with it. A close that fails closes all
-// the same, as on Linux; a flush to the disk does nothing.
+// FailingCall.cpp replaces functions of the C library in every test that is linked with it, also
+// for Qt's calls. A close that fails closes the file, as on Linux. A flush to the disk does
+// nothing.
 #pragma once
 
 #include <QString>
@@ -30,7 +30,7 @@ public:
         Mkdir
     };
     enum class Lasting { Once, FromThenOn };
-    // Of a write: no error, but only half of the bytes are taken.
+    // A write succeeds, but writes only half of the bytes.
     static constexpr int StopsShort = 0;
 
     struct Fault
@@ -47,7 +47,7 @@ public:
 
     // Whether there was a call of that number.
     [[nodiscard]] bool hasFailed() const;
-    // Whether it was about a folder.
+    // Whether it was made for a folder.
     [[nodiscard]] bool wasOnFolder() const;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Each command that writes a file, with each of the system's calls that it makes failing in turn.
+// For each command that writes a file: each of its system calls fails once, one after the other.
 #include "editor/OpenList.h"
 #include "editor/SampleLists.h"
 #include "faults/FailingCall.h"
@@ -33,7 +33,7 @@ struct FileCommand
     QByteArray before; // null = there is no such file
     std::function<bool(const QByteArray &)> isDone;
     std::function<void()> give;
-    bool isSlow = false; // it has a file dialog or the like, which reads files as well
+    bool isSlow = false; // it opens a dialog that reads files, too
 };
 
 std::function<bool(const QByteArray &)> equals(const QByteArray &bytes)
@@ -52,7 +52,7 @@ struct Way
     Lasting lasting = Lasting::Once;
 };
 
-// What the quick commands go through, and the others.
+// All ways to fail, for the fast commands; fewer for the slow ones.
 const std::vector<Way> AllWays{{EINTR},
                                {ENOSPC},
                                {ENOSPC, Lasting::FromThenOn},
@@ -62,7 +62,7 @@ const std::vector<Way> AllWays{{EINTR},
                                {EACCES, Lasting::FromThenOn}};
 const std::vector<Way> MainWays{{EINTR}, {ENOSPC, Lasting::FromThenOn}, {EIO}};
 
-// Whether the system checks rights in it. The others work on what is open already.
+// Whether the system checks permissions in it. The other functions work on open files.
 bool checksRights(Function function)
 {
     switch (function) {
@@ -89,7 +89,7 @@ QString reportStart(int reason)
     }
 }
 
-// Whether the file can be written all the same.
+// Whether the file may be written in spite of the fault.
 bool mayBeSilent(const FailingCall::Fault &fault, bool onFolder, bool isSlow)
 {
     const int reason = fault.reason;
@@ -172,7 +172,7 @@ private Q_SLOTS:
             while (failsRightly(command, {function, call, way.reason, way.lasting}))
                 ++call;
             if (call == 1)
-                break; // the command does without the function
+                break; // the command does not call the function
         }
         QVERIFY(m_main->answers.allSeen());
         QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
@@ -309,7 +309,7 @@ private:
         dlgGameOver(music, nullptr).exec();
     }
 
-    // A changed list with a name, and on the disk the old file alone.
+    // Prepares a changed list with a name; on the disk there is only the old file.
     void prepare(const FileCommand &command)
     {
         const QDir folder = QFileInfo(command.path).dir();
@@ -327,7 +327,7 @@ private:
         m_told.clear();
     }
 
-    // True where the call was made.
+    // Returns whether the call was made.
     [[nodiscard]] bool failsRightly(const FileCommand &command, const FailingCall::Fault &fault)
     {
         prepare(command);

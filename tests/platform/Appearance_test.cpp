@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double ReadableText = 4.5; // WCAG 2, level AA
-constexpr double ReadableMark = 3;   // and for large text, lines and what is disabled
+constexpr double ReadableMark = 3;   // the same for large text, lines and disabled controls
 
 double luminance(const QColor &colour)
 {
@@ -51,7 +51,7 @@ QPalette darkPalette()
     return palette;
 }
 
-// The colour that most of the picture has, and the one in it that stands out most from that.
+// The most frequent colour of the picture, and the one with the highest contrast to it.
 struct Seen
 {
     QColor paper;
@@ -75,7 +75,7 @@ Seen look(const QImage &image)
     return seen;
 }
 
-// The inside of a widget: no frame, no round corners.
+// The inner part of a widget, without its frame and round corners.
 Seen lookInside(QWidget &widget)
 {
     constexpr int frame = 6;
@@ -90,7 +90,7 @@ QFont fontWithThickStrokes()
     return font;
 }
 
-// Counts the events of a kind that an object gets.
+// Counts the events of one type that an object gets.
 class EventCounter final : public QObject
 {
 public:
@@ -216,7 +216,7 @@ private Q_SLOTS:
         }
     }
 
-    // The frame of the focus must differ from what a button without it has there.
+    // The focus frame must have enough contrast to the pixels of a button without focus.
     void theFocusIsSeenOnEveryButton()
     {
         for (const QPalette &palette : {lightPalette(), darkPalette()}) {

@@ -19,7 +19,7 @@ namespace {
 
 const QString HoldArgument = u"--be-a-copy"_s;
 
-// Another copy of the program: tells whether it found one before it, then lives until its input
+// Another copy of the program. It prints whether it found a running copy, and ends when its input
 // ends.
 int beACopy(Application &application)
 {
@@ -34,7 +34,7 @@ class Copy
 public:
     Copy() { m_process.start(QCoreApplication::applicationFilePath(), {HoldArgument}); }
 
-    // What the copy said of itself.
+    // What the copy printed.
     QByteArray answer()
     {
         while (!m_process.canReadLine() && m_process.waitForReadyRead())
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(QCoreApplication::applicationName(), u"Tanglewit"_s);
     }
 
-    void theVersionIsOneNoughtNought()
+    void theVersionIsOneZeroZero()
     {
         QCOMPARE(Application::Major(), 1);
         QCOMPARE(Application::Minor(), 0);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QVERIFY(next.end());
     }
 
-    void aCopyCountsHoweverLongItRuns()
+    void aCopyCountsForAsLongAsItRuns()
     {
         Copy first;
         QCOMPARE(first.answer(), QByteArray("first"));
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QVERIFY(first.end());
     }
 
-    // As a machine that lost its power leaves it.
+    // The lock file that is left after a power cut.
     void anEmptyLockThatNobodyHoldsDoesNotKeepTheProgramFromStarting()
     {
         Copy first;
@@ -159,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(next.end());
     }
 
-    void whereNoLockCanBeLaidTheProgramStarts()
+    void theProgramStartsWhereNoLockFileCanBeMade()
     {
         const QString notAFolder = m_data->filePath(u"file"_s);
         QFile file(notAFolder);
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QVERIFY(copy.end());
     }
 
-    void aWriteBeyondALimitOnTheSizeOfFilesIsAnErrorAndNotTheEnd()
+    void aWriteBeyondTheFileSizeLimitIsAnErrorAndNoCrash()
     {
         const QString path = m_data->filePath(u"list.lwx"_s);
         QCOMPARE(errorNumberInChildProcess([&path] {

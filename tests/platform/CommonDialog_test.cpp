@@ -147,7 +147,7 @@ private Q_SLOTS:
         m_answers->chooseFile(u"cat.lwx"_s);
         m_answers->answerOverwrite(u"cat.lwx"_s, QMessageBox::No);
         m_answers->chooseFile(u"dog.lwx"_s, [](QFileDialog &dialog) {
-            // The question has just gone: who types waits until the dialog has the focus again.
+            // The question has just closed; wait until the dialog has the focus again.
             dialog.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&dialog));
         });
@@ -205,7 +205,7 @@ private Q_SLOTS:
         m_answers->cancelFileDialog(startsIn(second));
         QVERIFY(!m_dialog->ShowOpen(nullptr));
         m_dialog->InitDir.clear();
-        m_answers->cancelFileDialog(startsIn(first)); // what was cancelled is not used
+        m_answers->cancelFileDialog(startsIn(first)); // a cancelled dialog changes no folder
         QVERIFY(!m_dialog->ShowSave(nullptr));
 
         m_dialog->InitDir = path("second");

@@ -48,14 +48,14 @@ private Q_SLOTS:
         QVERIFY(!m_second->isDefault());
     }
 
-    void enterPressesItWhereverTheKeyboardIs_data()
+    void enterPressesItWhicheverControlHasTheFocus_data()
     {
         QTest::addColumn<Qt::Key>("key");
         QTest::newRow("Return") << Qt::Key_Return;
         QTest::newRow("Enter") << Qt::Key_Enter;
     }
 
-    void enterPressesItWhereverTheKeyboardIs()
+    void enterPressesItWhicheverControlHasTheFocus()
     {
         QFETCH(Qt::Key, key);
         DefaultButton button;
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(second.count(), 0);
     }
 
-    void aButtonThatHasTheKeyboardComesFirst()
+    void aButtonWithTheFocusComesFirst()
     {
         DefaultButton button;
         button.set(m_first);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(first.count(), 0);
     }
 
-    void aButtonThatIsGoneIsNone()
+    void aDeletedButtonIsNoDefaultButton()
     {
         DefaultButton button;
         auto gone = std::make_unique<QPushButton>();

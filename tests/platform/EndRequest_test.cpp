@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A window whose close can be refused.
+// A window that can refuse to close.
 class Window final : public QWidget
 {
 public:
@@ -43,7 +43,7 @@ protected:
     bool Form_QueryUnload() override { return false; }
 };
 
-// Counts how often the person or the program tries to close a window.
+// Counts the close events of a window.
 class CloseCounter final : public QObject
 {
 public:
@@ -56,7 +56,7 @@ public:
     }
 };
 
-// Runs the event loop, in which the command is given, and returns the program's exit code.
+// Runs the command in the event loop and returns the exit code of the program.
 int run(const std::function<void()> &command)
 {
     QTimer::singleShot(0, qApp, command);
@@ -190,7 +190,7 @@ private Q_SLOTS:
                  0);
         QVERIFY(given == MsgBoxAnswer::Yes);
         QVERIFY(!m_window->isVisible());
-        QCOMPARE(tries, 1); // it is left alone from then on
+        QCOMPARE(tries, 1); // it is not tried again
     }
 
     void aFormThatRefusesToCloseIsEnded()
@@ -218,7 +218,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->isVisible());
     }
 
-    void aBarOfProgressIsWaitedFor()
+    void aProgressBarIsWaitedFor()
     {
         bool stops = false;
         int shown = 0;
@@ -231,7 +231,7 @@ private Q_SLOTS:
                      for (int looks = 0; !stops || looks < 3; ++shown) {
                          progress.show(shown % 1000, 1000);
                          looks += stops ? 1 : 0;
-                         QTest::qWait(60); // longer than the bar waits from one step to the next
+                         QTest::qWait(60); // longer than the interval in which the bar is updated
                          QVERIFY(m_window->isVisible());
                      }
                  }),
@@ -354,7 +354,7 @@ private Q_SLOTS:
     }
 
 private:
-    // Waits until the request has looked at the windows some times.
+    // Waits until the request has looked at the windows several times.
     void waitForLooks()
     {
         QSignalSpy looks(m_request->findChild<QTimer *>(), &QTimer::timeout);

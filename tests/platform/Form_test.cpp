@@ -18,7 +18,7 @@ namespace {
 
 const QString Report = u"Run-time error '9':\n\nSubscript out of range"_s;
 
-// A form that notes its events and fails in one of them on demand, once.
+// A form that records its events. If the test wants it, one event throws once.
 template <class Base> class NotingForm final : public Base
 {
 public:
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QVERIFY(answers.allSeen());
         QVERIFY(form.isVisible());
         QStringList events = form.takeEvents();
-        events.removeAll(u"Activate"_s); // after the box
+        events.removeAll(u"Activate"_s); // comes again after the message box
         events.removeAll(u"GotFocus"_s);
         QCOMPARE(events, Unloading.mid(0, failing + 1));
 
@@ -275,7 +275,7 @@ private Q_SLOTS:
         QVERIFY(dialog.isVisible());
     }
 
-    // Esc closes a dialog as its close box does.
+    // Esc closes a dialog in the same way as its close box.
     void escClosesADialogThroughItsUnloading()
     {
         NotingForm<DialogForm> dialog;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A grid on the screen as the main window has it.
+// A visible grid with the size of the one in the main window.
 #pragma once
 
 #include "platform/MSFlexGrid.h"
@@ -31,10 +31,10 @@ public:
         return grid.visualRect(grid.model()->index(row, column)).center();
     }
 
-    // The tool tip of a cell, as a person reads it; empty for none.
+    // The text of the tool tip of a cell; empty if there is none.
     QString toolTip(int row, int column)
     {
-        // Qt would take off an older one after a while only.
+        // Qt hides an older tool tip only after some time.
         for (QWidget *window : QApplication::topLevelWidgets())
             if (window->objectName() == "qtooltip_label"_L1)
                 window->hide();

@@ -22,7 +22,7 @@ struct Failure
     std::function<void()> fail;
 };
 
-// A form with handlers that fail on demand.
+// A form whose handlers throw if the test wants it.
 class Window final : public QWidget
 {
 public:

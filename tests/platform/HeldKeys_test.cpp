@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Keys that are held down: the first press counts, what the keyboard repeats after it types and
-// moves but answers nothing.
+// Keys that are held down: the repeated presses type and move, but press no button and answer no
+// dialog.
 #include "platform/HeldKeys.h"
 
 #include "platform/DefaultButton.h"
@@ -31,7 +31,7 @@ void press(QWidget &widget, Qt::Key key, Press press, Qt::KeyboardModifiers modi
     QTest::simulateEvent(&widget, true, key, modifiers, text, press == Press::Repeated);
 }
 
-// The first press and three more that the keyboard makes of it.
+// Presses a key once and sends three repeated presses.
 void hold(QWidget &widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {
     press(widget, key, Press::First, modifiers);
@@ -40,7 +40,7 @@ void hold(QWidget &widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     QTest::simulateEvent(&widget, false, key, modifiers, QString(), false);
 }
 
-// A window whose default button is pressed by Enter wherever the keyboard is.
+// A window in which Enter presses the default button, whichever control has the focus.
 class Window final : public QWidget
 {
 public:
@@ -125,13 +125,13 @@ private Q_SLOTS:
         QCOMPARE(clicks.count(), 2);
     }
 
-    void theLetterOfAButtonPressesItOnce()
+    void theMnemonicOfAButtonPressesItOnce()
     {
         m_window->line->setFocus();
         const QSignalSpy clicks(m_window->button, &QPushButton::clicked);
         press(*m_window->line, Qt::Key_O, Press::First, Qt::AltModifier);
         QVERIFY(m_window->button->isDown());
-        QTRY_COMPARE(clicks.count(), 1); // it is seen to be pressed for a moment
+        QTRY_COMPARE(clicks.count(), 1); // animateClick() shows the button pressed for a moment
         press(*m_window->line, Qt::Key_O, Press::Repeated, Qt::AltModifier);
         QVERIFY(!m_window->button->isDown());
         QCOMPARE(m_window->line->text(), QString());
@@ -220,7 +220,7 @@ private Q_SLOTS:
         QTest::newRow("a letter with Alt") << Qt::Key_Y << Qt::KeyboardModifiers(Qt::AltModifier);
     }
 
-    // The second question meets only what the keyboard repeats, and is answered by the mouse.
+    // The second question gets only repeated presses. It is answered with the mouse.
     void aHeldKeyAnswersOneQuestionOnly()
     {
         QFETCH(Qt::Key, key);
@@ -240,7 +240,8 @@ private Q_SLOTS:
             for (int i = 0; i < 5; ++i) {
                 press(*box->defaultButton(), key, Press::Repeated, modifiers);
                 QVERIFY(box->isVisible());
-                QVERIFY(!box->defaultButton()->isDown()); // a letter lets it go after a moment
+                QVERIFY(
+                    !box->defaultButton()->isDown()); // after a mnemonic it is pressed for a moment
             }
             QTest::mouseClick(box->button(QMessageBox::Cancel), Qt::LeftButton);
         });

@@ -34,7 +34,7 @@ private Q_SLOTS:
 
     void cleanup() { m_window.reset(); }
 
-    void theKeyboardLeavesForAnotherControl_data()
+    void losingTheFocusToAnotherControlIsAnEvent_data()
     {
         QTest::addColumn<int>("way");
         QTest::newRow("Tab") << 0;
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QTest::newRow("by the program") << 3;
     }
 
-    void theKeyboardLeavesForAnotherControl()
+    void losingTheFocusToAnotherControlIsAnEvent()
     {
         QFETCH(int, way);
         if (way == 0)
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(m_events, QStringList{u"123"_s});
     }
 
-    void eachLeavingIsAnEvent()
+    void eachLossOfTheFocusIsAnEvent()
     {
         for (int i = 0; i < 3; ++i) {
             m_second->setFocus();
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(m_events.size(), 3);
     }
 
-    void leavingTheOtherControlIsNone()
+    void theOtherControlsLossIsNoEvent()
     {
         m_second->setFocus();
         m_events.clear();
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(m_events, QStringList());
     }
 
-    void anotherWindowComingUpIsNone()
+    void activatingAnotherWindowIsNoEvent()
     {
         QWidget other;
         other.show();
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(m_events.size(), 1);
     }
 
-    void theControlsOwnMenuIsNone()
+    void theContextMenuOfTheControlIsNoEvent()
     {
         QFocusEvent menuOpens(QEvent::FocusOut, Qt::PopupFocusReason);
         QCoreApplication::sendEvent(m_first, &menuOpens);
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(m_events.size(), 1);
     }
 
-    void whatTheHandlerThrowsIsReportedAndTheKeyboardStillMoves()
+    void anErrorInTheHandlerIsReportedAndTheFocusStillMoves()
     {
         DialogAnswers answers;
         new LostFocus(m_second, [] { throw RunTimeError(RunTimeError::TypeMismatch); });
@@ -128,7 +128,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     QLineEdit *m_first = nullptr;
     QLineEdit *m_second = nullptr;
-    QStringList m_events; // what the first box held at each
+    QStringList m_events; // the text of the first box at each event
 };
 
 int main(int argc, char *argv[])

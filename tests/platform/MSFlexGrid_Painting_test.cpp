@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(page.toolTip(2, 2), text);
     }
 
-    // Seen in the pixels: a text that is not cut looks the same in a wider column.
+    // Compares pixels: a text that is not cut looks the same in a wider column.
     void theToolTipIsThereWhereTheTextIsCutAndNowhereElse()
     {
         for (const bool bold : {false, true}) {
@@ -96,7 +96,7 @@ private Q_SLOTS:
                 const QRect text(2, 2, width - 4, whole.height() - 4);
                 const bool isCut = page.cellImage(2, 1).copy(text) != whole.copy(text);
                 (isCut ? cut : fitting) += 1;
-                // The last pixel is a matter of rounding: better a tool tip too many there.
+                // Near the exact width rounding decides; a tool tip is allowed there.
                 if (isCut || fitting > 2)
                     QVERIFY2(page.toolTip(2, 1).isEmpty() != isCut,
                              qPrintable(u"at width %1"_s.arg(width)));

@@ -143,7 +143,8 @@ private Q_SLOTS:
     {
         GridPage page;
         int previous = 0;
-        for (int height = 384; height <= 1080; height += 12) { // half of a screen of 768 and more
+        for (int height = 384; height <= 1080;
+             height += 12) { // from half the height of the smallest screen
             page.grid.resize(600, height);
             const int size = page.grid.font().pixelSize();
             QVERIFY2(QFontMetrics(page.grid.font()).height() <= page.grid.rowHeight(1),
@@ -172,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(!page.grid.horizontalScrollBar()->isVisible());
     }
 
-    void keysSayWhereTheyLead_data()
+    void navigationKeysAreSignalled_data()
     {
         QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<GridMove>("move");
@@ -184,7 +185,7 @@ private Q_SLOTS:
         QTest::newRow("end") << Qt::Key_End << GridMove::Last;
     }
 
-    void keysSayWhereTheyLead()
+    void navigationKeysAreSignalled()
     {
         QFETCH(Qt::Key, key);
         QFETCH(GridMove, move);
@@ -197,7 +198,7 @@ private Q_SLOTS:
         QCOMPARE(page.grid.Row(), 3);
     }
 
-    void otherKeysLeadNowhere()
+    void otherKeysAreNotSignalled()
     {
         GridPage page;
         page.grid.setCurrent(3, 1);
@@ -209,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(page.grid.Col(), 1);
     }
 
-    void theWheelSaysHowManyRowsItWasTurned()
+    void theWheelSignalsTheNumberOfRows()
     {
         GridPage page;
         const int rows = QApplication::wheelScrollLines();
@@ -230,7 +231,7 @@ private Q_SLOTS:
         for (const QVariantList &turn : turns)
             rows += turn.at(0).toInt();
         QCOMPARE(rows, QApplication::wheelScrollLines());
-        QCOMPARE(turns.size(), rows); // one by one
+        QCOMPARE(turns.size(), rows); // one signal for each row
     }
 
     void withControlOrShiftTheWheelTurnsPages()

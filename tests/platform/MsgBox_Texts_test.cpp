@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every text that the program tells, with a short value and with very long ones: the box shows all
-// of it and stays on the screen.
+// All message texts of the program, with short and very long values: the box shows the whole text
+// and fits on the screen.
 #include "platform/MsgBox.h"
 
 #include "runtime/RunTimeError.h"
@@ -27,7 +27,7 @@ namespace {
 struct Said
 {
     const char *name;
-    QString text; // %1 = what it is said of
+    QString text; // %1 = the value
     MsgBoxButtons buttons = MsgBoxButtons::OkOnly;
 };
 
@@ -157,7 +157,7 @@ private Q_SLOTS:
     }
 
 private:
-    // What is painted is the text, and all of it is inside the label.
+    // The label paints the whole text, and inside its own area.
     static void seeText(const QMessageBox &box, const QString &text)
     {
         auto *label = box.findChild<QLabel *>(u"lblText"_s);
@@ -175,8 +175,8 @@ private:
         }
     }
 
-    // The text is in sight or can be scrolled there, the box is on the screen, its margins are
-    // even.
+    // The text is visible or can be scrolled into view, the box is on the screen, and its margins
+    // are equal.
     static void seeBox(const QMessageBox &box, bool mayScroll)
     {
         const auto &area = *box.findChild<QScrollArea *>();

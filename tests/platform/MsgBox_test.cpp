@@ -266,7 +266,7 @@ private Q_SLOTS:
         dialog.exec();
     }
 
-    void whatTheDataHasToTellIsShown()
+    void noticesAreShownInMessageBoxes()
     {
         DialogAnswers answers;
         answers.expectMsgBox(u"Cannot add any more words."_s);
@@ -275,7 +275,7 @@ private Q_SLOTS:
     }
 
 private:
-    // Does it to the next message box as soon as that shows.
+    // Calls the function with the next message box when it is shown.
     void withBox(const std::function<void(QMessageBox &)> &deed)
     {
         auto *timer = new QTimer(this);

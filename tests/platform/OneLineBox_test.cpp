@@ -123,14 +123,14 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), u"abig cat"_s);
     }
 
-    void whereNothingCanBePastedWhatIsSelectedStays_data()
+    void theSelectionStaysIfNothingCanBePasted_data()
     {
         QTest::addColumn<bool>("empty");
         QTest::newRow("an empty clipboard") << true;
         QTest::newRow("a line break alone") << false;
     }
 
-    void whereNothingCanBePastedWhatIsSelectedStays()
+    void theSelectionStaysIfNothingCanBePasted()
     {
         QFETCH(bool, empty);
         if (!empty)
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(m_box->selectedText(), u"cat"_s);
     }
 
-    void theLongestLengthHoldsForWhatIsLeft()
+    void theMaximumLengthIsKept()
     {
         m_box->setMaxLength(7);
         copyElsewhere(u"\n\nbig\ncats\n"_s);
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), u"big cat"_s);
     }
 
-    void aBoxThatIsOnlyReadTakesNothing()
+    void aReadOnlyBoxTakesNothing()
     {
         m_box->setReadOnly(true);
         copyElsewhere(u"cat"_s);
@@ -159,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), QString());
     }
 
-    void aTextThatIsSetIsNotChanged()
+    void aTextSetByTheProgramIsNotChanged()
     {
         m_box->setText(u"big\ncat\n"_s);
         QCOMPARE(m_box->text(), u"big\ncat\n"_s);

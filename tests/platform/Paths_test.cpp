@@ -68,8 +68,8 @@ private Q_SLOTS:
         QVERIFY(!QDir(m_home->filePath(u"Documents"_s)).exists());
     }
 
-    // Import tells kinds of files by the first dot of the path.
-    void noFixedFolderBringsADotIntoThePath()
+    // Import finds the extension by the first dot of the whole path.
+    void noFixedFolderHasADot()
     {
         const QString inHome = pathOf(Place::WordLists).mid(m_home->path().size());
         QVERIFY2(!inHome.contains(u'.'), qPrintable(inHome));

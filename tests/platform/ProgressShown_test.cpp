@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(line->value(), shownAt);
         QCOMPARE(label(), u"%1 of 1000"_s.arg(shownAt));
 
-        // Not at every step, but soon.
+        // The bar is updated soon, though not at every step.
         const QDeadlineTimer deadline(LongEnough);
         while (line->value() != 700 && !deadline.hasExpired())
             progress.show(700, Total);
@@ -86,14 +86,14 @@ private Q_SLOTS:
         {
             ProgressShown progress(m_window.get());
             QVERIFY(showUntilBar(progress) > 0);
-            // All steps done, but not the loop: its last word may be a message.
+            // All steps are done, but the loop may still show a message.
             showFor100Milliseconds(progress, Total);
             QVERIFY(bar() && bar()->isVisible());
         }
         QVERIFY(!bar());
     }
 
-    // While the person thinks, no bar stands behind the question, and the time does not count.
+    // During a question there is no bar, and the time of the question does not count.
     void aPauseTakesTheBarAwayAndStartsTheClockAgain()
     {
         ProgressShown progress(m_window.get());
@@ -136,7 +136,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_commands, 2);
     }
 
-    // The bar has no Cancel: the loop goes on, and so does what keeps commands away.
+    // The bar has no Cancel: the loop goes on, and commands stay blocked.
     void theBarCannotBeDismissed_data()
     {
         QTest::addColumn<bool>("byEscape");
@@ -181,8 +181,7 @@ private:
     [[nodiscard]] QProgressDialog *bar() const { return m_window->findChild<QProgressDialog *>(); }
     [[nodiscard]] QString label() const { return bar()->findChild<QLabel *>()->text(); }
 
-    // Goes through steps until the bar appears. Returns the step at which it did, 0 if it never
-    // did.
+    // Shows steps until the bar appears. Returns the step of that moment; 0 if there is no bar.
     int showUntilBar(ProgressShown &progress)
     {
         const QDeadlineTimer deadline(LongEnough);
@@ -194,7 +193,7 @@ private:
         return bar() && bar()->isVisible() ? step : 0;
     }
 
-    // Twice the time between two looks at the bar.
+    // That is twice the interval in which the bar is updated.
     static void showFor100Milliseconds(ProgressShown &progress, int done)
     {
         const QDeadlineTimer deadline(100);
@@ -202,7 +201,7 @@ private:
             progress.show(done, Total);
     }
 
-    // As the window system gives them, which knows what a modal window keeps away.
+    // Through the window handle, as the window system does it: a modal dialog blocks these events.
     void tryCommands()
     {
         QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, {},

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A printer that keeps what is put on its sheets. Each character is an eighth of an inch wide and
-// a line a quarter high, whatever the font, so that every place on a sheet is an exact number.
+// A printer that records the texts of its sheets. Each character is an eighth of an inch wide and
+// each line a quarter of an inch high, with any font, so that all positions are exact numbers.
 #pragma once
 
 #include "platform/Printer.h"
@@ -34,7 +34,7 @@ public:
     }
 
     std::vector<Text> texts;
-    int sheets = 0; // that have come into being
+    int sheets = 0; // begun
     int ended = 0;  // documents completed
     int dropped = 0;
     mutable qsizetype charactersMeasured = 0;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr QSize Size(64, 48);
 
-// Upright stripes of one unit each: at twice the size each must keep its edges.
+// Vertical stripes, one unit wide: at twice the size their edges must be sharp.
 QByteArray stripes()
 {
     QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 64 48'>"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Writing where the new bytes do not fit, under a limit on the size of files: the old file stays
-// whole.
+// Writing more than the limit on the size of files allows: the old file stays whole.
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
@@ -29,7 +28,7 @@ bool limitFileSize(rlim_t size)
     return setrlimit(RLIMIT_FSIZE, &limit) == 0;
 }
 
-// From now on each write of the process takes no byte and is no error.
+// From now on write() returns 0 in this process, without an error.
 bool takeNothing()
 {
     std::array<sock_filter, 4> steps{{
@@ -74,7 +73,7 @@ private Q_SLOTS:
         const QByteArray before = randomBytes(oldSize, 1);
         const QByteArray content = randomBytes(newSize, 2);
         const QString path = folder.write(Name, before);
-        // A folder that may not be written to admits no temporary file.
+        // No temporary file can be made in a read-only folder.
         QVERIFY(folder.setMode(inPlace ? 0555 : 0755));
         const int error = inChildProcess([&] {
             return dropPrivileges() && limitFileSize(8'000)
@@ -132,8 +131,8 @@ private Q_SLOTS:
         QCOMPARE(folder.names(), QStringList{Name});
     }
 
-    // Beyond the limit not even the old bytes may be written again.
-    void whatCannotBePutBackIsTold()
+    // The old file is longer than the limit, so not even its own bytes can be written again.
+    void anOldContentThatCannotBeRestoredIsReported()
     {
         const TestFolder folder;
         const QString path = folder.write(Name, randomBytes(20'000, 1));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whose a file is after it was written over. Only root can set this up.
+// The owner and the group of a file that was overwritten. Only root can set this up.
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
@@ -19,7 +19,7 @@ constexpr gid_t Class = 65'432;
 constexpr gid_t Others = 65'433;
 const QString Name = u"list.lwx"_s;
 
-// Owner, group and permissions, as "ls" shows them in numbers.
+// Owner, group and permissions: "1000:1000 644".
 QString ownersOf(const QString &path)
 {
     struct stat status
@@ -32,7 +32,7 @@ QString ownersOf(const QString &path)
                : u"missing"_s;
 }
 
-// The program of a pupil who is in the group.
+// What happens when a pupil of the group saves.
 int errorOfPupil(gid_t group, const QString &path, QByteArrayView content)
 {
     return inChildProcess([&] {
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(ownersOf(path), u"54321:65432 %1"_s.arg(mode, 0, 8));
     }
 
-    void aListOfTheClassStaysTheClasss()
+    void aFileOfTheGroupKeepsItsGroup()
     {
         const TestFolder folder;
         const QString path = teachersFile(folder, 0660);
@@ -83,8 +83,8 @@ private Q_SLOTS:
         QCOMPARE(ownersOf(path), u"54322:65432 660"_s);
     }
 
-    // The rights of set-id bits were given by the owner alone.
-    void whereNeitherCanBeKeptThePermissionsAre()
+    // Only the owner may set the set-user-ID and set-group-ID bits.
+    void withoutOwnerAndGroupThePermissionsAreKept()
     {
         const TestFolder folder;
         const QString path = teachersFile(folder, 06666);
@@ -95,8 +95,8 @@ private Q_SLOTS:
         QCOMPARE(folder.names(), QStringList{Name});
     }
 
-    // In a folder like /tmp nobody replaces another one's file.
-    void whereTheSwapIsRefusedTheFileIsWrittenInPlace()
+    // In a folder like /tmp (sticky bit) a user cannot replace a file of another user.
+    void aFileThatMayNotBeReplacedIsWrittenInPlace()
     {
         const TestFolder folder;
         const QString path = teachersFile(folder, 0666);

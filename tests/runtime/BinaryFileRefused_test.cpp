@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Places that may not be opened, and folders that admit no second file.
+// Files that may not be opened, and folders in which no temporary file can be made.
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QCOMPARE(folder.names(), QStringList{u"list.lwx"_s});
     }
 
-    void aFileWhoseFolderAdmitsNoSecondFileIsWrittenInPlace_data()
+    void withoutATemporaryFileTheFileIsWrittenInPlace_data()
     {
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QByteArray>("content");
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QTest::newRow("large, longer") << start << large << large;
     }
 
-    void aFileWhoseFolderAdmitsNoSecondFileIsWrittenInPlace()
+    void withoutATemporaryFileTheFileIsWrittenInPlace()
     {
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, content);
@@ -159,9 +159,9 @@ private Q_SLOTS:
         QCOMPARE(fileNumber(path), number);
     }
 
-    // Only rights lead to writing in place: where it is for want of handles that there is no
-    // second file, the old one stays as it is.
-    void withoutAHandleForASecondFileTheOldOneStays()
+    // A file is written in place only if permissions forbid a temporary file. If there is no file
+    // handle left for it, the old file stays as it is.
+    void withoutAFileHandleTheOldFileStays()
     {
         const TestFolder folder;
         const QString path = folder.write(u"list.lwx"_s, "0123456789"_ba);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Writing to a full disk: a file system of 64 KiB that the test mounts for itself alone.
+// Writing to a full disk: a file system of 64 KiB that only the test sees.
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ChildProcess.h"
@@ -15,13 +15,13 @@ namespace {
 constexpr int CannotMount = 254;
 const QString Name = u"list.lwx"_s;
 
-// From now on the disk admits no new file.
+// Uses up all files that the disk can hold.
 bool allowNoNewFile(const QString &folder)
 {
     return chmod(QFile::encodeName(folder).constData(), 0555) == 0 && dropPrivileges();
 }
 
-// Takes the last page too.
+// Fills the disk to the last page.
 void fillUp(const QString &path)
 {
     QFile file(path);
@@ -56,7 +56,7 @@ private Q_SLOTS:
             QTest::addRow("%s, large over small", kind) << inPlace << 100 << 70'000 << false;
             QTest::addRow("%s, larger than the disk", kind) << inPlace << 9'000 << 300'000 << false;
         }
-        // Each fits, but not both at the same time.
+        // The old file or the new one fits, but not both at the same time.
         QTest::newRow("replaced, two do not fit") << false << 40'000 << 40'000 << false;
         QTest::newRow("replaced, small with a long tail") << false << 40'000 << 10 << false;
     }
@@ -124,7 +124,8 @@ private Q_SLOTS:
         QCOMPARE(error, int(RunTimeError::DiskFull));
     }
 
-    // A disk that has no room for a further file is full, however much fits into the old one.
+    // A disk without room for a temporary file is full, even if the new bytes fit into the old
+    // file.
     void aDiskThatTakesNoFurtherFileIsFull()
     {
         const TestFolder outside;

@@ -39,14 +39,14 @@ private Q_SLOTS:
         QVERIFY(read.capacity() <= content.size() + 100);
     }
 
-    void readingEndsWhereItIsEnough_data()
+    void readingStopsAsSoonAsItIsEnough_data()
     {
         QTest::addColumn<int>("wanted");
         for (const int wanted : {0, 1, 65'536, 65'537, 262'145, 5'000'000, 9'000'000})
             QTest::addRow("%d bytes", wanted) << wanted;
     }
 
-    void readingEndsWhereItIsEnough()
+    void readingStopsAsSoonAsItIsEnough()
     {
         QFETCH(int, wanted);
         const TestFolder folder;
@@ -59,7 +59,7 @@ private Q_SLOTS:
         QCOMPARE(start, content.first(start.size()));
     }
 
-    void whatIsNeverEnoughIsReadWhole()
+    void aFileIsReadWholeIfNothingIsEnough()
     {
         const TestFolder folder;
         const QByteArray content = randomBytes(9'000'000, 1);
@@ -160,8 +160,8 @@ private Q_SLOTS:
         QCOMPARE(folder.names(), QStringList{u"list.lwx"_s});
     }
 
-    // Its tail is kept without being written: the disk holds next to nothing of it.
-    void threeGigabytesThatWereNeverWrittenStaySo()
+    // The rest of the old file is kept as a hole: it takes almost no space on the disk.
+    void aHoleOfThreeGigabytesStaysAHole()
     {
         const TestFolder folder;
         const QString path = folder.path(u"list.lwx"_s);
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QCOMPARE(folder.names(), QStringList{u"list.lwx"_s});
     }
 
-    // What makes a kill or a power cut harmless: the old bytes are never written into.
+    // After a kill or a power cut the old file is whole, because its bytes are never overwritten.
     void theNewFileTakesTheOldOnesPlaceInOneStep()
     {
         const TestFolder folder;

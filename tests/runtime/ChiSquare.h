@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How far counts of equally likely outcomes are from even.
+// The chi-square statistic of outcomes that should be equally likely.
 #pragma once
 
 #include <span>

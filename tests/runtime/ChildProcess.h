@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Actions run in a process of their own, where they may give up rights or hang.
+// Runs an action in a child process, where it may give up rights or hang.
 #pragma once
 
 #include "runtime/ErrorNumber.h"
@@ -15,8 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
-// The action's result (0 to 255). Negative: the number of the signal that ended it, SIGALRM after
-// a minute without an end.
+// The result of the action (0 to 255), or minus the number of the signal that ended the child:
+// SIGALRM after a minute.
 template <class Action> [[nodiscard]] int inChildProcess(Action &&action)
 {
     const pid_t child = fork();
@@ -35,14 +35,14 @@ template <class Action> [[nodiscard]] int inChildProcess(Action &&action)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 
-// The number of the run-time error that the action ends with in a process of its own.
+// The number of the run-time error with which the action ends in a child process.
 template <class Action> [[nodiscard]] int errorNumberInChildProcess(Action &&action)
 {
     return inChildProcess([&] { return int(errorNumberOf(action)); });
 }
 
-// The sanitizer looks at the first object of each type with virtual functions through a pipe. That
-// has to be before a test takes handles or writing away from the process.
+// The sanitizer needs a pipe when it sees a type with virtual functions for the first time. So this
+// comes before a test takes file handles or writing away from the process.
 inline void showErrorsToSanitizer()
 {
     static_cast<void>(SystemFile::existing("/missing", O_RDONLY));
@@ -53,7 +53,7 @@ inline void showErrorsToSanitizer()
     }
 }
 
-// From now on the process may open only so many files more at the same time.
+// From now on the process can have only this many more files open at a time.
 inline void allowHandles(rlim_t more)
 {
     const int next = dup(0);
@@ -63,7 +63,7 @@ inline void allowHandles(rlim_t more)
     setrlimit(RLIMIT_NOFILE, &limit);
 }
 
-// Makes permission bits count for root too.
+// Permissions apply from now on, even if the user is root.
 [[nodiscard]] inline bool dropPrivileges()
 {
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};

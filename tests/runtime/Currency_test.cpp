@@ -12,7 +12,7 @@ class Currency_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aTextKeepsFourDecimalsHalvesGoToTheEvenOne_data()
+    void textsAreRoundedToFourDecimalsHalvesToEven_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<qint64>("scaled");
@@ -47,7 +47,7 @@ private Q_SLOTS:
         row("-9999999999.99994", -99'999'999'999'999);
     }
 
-    void aTextKeepsFourDecimalsHalvesGoToTheEvenOne()
+    void textsAreRoundedToFourDecimalsHalvesToEven()
     {
         QFETCH(QString, text);
         QTEST(qint64(Currency::fromText(text).scaled()), "scaled");
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QTEST(Currency::fromText(number).toText(), "text");
     }
 
-    void theWholeNumberIsTheNearestHalvesGoToTheEvenOne()
+    void wholeNumbersAreRoundedHalvesToEven()
     {
         const auto whole = [](const char *text) {
             return Currency::fromText(QString::fromLatin1(text)).toInteger();
@@ -137,7 +137,7 @@ private Q_SLOTS:
         }
     }
 
-    void theyAreInOrder()
+    void comparisonsFollowTheValues()
     {
         QVERIFY(Currency(3) < Currency::fromText(u"3.0001"_s));
         QVERIFY(Currency(-1) < Currency(0));

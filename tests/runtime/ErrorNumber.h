@@ -16,7 +16,7 @@ template <class Action> [[nodiscard]] RunTimeError::Number errorNumberOf(Action 
     return NoRunTimeError;
 }
 
-// What the person reads, or the empty text where nothing went wrong.
+// The text of the error for the user; empty if there was no error.
 template <class Action> [[nodiscard]] QString reportOf(Action &&action)
 {
     try {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which number a failure gets: the table, and each of its rows on a real file system. That a disk
-// is full is tested with the writing of files.
+// The error numbers of failed system calls: the table itself, and each row on a real file system.
+// The full disk is tested in BinaryFileSmallDisk_test.
 #include "runtime/FileError.h"
 
 #include "runtime/BinaryFile.h"
@@ -49,7 +49,7 @@ private Q_SLOTS:
                  "/lists/a.lwx: Too many open files. Close some"_s);
     }
 
-    void whatIsMissingIsTheFileOrItsFolder()
+    void aMissingFileAndAMissingFolderAreToldApart()
     {
         const TestFolder folder;
         QCOMPARE(errorNumberOf([&] { throwFileError(ENOENT, folder.path(u"list.lwx"_s)); }),
@@ -58,7 +58,7 @@ private Q_SLOTS:
                  RunTimeError::PathNotFound);
     }
 
-    void aPlaceGetsItsNumberForReadingAndWriting_data()
+    void eachPlaceHasItsErrorForReadingAndWriting_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<int>("number");
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QTest::newRow("a file that may not be opened") << u"closed file"_s << 70;
     }
 
-    void aPlaceGetsItsNumberForReadingAndWriting()
+    void eachPlaceHasItsErrorForReadingAndWriting()
     {
         QFETCH(QString, name);
         QFETCH(int, number);
@@ -122,7 +122,7 @@ private Q_SLOTS:
                  RunTimeError::DeviceIoError);
     }
 
-    void withoutAHandleThereAreTooManyFiles()
+    void withoutAFileHandleThereAreTooManyFiles()
     {
         const TestFolder folder;
         const QString path = folder.write(u"list.lwx"_s, "old"_ba);

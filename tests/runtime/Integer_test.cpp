@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(number.toInt(), -32000);
     }
 
-    void anAssignmentGivesTheNumberItself()
+    void anAssignmentReturnsTheNumberItself()
     {
         Integer number = 5;
         (number += 2) += 3;

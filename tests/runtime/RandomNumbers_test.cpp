@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int Cells = 64;
-// 63 degrees of freedom: an even source exceeds this less than once in 10^10 runs.
+// 63 degrees of freedom: uniform numbers exceed this less than once in 10^10 runs.
 constexpr double ChiSquareLimit = 180;
 
 std::size_t cellOf(float number, int cells)

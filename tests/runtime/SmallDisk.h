@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A file system of 64 KiB that a process mounts for itself alone.
+// A file system of 64 KiB that only this process sees.
 #pragma once
 
 #include "runtime/ChildProcess.h"
@@ -23,7 +23,7 @@ inline bool writeTo(const QString &path, const QByteArray &text)
            file.write(text) == text.size();
 }
 
-// Seen by this process alone and gone with it.
+// Only this process sees it; it is gone when the process ends.
 [[nodiscard]] inline bool mountSmallDisk(const QString &folder, const char *options = "size=64k")
 {
     const QByteArray user = QByteArray::number(getuid());
@@ -41,7 +41,7 @@ inline bool writeTo(const QString &path, const QByteArray &text)
     return inChildProcess([] { return int(mountSmallDisk(QDir::tempPath())); }) == 1;
 }
 
-// From now on nothing on it can be changed.
+// Makes the small disk read-only.
 [[nodiscard]] inline bool makeReadOnly(const QString &folder)
 {
     return mount("none", QFile::encodeName(folder).constData(), nullptr, MS_REMOUNT | MS_RDONLY,

@@ -90,7 +90,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QCOMPARE(errorNumberOf([&] { return toInteger(text); }), RunTimeError::Overflow);
-        // As a number without the 16 bits it is good.
+        // It is a number, but does not fit into 16 bits.
         QCOMPARE(errorNumberOf([&] { return toNumber(text); }), NoRunTimeError);
     }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Finding a window's controls by name and using them as a person does. What a person could not do
-// (press a disabled button, type into a hidden box) fails the test at the caller's line; nothing
-// is done then, and the test goes on.
+// Finds the controls of a window by name and uses them as a person does. What a person could not
+// do (click a disabled button, type into a hidden box) is not done and fails the test at the
+// caller's line; the test goes on.
 #pragma once
 
 #include "support/Caller.h"
@@ -15,7 +15,7 @@
 
 namespace Controls {
 
-// A control for a test to go on with where the window has none: hidden, and of no window.
+// A hidden control in the place of a missing one, so that the test can go on.
 template <class Control> Control &missing()
 {
     using Made = std::conditional_t<std::is_same_v<Control, QAbstractButton>, QPushButton, Control>;
@@ -43,17 +43,16 @@ void waitUntilActive(QWidget &window, Caller caller = Caller::current());
 void click(QAbstractButton &button, Caller caller = Caller::current());
 // Chooses a menu item.
 void choose(QAction &item, Caller caller = Caller::current());
-// Replaces the content of a text box by what is typed.
+// Types a text in the place of the content of a text box.
 void type(QWidget &box, const QString &text, Caller caller = Caller::current());
-// Presses a key in the control that has the focus.
+// Presses a key in the control that has the keyboard focus.
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
            Caller caller = Caller::current());
-// Presses a key that is already held down: the repeated key event that the control with the focus
-// gets.
+// Sends the repeated press of a key that is held down to the control with the keyboard focus.
 void holdOn(Qt::Key key, const QString &text = {}, Caller caller = Caller::current());
 // The name of the control that has the focus; empty where there is none.
 [[nodiscard]] QString focusedControl();
-// The names of the controls that the key visits, until it comes back to the first one.
+// The names of the controls that get the focus by this key, until the first one has it again.
 [[nodiscard]] QStringList tabRound(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                                    Caller caller = Caller::current());
 

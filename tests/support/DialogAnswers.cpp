@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LookInterval = 5; // ms
-constexpr int MostLooks = 600;  // at a dialog that should close
+constexpr int MostLooks = 600;  // at a dialog that has been answered and is still open
 
 constexpr auto Title = "Tanglewit"_L1; // of every message box
 
@@ -134,8 +134,8 @@ void DialogAnswers::chooseFile(const QString &name, std::function<void(QFileDial
             auto *box = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
             if (!box)
                 return failTest(u"the file dialog has no box for the name"_s, caller);
-            // The completion would guess on while the name is typed, and its list
-            // would pop up between a click and its button.
+            // Without completion: it would add to the typed name, and its list would cover the
+            // button.
             box->setCompleter(nullptr);
             box->setFocus();
             box->selectAll();
@@ -245,8 +245,8 @@ void DialogAnswers::expectFileDialog(const QString &what,
             }});
 }
 
-// What a window manager does and the display without one does not: when a dialog is gone, the
-// window below it is active again.
+// Activates the window below a closed dialog. A window manager would do it, but the offscreen
+// platform has none.
 void DialogAnswers::activateWindow()
 {
     if (QApplication::activeWindow() || m_seen == 0)
@@ -267,8 +267,8 @@ void DialogAnswers::look()
     activateWindow();
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
     if (!dialog || !dialog->isVisible() || qobject_cast<QProgressDialog *>(dialog))
-        return; // a bar of progress asks nothing
-    // A message box that is closed but not gone is about to say what becomes of the dialog below.
+        return; // a progress dialog needs no answer
+    // A closed message box whose caller has not gone on yet: its answer may close the dialog below.
     if (qobject_cast<QMessageBox *>(m_answered) && !m_answered->isVisible())
         return;
     std::erase(m_inUse, nullptr);
@@ -309,7 +309,7 @@ void DialogAnswers::meet(QDialog &dialog)
         dismiss(dialog, u"%1 could not be answered"_s, m_caller);
         return;
     }
-    // An answer may open a further dialog, for which the timer must be able to fire.
+    // Queued, because the answer may open another dialog, and the timer must run meanwhile.
     QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
 }
 

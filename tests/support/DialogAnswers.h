@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The person in front of the program's modal dialogs: a queue of message boxes, file dialogs and
-// forms that are expected, each answered in the real dialog as soon as it shows.
+// Answers the program's modal dialogs: a queue of expected message boxes, file dialogs and forms.
+// Each is answered in the real dialog as soon as it is shown.
 //
-// A dialog that is not the next expected one fails the test and is dismissed, so that nothing
-// hangs; one that was expected and did not come fails it when the object goes. A failure is
-// reported at the line that expected the dialog; that of a dialog that nothing expected, at the
-// line that expected the one before.
+// An unexpected dialog fails the test and is closed, so that nothing hangs. An expected dialog that
+// does not come fails the test when the object is destroyed. A failure is reported at the line that
+// expected the dialog. An unexpected dialog is reported at the line that expected the next one, or
+// else the one before.
 #pragma once
 
 #include "support/Caller.h"
@@ -29,45 +29,45 @@ public:
     explicit DialogAnswers(Caller caller = Caller::current());
     ~DialogAnswers() override;
 
-    // The exact text, the application's title and, pressed, the real button. `inspect` sees the
-    // box before it is answered.
+    // Checks the exact text and the title, and clicks the button. `inspect` is called with the box
+    // before the click.
     void expectMsgBox(const QString &text, QMessageBox::StandardButton answer = QMessageBox::Ok,
                       std::function<void(QMessageBox &)> inspect = {},
                       Caller caller = Caller::current());
-    // As above, the text being checked by `inspect` alone.
+    // As above, but only `inspect` checks the text.
     void expectAnyMsgBox(QMessageBox::StandardButton answer,
                          std::function<void(QMessageBox &)> inspect,
                          Caller caller = Caller::current());
-    // From now on a message box that comes instead of what is expected next, or where nothing is
-    // expected, is no failure: `see` has its text and its default button is pressed.
+    // From now on an unexpected message box is no failure: `see` gets its text, and its default
+    // button is clicked.
     void seeOtherMsgBoxes(std::function<void(const QString &)> see);
 
-    // A message box that Esc closes.
+    // Presses Esc in a message box with this exact text.
     void escapeMsgBox(const QString &text, Caller caller = Caller::current());
 
-    // A file dialog: the name (a full path, or one relative to the folder shown) is put into the
-    // name box and Open or Save is pressed.
+    // Puts the name (a full path, or one relative to the folder shown) into the name box of a file
+    // dialog and clicks Open or Save.
     void chooseFile(const QString &name, std::function<void(QFileDialog &)> inspect = {},
                     Caller caller = Caller::current());
-    // A file dialog whose offered name is accepted as it stands.
+    // Accepts the name that a file dialog offers.
     void acceptFileDialog(std::function<void(QFileDialog &)> inspect = {},
                           Caller caller = Caller::current());
     void cancelFileDialog(std::function<void(QFileDialog &)> inspect = {},
                           Caller caller = Caller::current());
     // The file dialog's own question whether the file may be replaced. After Yes the file dialog
-    // closes; after No it is open again, and what comes next in the queue answers it.
+    // closes; after No it is open again, and the next entry of the queue answers it.
     void answerOverwrite(const QString &fileTitle, QMessageBox::StandardButton answer,
                          Caller caller = Caller::current());
 
-    // A modal form of the program, by its name: `use` clicks and types in it and has to close it.
-    // What opens over it is the next in the queue.
+    // A modal form of the program, by its name: `use` clicks and types in it and must close it. A
+    // dialog that opens over it is the next in the queue.
     void useForm(const char *name, std::function<void(QDialog &)> use,
                  Caller caller = Caller::current());
-    // A message box with this exact text, closed by `use`, in whichever way.
+    // A message box with this exact text, which `use` closes.
     void useMsgBox(const QString &text, std::function<void(QMessageBox &)> use,
                    Caller caller = Caller::current());
 
-    // Whether every dialog that was expected has come and gone and no other one has.
+    // Whether all expected dialogs have come and gone, and no others.
     [[nodiscard]] bool allSeen();
     [[nodiscard]] int seen() const { return m_seen; }
 
@@ -79,7 +79,7 @@ private:
         QString what;
         Caller caller;
         Kind kind = Kind::MessageBox;
-        // Checks the dialog and returns what answers it, or nothing where it is another one.
+        // Checks the dialog and returns a function that answers it; empty if nothing can.
         std::function<std::function<void()>(QDialog &)> answer;
     };
 
@@ -93,12 +93,12 @@ private:
     void dismiss(QDialog &dialog, const QString &reason, Caller caller);
 
     std::deque<Expected> m_expected;
-    Caller m_caller; // of the last expectation that was met; at first, of the constructor
+    Caller m_caller; // of the dialog met last; before the first one, of the constructor
     std::function<void(const QString &)> m_seeOther;
     QTimer m_timer;
-    std::vector<QPointer<QDialog>> m_inUse; // forms, below one another
-    QPointer<QDialog> m_answered;           // the dialog met last, while its answer is under way
-    int m_waited = 0;                       // looks at the answered dialog that found it open still
+    std::vector<QPointer<QDialog>> m_inUse; // open forms, the last one on top
+    QPointer<QDialog> m_answered;           // the dialog met last, until it has closed
+    int m_waited = 0;                       // number of looks that found it still open
     int m_seen = 0;
     bool m_failed = false;
 };

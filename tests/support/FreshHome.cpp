@@ -21,6 +21,6 @@ FreshHome::FreshHome()
     place("XDG_DATA_HOME", u".local/share"_s);
     place("XDG_CONFIG_HOME", u".config"_s);
     place("XDG_CACHE_HOME", u".cache"_s);
-    // Where the file dialog keeps its state.
+    // The file dialog stores its state there.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u".config"_s));
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// An empty home folder of the test's own, as a first start finds it. It is gone with the object.
+// An empty home folder for one test, as the first start of the program finds it. The destructor
+// removes it.
 #pragma once
 
 #include <QTemporaryDir>
@@ -11,7 +12,7 @@ public:
     ~FreshHome() = default;
     Q_DISABLE_COPY_MOVE(FreshHome)
 
-    // The folder that is the person's home, and a path in it.
+    // The home folder, and a path in it.
     [[nodiscard]] QString home() const { return m_home.path(); }
     [[nodiscard]] QString path(const QString &name) const { return m_home.filePath(name); }
 

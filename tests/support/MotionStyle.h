@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the system shows of motion: none at 0, else so many milliseconds of it.
+// A style whose animations take this many milliseconds; 0 means no animations.
 #pragma once
 
 #include <QProxyStyle>

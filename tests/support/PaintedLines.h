@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The lines of text that a label paints, read off a drawing of it.
+// The lines of text that a label paints: the label is painted as SVG, and the SVG is read.
 #pragma once
 
 #include <QBuffer>
@@ -16,7 +16,7 @@ struct Line
     QString text;
     double points = 0;
     double left = 0;
-    double top = 0; // of its letters' base
+    double top = 0; // of the base line
 };
 
 // From the top down.

@@ -53,7 +53,7 @@ public:
         return chmod(QFile::encodeName(path()).constData(), mode) == 0;
     }
 
-    // The names of all that is in the folder, hidden or dangling too, sorted.
+    // The sorted names of everything in the folder, with hidden files and broken links.
     [[nodiscard]] QStringList names() const
     {
         return QDir(path()).entryList(

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A program that owns precompiled headers of the tests; it does nothing.
+// The source of the targets that build the precompiled headers. The program does nothing.
 int main()
 {
     return 0;

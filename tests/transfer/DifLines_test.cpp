@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(difEnd(tooLong.chopped(1)), std::nullopt);
     }
 
-    // "..." stands for what an import does not look at.
+    // The import does not look at the lines "...".
     void anImportLooksAtTheLinesUpToItsEnd_data()
     {
         QTest::addColumn<QByteArray>("vectors");
@@ -169,7 +169,7 @@ private Q_SLOTS:
         row("\"\"", "");
         row("\" cat \"", " cat ");
         row("\"say \"\"hi\"\"\"", "say \"\"hi\"\"");
-        row("cats", "at"); // whatever they are
+        row("cats", "at"); // any characters
         row("ab", "");
         row("\"cat", "ca");
     }

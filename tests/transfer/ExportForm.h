@@ -37,7 +37,7 @@ public:
     ~ExportForm() { closeDialog(); }
     Q_DISABLE_COPY_MOVE(ExportForm)
 
-    // Shows a new dialog in place of the one before.
+    // Closes the dialog and shows a new one.
     void open(Caller caller = Caller::current())
     {
         closeDialog();
@@ -46,7 +46,7 @@ public:
         activate(caller);
     }
 
-    // As a window manager does when what was open over the dialog is gone.
+    // Activates the dialog, as a window manager does when a dialog above it is closed.
     void activate(Caller caller = Caller::current())
     {
         m_dialog->activateWindow();
@@ -75,7 +75,7 @@ public:
         Controls::click(control<QPushButton>(button, caller), caller);
     }
 
-    // Types a number and goes on to the next control.
+    // Types a number and presses Tab.
     void typeAndLeave(const char *box, const QString &text, Caller caller = Caller::current())
     {
         type(box, text, caller);
@@ -109,7 +109,7 @@ public:
         return words;
     }
 
-    // The records of these words in a list file.
+    // The bytes of these words in a list file.
     [[nodiscard]] static QByteArray records(const QStringList &words)
     {
         QByteArray bytes;
@@ -119,7 +119,7 @@ public:
     }
 
 private:
-    // The boxes must not complain of what was typed in them when they are left by this.
+    // Valid numbers first, so that the boxes report no error when they lose the focus.
     void closeDialog()
     {
         if (!m_dialog)

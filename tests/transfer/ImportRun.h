@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// An import by itself, without the main window: its file, the person, what it signalled.
+// An import without the main window: its file, the answers to its dialogs, and its signals.
 #pragma once
 
 #include "core/FreshState.h"
@@ -37,7 +37,7 @@ public:
         import.ImportDif();
     }
 
-    // The number of the error that ends it, or 0.
+    // The number of the error with which it ends; 0 if there is none.
     int difError(const QByteArray &bytes)
     {
         try {

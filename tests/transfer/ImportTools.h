@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files to import, made byte by byte without the program's own code, the entries of the open list,
-// and the person who is asked about words that exist already.
+// Makes files to import without the program's own code, reads the entries of the open list, and
+// answers the question about words that exist already.
 #pragma once
 
 #include "core/Module1.h"
@@ -35,7 +35,7 @@ inline QByteArray listFile(const QStringList &entries)
     return listBytes(all);
 }
 
-// The lines of a DIF file whose rows have the values given, apart by '|'.
+// The lines of a DIF file. The values of a row are separated by '|'.
 inline QByteArrayList difLinesOf(const QStringList &rows, const QByteArray &tuples = "0,2",
                                  const QByteArray &vectors = "0,1")
 {
@@ -56,7 +56,7 @@ inline QByteArray joined(const QByteArrayList &lines, const QByteArray &lineEnd 
     return lines.isEmpty() ? QByteArray() : lines.join(lineEnd) + lineEnd;
 }
 
-// The open list's entries, without the separators of texts that are empty at the end.
+// The entries of the open list, without separators at the end.
 inline QStringList openEntries()
 {
     cVocabList &list = Module1::gVocabList();
@@ -83,7 +83,7 @@ inline void setOpenEntries(const QStringList &entries)
     }
 }
 
-// The answers to a word that exists already, by their button; closing is none of them.
+// An answer is the name of its button, or Close.
 inline const char *const Close = "close";
 
 inline void giveAnswer(QDialog &form, const QString &answer, Caller caller = Caller::current())
@@ -94,7 +94,7 @@ inline void giveAnswer(QDialog &form, const QString &answer, Caller caller = Cal
         Controls::click(Controls::find<QPushButton>(form, qPrintable(answer), caller), caller);
 }
 
-// The next dialog is that question; `look` comes before the answer.
+// Expects the question about an existing word. `look` is called before the answer.
 inline void expectQuestion(DialogAnswers &answers, const QString &answer,
                            std::function<void(QDialog &)> look = {},
                            Caller caller = Caller::current())
@@ -109,7 +109,7 @@ inline void expectQuestion(DialogAnswers &answers, const QString &answer,
         caller);
 }
 
-// The four flags as letters: T(his), A(ll), S(kip all), E(nd); small where they are not set.
+// The four flags as letters: T(his), A(ll), S(kip all), E(nd). A small letter means not set.
 inline QString flags()
 {
     const auto letter = [](bool set, char name) {

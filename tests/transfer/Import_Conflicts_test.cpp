@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Five words come in, the second and the fourth of which the list holds already: each answer to
-// the first of these conflicts with each answer to the second.
+// Imports five words, of which the list has the second and the fourth already. Tests each answer to
+// the first question with each answer to the second.
 #include "transfer/ImportRun.h"
 
 using namespace ImportTools;
@@ -19,7 +19,7 @@ const char *const YesToAll = "cmdYesToAll";
 const char *const NoToAll = "cmdNoToAll";
 const char *const Abort = "cmdAbort";
 
-// Adds a row whose words that came in are given by their definitions.
+// Adds a row. The imported words are given by their definitions.
 void addRow(const QList<const char *> &answers, const char *cameIn, int refreshes)
 {
     QStringList names;
@@ -31,7 +31,7 @@ void addRow(const QList<const char *> &answers, const char *cameIn, int refreshe
 
 void addColumns()
 {
-    QTest::addColumn<QStringList>("questions"); // the answers to all that are asked
+    QTest::addColumn<QStringList>("questions"); // the answers to the questions, in order
     QTest::addColumn<QStringList>("cameIn");
     QTest::addColumn<int>("refreshes");
 }
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(!gAddAll);
     }
 
-    // After a Yes each new word comes in twice until the dialog opens again.
+    // After a Yes each new word is added twice, until the dialog opens again.
     void aDifFilesConflictsEndAsAnswered_data()
     {
         addColumns();
@@ -192,7 +192,7 @@ private:
                 QCOMPARE(gImportWord, Incoming[2 * i + 1].section(u'|', 0, 0));
                 QVERIFY(!gAddThis);
                 QVERIFY(!gAddAll);
-                // Whatever was done to the dialog before.
+                // Independent of what was done in the dialog before.
                 QVERIFY(Controls::find<QPushButton>(form, "cmdAllowModify").isEnabled());
                 QVERIFY(!Controls::find<QPushButton>(form, "cmdUpdate").isEnabled());
                 giveAnswer(form, u"cmdAllowModify"_s);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// DIF files cut off, shuffled and damaged byte by byte, the same at every run.
+// DIF files that are cut off, shuffled or damaged, the same in every run.
 #include "platform/Guarded.h"
 #include "transfer/ImportRun.h"
 
@@ -45,21 +45,21 @@ private Q_SLOTS:
     }
 
     // 50 files.
-    void cutAfterAnyLineItKeepsTheRowsThatAreWhole_data()
+    void aFileCutAfterAnyLineGivesItsWholeRows_data()
     {
         QTest::addColumn<int>("lines");
         for (int i = 0; i < difLinesOf(Rows).size(); ++i)
             QTest::addRow("%d lines", i) << i;
     }
 
-    void cutAfterAnyLineItKeepsTheRowsThatAreWhole()
+    void aFileCutAfterAnyLineGivesItsWholeRows()
     {
         QFETCH(int, lines);
         gSkipAll = true;
         const QByteArrayList whole = difLinesOf(Rows);
         m_run->answers.expectMsgBox(u"Run-time error '9':\n\nSubscript out of range"_s);
         run(joined(whole.mid(0, lines)));
-        // Opened by BOT, then word and definition with a type line each.
+        // BOT, then a type line and a value line for the word and for the definition.
         int rows = 0;
         while (rows < Rows.size() && lines >= Header + rows * LinesOfARow + 5)
             ++rows;
@@ -70,10 +70,10 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), expected);
     }
 
-    void aDamagedFileEndsInItsCountOrInAnErrorOfItsKind_data()
+    void aDamagedFileIsImportedOrReported_data()
     {
         QTest::addColumn<QByteArray>("bytes");
-        Random random(20'040'917); // the same files at every run
+        Random random(20'040'917); // the same files in every run
         const QByteArrayList whole = difLinesOf(Rows);
         const QByteArrayList ends{"\r\n", "\r", "\n"};
         for (int i = 0; i < 90; ++i) {
@@ -111,10 +111,10 @@ private Q_SLOTS:
         }
     }
 
-    void aDamagedFileEndsInItsCountOrInAnErrorOfItsKind()
+    void aDamagedFileIsImportedOrReported()
     {
         QFETCH(QByteArray, bytes);
-        gSkipAll = true; // words may have become the same
+        gSkipAll = true; // the damage may have made two words equal
         QString told;
         m_run->answers.expectAnyMsgBox(QMessageBox::Ok,
                                        [&told](QMessageBox &box) { told = box.text(); });
@@ -131,8 +131,8 @@ private Q_SLOTS:
         QCOMPARE(openEntries().constFirst(), u"dog|old"_s);
     }
 
-    // The list is in order for the next import, whatever happened.
-    void afterADamagedFileAGoodOneComesInWhole()
+    // After an error the next import works.
+    void afterADamagedFileAGoodOneIsImported()
     {
         gSkipAll = true;
         m_run->answers.expectMsgBox(u"Run-time error '5':\n\nInvalid procedure call or argument"_s);
@@ -144,7 +144,7 @@ private Q_SLOTS:
     }
 
 private:
-    // As the main window does it: an error is reported.
+    // Reports an error as the main window does.
     void run(const QByteArray &bytes)
     {
         runGuarded([&] { m_run->dif(bytes); });

@@ -35,12 +35,12 @@ private Q_SLOTS:
                  (QStringList{u"cat|an animal"_s, u"dog|a pet"_s, u"caf\u00E9|a place"_s}));
         QVERIFY(gChanged);
         QCOMPARE(gImportCount.toInt(), 3);
-        QCOMPARE(m_run->changed.size(), 0); // Save is none of its business
+        QCOMPARE(m_run->changed.size(), 0); // this import does not enable Save
         QCOMPARE(m_run->refreshed.size(), 0);
         QCOMPARE(flags(), u"tasE"_s);
     }
 
-    // What is not read stays as the row or import before left it.
+    // Texts that are not read keep the values of the row or import before.
     void theCountSaysWhatIsReadOfARow_data()
     {
         QTest::addColumn<QByteArray>("tuples");
@@ -195,7 +195,7 @@ private Q_SLOTS:
         QCOMPARE(gImportWord, u"O"_s);
     }
 
-    void lineEndsMayBeAnyOfThree_data()
+    void allThreeLineEndsAreRead_data()
     {
         QTest::addColumn<QByteArray>("lineEnd");
         QTest::newRow("CR LF") << QByteArray("\r\n");
@@ -203,7 +203,7 @@ private Q_SLOTS:
         QTest::newRow("LF") << QByteArray("\n");
     }
 
-    void lineEndsMayBeAnyOfThree()
+    void allThreeLineEndsAreRead()
     {
         QFETCH(QByteArray, lineEnd);
         const QByteArray bytes = joined(difLinesOf({u"cat|1"_s, u"dog|2"_s}), lineEnd);
@@ -214,7 +214,7 @@ private Q_SLOTS:
 
         gVocabList().ClearList();
         m_run->expectAdded(2);
-        m_run->dif(bytes.chopped(lineEnd.size())); // the last line left open
+        m_run->dif(bytes.chopped(lineEnd.size())); // the last line has no end
     }
 
     void anEmptyFileKeepsTheLinesOfTheOneBefore()
@@ -228,7 +228,7 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().NumWords().toInt(), 1);
     }
 
-    // The import of an empty file goes as far as the one before could have gone.
+    // An empty file leaves the lines of the file before, and these are imported again.
     void anEmptyFileKeepsTheLinesThatAnAbortLeftUnread()
     {
         setOpenEntries({u"cat"_s});
@@ -278,7 +278,7 @@ private Q_SLOTS:
         QCOMPARE(gDifLines.size(), 18);
     }
 
-    void theFlagsOfTheImportBeforeDoNotMatterButForSkipAll()
+    void onlySkipAllIsKeptFromTheImportBefore()
     {
         gAddThis = gAddAll = gStopImport = true;
         gImportCount = 5;
@@ -306,7 +306,7 @@ private Q_SLOTS:
         QVERIFY(gChanged);
     }
 
-    void everyStepIsToldToWhoShowsProgress()
+    void progressIsReportedAtEveryStep()
     {
         m_run->expectAdded(2);
         m_run->dif(joined(difLinesOf({u"cat|1"_s, u"dog|2"_s})));
@@ -320,11 +320,11 @@ private Q_SLOTS:
         QCOMPARE(before, 26);
     }
 
-    void whatCannotBeReadIsReported_data()
+    void filesThatCannotBeReadAreReported_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<int>("error");
-        QTest::addColumn<int>("kept"); // words added before it
+        QTest::addColumn<int>("kept"); // number of words added before the error
         const QByteArrayList good = difLinesOf({u"cat|1"_s, u"dog|2"_s});
         const auto changed = [&good](int line, const QByteArray &text) {
             QByteArrayList lines = good;
@@ -357,7 +357,7 @@ private Q_SLOTS:
                                                      << 9 << 1;
     }
 
-    void whatCannotBeReadIsReported()
+    void filesThatCannotBeReadAreReported()
     {
         QFETCH(QByteArray, bytes);
         QTEST(m_run->difError(bytes), "error");
@@ -365,16 +365,16 @@ private Q_SLOTS:
         QTEST(gImportCount.toInt(), "kept");
     }
 
-    void aFileThatIsNotThereIsReported()
+    void aMissingFileIsReported()
     {
         gAddThis = true;
         gFileName = m_run->path(u"lost.dif"_s);
         QVERIFY_THROWS_EXCEPTION(RunTimeError, m_run->import.ImportDif());
         QVERIFY(!QFile::exists(gFileName));
-        QVERIFY(gAddThis); // it did not get as far as the flags
+        QVERIFY(gAddThis); // the error comes before the flags are cleared
     }
 
-    void anErrorLeavesTheFlagsOfThatMoment()
+    void anErrorLeavesTheFlagsAsTheyAre()
     {
         setOpenEntries({u"cat"_s});
         expectQuestion(m_run->answers, u"cmdYes"_s);

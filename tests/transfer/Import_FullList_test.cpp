@@ -57,14 +57,14 @@ private Q_SLOTS:
         QCOMPARE(gImportCount.toInt(), words);
     }
 
-    // The bar of progress goes before each message and begins anew behind it.
+    // The progress bar is hidden before each message and starts again after it.
     void eachMessageIsAPause()
     {
         const QSignalSpy paused(&m_run->import, &Import::paused);
         expectRefusals(u"7 more words have not been added."_s);
         m_run->expectAdded(10);
         m_run->dif(joined(difLinesOf(numbered("new", 10))));
-        QCOMPARE(paused.size(), 2 * 4 + 1); // the count ends the import
+        QCOMPARE(paused.size(), 2 * 4 + 1); // the last one is for the number of words at the end
     }
 
     void eachImportTellsAnew()
@@ -76,7 +76,7 @@ private Q_SLOTS:
         }
     }
 
-    // The last line, which ends the data, is missing.
+    // The last line, EOD, is missing.
     void anErrorComesAfterTheRest()
     {
         expectRefusals(u"2 more words have not been added."_s);

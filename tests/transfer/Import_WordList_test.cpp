@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), (QStringList{u"cat"_s, u" |a blank"_s, u"dog"_s}));
     }
 
-    void whatIsImportedLastIsInTheGlobals()
+    void theLastImportedWordIsInTheGlobals()
     {
         m_run->expectImported(2);
         m_run->wordList(listFile({u"cat|1|2"_s, u"dog|3|4"_s, QString()}));
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("incoming");
         QTest::newRow("full, one more") << 32000 << 1;
         QTest::newRow("one too many") << 31990 << 11;
-        // Together more than 16 bits hold.
+        // The sum does not fit into 16 bits.
         QTest::newRow("twice the maximum") << 32000 << 32000;
     }
 
@@ -223,7 +223,7 @@ private Q_SLOTS:
     {
         QFETCH(int, open);
         QFETCH(int, incoming);
-        // All of them conflicts: they count as if they came in.
+        // All words exist already, but they are counted as if they were added.
         const QStringList entries = numbered("word", open);
         setOpenEntries(entries);
         m_run->answers.expectMsgBox(ExceedsMaximum);
@@ -234,7 +234,7 @@ private Q_SLOTS:
         QCOMPARE(gImportCount.toInt(), 0);
     }
 
-    // Only a file can make such a list.
+    // Such a list can come only from a file.
     void aListBeyondTheMaximumTakesNothing()
     {
         gFileName = m_run->path(u"large.lwx"_s);
@@ -272,7 +272,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), QStringList{u"cat"_s});
     }
 
-    void everyStepIsToldToWhoShowsProgress()
+    void progressIsReportedAtEveryStep()
     {
         m_run->expectImported(2);
         m_run->wordList(listFile({u"cat"_s, QString(), u"dog"_s}));

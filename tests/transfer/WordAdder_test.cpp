@@ -73,7 +73,7 @@ private Q_SLOTS:
             m_answers->expectMsgBox(rest);
         adder.tellOfTheRest();
         QVERIFY(m_answers->allSeen());
-        adder.tellOfTheRest(); // of them, it has been told
+        adder.tellOfTheRest(); // there is nothing left to tell
         QCOMPARE(list.NumWords(), Integer(cVocabList::MaxWords));
     }
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QCOMPARE(entryText(list, cVocabList::MaxWords), u"new 1||"_s);
     }
 
-    void aPauseIsSaidBeforeAndAfterEachMessage()
+    void pausedIsCalledBeforeAndAfterEachMessage()
     {
         cVocabList list = m_full;
         int pauses = 0;

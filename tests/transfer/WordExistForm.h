@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The existing-word dialog over an open list, as an import opens it.
+// The dialog about an existing word, opened as an import does.
 #pragma once
 
 #include "core/FreshState.h"
@@ -14,7 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Found by a look into the open dialog.
+// What the open dialog shows.
 struct WordExistForm
 {
     explicit WordExistForm(QDialog &dialog) : form(dialog) {}
@@ -41,8 +41,8 @@ struct WordExistForm
         return Controls::find<QLabel>(form, "lblWordExist").text();
     }
 
-    // Of the three boxes: "locked" or "unlocked"; then of the editing buttons, "Allow Modify",
-    // "Update changes", "Delete", those that can be pressed.
+    // "locked" or "unlocked" for the three boxes, then the captions of those buttons for editing
+    // that are enabled: "Allow Modify", "Update changes", "Delete".
     [[nodiscard]] QStringList state(Caller caller = Caller::current()) const
     {
         const bool word = Controls::find<QLineEdit>(form, "txtCurWord").isReadOnly();
@@ -74,7 +74,7 @@ private:
     }
 };
 
-// What state() says of an entry that is on show, locked or not, and of one that nobody has seen.
+// state() while an entry is shown, with locked and with unlocked boxes.
 inline QStringList shownLocked()
 {
     return {u"locked"_s, u"Allow Modify"_s, u"Delete"_s};
@@ -96,8 +96,8 @@ public:
         Module1::gImportSen = texts[2];
     }
 
-    // Shows the dialog about the first entry with the word, as an import does. `use` must close
-    // it. Returns how often the main window was asked to be brought up to date.
+    // Shows the dialog for the first entry with the word, as an import does. `use` must close it.
+    // Returns how often the dialog has emitted refresh().
     int ask(DialogAnswers &answers, const std::function<void(const WordExistForm &)> &use,
             Caller caller = Caller::current())
     {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What an export that fails leaves behind: nothing, whichever way it fails.
+// An export that fails leaves no new file, whatever the error is.
 #include "transfer/dlgExport.h"
 
 #include "support/FormTest.h"
@@ -21,7 +21,7 @@ void makeATextTooLongForAFile()
     gVocabList().Edit(u"w7"_s, QString(65'536, u'x'), {});
 }
 
-// No file of this process can grow beyond 16 KiB while there is one.
+// While the object exists, no file of this process can grow beyond 16 KiB.
 class SmallFiles
 {
 public:
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(m_folder->names(), QStringList());
     }
 
-    void afterwardsAnotherTargetDoes()
+    void afterAFailureAnotherTargetWorks()
     {
         exportInVain(m_folder->path(u"lost/new.lwx"_s),
                      u"Run-time error '76':\n\nPath not found\n"_s);
@@ -127,7 +127,8 @@ private:
         m_form->click("cmdOk");
     }
 
-    // The report is the only message; the dialog stays, and the open list keeps name and changes.
+    // Checks that the error is the only message, that the dialog stays open and the open list keeps
+    // its name and its changes.
     void exportInVain(const QString &target, const QString &report)
     {
         m_form->answers.expectAnyMsgBox(QMessageBox::Ok, [report](QMessageBox &box) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What OK does to the target file and to the open list's name and mark.
+// What OK does to the target file, and to the name and the changed mark of the open list.
 #include "transfer/dlgExport.h"
 
 #include "support/FormTest.h"
@@ -33,7 +33,7 @@ private Q_SLOTS:
         m_form.reset();
     }
 
-    void theRangeGoesOutInItsOrder_data()
+    void theRangeIsWrittenInItsOrder_data()
     {
         QTest::addColumn<int>("start");
         QTest::addColumn<int>("end");
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QTest::newRow("the whole list downwards") << 10 << 1;
     }
 
-    void theRangeGoesOutInItsOrder()
+    void theRangeIsWrittenInItsOrder()
     {
         QFETCH(int, start);
         QFETCH(int, end);
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(gFileName, m_target);
         QVERIFY(!gChanged);
         QCOMPARE(gOpenedFile, OpenList);
-        QCOMPARE(gExportList().NumWords(), Integer(0)); // the memory is given back
+        QCOMPARE(gExportList().NumWords(), Integer(0)); // its memory is released
     }
 
     void theMessageComesWhenTheDialogIsGone()
@@ -80,7 +80,7 @@ private Q_SLOTS:
         ok();
     }
 
-    void theOnlyWordGoesOutThoughThePreviewIsEmpty()
+    void theOnlyWordIsExportedAlthoughThePreviewIsEmpty()
     {
         start(1);
         QCOMPARE(m_form->preview(), QStringList());
@@ -89,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(m_target), number16(1) + ExportForm::records({u"w1"_s}));
     }
 
-    void wordsAreAppendedToThoseOfTheTargetWhetherItHasThemOrNot()
+    void wordsAreAppendedEvenIfTheTargetHasThem()
     {
         writeFile(m_target, number16(2) + recordBytes("old", "a", "b") + addedRecord("w4"));
         m_form->chooseRange(3, 5);
@@ -180,7 +180,7 @@ private Q_SLOTS:
         // The open list keeps its name, and its changes are still unsaved.
         QCOMPARE(gFileName, OpenList);
         QVERIFY(gChanged);
-        // Another name then does.
+        // After that another name works.
         expectAdded(10);
         ok();
         QVERIFY(!m_form->dialog().isVisible());
@@ -272,7 +272,7 @@ private Q_SLOTS:
         if (byKey) {
             Controls::press(Qt::Key_Return);
         } else {
-            // The report takes the mouse away from the button.
+            // The error message takes the mouse events, not the button.
             auto &button = m_form->control<QPushButton>("cmdOk");
             QTest::mousePress(&button, Qt::LeftButton);
             QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(-20, -20));
@@ -281,14 +281,14 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_target));
     }
 
-    void aBoxLeftWithAMistakeKeepsTheNumberBefore_data()
+    void aBoxLeftWithAMistakeKeepsItsOldNumber_data()
     {
         QTest::addColumn<QByteArray>("box");
         QTest::newRow("start") << QByteArray("txtStart");
         QTest::newRow("end") << QByteArray("txtEnd");
     }
 
-    void aBoxLeftWithAMistakeKeepsTheNumberBefore()
+    void aBoxLeftWithAMistakeKeepsItsOldNumber()
     {
         QFETCH(QByteArray, box);
         m_form->chooseRange(3, 5);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(m_target), number16(3) + ExportForm::records(ExportForm::words(3, 5)));
     }
 
-    void enterTakesTheBoxThatHasTheKeyboardAndNotTheOneLeftWithAMistake()
+    void enterReadsOnlyTheBoxWithTheFocus()
     {
         m_form->typeTarget(m_target);
         m_form->answers.expectMsgBox(u"Run-time error '13':\n\nType mismatch"_s);
@@ -421,7 +421,7 @@ private:
         });
     }
 
-    // The dialog is still there and the open list is as it was.
+    // Checks that the dialog is open and the open list unchanged.
     void verifyNothingHappened()
     {
         QVERIFY(m_form->answers.allSeen());

@@ -143,7 +143,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, shown);
         QFETCH(int, number);
-        // In the end box the preview shows the number in any case.
+        // After the end box the preview always shows the word.
         m_form->typeAndLeave("txtEnd", typed);
         QCOMPARE(m_form->text("txtEnd"), shown);
         QCOMPARE(m_form->preview(), ExportForm::words(1, number));
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->preview(), ExportForm::words(3, 5));
     }
 
-    void anotherWindowComingUpIsNotLeavingTheBox()
+    void activatingAnotherWindowIsNotLeavingTheBox()
     {
         m_form->type("txtStart", u"three"_s);
         m_form->answers.cancelFileDialog();
@@ -214,7 +214,7 @@ private Q_SLOTS:
             QCOMPARE(kinds.currentIndex(), 0);
         });
         m_form->click("cmdBrowse");
-        // A file that is not there may be named as well; nothing is made yet.
+        // A file that does not exist may be chosen; it is not made yet.
         QCOMPARE(m_form->text("txtFilename"), m_form->path(u"new.lwx"_s));
         QVERIFY(!QFile::exists(m_form->path(u"new.lwx"_s)));
     }
@@ -300,7 +300,7 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(gVocabList()), ExportForm::words(1, 10));
     }
 
-    void escClosesWithoutComplainingOfWhatIsTyped()
+    void escClosesWithoutAnErrorAboutTheTypedText()
     {
         m_form->type("txtStart", u"three"_s);
         Controls::press(Qt::Key_Escape);
@@ -309,7 +309,7 @@ private Q_SLOTS:
     }
 
 private:
-    // That the file dialog offers this name.
+    // Checks the name that the file dialog offers.
     static std::function<void(QFileDialog &)> offered(const QString &name)
     {
         return [name](QFileDialog &dialog) {

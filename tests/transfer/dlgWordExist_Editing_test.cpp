@@ -54,7 +54,7 @@ private Q_SLOTS:
         QVERIFY(!gChanged);
     }
 
-    void theKeyboardBeginsAtTheAnswers()
+    void theFocusIsOnAnAnswerAtFirst()
     {
         ask([](const WordExistForm &form) {
             QCOMPARE(QApplication::focusWidget(), &form.button("cmdYes"));
@@ -62,7 +62,7 @@ private Q_SLOTS:
         });
     }
 
-    void enterPressesTheButtonThatHasTheKeyboard()
+    void enterPressesTheButtonWithTheFocus()
     {
         gAddThis = true;
         ask([](const WordExistForm &form) {
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(!gAddThis);
     }
 
-    // Not Yes, which would drop what is being typed and add the word.
+    // Enter does not press Yes: that would lose the typed text and add the word.
     void enterInAnUnlockedBoxUpdates()
     {
         ask([this](const WordExistForm &form) {
@@ -118,7 +118,7 @@ private Q_SLOTS:
             form.click("cmdUpdate");
             QVERIFY(form.form.isVisible());
             QCOMPARE(form.state(), shownUnlocked());
-            // What was typed stays, so that it can still be stored.
+            // The typed text stays, so that it can still be stored.
             QCOMPARE(form.existing().constFirst(), u"tomcat"_s);
             form.close();
         });
@@ -226,7 +226,7 @@ private Q_SLOTS:
         ask([this](const WordExistForm &form) {
             form.click("cmdFindNext");
             form.click("cmdFindNext");
-            for (int time = 0; time < 2; ++time) { // it does not start over
+            for (int time = 0; time < 2; ++time) { // the search does not start again
                 m_answers->expectMsgBox(SearchEnded, QMessageBox::Ok, [](QMessageBox &box) {
                     QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
                 });
@@ -266,7 +266,7 @@ private Q_SLOTS:
             form.close();
         });
         QStringList expected = m_entries;
-        expected[3] = u"Cat|a rope"_s; // the one found, not the first
+        expected[3] = u"Cat|a rope"_s; // the entry found, not the first one
         QCOMPARE(openEntries(), expected);
     }
 
@@ -283,7 +283,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), expected);
     }
 
-    // The entry that is current after a deletion has not been seen by anybody.
+    // After a deletion the dialog does not show the entry that is current then.
     void afterADeletionNothingCanBeEditedUntilAnEntryIsShown_data()
     {
         QTest::addColumn<bool>("unlocked");
@@ -323,7 +323,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), (QStringList{m_entries[0], m_entries[2]}));
     }
 
-    // Deleting the first entry keeps position 1, and the search goes on behind it.
+    // Deleting the first entry keeps position 1, and the search continues after it.
     void afterDeletingTheFirstEntryTheOneInItsPlaceIsPassedOver()
     {
         setOpenEntries({u"cat|1"_s, u"cat|2"_s, u"cat|3"_s});

@@ -24,7 +24,7 @@ private Q_SLOTS:
         m_state.reset();
     }
 
-    void theControlsBearTheirCaptions()
+    void theControlsHaveTheirCaptions()
     {
         ask([](const WordExistForm &form) {
             QCOMPARE(form.form.windowTitle(), u"Word already existed"_s);
@@ -48,7 +48,7 @@ private Q_SLOTS:
         });
     }
 
-    void theIncomingEntryStandsBesideTheExistingOne()
+    void theIncomingEntryIsShownBesideTheExistingOne()
     {
         ask([](const WordExistForm &form) {
             QCOMPARE(form.question(), u"'cat' already exist. Add anyway?"_s);
@@ -90,8 +90,8 @@ private Q_SLOTS:
     void eachAnswerSetsItsFlags_data()
     {
         QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("fromNone"); // where no flag was set before
-        QTest::addColumn<QString>("fromAll");  // where all were
+        QTest::addColumn<QString>("fromNone"); // the flags afterwards if none was set before
+        QTest::addColumn<QString>("fromAll");  // the same if all were set before
         QTest::addColumn<int>("refreshes");
         const auto row = [](const char *answer, const char *fromNone, const char *fromAll,
                             int refreshes) {
@@ -112,7 +112,7 @@ private Q_SLOTS:
         for (const bool before : {false, true}) {
             gAddThis = gAddAll = gSkipAll = gStopImport = before;
             const int refreshes = ask([&](const WordExistForm &form) {
-                // Opening cleared these two and left the others.
+                // Opening clears these two flags only.
                 QCOMPARE(flags(), before ? u"taSE"_s : u"tase"_s);
                 giveAnswer(form.form, answer);
             });
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QTEST(flags(), "flags");
     }
 
-    // It has answered the question before this one.
+    // The key was pressed for the question before.
     void aKeyHeldDownAnswersNothing_data()
     {
         QTest::addColumn<int>("key");
@@ -230,7 +230,7 @@ private Q_SLOTS:
     }
 
 private:
-    // Of the dialog about that word, whose question is there as a whole.
+    // Checks that the dialog shows the whole question about the word.
     QSize smallestSize(const QString &word)
     {
         QSize size;
