@@ -47,6 +47,14 @@ private Q_SLOTS:
         QCOMPARE(m_calls, 1);
     }
 
+    void theSaveOfAnEmptyListIsTold()
+    {
+        m_list.DeleteVocab();
+        m_list.SaveFile();
+        QVERIFY(m_lastChange == cVocabList::Change::Saved);
+        QCOMPARE(m_calls, 2);
+    }
+
     void replacingTheListIsTold_data()
     {
         QTest::addColumn<bool>("changed");

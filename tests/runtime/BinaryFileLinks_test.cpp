@@ -3,10 +3,12 @@
 #include "runtime/BinaryFile.h"
 
 #include "runtime/ErrorNumber.h"
+#include "runtime/UnfinishedFile.h"
 #include "support/TestFiles.h"
 
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -163,6 +165,17 @@ private Q_SLOTS:
         BinaryFile::overwrite(path, "abc");
         QCOMPARE(permissionsOf(path), permissions);
         QCOMPARE(folder.bytes(u"list.lwx"_s), "abc3456789"_ba);
+    }
+
+    // Other users must not read a private list while it is being saved.
+    void theTemporaryFileHasNoMorePermissionsThanTheOldFile()
+    {
+        const TestFolder folder;
+        const QString path = folder.write(u"list.lwx"_s, "0123456789"_ba);
+        QCOMPARE(chmod(QFile::encodeName(path).constData(), 0600), 0);
+        const SystemFile old(QFile::encodeName(path), O_RDWR);
+        UnfinishedFile temporary(path, &old);
+        QCOMPARE(temporary.file().status().st_mode & 0777, mode_t(0600));
     }
 
     void aNewFileHasTheUsualPermissions()

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How a word order uses the random numbers. The test is linked with a generator of its own, which
-// records the calls.
+// How often a word order and a scramble seed the random numbers. The test has a generator of its
+// own, which records the calls.
 #include "core/WordOrder.h"
+#include "core/cVocabList.h"
 
 #include "runtime/RandomNumbers.h"
 
@@ -10,6 +11,8 @@
 #include <algorithm>
 #include <string>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,7 +33,7 @@ float RandomNumbers::next()
     return numbers.at(drawn);
 }
 
-class WordOrder_Seeding_test final : public QObject
+class Seeding_test final : public QObject
 {
     Q_OBJECT
 
@@ -51,6 +54,15 @@ private Q_SLOTS:
         QCOMPARE(asked, std::string("sdsdsdsd"));
     }
 
+    void eachAttemptAtAScrambleIsSeeded()
+    {
+        cVocabList list;
+        list.AddVocab(u"abc"_s, {}, {});
+        numbers = {0.0F, 0.5F, 0.75F, 0.75F, 0.5F, 0.0F}; // "abc" is rejected, "cba" is not
+        QCOMPARE(list.ScrambledWord(), u"cba"_s);
+        QCOMPARE(asked, std::string("sdddsddd"));
+    }
+
     void anEmptyOrderDrawsNothing()
     {
         QCOMPARE(drawWordOrder(0, 5).size(), 0);
@@ -58,6 +70,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(WordOrder_Seeding_test)
+QTEST_APPLESS_MAIN(Seeding_test)
 
-#include "WordOrder_Seeding_test.moc"
+#include "Seeding_test.moc"
