@@ -178,6 +178,30 @@ private Q_SLOTS:
         QVERIFY2(m_wrong.isEmpty(), qUtf8Printable(u'\n' + m_wrong.join(u'\n')));
     }
 
+    // Without this a power cut could leave an empty file under the old name.
+    void theFileAndThenItsFolderAreFlushed_data()
+    {
+        QTest::addColumn<std::size_t>("number");
+        const std::vector<FileCommand> commands = this->commands();
+        for (std::size_t i = 0; i < commands.size(); ++i)
+            QTest::newRow(commands[i].name) << i;
+    }
+
+    void theFileAndThenItsFolderAreFlushed()
+    {
+        QFETCH(std::size_t, number);
+        const FileCommand command = commands()[number];
+        for (const bool isFolder : {false, true}) {
+            prepare(command);
+            const FailingCall flush(QFileInfo(command.path).path(),
+                                    {Function::Fsync, isFolder ? 2 : 1, EINTR});
+            command.give();
+            QVERIFY(flush.hasFailed());
+            QCOMPARE(flush.wasOnFolder(), isFolder);
+        }
+        QVERIFY(m_main->answers.allSeen());
+    }
+
     void theSampleListsAreThereWholeOrNotAtAll_data()
     {
         QTest::addColumn<Function>("function");
@@ -189,6 +213,7 @@ private Q_SLOTS:
     {
         QFETCH(Function, function);
         const QStringList samples = QDir(u":/lists"_s).entryList(QDir::Files);
+        QVERIFY(!samples.isEmpty());
         const QDir folder(disk(u"samples"_s));
         m_wrong.clear();
         for (const Way &way : MainWays) {
