@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/WordEditor.h"
+#include "editor/ui_frmMain.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 #include "platform/ProgressShown.h"
@@ -43,8 +44,9 @@ void frmMain::mnuSave_Click()
     gVocabList().SaveFile();
     if (gVocabList().NumWords() > 0) // an empty list writes no file
         gOpenedFile = gFileName;
-    noteUnchanged();
+    m_ui->mnuSave->setEnabled(false);
     MsgBox(gFileName + QStringLiteral(" has been saved."));
+    gChanged = false; // SaveFile clears it as well, but not for an empty list
     gSaved = true;
 }
 
