@@ -48,7 +48,7 @@ private Q_SLOTS:
         m_main->answers.useForm("dlgQuickFlash", [](QDialog &dialog) {
             QVERIFY(dialog.isModal());
             QCOMPARE(dialog.windowTitle(), u"Dialog Caption"_s);
-            QCOMPARE(Controls::find<FlashCard>(dialog, "txtWord").text(),
+            QCOMPARE(Controls::find<FlashCard>(dialog, "txtWord").toPlainText(),
                      u"word %1"_s.arg(gWordOrder(1).toInt()));
             Controls::click(Controls::find<QPushButton>(dialog, "CancelButton"));
         });
