@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The default button of a window that is no QDialog: Enter clicks it, unless another button has the
-// keyboard focus. The window passes its key events to press().
+// A default button that a window can change or do without: Enter clicks it, unless another button
+// has the keyboard focus. The window passes its key events to press().
 #pragma once
 
 #include <QPointer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Paths.h"
 
-#include "platform/WaveFile.h"
+#include "platform/sound/WaveFile.h"
 
 #include <QDir>
 #include <QTest>

@@ -3,7 +3,7 @@
 // to 1.
 #pragma once
 
-#include "platform/WaveFile.h"
+#include "platform/sound/WaveFile.h"
 
 #include <QtEndian>
 

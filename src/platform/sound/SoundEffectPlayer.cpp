@@ -1,27 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/sound/SoundEffectPlayer.h"
 
-#include <QFile>
+#include "platform/sound/WaveFile.h"
+
 #include <QSoundEffect>
 #include <QUrl>
-#include <QtEndian>
-
-namespace {
-
-// QSoundEffect waits for the rest of a file that is cut off, and plays no other file meanwhile.
-bool isWhole(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    // The file begins with four letters and the number of bytes that follow.
-    constexpr qint64 headerSize = 8;
-    const QByteArray header = file.read(headerSize);
-    return header.size() == headerSize &&
-           headerSize + qFromLittleEndian<quint32>(header.constData() + 4) <= file.size();
-}
-
-} // namespace
 
 SoundEffectPlayer::SoundEffectPlayer() = default;
 
@@ -35,7 +18,8 @@ void SoundEffectPlayer::loop(const QString &path)
         // while this one is at work.
         m_effect.release()->deleteLater();
     }
-    if (path.isEmpty() || !isWhole(path))
+    // QSoundEffect waits without end for the rest of a damaged file, and may crash.
+    if (!readWaveFile(path))
         return;
     m_effect = std::make_unique<QSoundEffect>();
     m_effect->setLoopCount(QSoundEffect::Infinite);
