@@ -92,7 +92,7 @@ ListFile::Content ListFile::decode(QByteArrayView bytes, Integer maxCount)
     };
     for (int record = 0; record < count.toInt(); ++record)
         content.records.push_back({nextText(), nextText(), nextText()}); // in this order
-    // Most files end with their records. What is behind them is not to be kept.
+    // Most files end with their records. The characters of the rest are not kept.
     if (reader.left() > 0)
         return decode(bytes.chopped(reader.left()), maxCount);
     content.isWhole = !reader.ranOut() || bytes.isEmpty();

@@ -23,22 +23,22 @@
 
 namespace ListFile {
 
-// What happens to a text of more than 65,535 bytes: RunTimeError Overflow, naming the record, or
-// only the start of the text is kept.
+// A text of more than 65,535 bytes either throws RunTimeError Overflow, which names the record, or
+// is cut.
 enum class LongTexts { AreErrors, AreCut };
 
 // The count, then every record given.
 [[nodiscard]] QByteArray encode(Integer count, std::span<const VocabRecord> records,
                                 LongTexts longTexts = LongTexts::AreErrors);
 
-// One block for all texts of a file takes a fraction of the time and room of a block for each.
+// All texts of a file are in one block of memory, which is faster and smaller than one for each.
 struct Content
 {
     QString characters;
-    // Their texts are views of `characters`, good for as long as that lives: what leaves the list
-    // must be copied.
+    // Their texts are views of `characters` and valid as long as it exists. Copy a text before it
+    // leaves the list.
     std::vector<VocabRecord> records;
-    // The records did not run past the end. So they are in an empty file, a list without entries.
+    // False if the records run past the end of the file. An empty file is a list without entries.
     bool isWhole = true;
 };
 
@@ -48,8 +48,8 @@ class RecordsEnd
 public:
     explicit RecordsEnd(Integer maxCount) : m_maxCount(maxCount) {}
 
-    // Whether the start of the file holds the N records, or an N that decode refuses. Each start
-    // has to begin with the one given before: the search goes on where that ended.
+    // True if the start of the file has all N records, or an N that decode refuses. Each start must
+    // begin with the one of the call before; the search continues where that one ended.
     [[nodiscard]] bool isIn(QByteArrayView start);
 
 private:

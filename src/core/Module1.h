@@ -23,7 +23,7 @@ struct Top10Entry
 
 namespace Module1 {
 
-// Each list is made at the first call.
+// Each list is created at the first call.
 cVocabList &gVocabList();  // open in the main window
 cVocabList &gImportList(); // a file being imported
 cVocabList &gExportList(); // the target of an export
@@ -65,12 +65,12 @@ inline bool gViewTop10Only = false;       // the Top 10 dialog is only looked at
 
 inline bool gUpbeatMusic = false; // the chosen set is the upbeat one
 inline bool gMusicOff = false;    // no music is to be played
-// Wave files of levels 1 to 10; empty until a game opens with music chosen.
+// Wave files of levels 1 to 10. Empty until a game is opened while music is chosen.
 inline Array<QString> gFastBeatTracks;
 inline Array<QString> gSoftBeatTracks;
 
-// The margins of printed pages in inches, 0 to 3, and the range of entries; 0 in either of these
-// means that none has been set yet.
+// The margins of printed pages in inches, 0 to 3, and the range of entries. FromWord or ToWord 0
+// means that no range was set yet.
 inline Currency TopMargin;
 inline Currency BottomMargin;
 inline Currency LeftMargin;

@@ -14,7 +14,7 @@ void WordIndex::rebuild(std::span<const VocabRecord> entries)
 
 void WordIndex::clear()
 {
-    m_marks = std::vector<Mark>(); // clear() would keep the room
+    m_marks = std::vector<Mark>(); // clear() would keep the memory
     m_entries.clear();
     m_nextMark = 0;
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Finds a word's positions in a list without walking it: lower-cased word to entries, in the
-// order of the list.
+// Finds the positions of a word without going through the list. Maps each word, in lower case, to
+// its entries in the order of the list.
 //
-// Each entry gets a mark when it is appended. Marks only grow along the list, so a position is
-// found from its mark by bisection and a deletion leaves all other marks as they are.
+// Each entry gets a mark when it is appended. Marks increase along the list: the position of a mark
+// is found by binary search, and deleting an entry changes no other mark.
 #pragma once
 
 #include "core/VocabRecord.h"
@@ -26,8 +26,8 @@ public:
     void remove(int position, const QString &word);
     void replace(int position, const QString &oldWord, const QString &newWord);
 
-    // The first position from `start` (1 or more) on whose word equals `word` once both are
-    // lower-cased; 0 for none.
+    // The first position at or after `start` (1 or more) whose word equals `word`, both in lower
+    // case. 0 if there is none.
     [[nodiscard]] int find(const QString &word, int start) const;
 
 private:

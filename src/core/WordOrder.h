@@ -8,6 +8,6 @@
 // The most words that one order takes from a list.
 inline constexpr int LongestWordOrder = 1000;
 
-// `size` different positions out of 1..`count`, each order equally likely. The random numbers are
-// re-seeded from the clock before every draw. size must not exceed count.
+// `size` different positions from 1 to `count`; all orders are equally likely. The random numbers
+// are seeded from the clock before every draw. `size` must not be greater than `count`.
 [[nodiscard]] Array<Integer> drawWordOrder(Integer size, Integer count);

@@ -11,7 +11,7 @@
 
 namespace {
 
-// A text of the storage may be a view of m_fileCharacters, which a change of the list frees.
+// A text in the storage can be a view of m_fileCharacters, which a change of the list deletes.
 QString copyOf(const QString &text)
 {
     return QStringView(text).toString();
@@ -71,7 +71,7 @@ void cVocabList::DeleteVocab()
     if (m_current < m_count) {
         const auto gap = m_slots.begin() + position - 1;
         std::move(gap + 1, m_slots.begin() + m_count.toInt(), gap);
-        // The slot of the former last entry stays behind as a copy of it.
+        // The former last entry stays in its slot as well.
         m_slots[count - 1] = m_slots[count - 2];
     }
     m_slots.resize(count);
@@ -154,7 +154,7 @@ bool cVocabList::Exist(const QString &NewWord, Integer startpos)
 
 Integer cVocabList::SearchWord(const QString &FindWord)
 {
-    // Behind the last of 32,767 entries there is no position.
+    // There is no position after the last of 32,767 entries.
     const Integer hit = m_searchPos < m_count ? find(FindWord, m_searchPos + 1) : Integer(0);
     m_searchPos = hit;
     if (hit != 0)

@@ -22,7 +22,7 @@ public:
     // inside 16 bits. A file may hold more entries, up to Integer::Max.
     static constexpr int MaxWords = 32000;
     [[nodiscard]] bool isFull() const { return m_count >= MaxWords; }
-    // What adding beyond it tells.
+    // The message when a full list refuses a word.
     [[nodiscard]] static QString maxWordsText();
 
     // Appends the texts as they are given and makes the new entry the current one. A full
@@ -40,21 +40,22 @@ public:
     // Replaces the list by the content of gFileName and clears gChanged. False without a name.
     // Throws what BinaryFile::read and ListFile::decode throw.
     bool OpenFile();
-    // Whether the file opened last held all that its count says; what does not is no list.
+    // False if the file opened last has fewer records than its count says; such a file is no list.
     [[nodiscard]] bool fileIsWhole() const { return m_fileIsWhole; }
 
     void CurrentWord(Integer CurWord) { m_current = CurWord; }
     [[nodiscard]] Integer CurrentWord() const { return m_current; }
 
-    // Whether an entry from `startpos` on bears the word, regardless of case; a hit becomes
+    // Whether an entry at or after `startpos` has this word, in any case. The entry found becomes
     // current. Position 0 exists only right after ClearList.
     bool Exist(const QString &NewWord, Integer startpos = 0);
     [[nodiscard]] Integer NumWords() const { return m_count; }
-    // The next entry with the word after the last hit, which becomes current; 0 for none, after
-    // which the search starts at the first entry again.
+    // Finds the next entry with the word after the last hit and makes it current. 0 if there is
+    // none; the next search then starts at the first entry.
     Integer SearchWord(const QString &FindWord);
 
-    // Does now what the first look-up would do: 32,000 entries take some milliseconds.
+    // Builds the index of words now instead of at the first look-up: some milliseconds for 32,000
+    // entries.
     void prepareLookup();
 
     // A random order of the current word's characters in which no three that follow one another
@@ -62,11 +63,11 @@ public:
     // without end, or until the scramble hook gives up, which leaves the text empty.
     QString ScrambledWord();
 
-    // Empty where the current position is 0.
+    // Empty if the current position is 0.
     [[nodiscard]] QString Word() const;
     [[nodiscard]] QString Definition() const;
     [[nodiscard]] QString Sentence() const;
-    // Reads an entry without making it current. Its texts end with the list's next change.
+    // Reads an entry without making it current. Its texts are valid until the list changes.
     [[nodiscard]] const VocabRecord &entry(Integer position) const { return slot(position); }
     // The number of characters of the current word, as text.
     [[nodiscard]] QString length() const;
@@ -74,12 +75,12 @@ public:
     // Called between two attempts of the scramble; false gives up. None by default.
     void setScrambleHook(std::function<bool()> goOn) { m_scrambleHook = std::move(goOn); }
 
-    // What a new list file with these entries holds, texts that are too long for one cut.
+    // The content of a new list file with these entries. Texts that are too long for it are cut.
     [[nodiscard]] QByteArray fileBytes() const;
 
     enum class Change { OfEntries, Saved, Replaced }; // replaced by a file's list or an empty one
-    // Called after each change; after Replaced, gChanged still tells of the list that was there
-    // before. None by default.
+    // Called after each change. After Replaced, gChanged still belongs to the list before. None by
+    // default.
     void setChangeHook(std::function<void(Change)> changed) { m_changeHook = std::move(changed); }
 
 private:
@@ -94,7 +95,7 @@ private:
 
     // Slot i of the storage is element i - m_firstSlot. There may be more slots than entries.
     std::vector<VocabRecord> m_slots;
-    QString m_fileCharacters; // what texts read from a file are views of
+    QString m_fileCharacters; // the texts read from a file are views of it
     bool m_fileIsWhole = true;
     int m_firstSlot = 1;
     Integer m_count;

@@ -11,7 +11,7 @@ namespace {
 // Positions of a word, 1-based, in random order.
 using Permutation = std::vector<Integer>;
 
-// Distinct positions by drawing again whatever has been drawn before.
+// Positions that were drawn before are drawn again until all are different.
 Permutation drawPermutation(Integer size)
 {
     Permutation permutation;

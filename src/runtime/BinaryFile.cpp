@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype FirstRead = 1 << 16;
 constexpr int Growth = 4;
-// One block of memory for most files; what is not read into stays unused.
+// Most files need one block of memory only. The part that is not read into takes no memory.
 constexpr qsizetype LargestReserve = 1 << 23;
 constexpr qsizetype ChunkSize = 1 << 20;
 
@@ -38,7 +38,7 @@ QString placeOf(const QString &path)
     return place;
 }
 
-// Runs the action and reports what the system refuses it under the path.
+// Runs the action. If the system refuses something, throws the error with the path.
 template <class Action> auto withFileErrors(const QString &path, Action action)
 {
     try {
@@ -83,7 +83,7 @@ void copyRest(SystemFile &from, SystemFile &to, qint64 position)
     to.truncate(size);
 }
 
-// What the old file holds beyond the length of the new content.
+// The part of the old file after the length of the new content.
 enum class OldTail { Stays, Goes };
 
 void writeSecondFile(const QString &place, QByteArrayView content, OldTail tail)
@@ -128,7 +128,8 @@ void writeOver(const QString &path, SystemFile &file, QByteArrayView content)
     }
 }
 
-// For a folder that admits no second file: the old bytes are put back if the new ones do not fit.
+// For a folder in which no second file can be created. If the new bytes do not fit, the old ones
+// are written back.
 void writeInPlace(const QString &path, const QString &place, QByteArrayView content)
 {
     const QByteArray name = QFile::encodeName(place);

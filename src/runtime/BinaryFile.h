@@ -2,8 +2,8 @@
 // Files opened for binary access: read from the start, written over from their first byte,
 // or replaced.
 //
-// All throw RunTimeError with the path and the system's reason, under the number that fits that
-// (fileError); a folder or a device in the file's place is Path/File access error.
+// All throw RunTimeError with the number that fits the system's reason (fileError), the path and
+// the reason. A folder or a device instead of a file is Path/File access error.
 #pragma once
 
 #include <QByteArray>
@@ -15,23 +15,22 @@ namespace BinaryFile {
 
 enum class Missing { IsCreated, IsAnError };
 
-// Tells from the start of a file whether that is all that is wanted of it. Called with a longer
-// start each time.
+// True if this start of the file is all that is needed. Called with a longer start each time.
 using IsEnough = std::function<bool(QByteArrayView start)>;
 
-// The start of the file, as far as isEnough wants it, at most four times as much or 64 KiB; by
-// default all of it. A missing file is created empty, or is the error File not found.
+// The start of the file, until isEnough returns true; at most four times as much as needed or 64
+// KiB. By default all of it. A missing file is created empty, or is the error File not found.
 [[nodiscard]] QByteArray read(const QString &path, const IsEnough &isEnough = {},
                               Missing missing = Missing::IsCreated);
 
 // Leaves the file as if `content` had been written over it from the first byte without
-// truncating it: what an older, longer file held beyond stays. The new file takes the old one's
-// place in one step and is on the disk when this returns; on an error the old file is whole. Only
-// where the folder admits no second file are the bytes written in place.
+// truncating it: the rest of a longer old file stays. The new file replaces the old one in one step
+// and is on the disk when this returns. After an error the old file is whole. The bytes are written
+// in place only if no second file can be created in the folder.
 void overwrite(const QString &path, QByteArrayView content);
 
-// Puts a file with this content alone in the file's place, in one step. Otherwise as above, except
-// that a folder that admits no second file is an error.
+// Replaces the file by one with this content alone, in one step. As above, but it is an error if no
+// second file can be created in the folder.
 void replace(const QString &path, QByteArrayView content);
 
 } // namespace BinaryFile

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a failure on the disk is called: RunTimeErrors with the path and the system's reason.
+// The run-time errors of files, with the path and the system's reason.
 #pragma once
 
 #include "runtime/RunTimeError.h"
@@ -13,5 +13,6 @@
 [[noreturn]] void throwFileError(RunTimeError::Number number, const QString &path,
                                  const QString &reason);
 
-// Refuses what opening could not serve, or would hang on (a pipe) or replace (a device).
+// Throws for anything but a regular file: a folder; a pipe, which would block; a device, which
+// would be replaced.
 void checkPlaceOfFile(const QString &path);

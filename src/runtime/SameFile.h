@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whether two paths name one file, however they are spelled: through symbolic or hard links, or
-// with a way through another folder. A file that does not exist yet counts by its folder and name.
+// Whether two paths lead to the same file, also through symbolic or hard links or another folder. A
+// file that does not exist is compared by its folder and name.
 #pragma once
 
 #include <QString>

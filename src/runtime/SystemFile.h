@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // An open file of the operating system.
 //
-// A call that a signal interrupts is made again. What the system refuses throws std::system_error
-// with the system's reason (errno). The object is a handle: what is const leaves it at the same
-// file.
+// A call that a signal interrupts is repeated. If the system refuses a call, std::system_error with
+// the reason (errno) is thrown. A const function can change the file, but not which file it is.
 #pragma once
 
 #include <QByteArray>
@@ -47,8 +46,8 @@ public:
     // Makes the system put on the disk what was written.
     void flush() const;
 
-    // Where the first bytes at or after `position` are that may be other than zero. It is the size
-    // of the file if there are none. Systems that cannot tell give the position itself.
+    // The position of the first data at or after `position`, or the size of the file if only a hole
+    // follows. The position itself on file systems without holes.
     [[nodiscard]] qint64 nextData(qint64 position) const;
 
 private:

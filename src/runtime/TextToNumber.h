@@ -16,6 +16,6 @@
 // The nearest whole number, halves to even. All digits count, however many there are.
 [[nodiscard]] Integer toInteger(const QString &text);
 
-// The nearest whole number to the number times ten to the power of `decimals`. Overflow where that
-// has more than 18 digits before the point.
+// The number times ten to the power of `decimals`, rounded to the nearest whole number. Throws
+// Overflow if that has more than 18 digits.
 [[nodiscard]] std::int64_t toUnits(const QString &text, int decimals);

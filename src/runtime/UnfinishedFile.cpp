@@ -11,8 +11,8 @@
 
 namespace {
 
-// Whether rights or the place itself stand in the way of a second file, and not a disk that is
-// full or fails.
+// True if a second file is impossible because of rights or of the place itself, and not because the
+// disk is full or fails.
 bool isRefusalOfPlace(int reason)
 {
     switch (reason) {
@@ -108,7 +108,7 @@ bool UnfinishedFile::makeUnnamed()
     }
     if (access(nameOfDescriptor(*m_file).constData(), F_OK) == 0)
         return true;
-    m_file.reset(); // it could not get a name later
+    m_file.reset(); // a name could not be given to it later
     return false;
 }
 

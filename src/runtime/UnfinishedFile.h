@@ -2,8 +2,8 @@
 // A second file in the folder of another one, whose place it takes in one step once it is complete.
 // If it is never completed, it is removed.
 //
-// Throws std::system_error, and NoSecondFile where the folder admits no second file or refuses the
-// swap.
+// Throws std::system_error, and NoSecondFile if the second file cannot be created in the folder or
+// cannot replace the other one.
 #pragma once
 
 #include "runtime/SystemFile.h"

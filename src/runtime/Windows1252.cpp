@@ -53,8 +53,8 @@ qsizetype toWindows1252(QStringView text, char *buffer)
 QString fromWindows1252(QByteArrayView bytes)
 {
     QString text = QString::fromLatin1(bytes);
-    // Most texts have none of the bytes of the table. A loop without an exit is vectorised: it
-    // finds that out several times as fast as the loop below.
+    // Most texts have none of the bytes of the table. The compiler vectorises this loop, because it
+    // has no exit: it is several times as fast as the one below.
     unsigned anyInTable = 0;
     for (const char byte : bytes)
         anyInTable |= isInTable(static_cast<unsigned char>(byte)) ? 1U : 0U;

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Takes line after line off the bytes.
+// Reads one line after the other.
 class LineSplitter
 {
 public:
@@ -19,7 +19,7 @@ public:
         m_endsAtLineFeed = !start.contains('\r') && start.contains('\n');
     }
 
-    // Nothing at the end, and where the next line is too long for a DIF file.
+    // Nothing at the end, and if the next line is too long for a DIF file.
     std::optional<QByteArrayView> next()
     {
         constexpr qsizetype longest = 1 << 24;
@@ -39,9 +39,9 @@ public:
         return rest.first(length);
     }
 
-    // Behind the line given last and its end.
+    // The position after the last line returned and its end.
     [[nodiscard]] qsizetype position() const { return m_start; }
-    // Of the line given last: whether its end is in the bytes.
+    // Whether the end of the last line returned is in the bytes.
     [[nodiscard]] bool isWhole() const { return m_isWhole; }
     [[nodiscard]] bool isTooLong() const { return m_isTooLong; }
 
@@ -53,12 +53,12 @@ private:
     bool m_isTooLong = false;
 };
 
-// Goes through the lines as an import does, to find the last one that the import looks at. A
-// person's answers and mistakes in the values do not change which one that is.
+// Goes through the lines as an import does, to find the last one that the import reads. This does
+// not depend on a person's answers or on mistakes in the values.
 class ImportWalk
 {
 public:
-    // Takes line after line from the first on. True at the last that the import looks at.
+    // To be called with one line after the other. True at the last one that the import reads.
     [[nodiscard]] bool endsAt(QByteArrayView line)
     {
         ++m_line;
@@ -77,7 +77,7 @@ public:
 private:
     static constexpr int FirstOfData = 14;
 
-    // A count that is no number is reported and ends the import, too.
+    // A count that is not a number also ends the import, with an error.
     bool hasData(QByteArrayView tuples)
     {
         try {
@@ -89,7 +89,7 @@ private:
     }
 
     int m_line = 0;
-    int m_next = FirstOfData; // the next line that is looked at
+    int m_next = FirstOfData; // the next line that is read
     int m_valuesRead = 1;
     QByteArrayView m_vectors;
 };

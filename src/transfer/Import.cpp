@@ -73,7 +73,7 @@ void Import::ReadDifLines()
     const QByteArray bytes = BinaryFile::read(
         gFileName, [](QByteArrayView start) { return difEnd(start).has_value(); },
         BinaryFile::Missing::IsAnError);
-    // An empty file leaves the lines of the one before.
+    // After an empty file, the lines of the last DIF file stay.
     if (!bytes.isEmpty())
         gDifLines = difLines(QByteArrayView(bytes).first(difEnd(bytes).value_or(bytes.size())));
 }
@@ -123,8 +123,8 @@ void Import::importDifRows()
     }
 }
 
-// Reads the row that the line opens; values that it does not carry stay as they were. Returns the
-// line of the last value read.
+// Reads the row that begins at this line. Values that the row does not have stay as they were.
+// Returns the line of the last value read.
 int Import::readDifRow(int line, Integer valuesPerRow)
 {
     line += 2;

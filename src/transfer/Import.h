@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Brings the words of another file, named by gFileName, into the open list. Words that the list
-// holds already are put before the person by dlgWordExist, whose answers are flags of Module1.
+// Adds the words of another file, gFileName, to the open list. For a word that the list already
+// has, dlgWordExist asks the person; its answers are flags in Module1.
 //
-// Both readers throw what opening the file throws, ImportDif also what a malformed file leads to:
-// SubscriptOutOfRange, TypeMismatch, Overflow, InvalidProcedureCall. What was added then stays.
+// Both readers throw the errors of opening the file. ImportDif also throws SubscriptOutOfRange,
+// TypeMismatch, Overflow or InvalidProcedureCall for a malformed file. Words that were added stay.
 #pragma once
 
 #include "runtime/Integer.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Adds the words of one import or export to a list. A full list tells of the first three words that
-// it refuses; of all others one message tells at the end.
+// Adds the words of one import or export to a list. If the list is full, it shows its message for
+// the first three words that it refuses, and one message at the end for all others.
 #pragma once
 
 #include <QString>
@@ -16,7 +16,7 @@ public:
     explicit WordAdder(cVocabList &list, std::function<void()> paused = {});
 
     void add(const QString &word, const QString &definition, const QString &sentence);
-    // Tells how many more words have been refused, if there are more.
+    // Shows how many more words were refused, if any.
     void tellOfTheRest();
 
 private:

@@ -21,7 +21,7 @@ using namespace Module1;
 
 namespace {
 
-// The number of a range box, brought into 1..NumWords there as well.
+// The number in a range box, limited to 1..NumWords. Corrects the box, too.
 Integer rangeNumber(QLineEdit &box)
 {
     const Integer number = toInteger(box.text());
@@ -40,7 +40,7 @@ template <class Visit> Integer forEachNumber(Integer first, Integer last, Visit 
     return (last.toInt() - first.toInt()) * step + 1;
 }
 
-// Removes the file, or what a link to it ends at, where nothing has been written into it.
+// Removes the file, or the one that a link leads to, if it is empty.
 void removeEmptyFile(const QString &path)
 {
     const QFileInfo file(path);
@@ -48,7 +48,7 @@ void removeEmptyFile(const QString &path)
         QFile::remove(file.canonicalFilePath());
 }
 
-// Reads the target of the export, which has to be a word list. False without a file name.
+// Reads the target of the export. Throws if it is no word list; false if there is no file name.
 bool openTarget(cVocabList &target)
 {
     const auto refuse = [] {
@@ -135,8 +135,8 @@ void dlgExport::cmdOK_Click()
 {
     if (m_ui->txtFilename->text().isEmpty())
         return;
-    // Enter presses OK without leaving the box. What a box that was left holds has been taken, or
-    // was no number and does not count.
+    // Enter presses OK while the box still has the keyboard. A box that was left has been read; if
+    // it had no number, the one before is kept.
     if (focusWidget() == m_ui->txtStart)
         StartNo = rangeNumber(*m_ui->txtStart);
     if (focusWidget() == m_ui->txtEnd)

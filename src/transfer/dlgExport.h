@@ -19,7 +19,7 @@ class dlgExport final : public DialogForm
     Q_OBJECT
 
 public:
-    // The file dialog begins in the folder.
+    // The file dialog opens in this folder.
     explicit dlgExport(const QString &startFolder, QWidget *parent = nullptr);
     ~dlgExport() override;
 
@@ -27,7 +27,7 @@ protected:
     void Form_Load() override;
 
 private:
-    // What the preview shows of a range whose first and last number are equal.
+    // What the preview shows if the first and the last number are equal.
     enum class EqualNumbers { ShowNothing, ShowTheWord };
 
     void txtStart_LostFocus();

@@ -13,7 +13,7 @@ using namespace Module1;
 
 namespace {
 
-// Where the person has put the dialog. It opens for each word, and there each time.
+// The place and size of the dialog, which opens again for each word.
 QByteArray &lastGeometry()
 {
     static QByteArray geometry;
@@ -159,7 +159,7 @@ void dlgWordExist::lockExisting(bool locked)
         box->style()->polish(box); // a locked box looks locked
 }
 
-// An entry that is on show can be unlocked, then updated, and deleted at any time.
+// An entry that is shown can be deleted; it can be updated after it was unlocked.
 void dlgWordExist::enableEditing(bool entryShown)
 {
     const bool locked = m_ui->txtCurWord->isReadOnly();

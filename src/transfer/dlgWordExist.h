@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The question about an imported word that the open list holds already, and a small editor of the
-// entry that holds it. Answers by the flags gAddThis, gAddAll, gSkipAll and gStopImport. Opens
-// with the size and at the place that it had when it closed last.
+// Asks about an imported word that the open list already has, and shows the existing entry, which
+// can be edited there. The answers are the flags gAddThis, gAddAll, gSkipAll and gStopImport. The
+// dialog opens with the size and in the place that it had last.
 #pragma once
 
 #include "platform/DialogForm.h"
