@@ -59,8 +59,8 @@ public:
     void prepareLookup();
 
     // A random order of the current word's characters in which no three that follow one another
-    // in the word do so here. A word of one or two characters has none: the scramble tries
-    // without end, or until the scramble hook gives up, which leaves the text empty.
+    // in the word do so here. For a word of one or two characters there is none, and the function
+    // never returns.
     QString ScrambledWord();
 
     // Empty if the current position is 0.
@@ -71,9 +71,6 @@ public:
     [[nodiscard]] const VocabRecord &entry(Integer position) const { return slot(position); }
     // The number of characters of the current word, as text.
     [[nodiscard]] QString length() const;
-
-    // Called between two attempts of the scramble; false gives up. None by default.
-    void setScrambleHook(std::function<bool()> goOn) { m_scrambleHook = std::move(goOn); }
 
     // The content of a new list file with these entries. Texts that are too long for it are cut.
     [[nodiscard]] QByteArray fileBytes() const;
@@ -102,7 +99,6 @@ private:
     Integer m_current;
     Integer m_searchPos; // of the last hit; 0 = none
     QString m_scrambled;
-    std::function<bool()> m_scrambleHook;
     std::function<void(Change)> m_changeHook;
     WordIndex m_index; // of all entries, or empty until a word is looked up
 };

@@ -61,14 +61,10 @@ void cVocabList::Scramble()
     if (size == 0)
         throw RunTimeError(RunTimeError::SubscriptOutOfRange);
     Permutation permutation;
-    while (true) {
+    do {
         RandomNumbers::reseedFromClock();
         permutation = drawPermutation(size);
-        if (isAccepted(permutation))
-            break;
-        if (m_scrambleHook && !m_scrambleHook())
-            return;
-    }
+    } while (!isAccepted(permutation));
     for (const Integer position : permutation)
         m_scrambled += word[position.toInt() - 1];
 }
