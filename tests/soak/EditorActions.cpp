@@ -41,9 +41,7 @@ void becomeIdle(Model &model)
 
 void newWord(Soak &soak)
 {
-    const int count = soak.model.count();
-    if (count > 0)
-        soak.expectPage(count < 23 ? 1 : count - 21);
+    soak.expectPageOfNewWord();
     soak.main().click(NewWordButton);
     soak.model.mode = Mode::NewWord;
     soak.model.shown = 0;

@@ -25,10 +25,13 @@ int currentPosition()
     return Module1::gVocabList().CurrentWord().toInt();
 }
 
-// The page from the entry that was the current one before the import.
+// The page from the entry that was the current one before the import, or that of the next new word.
 void expectPageAfter(Soak &soak, int position)
 {
-    soak.expectPage(position <= soak.model.count() ? position : 1);
+    if (soak.model.mode == Model::Mode::NewWord)
+        soak.expectPageOfNewWord();
+    else
+        soak.expectPage(position <= soak.model.count() ? position : 1);
 }
 
 // One import from its first word to its last message. It goes on in the model until the next word

@@ -238,6 +238,12 @@ void Soak::expectPage(int first)
         expectRunTimeError(overflow);
 }
 
+void Soak::expectPageOfNewWord()
+{
+    if (model.count() > 0)
+        expectPage(std::max(1, model.count() - 21));
+}
+
 bool Soak::isUsable(const QWidget &control)
 {
     return control.isVisible() && control.isEnabled();

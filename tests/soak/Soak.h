@@ -59,6 +59,7 @@ public:
     void expectRunTimeError(int number);
     // A page of the grid that begins there; an error where the numbers give out.
     void expectPage(int first);
+    void expectPageOfNewWord();
     // Until the window is active again, as it is before a person can go on.
     static void waitFor(QWidget &window);
     // Whether the control is there to be used.
