@@ -4,11 +4,13 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "platform/SystemPrinter.h"
+#include "print/MarginsFrame.h"
 #include "print/PrintJob.h"
+#include "print/RangeFrame.h"
 #include "print/WordListPrint.h"
 #include "print/ui_frmPrint.h"
 
-#include <initializer_list>
+#include <QShortcut>
 
 using namespace Module1;
 
@@ -23,7 +25,11 @@ frmPrint::frmPrint(SystemPrinter &printer, QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::frmPrint>()), m_printer(printer)
 {
     m_ui->setupUi(this);
+    m_range = std::make_unique<RangeFrame>(*m_ui);
+    m_margins = std::make_unique<MarginsFrame>(*m_ui);
+    m_ui->vsc_Copies->setRange(1, Integer::Max);
     connectHandlers();
+    connectPreview();
 }
 
 frmPrint::~frmPrint() = default;
@@ -32,30 +38,44 @@ void frmPrint::connectHandlers()
 {
     onClick(m_ui->optPortrait, &frmPrint::optPortrait_Click);
     onClick(m_ui->optLandscape, &frmPrint::optLandscape_Click);
-    onClick(m_ui->optPrintAllWords, &frmPrint::optPrintAllWords_Click);
-    onClick(m_ui->optSubset, &frmPrint::optSubset_Click);
     onClick(m_ui->chkPrintItemNumber, &frmPrint::chkPrintItemNumber_Click);
     onClick(m_ui->cmdPrint, &frmPrint::cmdPrint_Click);
     onClick(m_ui->cmdCancel, &frmPrint::cmdCancel_Click);
     connect(m_ui->lstPrinter, &QListWidget::itemSelectionChanged, this,
             guarded(this, &frmPrint::lstPrinter_Click));
-    connectBoxes();
-    connectPreview();
+    connect(m_ui->vsc_Copies, &StepBar::valueChanged, this,
+            guarded(this, &frmPrint::vsc_Copies_Change));
+    connect(m_range.get(), &RangeFrame::changed, this, guarded(this, &frmPrint::showPreview));
+    connect(m_margins.get(), &MarginsFrame::changed, this, guarded(this, &frmPrint::showPreview));
+}
+
+void frmPrint::connectPreview()
+{
+    PagePreview *preview = m_ui->preview;
+    const auto turnsTo = [preview](QAbstractButton *button, PagePreview::Page page) {
+        connect(button, &QAbstractButton::clicked, preview,
+                [preview, page] { runGuarded([preview, page] { preview->goTo(page); }); });
+    };
+    turnsTo(m_ui->cmdFirstPage, PagePreview::Page::First);
+    turnsTo(m_ui->cmdPreviousPage, PagePreview::Page::Previous);
+    turnsTo(m_ui->cmdNextPage, PagePreview::Page::Next);
+    turnsTo(m_ui->cmdLastPage, PagePreview::Page::Last);
+    connect(m_ui->cmdZoom, &QAbstractButton::clicked, preview,
+            guarded(preview, &PagePreview::toggleZoom));
+    connect(preview, &PagePreview::changed, this, guarded(this, &frmPrint::showPage));
+
+    const auto onKey = [this](const QKeySequence &keys, QAbstractButton *button) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, button, &QAbstractButton::click);
+    };
+    onKey(Qt::CTRL | Qt::Key_PageUp, m_ui->cmdPreviousPage);
+    onKey(Qt::CTRL | Qt::Key_PageDown, m_ui->cmdNextPage);
 }
 
 void frmPrint::Form_Load()
 {
     fillPrinters();
-    showMargins();
-    if (FromWord == 0 || ToWord == 0) {
-        FromWord = 1;
-        ToWord = gVocabList().NumWords();
-        enableRange(false);
-    } else {
-        enableRange(true);
-        m_ui->txtFromWord->setText(FromWord.toText());
-        m_ui->txtToWord->setText(ToWord.toText());
-    }
+    m_margins->show();
+    m_range->show();
     m_ui->chkPrintItemNumber->setChecked(PrintItemNumber);
     m_ui->vsc_Copies->setValue(m_printer.Copies.toInt());
     if (PrintOrientation != Portrait)
@@ -87,13 +107,6 @@ void frmPrint::fillPrinters()
     list.setCurrentRow(static_cast<int>(names.lastIndexOf(m_printer.DeviceName())));
 }
 
-void frmPrint::enableRange(bool enabled)
-{
-    for (QWidget *control : std::initializer_list<QWidget *>{m_ui->txtFromWord, m_ui->txtToWord,
-                                                             m_ui->lblFrom, m_ui->lblTo})
-        control->setEnabled(enabled);
-}
-
 void frmPrint::lstPrinter_Click()
 {
     QListWidgetItem *chosen = m_ui->lstPrinter->currentItem();
@@ -123,23 +136,47 @@ void frmPrint::optLandscape_Click()
     showPreview();
 }
 
-void frmPrint::optPrintAllWords_Click()
-{
-    FromWord = 1;
-    ToWord = gVocabList().NumWords();
-    enableRange(false);
-    showPreview();
-}
-
-void frmPrint::optSubset_Click()
-{
-    enableRange(true);
-}
-
 void frmPrint::chkPrintItemNumber_Click()
 {
     PrintItemNumber = m_ui->chkPrintItemNumber->isChecked();
     showPreview();
+}
+
+void frmPrint::vsc_Copies_Change()
+{
+    const Integer copies = m_ui->vsc_Copies->value();
+    m_ui->txtCopies->setText(copies.toText());
+    m_printer.Copies = copies;
+    showPreview();
+}
+
+// Enter, Esc and the shortcuts of the buttons leave the focus in the box.
+void frmPrint::takeTypedText()
+{
+    m_range->takeTypedText(focusWidget());
+    m_margins->takeTypedText(focusWidget());
+}
+
+void frmPrint::showPreview()
+{
+    m_ui->preview->setPages(std::make_unique<PreviewPages>(
+        m_printer.metrics(), gVocabList(), WordListPrint::chosen(), m_printer.Copies));
+}
+
+void frmPrint::showPage()
+{
+    const PagePreview &preview = *m_ui->preview;
+    if (const QString text = preview.pageText(); text != m_ui->lblPage->text()) {
+        m_ui->lblPage->setText(text);
+        m_ui->preview->setAccessibleDescription(text); // for screen readers
+    }
+    m_ui->cmdFirstPage->setEnabled(!preview.isFirst());
+    m_ui->cmdPreviousPage->setEnabled(!preview.isFirst());
+    m_ui->cmdNextPage->setEnabled(!preview.isLast());
+    m_ui->cmdLastPage->setEnabled(!preview.isLast());
+    m_ui->cmdZoom->setText(preview.zoom() == PagePreview::Zoom::WholePage
+                               ? QStringLiteral("Actual size")
+                               : QStringLiteral("Whole page"));
 }
 
 void frmPrint::cmdPrint_Click()
