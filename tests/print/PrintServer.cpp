@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/PrintServer.h"
 
-#include "support/Controls.h"
+#include "print/OutputOf.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTest>
 
 #include <csignal>
@@ -13,13 +11,6 @@
 namespace {
 
 constexpr int LongestWait = 30000; // ms
-
-void write(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        failTest(file.errorString());
-}
 
 constexpr const char *Places = R"(ServerRoot FOLDER/root
 StateDir FOLDER/state
@@ -58,8 +49,8 @@ DefaultAuthType None
 PrintServer::PrintServer()
 {
     // The server's filters run as another user.
-    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                               QFile::ExeGroup | QFile::ExeOther);
+    if (!m_folder.setMode(0711))
+        failTest(QStringLiteral("the server's folder cannot be opened for other users"));
     configure();
     qputenv("CUPS_SERVER", QFile::encodeName(path(QStringLiteral("socket"))));
     qputenv("CUPS_SERVERROOT", QFile::encodeName(path(QStringLiteral("root"))));
@@ -89,11 +80,11 @@ void PrintServer::configure() const
 {
     for (const char *name : {"root", "state", "cache", "spool/tmp", "printed"})
         QDir().mkpath(path(QLatin1String(name)));
-    const auto writeHere = [this](const QString &name, QByteArray text) {
-        write(path(name), text.replace("FOLDER", QFile::encodeName(m_folder.path())));
+    const auto write = [this](const QString &name, QByteArray text) {
+        m_folder.write(name, text.replace("FOLDER", QFile::encodeName(m_folder.path())));
     };
-    writeHere(QStringLiteral("cups-files.conf"), Places);
-    writeHere(QStringLiteral("cupsd.conf"), Rights);
+    write(QStringLiteral("cups-files.conf"), Places);
+    write(QStringLiteral("cupsd.conf"), Rights);
 }
 
 void PrintServer::stop()
@@ -115,8 +106,8 @@ void PrintServer::addQueue(const QString &queue, const QString &driver)
 
 void PrintServer::addInstance(const QString &queue, const QString &instance)
 {
-    write(path(QStringLiteral("root/lpoptions")),
-          QStringLiteral("Dest %1/%2 sides=one-sided\n").arg(queue, instance).toUtf8());
+    m_folder.write(QStringLiteral("root/lpoptions"),
+                   QStringLiteral("Dest %1/%2 sides=one-sided\n").arg(queue, instance).toUtf8());
 }
 
 void PrintServer::removeQueue(const QString &queue)
@@ -150,15 +141,4 @@ QString PrintServer::printed(const QString &queue) const
     if (!QTest::qWaitFor(isDone, LongestWait))
         failTest(QStringLiteral("the queue %1 does not print its jobs").arg(queue));
     return path(QStringLiteral("printed/")) + queue;
-}
-
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(LongestWait) || process.exitStatus() != QProcess::NormalExit ||
-        process.exitCode() != 0)
-        failTest(program + QStringLiteral(": ") + process.errorString() + u' ' +
-                 QString::fromLocal8Bit(process.readAllStandardError()));
-    return process.readAllStandardOutput();
 }

@@ -3,9 +3,10 @@
 // server, and ends with the object or with this process.
 #pragma once
 
+#include "support/TestFiles.h"
+
 #include <QProcess>
 #include <QStringList>
-#include <QTemporaryDir>
 
 class PrintServer final
 {
@@ -32,13 +33,10 @@ public:
     [[nodiscard]] QString printed(const QString &queue) const;
 
 private:
-    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.path(name); }
     void configure() const;
     [[nodiscard]] QStringList listed(const QString &queue, const QString &which) const;
 
-    QTemporaryDir m_folder;
+    TestFolder m_folder;
     QProcess m_process;
 };
-
-// The standard output of a program. Ends the test if the program fails.
-[[nodiscard]] QByteArray outputOf(const QString &program, const QStringList &arguments);

@@ -5,6 +5,7 @@
 #include "print/PrintedPages.h"
 #include "runtime/ErrorNumber.h"
 #include "support/FormTest.h"
+#include "support/TestFiles.h"
 
 #include <QProgressDialog>
 
@@ -20,7 +21,6 @@ constexpr QSizeF Sheet(595, 842);
 constexpr QMarginsF Borders(18, 54, 30, 36); // left, top, right, bottom
 // In landscape, where the queue may turn the sheet to either side.
 constexpr QMarginsF TurnedBorders(54, 30, 54, 30);
-constexpr double PointsPerInch = 72;
 constexpr double FontSize = 10;
 constexpr double Nearly = 1; // tolerance in points
 
@@ -274,9 +274,7 @@ private Q_SLOTS:
         QueueForm form(PostScript, frenchWords());
         form.control<StepBar>("vsc_Copies").setValue(3);
         form.click("cmdPrint");
-        QFile printed(m_server->printed(PostScript));
-        QVERIFY(printed.open(QIODevice::ReadOnly));
-        const QByteArray document = printed.readAll();
+        const QByteArray document = readFile(m_server->printed(PostScript));
         QVERIFY(document.startsWith("%!PS"));
         QVERIFY(document.contains("numcopies(3)"));
         QCOMPARE(document.count("\n%%Page: "), 3);

@@ -2,13 +2,15 @@
 // Reads a printed PDF file with poppler's tools.
 #pragma once
 
-#include "print/PrintServer.h"
+#include "print/OutputOf.h"
 
 #include <QRectF>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include <vector>
+
+constexpr double PointsPerInch = 72;
 
 // A word on a page; its box is in points from the top left corner of the sheet.
 struct PrintedWord

@@ -3,8 +3,7 @@
 
 #include "print/PrintForm.h"
 #include "support/FormTest.h"
-
-#include <QFile>
+#include "support/TestFiles.h"
 
 #include <functional>
 
@@ -133,14 +132,11 @@ private Q_SLOTS:
     void theListIsPrintedIntoAPdfFile()
     {
         PrintForm form;
-        const QString path = form.path(u"list.pdf"_s);
         form.answers.chooseFile(form.path(u"list"_s));
         form.click("cmdPrint");
         QVERIFY(form.answers.allSeen());
         QVERIFY(!form.dialog().isVisible());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray content = file.readAll();
+        const QByteArray content = readFile(form.path(u"list.pdf"_s));
         QVERIFY(content.startsWith("%PDF-"));
         QVERIFY(content.trimmed().endsWith("%%EOF"));
         QCOMPARE(gVocabList().CurrentWord(), Integer(20));
