@@ -16,10 +16,10 @@
 
 namespace {
 
-constexpr int LongestWait = 20; // for the page in view, in milliseconds
-constexpr int IdleSlice = 8;
-constexpr int Border = 16; // pixels around the sheet
-constexpr int Step = 40;   // pixels of one step of a scroll bar
+constexpr int LongestWait = 20; // milliseconds that setPages lays out the page in view
+constexpr int IdleSlice = 8;    // milliseconds of layout before other events are handled
+constexpr int Border = 16;      // pixels around the sheet
+constexpr int Step = 40;        // pixels of one step of a scroll bar
 
 QColor groundColour(const QPalette &palette)
 {
@@ -78,7 +78,7 @@ void PagePreview::layOutWhenIdle()
 
 void PagePreview::layOutMore()
 {
-    m_idle.stop(); // an error is reported once only
+    m_idle.stop(); // a layout that throws is not tried again
     m_pages->layOut(IdleSlice);
     m_idle.start();
     afterLayout();

@@ -45,7 +45,7 @@ public:
     void toggleZoom();
 
 Q_SIGNALS:
-    // Another page or zoom is shown, or the number of pages is known better.
+    // The page in view, the zoom or the number of pages may have changed.
     void changed();
 
 protected:
@@ -73,7 +73,7 @@ private:
     QTimer m_idle;
     bool m_paused = false;
     WheelSteps m_wheel;
-    QRectF m_sheet; // in the viewport when it is not scrolled
+    QRectF m_sheet; // in pixels of the viewport before it is scrolled
     bool m_textsKnown = false;
     std::vector<PreviewPages::Text> m_texts; // of the page in view
 };

@@ -15,7 +15,7 @@
 struct PreviewPages::Position
 {
     int entry = 0; // index in the pass
-    int pages = 0; // that have begun before the entry
+    int pages = 0; // begun before the entry
     bool onPage = false;
     double y = 0;
 };
@@ -84,7 +84,7 @@ bool PreviewPages::isComplete() const
 
 void PreviewPages::layOut(int milliseconds)
 {
-    constexpr int EntriesAtATime = 16; // before the time is checked
+    constexpr int EntriesAtATime = 16; // between two looks at the clock
     QElapsedTimer clock;
     clock.start();
     while (!isComplete() && !clock.hasExpired(milliseconds))
@@ -105,7 +105,7 @@ int PreviewPages::count() const
 {
     const auto begun = static_cast<double>(m_pageStart.size());
     const double ofPass = isComplete() ? begun : begun * m_job.entries() / std::max(1, m_laidOut);
-    // Copies of a long list may have more pages than an int can count. One more page must not
+    // Copies of a long list may have more pages than an int can count. Adding one page must not
     // overflow either.
     constexpr qint64 Most = std::numeric_limits<int>::max() - 1;
     return static_cast<int>(std::min(static_cast<qint64>(std::ceil(ofPass)) * m_copies, Most));

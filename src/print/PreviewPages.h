@@ -23,7 +23,8 @@ public:
         PrintStyle style;
     };
 
-    // The list must outlive the object and must not change meanwhile. Its current entry stays.
+    // The list must outlive the object and must not change meanwhile. Its current entry is not
+    // changed.
     PreviewPages(std::shared_ptr<const PrintMetrics> metrics, const cVocabList &list,
                  const WordListPrint &job, Integer copies);
     ~PreviewPages();
@@ -53,5 +54,5 @@ private:
     int m_copies;
     std::unique_ptr<Recorder> m_layout;
     int m_laidOut = 0;                 // entries of the first pass so far
-    std::vector<Position> m_pageStart; // of each page: before the entry in which it begins
+    std::vector<Position> m_pageStart; // before the entry in which each page begins
 };

@@ -12,8 +12,8 @@ struct WordListPrint;
 // while shows its progress over the window, with Cancel.
 void printWordList(QWidget *window, SystemPrinter &printer, const WordListPrint &job);
 
-// Runs the action. RunTimeError PrinterFault ends it with a message that names the printer; other
-// errors pass.
+// Runs the action. After RunTimeError PrinterFault a message names the printer; other errors are
+// not caught.
 void tellPrinterError(const SystemPrinter &printer, const std::function<void()> &action);
 
 // As above, but any other RunTimeError ends the action without a message.

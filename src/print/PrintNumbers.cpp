@@ -8,7 +8,7 @@
 
 namespace {
 
-// The converted text. A number beyond the range of its type becomes the end of the range.
+// The converted text. A number out of the range of its type becomes `smallest` or `largest`.
 template <class Number, class Convert>
 std::optional<Number> converted(const QString &text, Number smallest, Number largest,
                                 Convert convert)

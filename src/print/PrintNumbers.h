@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers that are typed in the print dialog.
 //
-// Nothing if the text is not a number. A number beyond the range of its type becomes the nearest
-// number of that type.
+// std::nullopt if the text is not a number. A number out of the range of its type becomes the
+// nearest number of that type.
 #pragma once
 
 #include "runtime/Currency.h"

@@ -18,7 +18,7 @@ class RangeFrame final : public QObject
 public:
     explicit RangeFrame(const Ui::frmPrint &ui);
 
-    // Shows the range. A range that is not set (0 in either end) becomes the whole list.
+    // Shows the range. A range that is not set (0 in FromWord or ToWord) becomes the whole list.
     void show();
     // Takes the typed text if the focus is in one of the boxes.
     void takeTypedText(const QWidget *focus);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// How many characters from the start fit into the width. Measures only some lines ahead.
+// How many characters from the start fit into the width. Measures only a few lines of a long text.
 qsizetype charactersWithin(const Printer &printer, QStringView text, double width)
 {
     qsizetype fitting = 0;

@@ -85,7 +85,7 @@ void frmPrint::Form_Load()
     m_ui->lstPrinter->setFocus();
 }
 
-// Changes stay, however the dialog is closed.
+// Cancel, Esc and the close box keep all changes.
 bool frmPrint::Form_QueryUnload()
 {
     takeTypedText();

@@ -37,7 +37,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isCounted());
     }
 
-    void thePageAndTheirNumberAreTold()
+    void thePageAndTheNumberOfPagesAreShown()
     {
         QCOMPARE(m_preview->page(), 1);
         QVERIFY(m_preview->isFirst());
@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(m_preview->page(), 1);
     }
 
-    void theLastPageIsFoundThoughThePagesAreNotCounted()
+    void theLastPageCanBeShownBeforeThePagesAreCounted()
     {
         setPages();
         m_preview->goTo(PagePreview::Page::Last);
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(m_preview->page(), 1);
     }
 
-    void aPageThatIsNotLaidOutYetSaysSo()
+    void aPageThatIsNotLaidOutYetShowsANotice()
     {
         makeLongList();
         const PagePreview::Pause pause(*m_preview);
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(darkPixelsInTheMiddle(), 0);
     }
 
-    void whatFailsInAnIdleMomentIsToldOnce()
+    void anErrorInTheBackgroundIsShownOnce()
     {
         makeLongList();
         {
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isCounted());
     }
 
-    void inItsActualSizeThePageScrollsBeforeItTurns()
+    void inActualSizeTheWheelScrollsToTheEndOfThePageFirst()
     {
         QTest::keyClick(m_preview.get(), Qt::Key_Plus);
         QScrollBar &bar = *m_preview->verticalScrollBar();
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(bar.maximum(), 0);
     }
 
-    void fewerPagesShowTheirLastInPlaceOfOneThatIsGone()
+    void whenThePageIsGoneTheLastOneIsShown()
     {
         m_preview->goTo(PagePreview::Page::Last);
         ToWord = 20;
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(m_preview->page(), count());
     }
 
-    void noPagesAreTold()
+    void anEmptyListHasNoPages()
     {
         gVocabList().ClearList();
         ToWord = 0;
@@ -182,14 +182,14 @@ private Q_SLOTS:
         QCOMPARE(m_preview->pageText(), u"Page 1 of 1"_s);
     }
 
-    void thePaperIsWhiteOnADifferentGround_data()
+    void thePaperIsWhiteOnADarkerBackground_data()
     {
         QTest::addColumn<QColor>("window");
         QTest::newRow("light") << QColor(0xEF, 0xF0, 0xF1);
         QTest::newRow("dark") << QColor(0x2A, 0x2E, 0x32);
     }
 
-    void thePaperIsWhiteOnADifferentGround()
+    void thePaperIsWhiteOnADarkerBackground()
     {
         QFETCH(QColor, window);
         QPalette palette = m_preview->palette();

@@ -20,7 +20,7 @@ std::shared_ptr<const PrintMetrics> metrics()
     return std::make_shared<PrintMetrics>(QSizeF(8, 5), QRectF(0.25, 0.25, 7.5, 4.5), 600);
 }
 
-// What a job really prints with these metrics.
+// Records the pages that a job prints with these metrics.
 class PrintedPages final : public Printer
 {
 public:
@@ -88,7 +88,7 @@ private Q_SLOTS:
         TopMargin = BottomMargin = LeftMargin = RightMargin = Currency::fromText(u"0.7"_s);
     }
 
-    void thePagesAreThoseThatArePrinted_data()
+    void thePreviewHasThePagesThatArePrinted_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -97,10 +97,10 @@ private Q_SLOTS:
         QTest::newRow("downwards") << 61 << 5 << u"0.7"_s;
         QTest::newRow("one") << 62 << 62 << u"0"_s;
         QTest::newRow("no margins") << 1 << 62 << u"0"_s;
-        QTest::newRow("margins wider than high") << 50 << 62 << u"2.3"_s;
+        QTest::newRow("margins higher than the page") << 50 << 62 << u"2.3"_s;
     }
 
-    void thePagesAreThoseThatArePrinted()
+    void thePreviewHasThePagesThatArePrinted()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QVERIFY(same(preview.texts(1), early));
     }
 
-    void copiesOfALongListAreNotMoreThanCanBeCounted()
+    void theNumberOfPagesDoesNotOverflow()
     {
         gVocabList().ClearList();
         for (int i = 0; i < 2'000; ++i)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The print dialog with a list of "w1", "w2", … for its tests.
+// For tests: the print dialog with a list of "w1", "w2", …
 #pragma once
 
 #include "core/FreshState.h"

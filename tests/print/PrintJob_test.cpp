@@ -27,7 +27,7 @@ class PrintJob_test final : public QObject
 private Q_SLOTS:
     void cleanup() { QVERIFY(m_answers.allSeen()); }
 
-    void aPrinterErrorIsToldWithThePrintersName()
+    void aPrinterErrorIsReportedWithTheNameOfThePrinter()
     {
         for (const auto run : {tellPrinterError, tellPrinterErrorOnly}) {
             m_answers.expectMsgBox(m_printer.DeviceName() + u" has encountered an error"_s);
@@ -45,7 +45,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatIsNoRunTimeErrorPasses()
+    void otherExceptionsPass()
     {
         for (const auto run : {tellPrinterError, tellPrinterErrorOnly})
             QVERIFY_THROWS_EXCEPTION(std::bad_alloc,

@@ -10,21 +10,21 @@ class PrintNumbers_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aMarginIsWhatTheTextSays()
+    void aMarginIsReadFromText()
     {
         QCOMPARE(marginFromText(u" 1.26 "_s), Currency::fromText(u"1.26"_s));
         QCOMPARE(marginFromText(u"-1"_s), Currency(-1));
         QCOMPARE(marginFromText(u"0.12345"_s), Currency::fromScaled(1234));
     }
 
-    void aPositionIsRoundedHalvesToEven()
+    void halvesOfAPositionAreRoundedToEven()
     {
         QCOMPARE(positionFromText(u"2.5"_s), Integer(2));
         QCOMPARE(positionFromText(u" 3.5"_s), Integer(4));
         QCOMPARE(positionFromText(u"-3"_s), Integer(-3));
     }
 
-    void whatIsNoNumberIsNothing()
+    void aTextThatIsNotANumberGivesNothing()
     {
         for (const QString &text : {QString(), u" "_s, u"one"_s, u"1,5"_s, u"1 2"_s, u"0,001"_s,
                                     u"1,234"_s, u"1.5\u00A0"_s, u"\t2"_s}) {
@@ -33,7 +33,7 @@ private Q_SLOTS:
         }
     }
 
-    void aNumberBeyondItsTypeIsTheNearestOfTheType()
+    void aNumberOutOfRangeBecomesTheNearestOfItsType()
     {
         QCOMPARE(marginFromText(u"1e30"_s), Currency::largest());
         QCOMPARE(marginFromText(u" -1e30"_s), Currency::smallest());
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(positionFromText(u"-1e999"_s), Integer(Integer::Min));
     }
 
-    void aPositionIsBroughtIntoTheList()
+    void aPositionIsLimitedToTheList()
     {
         QCOMPARE(positionInList(500, 20), Integer(20));
         QCOMPARE(positionInList(20, 20), Integer(20));

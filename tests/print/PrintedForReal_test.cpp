@@ -19,10 +19,10 @@ namespace {
 // The A4 sheet of Paper.ppd, in points.
 constexpr QSizeF Sheet(595, 842);
 constexpr QMarginsF Borders(18, 54, 30, 36); // left, top, right, bottom
-// In landscape, where the queue may turn the sheet to either side.
+// In landscape. The queue may turn the sheet to either side, so opposite borders are equal.
 constexpr QMarginsF TurnedBorders(54, 30, 54, 30);
 constexpr double FontSize = 10;
-constexpr double Nearly = 1; // tolerance in points
+constexpr double Tolerance = 1; // points
 
 const QString LongWord = u"Donaudampfschifffahrtsgesellschaft"_s.repeated(6);
 
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QCOMPARE(text.remove(u' '), wanted.arg(LongWord).remove(u' '));
     }
 
-    void aRangeIsPrintedFromItsEndToo()
+    void aRangeCanBePrintedDownwards()
     {
         QueueForm form(Paper, frenchWords());
         form.click("optSubset");
@@ -212,16 +212,16 @@ private Q_SLOTS:
         for (const PrintedWord &word : printed) {
             QCOMPARE(word.sheet, Sheet);
             const QRectF box = landscape ? turned(word.box) : word.box;
-            QVERIFY(box.left() > body.left() - Nearly);
-            QVERIFY(box.right() < body.right() + Nearly);
-            QVERIFY(box.top() > body.top() - Nearly);
-            QVERIFY(box.top() < body.bottom() + Nearly);
+            QVERIFY(box.left() > body.left() - Tolerance);
+            QVERIFY(box.right() < body.right() + Tolerance);
+            QVERIFY(box.top() > body.top() - Tolerance);
+            QVERIFY(box.top() < body.bottom() + Tolerance);
             left = std::min(left, box.left());
             right = std::max(right, box.right());
             if (std::exchange(begun, word.page) != word.page)
-                QVERIFY(std::abs(box.top() - body.top()) < Nearly);
+                QVERIFY(std::abs(box.top() - body.top()) < Tolerance);
         }
-        QVERIFY(std::abs(left - body.left()) < Nearly);
+        QVERIFY(std::abs(left - body.left()) < Tolerance);
         // A line of the long word ends less than one letter before the margin.
         QVERIFY(right > body.right() - FontSize);
     }
@@ -241,18 +241,18 @@ private Q_SLOTS:
         const double pitch = printed[3].box.top() - printed[2].box.top();
         QVERIFY(pitch > FontSize && pitch < 1.2 * FontSize);
         QCOMPARE(printed[0].text, u"1."_s);
-        QVERIFY(std::abs(printed[0].box.top() - first) < Nearly);
+        QVERIFY(std::abs(printed[0].box.top() - first) < Tolerance);
         int breaks = 0;
         for (std::size_t i = 3; i < printed.size(); ++i) {
             const double above = printed[i - 1].box.top();
             const double top = printed[i].box.top();
             if (printed[i].page == printed[i - 1].page) {
-                QVERIFY(std::abs(top - above - pitch) < Nearly);
+                QVERIFY(std::abs(top - above - pitch) < Tolerance);
                 QVERIFY(top < limit);
             } else {
                 ++breaks;
                 QVERIFY(above + pitch > limit);
-                QVERIFY(std::abs(top - first) < Nearly);
+                QVERIFY(std::abs(top - first) < Tolerance);
             }
         }
         QCOMPARE(breaks, 4);
@@ -290,7 +290,7 @@ private Q_SLOTS:
         static_cast<void>(m_server->printed(Paper));
     }
 
-    void aQueueThatTakesNoJobIsTold_data()
+    void aQueueThatTakesNoJobIsReported_data()
     {
         QTest::addColumn<QString>("trouble");
         QTest::addColumn<QString>("repair");
@@ -298,7 +298,7 @@ private Q_SLOTS:
         QTest::newRow("rejecting") << u"cupsreject"_s << u"cupsaccept"_s;
     }
 
-    void aQueueThatTakesNoJobIsTold()
+    void aQueueThatTakesNoJobIsReported()
     {
         QFETCH(QString, trouble);
         QFETCH(QString, repair);
@@ -318,7 +318,7 @@ private Q_SLOTS:
         static_cast<void>(m_server->printed(Paper));
     }
 
-    void aQueueThatVanishedIsTold()
+    void aRemovedQueueIsReported()
     {
         const QString queue = u"Vanishing"_s;
         m_server->addQueue(queue, PaperDriver);
@@ -336,7 +336,7 @@ private Q_SLOTS:
         static_cast<void>(m_server->printed(Paper));
     }
 
-    void aQueueThatIsBackIsPrintedTo()
+    void aQueueThatIsAddedLaterCanBePrintedTo()
     {
         const QString queue = u"Returning"_s;
         QueueForm form(Paper, frenchWords());
@@ -351,8 +351,8 @@ private Q_SLOTS:
         m_server->removeQueue(queue);
     }
 
-    // As on a full disk for temporary files.
-    void aDocumentThatWasNotWrittenAsAWholeIsNotPrinted()
+    // As if the disk for temporary files were full.
+    void aDocumentThatCannotBeWrittenIsNotPrinted()
     {
         QueueForm form(Paper, frenchWords());
         const qsizetype before = m_server->jobs(Paper);
@@ -365,7 +365,7 @@ private Q_SLOTS:
         QCOMPARE(m_server->jobs(Paper), before);
     }
 
-    void ofACancelledJobNothingReachesTheQueue()
+    void aCancelledJobDoesNotReachTheQueue()
     {
         QueueForm form(Paper, std::vector<VocabRecord>(3000, {u"a"_s, words(30), words(30)}));
         form.control<StepBar>("vsc_Copies").setValue(1000);

@@ -29,7 +29,7 @@ private Q_SLOTS:
         QCOMPARE(m_bar.value(), 9);
     }
 
-    void fromTheEndsTheArrowsLeadInwards()
+    void theArrowsStopAtTheEndsOfTheRange()
     {
         m_bar.setValue(0);
         clickAt(m_bar.height() - 4);
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(m_bar.value(), 11);
     }
 
-    void turnedBackTheWheelStartsAnew()
+    void aTurnOfTheWheelInTheOtherDirectionBeginsANewStep()
     {
         turn(112);
         turn(-8);

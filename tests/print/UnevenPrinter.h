@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A printer whose characters have different widths and whose styles have different line heights.
-// So its places show in which style a text or an empty line was measured.
+// The places therefore show in which style a text or an empty line was measured.
 #pragma once
 
 #include "platform/Printer.h"

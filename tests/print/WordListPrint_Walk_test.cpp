@@ -34,7 +34,7 @@ QStringList headersOf(const WordListPrint &job)
     return headers(printer);
 }
 
-// The positions that become the current one, in order.
+// The positions that become current, in order.
 QList<int> walkOf(const WordListPrint &job, Integer copies = 1)
 {
     RecordingPrinter printer;
@@ -61,7 +61,7 @@ private Q_SLOTS:
         PrintItemNumber = false;
     }
 
-    void eachPositionOfTheWalkBecomesCurrent_data()
+    void eachPrintedEntryBecomesTheCurrentOne_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -71,7 +71,7 @@ private Q_SLOTS:
         QTest::newRow("one") << 3 << 3 << QList<int>{3, 3};
     }
 
-    void eachPositionOfTheWalkBecomesCurrent()
+    void eachPrintedEntryBecomesTheCurrentOne()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().CurrentWord(), Integer(to));
     }
 
-    void theWholeListIsWalkedUpwardsWhateverTheRange()
+    void theWholeListIsPrintedUpwardsWhateverTheRange()
     {
         FromWord = 5;
         ToWord = 2;
@@ -90,7 +90,7 @@ private Q_SLOTS:
                  QStringList({u" 1. w1:  "_s, u" 2. w2:  "_s}));
     }
 
-    void oneEntryIsAnAscendingWalk()
+    void aRangeOfOneEntryRunsUpwards()
     {
         FromWord = ToWord = 4;
         QCOMPARE(headersOf(WordListPrint::chosen()), QStringList({u"w4:  "_s}));
@@ -98,18 +98,20 @@ private Q_SLOTS:
         QCOMPARE(headersOf(WordListPrint::chosen()), QStringList({u" 4. "_s, u"w4:  "_s}));
     }
 
-    void theRangeOfALongerListIsBroughtIntoThisOne_data()
+    void aRangeBeyondTheListIsLimitedToTheList_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
         QTest::addColumn<QStringList>("headers");
-        QTest::newRow("its end") << 5 << 100 << QStringList({u"w5:  "_s, u"w6:  "_s});
-        QTest::newRow("its start") << 100 << 5 << QStringList({u" 6. w6:  "_s, u" 5. w5:  "_s});
-        QTest::newRow("both") << 90 << 100 << QStringList({u"w6:  "_s});
-        QTest::newRow("both, downwards") << 100 << 90 << QStringList({u" 6. w6:  "_s});
+        QTest::newRow("end beyond the list") << 5 << 100 << QStringList({u"w5:  "_s, u"w6:  "_s});
+        QTest::newRow("start beyond the list")
+            << 100 << 5 << QStringList({u" 6. w6:  "_s, u" 5. w5:  "_s});
+        QTest::newRow("both beyond the list") << 90 << 100 << QStringList({u"w6:  "_s});
+        QTest::newRow("both beyond the list, downwards")
+            << 100 << 90 << QStringList({u" 6. w6:  "_s});
     }
 
-    void theRangeOfALongerListIsBroughtIntoThisOne()
+    void aRangeBeyondTheListIsLimitedToTheList()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -154,9 +156,10 @@ private Q_SLOTS:
                  QStringList({u"1: 0,0 a word wider than the page:  "_s, u"1: 0,1 d"_s}));
     }
 
-    void aHeaderIsPrintedBelowTheBottomMarginAndItsTextsOnTheNextPage()
+    void aHeaderMayBeBelowTheBottomMarginButItsTextsMayNot()
     {
-        // From 0: paragraphs may begin on line 2 at the lowest, line 4 is the last of the sheet.
+        // Counted from 0, line 2 is the last one above the bottom margin and line 4 the last one
+        // of the sheet.
         RecordingPrinter printer(40, 5);
         FromWord = 1;
         ToWord = 2;
@@ -168,9 +171,10 @@ private Q_SLOTS:
                               u"2: 2,0 d2"_s, u"2: 2,1 s2"_s}));
     }
 
-    void aHeaderOfTheFixedLayoutThatHasNoRoomGoesToTheMarginsOfTheNextSheet()
+    void aHeaderWithoutRoomOnTheSheetGoesToTheNextOne()
     {
-        // From 0: paragraphs may begin on line 9 at the lowest, line 12 is the last of the sheet.
+        // Counted from 0, line 9 is the last one above the bottom margin and line 12 the last one
+        // of the sheet.
         RecordingPrinter printer(40, 13);
         fill(3);
         QVERIFY(WordListPrint::wholeList().print(printer, gVocabList(), GoOn));
@@ -178,8 +182,7 @@ private Q_SLOTS:
                  QStringList({u"1: 8,4  1. w1:  "_s, u"1: 8,5 d1"_s, u"1: 8,6 s1"_s,
                               u"1: 8,8  2. w2:  "_s, u"1: 8,9 d2"_s, u"2: 0,0 s2"_s,
                               u"2: 8,2  3. w3:  "_s, u"2: 8,3 d3"_s, u"2: 8,4 s3"_s}));
-        // Without texts a header comes to the foot of the sheet, with the last empty line that
-        // fits.
+        // Without texts the headers are printed down to the last line of the sheet.
         gVocabList().ClearList();
         for (int i = 1; i <= 6; ++i)
             gVocabList().AddVocab(u"w%1"_s.arg(i), {}, {});
@@ -189,7 +192,7 @@ private Q_SLOTS:
                                                     u"2: 8,5  6. w6:  "_s}));
     }
 
-    void theBottomMarginIsMetExactly_data()
+    void aLineMayBeginExactlyAtTheBottomMargin_data()
     {
         QTest::addColumn<QString>("margin");
         QTest::addColumn<QString>("place");
@@ -198,7 +201,7 @@ private Q_SLOTS:
         QTest::newRow("below it") << u"4.5001"_s << u"2: 0,0 s1"_s;
     }
 
-    void theBottomMarginIsMetExactly()
+    void aLineMayBeginExactlyAtTheBottomMargin()
     {
         QFETCH(QString, margin);
         RecordingPrinter printer(40, 20);
@@ -208,7 +211,7 @@ private Q_SLOTS:
         QTEST(printer.places().constLast(), "place");
     }
 
-    void theRightMarginIsMetExactly_data()
+    void aLineMayEndExactlyAtTheRightMargin_data()
     {
         QTest::addColumn<QString>("margin");
         QTest::addColumn<int>("lines");
@@ -217,7 +220,7 @@ private Q_SLOTS:
         QTest::newRow("beyond it") << u"4.0001"_s << 2;
     }
 
-    void theRightMarginIsMetExactly()
+    void aLineMayEndExactlyAtTheRightMargin()
     {
         QFETCH(QString, margin);
         gVocabList().ClearList();
@@ -229,7 +232,7 @@ private Q_SLOTS:
         QTEST(int(printer.texts.size()) - 1, "lines");
     }
 
-    void laterPassesOfTheFixedLayoutBeginInTheCorner()
+    void laterCopiesOfTheWholeListBeginInTheCorner()
     {
         fill(1);
         RecordingPrinter printer;
@@ -245,7 +248,7 @@ private Q_SLOTS:
         QCOMPARE(printer.Copies, Integer(3));
     }
 
-    void aLongPassIsFollowedByTheNextOnAPageOfItsOwn()
+    void afterALongCopyTheNextOneBeginsANewPage()
     {
         RecordingPrinter printer(40, 6);
         printer.Copies = 2;

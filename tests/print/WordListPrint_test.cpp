@@ -45,7 +45,7 @@ private Q_SLOTS:
         ToWord = 6;
     }
 
-    void anEntryIsItsHeaderItsTextsAndAnEmptyLine()
+    void anEntryIsPrintedAsHeaderTextsAndAnEmptyLine()
     {
         RecordingPrinter printer;
         FromWord = ToWord = 2;
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(printer.places(), QStringList({u"1: 0,0 a:  "_s, u"1: 0,2 b:  "_s}));
     }
 
-    void upwardsTheNumberIsPrintedAsTheSettingSays()
+    void inAnUpwardRangeTheSettingDecidesOnNumbers()
     {
         RecordingPrinter printer;
         FromWord = 2;
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(headers(printer), QStringList({u"w2:  "_s, u"w3:  "_s}));
     }
 
-    void downwardsTheNumberIsAlwaysPrintedWithTheWord()
+    void inADownwardRangeNumbersAreAlwaysPrinted()
     {
         for (const bool numbered : {false, true}) {
             RecordingPrinter printer;
@@ -98,7 +98,7 @@ private Q_SLOTS:
         }
     }
 
-    void theLastEntryPrintedIsTheCurrentOne()
+    void theLastPrintedEntryIsTheCurrentOne()
     {
         RecordingPrinter printer;
         FromWord = 5;
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(WordListPrint::wholeList().print(printer, gVocabList(), goOn));
         QCOMPARE(printer.places().mid(0, 3),
                  QStringList({u"1: 8,4  1. w1:  "_s, u"1: 8,5 d1"_s, u"1: 8,6 s1"_s}));
-        // A header is printed below the bottom margin, too; a paragraph goes to the next corner.
+        // A header may be below the bottom margin; a paragraph goes to the corner of the next page.
         QCOMPARE(printer.places().mid(6, 5),
                  QStringList({u"1: 8,12  3. w3:  "_s, u"2: 0,0 d3"_s, u"2: 8,1 s3"_s,
                               u"2: 8,3  4. w4:  "_s, u"2: 8,4 d4"_s}));
@@ -151,16 +151,16 @@ private Q_SLOTS:
                          u"2: 0,2  3. "_s, u"2: 4,2 w3:  "_s, u"2: 0,3 d3"_s, u"2: 0,4 s3"_s}));
     }
 
-    void cancelledNothingIsPrinted()
+    void aCancelledJobPrintsNothing()
     {
         RecordingPrinter printer;
         printer.Copies = 2;
-        int told = 0;
+        int calls = 0;
         QVERIFY(!WordListPrint::chosen().print(printer, gVocabList(), [&](int done, int total) {
-            ++told;
+            ++calls;
             return done != 8 || total != 12;
         }));
-        QCOMPARE(told, 8);
+        QCOMPARE(calls, 8);
         QCOMPARE(printer.ended, 0);
         QCOMPARE(printer.dropped, 1);
     }

@@ -69,16 +69,16 @@ class WrapSteps_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void randomParagraphsAreBrokenAsOneByOne_data()
+    void randomParagraphsBreakAsWhenMeasuredByCharacter_data()
     {
         QTest::addColumn<QString>("alphabet");
         QTest::newRow("short words") << u"aiw  "_s;
         QTest::newRow("long words") << u"aiwaiwaiwaiw "_s;
-        QTest::newRow("blanks above all") << u"a   i   "_s;
-        QTest::newRow("accents of their own") << u"a\u0301i\u0301w "_s;
+        QTest::newRow("mostly blanks") << u"a   i   "_s;
+        QTest::newRow("combining accents") << u"a\u0301i\u0301w "_s;
     }
 
-    void randomParagraphsAreBrokenAsOneByOne()
+    void randomParagraphsBreakAsWhenMeasuredByCharacter()
     {
         QFETCH(QString, alphabet);
         std::mt19937 random(20'111);
@@ -99,7 +99,7 @@ private Q_SLOTS:
         }
     }
 
-    void theWidthIsThatOfTheStyle()
+    void textIsMeasuredInItsStyle()
     {
         // "aa aa" is 10 units wide, and 15 in bold.
         for (const bool bold : {false, true}) {
@@ -127,7 +127,7 @@ private Q_SLOTS:
                                               u"1: 0,6 ii"_s, u"1: 0,8 i"_s}));
     }
 
-    void blanksAloneAreBrokenToo()
+    void aParagraphOfBlanksIsBrokenToo()
     {
         UnevenPrinter printer(4);
         // Three lines of blanks, the last one trimmed.
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QTEST(printer.places, "places");
     }
 
-    void withoutATopMarginTheFixedLayoutGoesDownFromTheCornerOfEachPage()
+    void theFixedLayoutContinuesDownwardsFromTheCorner()
     {
         UnevenPrinter printer(24, 22);
         const PageFrame frame{1, 1, 1, 1, PageFrame::Break::ToCorner};
@@ -177,7 +177,7 @@ private Q_SLOTS:
                               u"2: 8,8 hhh"_s, u"2: 8,10 iii"_s}));
     }
 
-    void aLineFeedEndsAParagraphWhereverItStands_data()
+    void aLineFeedAnywhereEndsAParagraph_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("places");
@@ -190,12 +190,12 @@ private Q_SLOTS:
         row("alone", u"\n"_s, {});
         row("each paragraph is trimmed", u"  a \r\n b "_s, {u"1: 1,0 a"_s, u"1: 1,2 b"_s});
         row("a paragraph of blanks", u"a\r\n   \r\nb"_s, {u"1: 1,0 a"_s, u"1: 1,4 b"_s});
-        row("a carriage return alone ends none", u"a\rb"_s, {u"1: 1,0 a\rb"_s});
+        row("a carriage return alone ends no paragraph", u"a\rb"_s, {u"1: 1,0 a\rb"_s});
         row("each is wrapped", u"aa aa\r\nbb bb"_s,
             {u"1: 1,0 aa"_s, u"1: 1,2 aa"_s, u"1: 1,4 bb"_s, u"1: 1,6 bb"_s});
     }
 
-    void aLineFeedEndsAParagraphWhereverItStands()
+    void aLineFeedAnywhereEndsAParagraph()
     {
         QFETCH(QString, text);
         UnevenPrinter printer(9);

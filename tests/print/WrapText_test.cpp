@@ -12,7 +12,7 @@ namespace {
 constexpr double Character = RecordingPrinter::CharacterWidth;
 constexpr double Line = RecordingPrinter::LineHeight;
 
-// The lines of a paragraph in a frame of so many characters.
+// The lines of a paragraph on a sheet of this many characters.
 QStringList wrapped(const QString &text, int characters)
 {
     RecordingPrinter printer(characters, 1000);
@@ -40,9 +40,8 @@ private Q_SLOTS:
         };
         row("fits", u"abc def"_s, {u"abc def"_s});
         row("fits exactly", u"abcd fghij"_s, {u"abcd fghij"_s});
-        row("one too many", u"abcd fghijk"_s, {u"abcd"_s, u"fghijk"_s});
-        row("the blank is the one that reaches the width", u"abcdefghi k"_s,
-            {u"abcdefghi"_s, u"k"_s});
+        row("one character too many", u"abcd fghijk"_s, {u"abcd"_s, u"fghijk"_s});
+        row("a blank that fills the line", u"abcdefghi k"_s, {u"abcdefghi"_s, u"k"_s});
         // A line that is exactly as wide as the frame is full: the blank after it belongs to the
         // next line.
         row("a word that fills the line after a blank", u"abcd fghij klm"_s,
@@ -62,9 +61,9 @@ private Q_SLOTS:
             {u"ab"_s, u"cdefghijkl"_s, u"m no"_s});
         row("no-break spaces are no blanks", u"ab\u00A0cdefghijk"_s,
             {u"ab\u00A0cdefghi"_s, u"jk"_s});
-        row("a pair stays together", u"abcdefghi\U0001F600jk"_s,
+        row("a surrogate pair stays together", u"abcdefghi\U0001F600jk"_s,
             {u"abcdefghi"_s, u"\U0001F600jk"_s});
-        row("half a pair is a character like any other", u"abcdefghi\xD83Djk"_s,
+        row("half a surrogate pair counts as a character", u"abcdefghi\xD83Djk"_s,
             {u"abcdefghi\xD83D"_s, u"jk"_s});
     }
 
@@ -74,14 +73,14 @@ private Q_SLOTS:
         QTEST(wrapped(text, Characters), "lines");
     }
 
-    void aBlankBeforeAWordWiderThanTheLineEndsALineOfNothing()
+    void aBlankBeforeAWordWiderThanTheLineGivesAnEmptyLine()
     {
         RecordingPrinter printer(Characters, Lines);
         printWrapped(printer, u" abcdefghijkl"_s, {});
         QCOMPARE(printer.places(), QStringList({u"1: 0,1 abcdefghij"_s, u"1: 0,2 kl"_s}));
     }
 
-    void withoutAnyRoomEachCharacterIsALine()
+    void ifTheMarginsLeaveNoRoomEachCharacterIsALine()
     {
         RecordingPrinter printer(Characters, Lines);
         printWrapped(printer, u"abc"_s, {0, 0, 6 * Character, 6 * Character});
@@ -139,7 +138,7 @@ private Q_SLOTS:
                  QStringList({u"1: 1,2 a"_s, u"1: 1,3 b"_s, u"2: 1,1 c"_s, u"2: 1,2 d"_s}));
     }
 
-    void theFixedLayoutGoesOnInTheCornerOfANewPage()
+    void theFixedLayoutContinuesInTheCornerOfANewPage()
     {
         RecordingPrinter printer(Characters, 6);
         const PageFrame frame{Line, 3 * Line, Character, 5 * Character, PageFrame::Break::ToCorner};
@@ -168,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(printer.places(), QStringList({u"1: 0,3 a"_s, u"2: 0,3 b"_s}));
     }
 
-    void aLongParagraphIsMeasuredOnceALine()
+    void theTimeForALongParagraphIsProportionalToItsLength()
     {
         const auto measuredFor = [](int words) {
             RecordingPrinter printer(Characters, 100'000);

@@ -108,7 +108,7 @@ class frmPrint_Layout_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everythingHasItsPlace_data()
+    void controlsDoNotOverlapAndAreNotCutOff_data()
     {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<double>("fontScale");
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QTest::newRow("1920x1080, large font") << QSize(1920, 1080) << 1.5;
     }
 
-    void everythingHasItsPlace()
+    void controlsDoNotOverlapAndAreNotCutOff()
     {
         QFETCH(QSize, size);
         QFETCH(double, fontScale);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         }
     }
 
-    void itOpensInsideASmallScreen()
+    void theDialogFitsOnASmallScreen()
     {
         PrintForm form;
         QVERIFY(form.dialog().width() <= 1024 && form.dialog().height() <= 768 - 40);
@@ -193,7 +193,7 @@ private Q_SLOTS:
         }
     }
 
-    void tabGoesThroughTheControlsInTheirOrder()
+    void theTabOrderFollowsTheLayout()
     {
         PrintForm form;
         form.click("optSubset");
@@ -211,13 +211,13 @@ private Q_SLOTS:
                               u"cmdZoom"_s}));
     }
 
-    void theKeyboardIsInThePrintersAtFirst()
+    void theListOfPrintersHasTheFocusFirst()
     {
         PrintForm form;
         QCOMPARE(Controls::focusedControl(), u"lstPrinter"_s);
     }
 
-    void theKeysOfTheButtonsDiffer()
+    void eachButtonHasAShortcutOfItsOwn()
     {
         PrintForm form;
         std::set<QChar> keys;
@@ -308,7 +308,7 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().CurrentWord(), Integer(500));
     }
 
-    void theZoomButtonSaysWhatItDoes()
+    void theZoomButtonNamesTheNextZoom()
     {
         PrintForm form;
         QCOMPARE(form.control<QPushButton>("cmdZoom").text(), u"Actual size"_s);

@@ -80,7 +80,7 @@ class frmPrint_Pdf_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theTextIsThereInItsOrderAndCanBeCopied()
+    void theTextOfThePdfFileCanBeReadInOrder()
     {
         PrintForm form;
         gVocabList().ClearList();
@@ -94,7 +94,7 @@ private Q_SLOTS:
                  "\u2014 \u20AC 5 2. office: first second AVATAR fjord waffle"_s);
     }
 
-    void theFontIsBoldRegularAndItalic()
+    void theFontsAreBoldRegularAndItalic()
     {
         PrintForm form;
         gVocabList().ClearList();
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(styles, QStringList({u"bold"_s, u"italic"_s, u"regular"_s}));
     }
 
-    void theFirstLineIsAtTheMarginsAndNoWordIsBeyondThem()
+    void theTextBeginsAtTheMarginsAndStaysWithinThem()
     {
         PrintForm form;
         fillWithProse(40);
@@ -142,7 +142,7 @@ private Q_SLOTS:
             QVERIFY2(place(word).left() >= body.left() - 0.02, text);
             QVERIFY2(place(word).right() <= body.right() + 0.02, text);
             QVERIFY2(place(word).top() >= body.top() - 0.06, text);
-            // Lines begin at the bottom margin at the latest, a header up to two lines below.
+            // The last line begins at the bottom margin, a header at most two lines below it.
             QVERIFY2(place(word).top() <= body.bottom() + 2 * Line, text);
         }
         QVERIFY(words.front().sheet.width() < words.front().sheet.height());
@@ -223,10 +223,10 @@ private Q_SLOTS:
         QCOMPARE(TopMargin, Currency(2));
     }
 
-    void aFileThatCannotBeWrittenIsTold()
+    void aFileThatCannotBeWrittenIsReported()
     {
         PrintForm form;
-        // Nobody can create a file here.
+        // No file can be created in this folder.
         const QString path = u"/sys/list.pdf"_s;
         form.answers.chooseFile(path);
         form.answers.expectAnyMsgBox(QMessageBox::Ok, [path](QMessageBox &box) {
@@ -242,14 +242,14 @@ private Q_SLOTS:
         QCOMPARE(textOf(print(form)).simplified(), contentText());
     }
 
-    void aCancelledJobLeavesTheOldFileOrNone_data()
+    void aCancelledJobChangesNoFile_data()
     {
         QTest::addColumn<QByteArray>("old");
         QTest::newRow("no file") << QByteArray();
         QTest::newRow("an old file") << QByteArray("old");
     }
 
-    void aCancelledJobLeavesTheOldFileOrNone()
+    void aCancelledJobChangesNoFile()
     {
         QFETCH(QByteArray, old);
         PrintForm form;
@@ -283,7 +283,7 @@ private Q_SLOTS:
         QCOMPARE(words.back().page, 1);
     }
 
-    void theCurrentEntryIsTheLastPrinted()
+    void theLastPrintedEntryIsTheCurrentOne()
     {
         PrintForm form;
         gVocabList().CurrentWord(3);

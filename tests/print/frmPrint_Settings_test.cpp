@@ -46,7 +46,7 @@ class frmPrint_Settings_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theCaptionsAreTheProgramsOwn()
+    void theControlsHaveTheirCaptions()
     {
         PrintForm form;
         QCOMPARE(form.dialog().windowTitle(), u"Print"_s);
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(form.control<StepBar>("vsc_Copies").maximum(), 32767);
     }
 
-    void thePrintersEndWithTheFileAndTheCurrentOneIsMarked()
+    void printToPdfIsTheLastPrinterAndTheCurrentOneIsSelected()
     {
         PrintForm form;
         const auto &list = form.control<QListWidget>("lstPrinter");
@@ -122,7 +122,7 @@ private Q_SLOTS:
         QCOMPARE(SystemPrinter::installed(), QStringList(u"Print to PDF"_s));
     }
 
-    void aClickWithControlLeavesTheCurrentPrinterMarked()
+    void ctrlClickLeavesTheCurrentPrinterSelected()
     {
         PrintForm form;
         auto &list = form.control<QListWidget>("lstPrinter");
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(list.selectedItems().constFirst()->text(), form.printer.DeviceName());
     }
 
-    void aPrinterThatIsChosenBecomesTheCurrentOne()
+    void aClickOnAPrinterMakesItTheCurrentOne()
     {
         PrintForm form;
         form.printer.select(u"gone"_s);
@@ -146,7 +146,7 @@ private Q_SLOTS:
         QCOMPARE(form.printer.DeviceName(), u"Print to PDF"_s);
     }
 
-    void aPrinterWhoseNameDiffersInCaseIsNotTaken()
+    void theNamesOfPrintersAreCaseSensitive()
     {
         PrintForm form;
         form.printer.select(u"gone"_s);
@@ -157,17 +157,17 @@ private Q_SLOTS:
         QCOMPARE(form.printer.DeviceName(), u"gone"_s);
     }
 
-    void theOpeningTurnsThePrinter_data()
+    void theDialogSetsTheOrientationWhenItOpens_data()
     {
         QTest::addColumn<QString>("setting");
         QTest::addColumn<bool>("landscape");
         QTest::newRow("Portrait") << u"Portrait"_s << false;
         QTest::newRow("Landscape") << u"Landscape"_s << true;
         QTest::newRow("nothing") << QString() << true;
-        QTest::newRow("other letters") << u"portrait"_s << true;
+        QTest::newRow("lower case") << u"portrait"_s << true;
     }
 
-    void theOpeningTurnsThePrinter()
+    void theDialogSetsTheOrientationWhenItOpens()
     {
         QFETCH(QString, setting);
         QFETCH(bool, landscape);
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(PrintOrientation, landscape ? u"Landscape"_s : u"Portrait"_s);
     }
 
-    void theOpeningShowsTheNumbering()
+    void theDialogShowsWhetherItemNumbersArePrinted()
     {
         PrintForm form;
         QVERIFY(form.isChecked("chkPrintItemNumber"));
@@ -194,7 +194,7 @@ private Q_SLOTS:
         QVERIFY(PrintItemNumber);
     }
 
-    void aRangeWithout0IsShownAsItIs_data()
+    void aRangeThatIsSetIsShownUnchanged_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -203,7 +203,7 @@ private Q_SLOTS:
         QTest::newRow("beyond the list") << 30 << 100;
     }
 
-    void aRangeWithout0IsShownAsItIs()
+    void aRangeThatIsSetIsShownUnchanged()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -220,7 +220,7 @@ private Q_SLOTS:
         QCOMPARE(ToWord, Integer(to));
     }
 
-    void a0InEitherEndIsTheWholeList_data()
+    void aRangeThatIsNotSetBecomesTheWholeList_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -228,7 +228,7 @@ private Q_SLOTS:
         QTest::newRow("to") << 7 << 0;
     }
 
-    void a0InEitherEndIsTheWholeList()
+    void aRangeThatIsNotSetBecomesTheWholeList()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -242,7 +242,7 @@ private Q_SLOTS:
             QVERIFY2(!form.isEnabled(name), name);
     }
 
-    void theSubsetKeepsTheRange()
+    void choosingTheSubsetKeepsTheRange()
     {
         PrintForm form;
         FromWord = 3;
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QCOMPARE(ToWord, Integer(20));
         for (const char *name : {"txtFromWord", "txtToWord", "lblFrom", "lblTo"})
             QVERIFY2(!form.isEnabled(name), name);
-        // The boxes still show the range before.
+        // The boxes still show the previous range.
         QCOMPARE(form.text("txtFromWord"), u"3"_s);
         QCOMPARE(form.text("txtToWord"), u"7"_s);
         form.click("optSubset");
@@ -264,7 +264,7 @@ private Q_SLOTS:
         QVERIFY(form.isEnabled("txtFromWord"));
     }
 
-    void bothEndsAreKeptThoughTheStartIsBehindTheEnd()
+    void aRangeThatRunsDownwardsIsKept()
     {
         PrintForm form;
         form.click("optSubset");
@@ -276,7 +276,7 @@ private Q_SLOTS:
         QCOMPARE(form.text("txtToWord"), u"4"_s);
     }
 
-    void eachEndIsBroughtIntoTheList_data()
+    void aTypedPositionIsLimitedToTheList_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("position");
@@ -285,16 +285,16 @@ private Q_SLOTS:
         QTest::newRow("0") << u"0"_s << 1 << u"1"_s;
         QTest::newRow("-3") << u"-3"_s << 1 << u"1"_s;
         QTest::newRow("blanks around it") << u"  6 "_s << 6 << u"6"_s;
-        QTest::newRow("a half to even") << u"6.5"_s << 6 << u"6"_s;
-        QTest::newRow("beyond 16 bits") << u"70000"_s << 20 << u"20"_s;
-        QTest::newRow("far below 16 bits") << u"-70000"_s << 1 << u"1"_s;
+        QTest::newRow("a half is rounded to even") << u"6.5"_s << 6 << u"6"_s;
+        QTest::newRow("above the 16-bit range") << u"70000"_s << 20 << u"20"_s;
+        QTest::newRow("below the 16-bit range") << u"-70000"_s << 1 << u"1"_s;
         QTest::newRow("with an exponent") << u"-1e9"_s << 1 << u"1"_s;
         QTest::newRow("no number") << u"6th"_s << 5 << u"5"_s;
         QTest::newRow("a blank") << u" "_s << 5 << u"5"_s;
         QTest::newRow("nothing") << QString() << 5 << QString();
     }
 
-    void eachEndIsBroughtIntoTheList()
+    void aTypedPositionIsLimitedToTheList()
     {
         QFETCH(QString, typed);
         for (const End &end : Ends) {
@@ -309,7 +309,7 @@ private Q_SLOTS:
         }
     }
 
-    void withAnEmptyListAnyNumberIs1()
+    void withAnEmptyListAnyNumberBecomes1()
     {
         for (const End &end : Ends)
             for (const QString &typed : {u"7"_s, u"0"_s, u"-3"_s, u"40000"_s}) {
@@ -321,7 +321,7 @@ private Q_SLOTS:
             }
     }
 
-    void hundredthsStayWhereTheBarDoesNotMove()
+    void hundredthsAreKeptIfTheBarDoesNotMove()
     {
         for (const Margin &margin : Margins) {
             PrintForm form;
@@ -350,7 +350,7 @@ private Q_SLOTS:
         }
     }
 
-    void aMarginBeyondItsTypeIsTheNearestOne()
+    void aMarginOutOfTheRangeOfItsTypeIsLimited()
     {
         for (const Margin &margin : Margins) {
             PrintForm form;
@@ -382,7 +382,7 @@ private Q_SLOTS:
         }
     }
 
-    void theBottomBarAloneTakesItsBoxWhenItIsLeft()
+    void onlyTheBottomBarTakesTheTypedTextWhenItLosesTheFocus()
     {
         for (const Margin &margin : Margins) {
             PrintForm form;
@@ -400,7 +400,7 @@ private Q_SLOTS:
         }
     }
 
-    void typingCopiesChangesNothing()
+    void typingANumberOfCopiesChangesNothing()
     {
         PrintForm form;
         QCOMPARE(form.text("txtCopies"), u"1"_s);
@@ -463,7 +463,7 @@ private Q_SLOTS:
         QCOMPARE(form.text("txtRightMargin"), u"2.00"_s);
     }
 
-    void enterTakesWhatIsTypedInEachBox_data()
+    void enterTakesTheTypedTextOfEachBox_data()
     {
         QTest::addColumn<QByteArray>("box");
         for (const End &end : Ends)
@@ -472,7 +472,7 @@ private Q_SLOTS:
             QTest::newRow(margin.box()) << margin.box();
     }
 
-    void enterTakesWhatIsTypedInEachBox()
+    void enterTakesTheTypedTextOfEachBox()
     {
         QFETCH(QByteArray, box);
         PrintForm form;
@@ -489,7 +489,7 @@ private Q_SLOTS:
         QCOMPARE(taken, 1);
     }
 
-    void aPrinterThatIsGoneIsTold()
+    void aMissingPrinterIsReported()
     {
         PrintForm form;
         form.printer.select(u"gone"_s);

@@ -24,7 +24,7 @@ class frmPrint_test : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void withoutARangeAllWordsAreThatRange()
+    void aRangeThatIsNotSetBecomesAllWords()
     {
         PrintForm form;
         QCOMPARE(FromWord, Integer(1));
@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(form.isChecked("optPrintAllWords"));
     }
 
-    void aMarginIsTakenWhenItsBoxIsLeft_data()
+    void aMarginIsTakenWhenItsBoxLosesTheFocus_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("margin");
@@ -57,15 +57,16 @@ private Q_SLOTS:
         QTest::newRow("tenths") << u"0.5"_s << u"0.5"_s << u"0.50"_s << 5;
         QTest::newRow("too large") << u"7"_s << u"3"_s << u"3.00"_s << 30;
         QTest::newRow("below 0") << u"-1"_s << u"0"_s << u"0.00"_s << 0;
-        QTest::newRow("beyond the type") << u"1e40"_s << u"3"_s << u"3.00"_s << 30;
+        QTest::newRow("out of the range of its type") << u"1e40"_s << u"3"_s << u"3.00"_s << 30;
         QTest::newRow("hundredths move the bar") << u"1.26"_s << u"1.3"_s << u"1.30"_s << 13;
-        QTest::newRow("hundredths do not move it") << u"1.04"_s << u"1.04"_s << u"1.04"_s << 10;
-        QTest::newRow("a half to even") << u"1.05"_s << u"1.05"_s << u"1.05"_s << 10;
+        QTest::newRow("hundredths do not move the bar")
+            << u"1.04"_s << u"1.04"_s << u"1.04"_s << 10;
+        QTest::newRow("a half is rounded to even") << u"1.05"_s << u"1.05"_s << u"1.05"_s << 10;
         QTest::newRow("no number") << u"x"_s << u"1"_s << u"1.00"_s << 10;
         QTest::newRow("nothing") << QString() << u"1"_s << u"1.00"_s << 10;
     }
 
-    void aMarginIsTakenWhenItsBoxIsLeft()
+    void aMarginIsTakenWhenItsBoxLosesTheFocus()
     {
         QFETCH(QString, typed);
         QFETCH(QString, margin);
@@ -84,7 +85,7 @@ private Q_SLOTS:
         }
     }
 
-    void aReopenedDialogShowsTheMarginsAndItsBarsFollowThem()
+    void aReopenedDialogShowsTheMarginsInBoxesAndBars()
     {
         PrintForm form;
         form.typeAndLeave("txtTopMargin", u"1.3"_s);
@@ -96,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(form.value("vsc_TopMargin"), 13);
     }
 
-    void theOrientationIsThePrintersAtOnce()
+    void theOrientationIsSetOnThePrinterAtOnce()
     {
         PrintForm form;
         const double width = form.printer.ScaleWidth();
@@ -111,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(form.printer.ScaleWidth(), width);
     }
 
-    void thePreviewMovesNoEntry()
+    void thePreviewDoesNotChangeTheCurrentEntry()
     {
         PrintForm form;
         gVocabList().CurrentWord(7);
@@ -152,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().CurrentWord(), Integer(3));
     }
 
-    void cancelTakesWhatIsTypedInABox_data()
+    void cancelTakesTheTypedText_data()
     {
         QTest::addColumn<std::function<void(frmPrint &)>>("leave");
         using Leave = std::function<void(frmPrint &)>;
@@ -162,7 +163,7 @@ private Q_SLOTS:
         QTest::newRow("the close box") << Leave([](frmPrint &dialog) { dialog.close(); });
     }
 
-    void cancelTakesWhatIsTypedInABox()
+    void cancelTakesTheTypedText()
     {
         QFETCH(std::function<void(frmPrint &)>, leave);
         PrintForm form;
