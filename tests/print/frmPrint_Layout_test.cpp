@@ -305,7 +305,21 @@ private Q_SLOTS:
         form.click("optSubset");
         form.typeAndLeave("txtToWord", u"2"_s);
         QCOMPARE(pages(), 1);
+        form.click("optPrintAllWords");
+        QCOMPARE(pages(), all);
         QCOMPARE(gVocabList().CurrentWord(), Integer(500));
+    }
+
+    void thePreviewFollowsHundredthsOfAnInch()
+    {
+        PrintForm form(2);
+        const auto picture = [&form] { return form.control<QWidget>("preview").grab().toImage(); };
+        QTRY_COMPARE(form.control<QLabel>("lblPage").text(), u"Page 1 of 1"_s);
+        const QImage before = picture();
+        QCOMPARE(picture(), before);
+        form.typeAndLeave("txtLeftMargin", u"0.04"_s);
+        QCOMPARE(form.value("vsc_LeftMargin"), 0);
+        QVERIFY(picture() != before);
     }
 
     void theZoomButtonNamesTheNextZoom()

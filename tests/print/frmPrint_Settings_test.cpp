@@ -3,6 +3,7 @@
 #include "print/PrintForm.h"
 #include "support/FormTest.h"
 
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
@@ -361,8 +362,11 @@ private Q_SLOTS:
             QCOMPARE(*margin.setting, Currency(0));
             QCOMPARE(form.text(margin.box()), u"0.00"_s);
             QCOMPARE(form.value(margin.bar()), 0);
-            form.typeAndLeave(margin.box(), u"7"_s);
-            QCOMPARE(form.value(margin.bar()), 30);
+            for (const QString &typed : {u"7"_s, u"8"_s}) { // the second one does not move the bar
+                form.typeAndLeave(margin.box(), typed);
+                QCOMPARE(form.text(margin.box()), u"3.00"_s);
+                QCOMPARE(form.value(margin.bar()), 30);
+            }
         }
     }
 
@@ -477,15 +481,17 @@ private Q_SLOTS:
         QFETCH(QByteArray, box);
         PrintForm form;
         form.click("optSubset");
-        form.answers.cancelFileDialog();
+        // The text must be taken before the job starts, not only when the dialog closes.
+        int taken = 0;
+        form.answers.cancelFileDialog([&](QFileDialog &) {
+            for (const End &end : Ends)
+                taken += end.box == box && *end.setting == 2 ? 1 : 0;
+            for (const Margin &margin : Margins)
+                taken += margin.box() == box && *margin.setting == 2 ? 1 : 0;
+        });
         form.type(box, u"2"_s);
         Controls::press(Qt::Key_Return);
         QVERIFY(form.answers.allSeen());
-        int taken = 0;
-        for (const End &end : Ends)
-            taken += end.box == box && *end.setting == 2 ? 1 : 0;
-        for (const Margin &margin : Margins)
-            taken += margin.box() == box && *margin.setting == 2 ? 1 : 0;
         QCOMPARE(taken, 1);
     }
 
