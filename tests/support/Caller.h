@@ -5,9 +5,15 @@
 
 #include <QTest>
 
-#include <source_location>
+#include <version>
 
+#ifdef __cpp_lib_source_location
+#include <source_location>
 using Caller = std::source_location;
+#else // clang-tidy 14 lacks it
+#include <experimental/source_location>
+using Caller = std::experimental::source_location;
+#endif
 
 // Fails the running test and returns: the test goes on.
 inline void failTest(const QString &what, Caller caller = Caller::current())
