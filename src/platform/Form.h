@@ -24,7 +24,7 @@ protected:
     //   onClick(m_ui->cmdAdd, &frmMain::cmdAdd_Click);
     template <class Class> void onClick(QAbstractButton *button, void (Class::*handler)())
     {
-        Class *const form = static_cast<Class *>(this);
+        auto *const form = static_cast<Class *>(this);
         QObject::connect(button, &QAbstractButton::clicked, form, guarded(form, handler));
     }
 
