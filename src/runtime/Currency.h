@@ -43,7 +43,11 @@ public:
     {
         return fromScaled(a.m_scaled * b.toInt());
     }
-    friend constexpr auto operator<=>(Currency a, Currency b) = default;
+    friend constexpr bool operator==(Currency a, Currency b) = default;
+    friend constexpr std::strong_ordering operator<=>(Currency a, Currency b)
+    {
+        return a.m_scaled <=> b.m_scaled;
+    }
 
 private:
     // 14 digits: rounding may go through a double, and a product with an Integer fits 64 bits.
