@@ -75,7 +75,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("no bytes") << QByteArray();
-        QTest::newRow("half a count") << QByteArray("\x05");
+        QTest::newRow("half a count") << "\x05"_ba;
         QTest::newRow("count 0") << number16(0);
         QTest::newRow("count 0 before records") << number16(0) + addedRecord("cat");
     }

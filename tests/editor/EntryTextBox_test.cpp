@@ -237,7 +237,7 @@ private Q_SLOTS:
         window.box->selectAll();
         QMimeData *data = format.isEmpty() ? nullptr : new QMimeData;
         if (data && format.contains(u'/'))
-            data->setData(format, format == u"text/plain" ? QByteArray() : QByteArray("<p>x</p>"));
+            data->setData(format, format == u"text/plain" ? QByteArray() : "<p>x</p>"_ba);
         way(*window.box, data);
         QCOMPARE(window.box->text(), u"one\ntwo"_s);
         QApplication::clipboard()->clear();

@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 class ImportCommand final
 {
 public:
@@ -27,12 +29,12 @@ public:
 
     void importList(const QStringList &entries, Caller caller = Caller::current())
     {
-        import(QStringLiteral("words.lwx"), ImportTools::listFile(entries), {}, caller);
+        import(u"words.lwx"_s, ImportTools::listFile(entries), {}, caller);
     }
 
     void importDif(const QByteArrayList &lines, Caller caller = Caller::current())
     {
-        import(QStringLiteral("words.dif"), ImportTools::joined(lines), {}, caller);
+        import(u"words.dif"_s, ImportTools::joined(lines), {}, caller);
     }
 
     // What the person meets after the file dialog has been told before, by the functions below.

@@ -12,9 +12,11 @@
 #include <QScrollBar>
 #include <QTest>
 
-const QString EndLesson = QStringLiteral("End current lesson?");
-const QString SaveChanges = QStringLiteral("Do you want to save changes?");
-const QString CaptionStart = QStringLiteral("LexiBrook- The Tanglewit: ");
+using namespace Qt::StringLiterals;
+
+const QString EndLesson = u"End current lesson?"_s;
+const QString SaveChanges = u"Do you want to save changes?"_s;
+const QString CaptionStart = u"LexiBrook- The Tanglewit: "_s;
 
 using Entries = QList<QStringList>; // word, definition and sentence each
 
@@ -23,9 +25,8 @@ inline Entries someEntries(int count, const QString &name)
 {
     Entries entries;
     for (int i = 1; i <= count; ++i)
-        entries += {QStringLiteral("%1 %2").arg(name).arg(i),
-                    QStringLiteral("definition %2 of %1").arg(name).arg(i),
-                    QStringLiteral("sentence %2 of %1").arg(name).arg(i)};
+        entries += {u"%1 %2"_s.arg(name).arg(i), u"definition %2 of %1"_s.arg(name).arg(i),
+                    u"sentence %2 of %1"_s.arg(name).arg(i)};
     return entries;
 }
 
@@ -82,12 +83,12 @@ inline void openList(MainWindow &main, const QString &path, Caller caller = Call
 inline void addEntry(MainWindow &main, const QString &word, Caller caller = Caller::current())
 {
     main.click("cmdNewWord", caller);
-    main.typeEntry(word, QStringLiteral("a definition"), QStringLiteral("A sentence."), caller);
+    main.typeEntry(word, u"a definition"_s, u"A sentence."_s, caller);
     main.click("cmdAdd", caller);
     main.click("cmdAbort", caller);
 }
 
 inline QStringList addedEntry(const QString &word)
 {
-    return {word, QStringLiteral("a definition"), QStringLiteral("A sentence.")};
+    return {word, u"a definition"_s, u"A sentence."_s};
 }

@@ -81,7 +81,7 @@ private Q_SLOTS:
         for (const QString &name : files) {
             QFile file(folder.filePath(name));
             QVERIFY(file.open(QIODevice::ReadOnly));
-            QCOMPARE(file.readAll(), QByteArray("mine"));
+            QCOMPARE(file.readAll(), "mine"_ba);
         }
     }
 

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace UnsavedCopies {
 
 inline QString path(const QString &name)
@@ -18,8 +20,8 @@ inline QString path(const QString &name)
 inline QStringList names()
 {
     return QDir(pathOf(Place::WordLists))
-        .entryList({QStringLiteral("*(not saved)*")},
-                   QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Name);
+        .entryList({u"*(not saved)*"_s}, QDir::AllEntries | QDir::Hidden | QDir::System,
+                   QDir::Name);
 }
 
 // Whether the timer of the copy runs.

@@ -152,8 +152,8 @@ private Q_SLOTS:
     void inAnEmptiedBoxUndoBringsNothingBack_data()
     {
         QTest::addColumn<QByteArray>("button");
-        QTest::newRow("Add") << QByteArrayLiteral("cmdAdd");
-        QTest::newRow("Abort and New Word") << QByteArrayLiteral("cmdAbort");
+        QTest::newRow("Add") << "cmdAdd"_ba;
+        QTest::newRow("Abort and New Word") << "cmdAbort"_ba;
     }
 
     void inAnEmptiedBoxUndoBringsNothingBack()

@@ -18,7 +18,7 @@ const QString SaveChanges = u"Your changes have not been saved.  Do you want to 
 
 void leave(MainWindow &main, const QString &way)
 {
-    if (way == QLatin1String("File > Exit"))
+    if (way == u"File > Exit"_s)
         main.choose("mnuExit");
     else
         main.window().close();

@@ -71,7 +71,7 @@ private Q_SLOTS:
             }
             main.choose("mnuOpen");
             QVERIFY(main.answers.allSeen());
-            const QByteArray about = QByteArrayLiteral("file ") + QByteArray::number(i);
+            const QByteArray about = "file "_ba + QByteArray::number(i);
             if (expected)
                 QVERIFY2(sameText(openEntries(), *expected), about.constData());
             else

@@ -365,7 +365,7 @@ private Q_SLOTS:
         m_main->answers.cancelFileDialog();
         m_main->choose("mnuSaveAs");
         QVERIFY(OpenList(*m_main) == before);
-        QCOMPARE(readFile(m_other), QByteArray("something else"));
+        QCOMPARE(readFile(m_other), "something else"_ba);
 
         m_main->answers.chooseFile(m_other);
         m_main->answers.answerOverwrite(u"other.lwx"_s, QMessageBox::Yes);

@@ -84,13 +84,13 @@ private Q_SLOTS:
         const QString dog = u"dog|2"_s;
         const QString cow = u"cow|3"_s;
         QTest::newRow("no end of the data")
-            << 32 << QByteArray("END") << subscript << QStringList{cat, dog, cow};
+            << 32 << "END"_ba << subscript << QStringList{cat, dog, cow};
         QTest::newRow("cut off") << 0 << QByteArray() << subscript << QStringList{cat};
-        QTest::newRow("no number") << 5 << QByteArray("0,V") << mismatch << QStringList();
-        QTest::newRow("no number of values") << 8 << QByteArray("0,T") << mismatch << QStringList();
+        QTest::newRow("no number") << 5 << "0,V"_ba << mismatch << QStringList();
+        QTest::newRow("no number of values") << 8 << "0,T"_ba << mismatch << QStringList();
         QTest::newRow("a number instead of a word")
-            << 28 << QByteArray("V") << invalid << QStringList{cat, dog};
-        QTest::newRow("too many values") << 8 << QByteArray("0,40000") << overflow << QStringList();
+            << 28 << "V"_ba << invalid << QStringList{cat, dog};
+        QTest::newRow("too many values") << 8 << "0,40000"_ba << overflow << QStringList();
     }
 
     void aFileThatCannotBeImportedIsReported()

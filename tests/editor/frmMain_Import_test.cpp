@@ -94,11 +94,11 @@ private Q_SLOTS:
                  "the folder for temporary files must have no dot in its path");
         main.fill({u"dog"_s});
         gFileName = u"open list"_s;
-        const bool isDif = kind == QLatin1String("dif");
+        const bool isDif = kind == u"dif"_s;
         if (!kind.isEmpty())
             m_command->expectMsgBox((isDif ? Added : Imported).arg(1));
         const bool asDif =
-            isDif || (kind.isEmpty() && name.endsWith(QLatin1String("dif"), Qt::CaseInsensitive));
+            isDif || (kind.isEmpty() && name.endsWith(u"dif"_s, Qt::CaseInsensitive));
         m_command->import(name, asDif ? joined(difLinesOf({u"cat|1"_s})) : listFile({u"cat|1"_s}));
         QCOMPARE(gVocabList().NumWords().toInt(), kind.isEmpty() ? 1 : 2);
         QCOMPARE(gFileName, u"open list"_s);
@@ -381,8 +381,7 @@ private Q_SLOTS:
             gVocabList().CurrentWord(2);
             gVocabList().Edit(u"edited"_s, {}, {});
         });
-        const int cameIn =
-            answer == QLatin1String("cmdYes") || answer == QLatin1String("cmdYesToAll");
+        const int cameIn = answer == u"cmdYes"_s || answer == u"cmdYesToAll"_s;
         m_command->expectMsgBox(Imported.arg(1 + cameIn),
                                 [&](QMessageBox &) { QCOMPARE(m_command->words(), words); });
         m_command->importList({u"new"_s, u"OLD"_s});

@@ -34,7 +34,7 @@ QList<QWidget *> visibleControls(const QWidget &window)
     QList<QWidget *> controls;
     const QList<QWidget *> all = window.findChildren<QWidget *>();
     for (QWidget *control : all)
-        if (control->isVisible() && !control->objectName().startsWith(QLatin1String("qt_")) &&
+        if (control->isVisible() && !control->objectName().startsWith(u"qt_"_s) &&
             !control->objectName().isEmpty())
             controls += control;
     return controls;
@@ -141,11 +141,11 @@ private Q_SLOTS:
         QFETCH(QString, mode);
         MainWindow main;
         main.fill(30);
-        if (mode == QLatin1String("new word"))
+        if (mode == u"new word"_s)
             main.click("cmdNewWord");
-        else if (mode == QLatin1String("editing"))
+        else if (mode == u"editing"_s)
             main.clickCell(2, 1);
-        else if (mode == QLatin1String("search"))
+        else if (mode == u"search"_s)
             main.click("cmdSearch");
         QApplication::processEvents();
         checkNothingIsCut(main);

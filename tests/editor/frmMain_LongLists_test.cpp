@@ -143,9 +143,9 @@ private Q_SLOTS:
     void theDialogsOpenWithTheLongestList_data()
     {
         QTest::addColumn<QByteArray>("menuItem");
-        QTest::newRow("dlgQuickFlash") << QByteArrayLiteral("mnuQuickFlash");
-        QTest::newRow("dlgExport") << QByteArrayLiteral("mnuExport");
-        QTest::newRow("frmPrint") << QByteArrayLiteral("mnuPrint");
+        QTest::newRow("dlgQuickFlash") << "mnuQuickFlash"_ba;
+        QTest::newRow("dlgExport") << "mnuExport"_ba;
+        QTest::newRow("frmPrint") << "mnuPrint"_ba;
     }
 
     void theDialogsOpenWithTheLongestList()
@@ -163,7 +163,7 @@ private Q_SLOTS:
         m_main->choose("mnuPlayScramble");
         QWidget *game = nullptr;
         for (QWidget *window : QApplication::topLevelWidgets())
-            if (window->objectName() == QLatin1String("frmTanglewit") && window->isVisible())
+            if (window->objectName() == u"frmTanglewit"_s && window->isVisible())
                 game = window;
         QVERIFY(game);
         QCOMPARE(gOrderSize.toInt(), 1000);

@@ -178,7 +178,7 @@ private Q_SLOTS:
         file.close();
         setUpPrinter({});
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("old"));
+        QCOMPARE(file.readAll(), "old"_ba);
     }
 
     void pageSetupTurnsTheSheet()

@@ -181,7 +181,7 @@ private Q_SLOTS:
         for (const QAction *item : actions) {
             const QString name = item->menu() ? item->menu()->objectName() : item->objectName();
             found += name.toLatin1();
-            QCOMPARE(item->isSeparator(), name.startsWith(QLatin1String("sep")));
+            QCOMPARE(item->isSeparator(), name.startsWith(u"sep"_s));
             QVERIFY(item->isSeparator() || !item->text().isEmpty());
         }
         QCOMPARE(found, items);

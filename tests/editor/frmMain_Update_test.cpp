@@ -107,14 +107,14 @@ private Q_SLOTS:
         QFETCH(QString, mode);
         MainWindow main;
         main.fill(3);
-        if (mode == QLatin1String("new word")) {
+        if (mode == u"new word"_s) {
             main.click("cmdNewWord");
             main.typeEntry(u"cat"_s, u"animal"_s, u"Cat."_s);
-        } else if (mode == QLatin1String("editing")) {
+        } else if (mode == u"editing"_s) {
             main.clickCell(2, 1);
         } else {
             main.click("cmdSearch");
-            if (mode == QLatin1String("found")) {
+            if (mode == u"found"_s) {
                 main.type("txtWord", u"word 2"_s);
                 main.click("cmdSearch");
                 QCOMPARE(main.text("txtDefinition"), u"definition 2"_s);

@@ -23,9 +23,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("label");
         QTest::addColumn<QString>("text");
-        QTest::newRow("product") << QByteArray("lblProductName") << u"The Tanglewit"_s;
-        QTest::newRow("maker") << QByteArray("lblCompanyProduct") << u"LexiBrook"_s;
-        QTest::newRow("version") << QByteArray("lblVersion") << u"Version 1.0.0a"_s;
+        QTest::newRow("product") << "lblProductName"_ba << u"The Tanglewit"_s;
+        QTest::newRow("maker") << "lblCompanyProduct"_ba << u"LexiBrook"_s;
+        QTest::newRow("version") << "lblVersion"_ba << u"Version 1.0.0a"_s;
     }
 
     void theLabelsTellWhatIsStarting()

@@ -94,19 +94,19 @@ private Q_SLOTS:
     void theFirstCopyFindsNoOther()
     {
         Copy first;
-        QCOMPARE(first.answer(), QByteArray("first"));
+        QCOMPARE(first.answer(), "first"_ba);
         QVERIFY(first.end());
     }
 
     void aSecondCopyFindsTheFirstWhileItLives()
     {
         Copy first;
-        QCOMPARE(first.answer(), QByteArray("first"));
+        QCOMPARE(first.answer(), "first"_ba);
         Copy second;
-        QCOMPARE(second.answer(), QByteArray("second"));
+        QCOMPARE(second.answer(), "second"_ba);
         QVERIFY(second.end());
         Copy third;
-        QCOMPARE(third.answer(), QByteArray("second"));
+        QCOMPARE(third.answer(), "second"_ba);
         QVERIFY(third.end());
         QVERIFY(first.end());
     }
@@ -114,35 +114,35 @@ private Q_SLOTS:
     void aCopyThatEndedDoesNotCount()
     {
         Copy first;
-        QCOMPARE(first.answer(), QByteArray("first"));
+        QCOMPARE(first.answer(), "first"_ba);
         QVERIFY(first.end());
         Copy next;
-        QCOMPARE(next.answer(), QByteArray("first"));
+        QCOMPARE(next.answer(), "first"_ba);
         QVERIFY(next.end());
     }
 
     void aCopyThatWasKilledDoesNotCount()
     {
         Copy first;
-        QCOMPARE(first.answer(), QByteArray("first"));
+        QCOMPARE(first.answer(), "first"_ba);
         QVERIFY(first.kill());
         QVERIFY(QFile::exists(lockPath()));
         Copy next;
-        QCOMPARE(next.answer(), QByteArray("first"));
+        QCOMPARE(next.answer(), "first"_ba);
         QVERIFY(next.end());
     }
 
     void aCopyCountsForAsLongAsItRuns()
     {
         Copy first;
-        QCOMPARE(first.answer(), QByteArray("first"));
+        QCOMPARE(first.answer(), "first"_ba);
         QFile lock(lockPath());
         QVERIFY(lock.open(QIODevice::ReadWrite));
         QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addYears(-1),
                                  QFileDevice::FileModificationTime));
         lock.close();
         Copy second;
-        QCOMPARE(second.answer(), QByteArray("second"));
+        QCOMPARE(second.answer(), "second"_ba);
         QVERIFY(second.end());
         QVERIFY(first.end());
     }
@@ -151,11 +151,11 @@ private Q_SLOTS:
     void anEmptyLockThatNobodyHoldsDoesNotKeepTheProgramFromStarting()
     {
         Copy first;
-        QCOMPARE(first.answer(), QByteArray("first"));
+        QCOMPARE(first.answer(), "first"_ba);
         QVERIFY(first.kill());
         QVERIFY(QFile::resize(lockPath(), 0));
         Copy next;
-        QCOMPARE(next.answer(), QByteArray("first"));
+        QCOMPARE(next.answer(), "first"_ba);
         QVERIFY(next.end());
     }
 
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         qputenv("XDG_DATA_HOME", QFile::encodeName(notAFolder));
         Copy copy;
-        QCOMPARE(copy.answer(), QByteArray("first"));
+        QCOMPARE(copy.answer(), "first"_ba);
         QVERIFY(copy.end());
     }
 

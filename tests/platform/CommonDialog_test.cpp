@@ -230,7 +230,7 @@ private Q_SLOTS:
     {
         m_dialog->FileName = path("gone/cat.lwx");
         m_answers->acceptFileDialog([this](QFileDialog &dialog) {
-            QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx"));
+            QCOMPARE(offeredName(dialog), u"cat.lwx"_s);
             QCOMPARE(dialog.directory().absolutePath(), path("first"));
         });
         QVERIFY(m_dialog->ShowSave(nullptr));
@@ -239,13 +239,13 @@ private Q_SLOTS:
 
     void whereTheFolderIsMissingTheDialogStartsInTheNearestOneAbove()
     {
-        QVERIFY(QDir(path("first")).mkpath(QStringLiteral("class/week")));
+        QVERIFY(QDir(path("first")).mkpath(u"class/week"_s));
         m_dialog->OverwritePrompt = false;
         m_answers->chooseFile(path("first/class/week/cat.lwx"));
         QVERIFY(m_dialog->ShowSave(nullptr));
         QVERIFY(QDir(path("first/class")).removeRecursively());
         const auto inspect = [this](QFileDialog &dialog) {
-            QCOMPARE(offeredName(dialog), QStringLiteral("cat.lwx"));
+            QCOMPARE(offeredName(dialog), u"cat.lwx"_s);
             QCOMPARE(dialog.directory().absolutePath(), path("first"));
         };
         m_answers->cancelFileDialog(inspect);

@@ -84,7 +84,7 @@ private Q_SLOTS:
         file.close();
         QCOMPARE(pathOf(Place::Top10), path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("scores"));
+        QCOMPARE(file.readAll(), "scores"_ba);
     }
 
     void whatComesWithTheProgramIsFoundFromItsFolderAndNeverMade()

@@ -9,6 +9,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 SoundServer::SoundServer()
 {
     m_server.setProcessChannelMode(QProcess::MergedChannels);
@@ -21,14 +23,14 @@ SoundServer::~SoundServer()
 
 bool SoundServer::isInstalled()
 {
-    return !QStandardPaths::findExecutable(QStringLiteral("pulseaudio")).isEmpty() &&
-           !QStandardPaths::findExecutable(QStringLiteral("parec")).isEmpty();
+    return !QStandardPaths::findExecutable(u"pulseaudio"_s).isEmpty() &&
+           !QStandardPaths::findExecutable(u"parec"_s).isEmpty();
 }
 
 bool SoundServer::start()
 {
-    const QString socket = path(QStringLiteral("socket"));
-    const QString output = path(QStringLiteral("output"));
+    const QString socket = path(u"socket"_s);
+    const QString output = path(u"output"_s);
     const QByteArray home = QFile::encodeName(m_folder.path());
     for (const char *variable : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME"})
         qputenv(variable, home);
@@ -37,23 +39,18 @@ bool SoundServer::start()
         qunsetenv(variable);
 
     m_server.start(
-        QStringLiteral("pulseaudio"),
-        {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-         QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=no"),
-         QStringLiteral("--disable-shm=yes"), QStringLiteral("-L"),
-         QStringLiteral("module-pipe-sink file=%1 format=s16le channels=1 rate=%2")
-             .arg(output)
-             .arg(SampleRate),
-         QStringLiteral("-L"),
-         QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket});
+        u"pulseaudio"_s,
+        {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--use-pid-file=no"_s,
+         u"--disable-shm=yes"_s, u"-L"_s,
+         u"module-pipe-sink file=%1 format=s16le channels=1 rate=%2"_s.arg(output).arg(SampleRate),
+         u"-L"_s, u"module-native-protocol-unix auth-anonymous=1 socket="_s + socket});
     if (!m_server.waitForStarted() ||
         !QTest::qWaitFor([&socket] { return QFile::exists(socket); }, 20'000)) {
         qWarning() << "pulseaudio:" << m_server.errorString() << m_server.readAll();
         return false;
     }
     // A server that plays nothing writes nothing: with this it writes silence.
-    m_silence.start(QStringLiteral("pacat"),
-                    {QStringLiteral("--raw"), QStringLiteral("/dev/zero")});
+    m_silence.start(u"pacat"_s, {u"--raw"_s, u"/dev/zero"_s});
     const int pipe = ::open(QFile::encodeName(output).constData(), O_RDONLY | O_NONBLOCK);
     // The least that a pipe holds, so that what is heard is not long past.
     return m_silence.waitForStarted() && pipe >= 0 && ::fcntl(pipe, F_SETPIPE_SZ, 4096) >= 0 &&

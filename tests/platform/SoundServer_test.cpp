@@ -12,6 +12,8 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr unsigned Play = SoundFlags::Asynchronous | SoundFlags::Loop;
@@ -22,7 +24,7 @@ constexpr double WellHeard = 0.9;            // likeness of a sound and its reco
 
 QString pathOfTrack(const QString &name)
 {
-    return QStringLiteral("%1/%2.wav").arg(pathOf(Place::Audio), name);
+    return u"%1/%2.wav"_s.arg(pathOf(Place::Audio), name);
 }
 
 Sound soundOf(const QString &path)
@@ -68,7 +70,7 @@ private Q_SLOTS:
 
     void beforeTheFirstRequestNothingIsHeard()
     {
-        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        sndPlaySoundA(u"NULL"_s, 0);
         QVERIFY(listenFor(Second / 5));
         QCOMPARE(longestSilence(m_server.heard()), m_server.heard().size());
     }
@@ -88,13 +90,13 @@ private Q_SLOTS:
         for (const QString &other : allTracks()) {
             const double found = bestMatch(beginningOf(other), heardUpToNow).likeness;
             QVERIFY2(other == name || found < start.likeness - 0.2,
-                     qPrintable(QStringLiteral("%1 is heard: %2").arg(other).arg(found)));
+                     qPrintable(u"%1 is heard: %2"_s.arg(other).arg(found)));
         }
     }
 
     void aTrackGoesOnAtItsBeginningWithoutAGap()
     {
-        const QString path = pathOfTrack(QStringLiteral("fastbeat/Track03"));
+        const QString path = pathOfTrack(u"fastbeat/Track03"_s);
         const Sound track = soundOf(path);
         QVERIFY(track.size() > 15 * Second);
         const Match start = playAndListen(path, track, Second);
@@ -112,7 +114,7 @@ private Q_SLOTS:
 
     void aShortSoundIsLoopedWithoutAGapOverAndOver()
     {
-        const QString path = m_folder.filePath(QStringLiteral("noise.wav"));
+        const QString path = m_folder.filePath(u"noise.wav"_s);
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(waveBytes(int(Second), 1, 16, noise()));
@@ -136,7 +138,7 @@ private Q_SLOTS:
 
     void afterTheStopNothingIsHeard()
     {
-        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        sndPlaySoundA(u"NULL"_s, 0);
         QVERIFY(listenUntil([this] { return hasBeenSilentFor(Second / 5); }));
         listenFromNowOn();
         QVERIFY(listenFor(Second / 2));
@@ -148,21 +150,20 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         const QByteArray whole = waveBytes(int(Second), 1, 16, noise());
         QTest::newRow("missing") << QByteArray();
-        QTest::newRow("no wave file")
-            << QByteArray("This is no sound at all, whatever its length.");
+        QTest::newRow("no wave file") << "This is no sound at all, whatever its length."_ba;
         QTest::newRow("cut off") << whole.first(whole.size() / 2);
         QTest::newRow("compressed") << riff(formatChunk(int(Second), 1, 16, 2) + whole.mid(36));
     }
     void aFileThatCannotBePlayedStopsWhatIsPlaying()
     {
         QFETCH(const QByteArray, bytes);
-        const QString path = m_folder.filePath(QStringLiteral("damaged.wav"));
+        const QString path = m_folder.filePath(u"damaged.wav"_s);
         if (!bytes.isEmpty()) {
             QFile file(path);
             QVERIFY(file.open(QIODevice::WriteOnly));
             file.write(bytes);
         }
-        playUntilHeard(pathOfTrack(QStringLiteral("fastbeat/Track10")));
+        playUntilHeard(pathOfTrack(u"fastbeat/Track10"_s));
         sndPlaySoundA(path, Play);
         QVERIFY(listenUntil([this] { return hasBeenSilentFor(Second / 5); }));
     }
@@ -173,8 +174,7 @@ private Q_SLOTS:
         for (int run = 0; run < 10; ++run) {
             QVERIFY(listenUntil([this] { return hasBeenSilentFor(Second / 5); }));
             QProcess program;
-            program.start(QStringLiteral(PLAYING_CHILD),
-                          {pathOfTrack(QStringLiteral("fastbeat/Track10"))});
+            program.start(QStringLiteral(PLAYING_CHILD), {pathOfTrack(u"fastbeat/Track10"_s)});
             QVERIFY(listenUntil([this] { return !hasBeenSilentFor(Second / 5); }));
             program.write("\n");
             const auto hasEnded = [&program] { return program.state() == QProcess::NotRunning; };
@@ -186,10 +186,10 @@ private Q_SLOTS:
 
     void aServerThatEndsInTheMiddleIsNoFault()
     {
-        playUntilHeard(pathOfTrack(QStringLiteral("fastbeat/Track10")));
+        playUntilHeard(pathOfTrack(u"fastbeat/Track10"_s));
         m_server.stop();
-        sndPlaySoundA(pathOfTrack(QStringLiteral("fastbeat/Track09")), Play);
-        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        sndPlaySoundA(pathOfTrack(u"fastbeat/Track09"_s), Play);
+        sndPlaySoundA(u"NULL"_s, 0);
     }
 
 private:
@@ -198,9 +198,8 @@ private:
         QStringList names;
         for (int level = 1; level <= 10; ++level)
             for (const char *set : {"fastbeat", "softbeat"})
-                names += QStringLiteral("%1/Track%2")
-                             .arg(QLatin1String(set))
-                             .arg(level, 2, 10, QLatin1Char('0'));
+                names +=
+                    u"%1/Track%2"_s.arg(QLatin1String(set)).arg(level, 2, 10, QLatin1Char('0'));
         return names;
     }
 
@@ -255,8 +254,7 @@ private:
     }
     [[nodiscard]] QByteArray notHeard(double likeness) const
     {
-        return QStringLiteral("likeness %1, %2 s heard, %3 s of silence")
-            .arg(likeness)
+        return u"likeness %1, %2 s heard, %3 s of silence"_s.arg(likeness)
             .arg(double(heard().size()) / Second)
             .arg(double(longestSilence(heard())) / Second)
             .toUtf8();

@@ -34,7 +34,7 @@ private Q_SLOTS:
         QCOMPARE(wave->sampleRate, rate);
         QCOMPARE(wave->channels, channels);
         QCOMPARE(wave->bitsPerSample, bits);
-        QCOMPARE(wave->samples, QByteArray("12345678"));
+        QCOMPARE(wave->samples, "12345678"_ba);
     }
 
     void otherChunksArePassedOverWithTheByteAfterAnOddOne()
@@ -43,7 +43,7 @@ private Q_SLOTS:
             read(riff(chunk("LIST", "odd") + formatChunk(8000, 1, 8) + chunk("note", "even") +
                       chunk("data", "samples") + chunk("LIST", "more")));
         QVERIFY(wave);
-        QCOMPARE(wave->samples, QByteArray("samples"));
+        QCOMPARE(wave->samples, "samples"_ba);
     }
 
     void whatCannotBePlayedIsNothing_data()
@@ -51,7 +51,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         const QByteArray data = chunk("data", "12345678");
         QTest::newRow("empty") << QByteArray();
-        QTest::newRow("text") << QByteArray("This is no sound at all, however long it may be.");
+        QTest::newRow("text") << "This is no sound at all, however long it may be."_ba;
         QTest::newRow("another kind of RIFF file")
             << chunk("RIFF", "AVI " + formatChunk(8000, 1, 8) + data);
         QTest::newRow("no format") << riff(data);

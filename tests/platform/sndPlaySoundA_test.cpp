@@ -13,13 +13,15 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr unsigned Play = SoundFlags::Asynchronous | SoundFlags::Loop;
 
 bool libraryIsLoaded(const QByteArray &name)
 {
-    QFile maps(QStringLiteral("/proc/self/maps"));
+    QFile maps(u"/proc/self/maps"_s);
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(name);
 }
 
@@ -48,20 +50,19 @@ private Q_SLOTS:
     {
         QStringList requests;
         setSoundPlayer([&requests](const QString &fileName, unsigned flags) {
-            requests += QStringLiteral("%1 %2").arg(fileName).arg(flags);
+            requests += u"%1 %2"_s.arg(fileName).arg(flags);
         });
-        sndPlaySoundA(QStringLiteral("C:\\Track01.wav"), 9);
-        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        sndPlaySoundA(u"C:\\Track01.wav"_s, 9);
+        sndPlaySoundA(u"NULL"_s, 0);
         setSoundPlayer({});
-        QCOMPARE(requests,
-                 QStringList({QStringLiteral("C:\\Track01.wav 9"), QStringLiteral("NULL 0")}));
+        QCOMPARE(requests, QStringList({u"C:\\Track01.wav 9"_s, u"NULL 0"_s}));
     }
 
     void playingIsTheSumOfItsTwoFlags() { QCOMPARE(Play, 9U); }
 
     void beforeTheFirstSoundNothingOfItIsLoaded()
     {
-        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        sndPlaySoundA(u"NULL"_s, 0);
         QVERIFY(!libraryIsLoaded("tanglewit_sound"));
         QVERIFY(!libraryIsLoaded("Qt6Multimedia"));
         QVERIFY(!libraryIsLoaded("libpulse"));
@@ -75,7 +76,7 @@ private Q_SLOTS:
         sndPlaySoundA(m_wave, Play);
         sndPlaySoundA(path("missing.wav"), Play);
         sndPlaySoundA(QString(), Play);
-        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        sndPlaySoundA(u"NULL"_s, 0);
     }
 
     void messagesOfOtherThreadsAreShown()
@@ -85,7 +86,7 @@ private Q_SLOTS:
         const std::unique_ptr<QThread> thread(QThread::create([] { qWarning("another thread"); }));
         thread->start();
         QVERIFY(thread->wait());
-        sndPlaySoundA(QStringLiteral("NULL"), 0);
+        sndPlaySoundA(u"NULL"_s, 0);
     }
 
     void aServerThatHangsUpIsNotTalkedAbout()
@@ -122,8 +123,7 @@ private:
     QProcess *startedProgram(const QLocalServer &server)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("PULSE_SERVER"),
-                           QStringLiteral("unix:") + server.fullServerName());
+        environment.insert(u"PULSE_SERVER"_s, u"unix:"_s + server.fullServerName());
         auto *program = new QProcess(this);
         program->setProcessEnvironment(environment);
         program->start(QStringLiteral(PLAYING_CHILD), {m_wave});

@@ -103,7 +103,7 @@ private:
         const char *button = m_soak.oneOf(Answers);
         m_soak.note(QLatin1String(button));
         take(QLatin1String(button));
-        if (QLatin1String(button) != Close && QLatin1String(button) != QLatin1String("cmdNo"))
+        if (QLatin1String(button) != Close && QLatin1String(button) != u"cmdNo"_s)
             m_soak.expectPage(1); // the main window is brought up to date
         takeOrSkip(false);
         expectRest();
@@ -118,13 +118,13 @@ private:
     void take(QLatin1String button)
     {
         Model &model = m_soak.model;
-        if (button == QLatin1String("cmdYes"))
+        if (button == u"cmdYes"_s)
             model.addThis = true;
-        else if (button == QLatin1String("cmdYesToAll"))
+        else if (button == u"cmdYesToAll"_s)
             model.addAll = true;
-        else if (button == QLatin1String("cmdNoToAll"))
+        else if (button == u"cmdNoToAll"_s)
             model.skipAll = true;
-        else if (button == QLatin1String("cmdAbort"))
+        else if (button == u"cmdAbort"_s)
             m_stopped = true;
     }
 
@@ -136,11 +136,11 @@ private:
         if (!button.isEnabled())
             return;
         m_soak.note(QLatin1String(name));
-        if (QLatin1String(name) == QLatin1String("cmdFindNext"))
+        if (QLatin1String(name) == u"cmdFindNext"_s)
             findNext(form);
-        else if (QLatin1String(name) == QLatin1String("cmdDelete"))
+        else if (QLatin1String(name) == u"cmdDelete"_s)
             deleteExisting(form);
-        else if (QLatin1String(name) == QLatin1String("cmdUpdate"))
+        else if (QLatin1String(name) == u"cmdUpdate"_s)
             update(form);
         else
             Controls::click(button);

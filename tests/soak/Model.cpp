@@ -8,12 +8,14 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int PermissionDenied = 70;
 constexpr int PathNotFound = 76;
 constexpr int RowsOfPage = 23;
-const QString ListEnding = QStringLiteral(".lwx");
+const QString ListEnding = u".lwx"_s;
 
 // Reads the numbers and texts of a list file one after the other; beyond the end there are zeros.
 class Fields
@@ -64,8 +66,7 @@ bool Model::overflowsOnPage(int first) const
 
 QString Model::captionOf(const QString &title)
 {
-    return QStringLiteral("LexiBrook- The Tanglewit: ") +
-           (title.isEmpty() ? QStringLiteral("(Untitled)") : title);
+    return u"LexiBrook- The Tanglewit: "_s + (title.isEmpty() ? u"(Untitled)"_s : title);
 }
 
 void Model::add(const Entry &entry)
@@ -158,12 +159,12 @@ void Model::writeCopy(const QString &folder)
     copyIsDue = false;
     if (!changed && copy.isEmpty())
         return;
-    const QString title = fileTitle.isEmpty()              ? QStringLiteral("Untitled")
+    const QString title = fileTitle.isEmpty()              ? u"Untitled"_s
                           : fileTitle.endsWith(ListEnding) ? fileTitle.chopped(ListEnding.size())
                                                            : fileTitle;
     QString path = copy;
     if (copy.isEmpty() || m_copyIsForeign || title != m_copyTitle)
-        path = freePath(folder + QLatin1Char('/') + title + QStringLiteral(" (not saved)"));
+        path = freePath(folder + QLatin1Char('/') + title + u" (not saved)"_s);
     disk[path] = listBytes(entries, count());
     if (path != copy)
         removeOwnCopy();
@@ -213,8 +214,7 @@ QByteArray Model::textBytes() const
 {
     QString text;
     for (const Entry &entry : entries)
-        text +=
-            entry.word + u'\t' + entry.definition + u'\t' + entry.sentence + QStringLiteral("\r\n");
+        text += entry.word + u'\t' + entry.definition + u'\t' + entry.sentence + u"\r\n"_s;
     return toWindows1252(text);
 }
 

@@ -5,6 +5,8 @@
 #include "core/cVocabList.h"
 #include "soak/Soak.h"
 
+using namespace Qt::StringLiterals;
+
 class Refusals final
 {
 public:
@@ -19,9 +21,8 @@ public:
     {
         const int rest = m_words - ToldOneByOne;
         if (rest > 0)
-            soak.expectMsgBox(rest == 1
-                                  ? QStringLiteral("1 more word has not been added.")
-                                  : QStringLiteral("%1 more words have not been added.").arg(rest));
+            soak.expectMsgBox(rest == 1 ? u"1 more word has not been added."_s
+                                        : u"%1 more words have not been added."_s.arg(rest));
     }
 
 private:

@@ -17,6 +17,8 @@
 #include <deque>
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char IsPerson[] = "TANGLEWIT_SOAK_PERSON";
@@ -29,7 +31,7 @@ constexpr std::size_t StepsTold = 50;
 
 qint64 residentKilobytes()
 {
-    QFile file(QStringLiteral("/proc/self/statm"));
+    QFile file(u"/proc/self/statm"_s);
     if (!file.open(QIODevice::ReadOnly))
         return 0;
     return file.readAll().split(' ').at(1).toLongLong() * sysconf(_SC_PAGESIZE) / 1024;

@@ -57,7 +57,7 @@ private Q_SLOTS:
 
     void aFileEndsAtLineFeedWhereItsFirst64KiBHaveNoCarriageReturn()
     {
-        const QByteArray start = QByteArray("one\ntwo\n").leftJustified(64 * 1024, 'x');
+        const QByteArray start = "one\ntwo\n"_ba.leftJustified(64 * 1024, 'x');
         const QStringList lines = linesOf(start + "\rfour");
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines.first(2), (QStringList{u"one"_s, u"two"_s}));

@@ -120,7 +120,7 @@ private Q_SLOTS:
     void typeLinesAreNotLookedAt()
     {
         QByteArrayList lines = difLinesOf({u"cat|an animal"_s});
-        QCOMPARE(lines[14], QByteArray("1,0"));
+        QCOMPARE(lines[14], "1,0"_ba);
         lines[14] = "EOD";
         lines[16] = "BOT";
         m_run->expectAdded(1);
@@ -198,9 +198,9 @@ private Q_SLOTS:
     void allThreeLineEndsAreRead_data()
     {
         QTest::addColumn<QByteArray>("lineEnd");
-        QTest::newRow("CR LF") << QByteArray("\r\n");
-        QTest::newRow("CR") << QByteArray("\r");
-        QTest::newRow("LF") << QByteArray("\n");
+        QTest::newRow("CR LF") << "\r\n"_ba;
+        QTest::newRow("CR") << "\r"_ba;
+        QTest::newRow("LF") << "\n"_ba;
     }
 
     void allThreeLineEndsAreRead()
@@ -244,7 +244,7 @@ private Q_SLOTS:
     void linesBehindTheEndAreNotKept()
     {
         QByteArray bytes = joined(difLinesOf({u"cat|1"_s}));
-        bytes += QByteArray("more\r\n").repeated(1'000'000);
+        bytes += "more\r\n"_ba.repeated(1'000'000);
         m_run->expectAdded(1);
         m_run->dif(bytes);
         QCOMPARE(gDifLines.size(), 20);

@@ -221,11 +221,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("box");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QStringList>("words");
-        QTest::newRow("start") << QByteArray("txtStart") << u"8"_s << ExportForm::words(8, 10);
-        QTest::newRow("end") << QByteArray("txtEnd") << u"2"_s << ExportForm::words(1, 2);
-        QTest::newRow("start corrected")
-            << QByteArray("txtStart") << u"99"_s << ExportForm::words(10, 10);
-        QTest::newRow("end corrected") << QByteArray("txtEnd") << u"0"_s << ExportForm::words(1, 1);
+        QTest::newRow("start") << "txtStart"_ba << u"8"_s << ExportForm::words(8, 10);
+        QTest::newRow("end") << "txtEnd"_ba << u"2"_s << ExportForm::words(1, 2);
+        QTest::newRow("start corrected") << "txtStart"_ba << u"99"_s << ExportForm::words(10, 10);
+        QTest::newRow("end corrected") << "txtEnd"_ba << u"0"_s << ExportForm::words(1, 1);
     }
 
     void enterInARangeBoxTakesWhatIsTypedThere()
@@ -284,8 +283,8 @@ private Q_SLOTS:
     void aBoxLeftWithAMistakeKeepsItsOldNumber_data()
     {
         QTest::addColumn<QByteArray>("box");
-        QTest::newRow("start") << QByteArray("txtStart");
-        QTest::newRow("end") << QByteArray("txtEnd");
+        QTest::newRow("start") << "txtStart"_ba;
+        QTest::newRow("end") << "txtEnd"_ba;
     }
 
     void aBoxLeftWithAMistakeKeepsItsOldNumber()
@@ -315,7 +314,7 @@ private Q_SLOTS:
     void aTargetThatIsNoListIsRefusedAndLeftAsItIs_data()
     {
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("one byte") << QByteArray("x");
+        QTest::newRow("one byte") << "x"_ba;
         QTest::newRow("a count without records") << number16(1);
         QTest::newRow("the largest count without records") << number16(32'767);
         QTest::newRow("a record cut off") << number16(1) + addedRecord("old").chopped(1);
@@ -324,8 +323,8 @@ private Q_SLOTS:
         QTest::newRow("the smallest count") << number16(-32768);
         QTest::newRow("a negative count before good entries")
             << number16(-2) + addedRecord("a") + addedRecord("b");
-        QTest::newRow("a DIF file") << QByteArray("TABLE\r\n0,1\r\n\"\"\r\nVECTORS\r\n0,1\r\n");
-        QTest::newRow("a text") << QByteArray("Words of a language");
+        QTest::newRow("a DIF file") << "TABLE\r\n0,1\r\n\"\"\r\nVECTORS\r\n0,1\r\n"_ba;
+        QTest::newRow("a text") << "Words of a language"_ba;
     }
 
     void aTargetThatIsNoListIsRefusedAndLeftAsItIs()
