@@ -26,18 +26,13 @@ bool mayPractise()
 
 GameMenu::GameMenu(const Ui::frmMain &ui, QWidget *window) : m_ui(ui), m_window(window)
 {
-    const auto onChoice = [this](QAction *item, void (GameMenu::*handler)()) {
-        connect(item, &QAction::triggered, this, guarded(this, handler));
-    };
-    onChoice(ui.mnuPlayScramble, &GameMenu::cmdPlayScramble_Click);
-    onChoice(ui.mnuQuickFlash, &GameMenu::cmdQuickFlash_Click);
-    onChoice(ui.mnuUpbeat, &GameMenu::mnuUpbeat_Click);
-    onChoice(ui.mnuSoothing, &GameMenu::mnuSoothing_Click);
-    onChoice(ui.mnuMusicOff, &GameMenu::mnuMusicOff_Click);
-    connect(ui.cmdPlayScramble, &QPushButton::clicked, this,
-            guarded(this, &GameMenu::cmdPlayScramble_Click));
-    connect(ui.cmdQuickFlash, &QPushButton::clicked, this,
-            guarded(this, &GameMenu::cmdQuickFlash_Click));
+    onClick(ui.mnuPlayScramble, this, &GameMenu::cmdPlayScramble_Click);
+    onClick(ui.mnuQuickFlash, this, &GameMenu::cmdQuickFlash_Click);
+    onClick(ui.mnuUpbeat, this, &GameMenu::mnuUpbeat_Click);
+    onClick(ui.mnuSoothing, this, &GameMenu::mnuSoothing_Click);
+    onClick(ui.mnuMusicOff, this, &GameMenu::mnuMusicOff_Click);
+    onClick(ui.cmdPlayScramble, this, &GameMenu::cmdPlayScramble_Click);
+    onClick(ui.cmdQuickFlash, this, &GameMenu::cmdQuickFlash_Click);
 }
 
 GameMenu::~GameMenu() = default;

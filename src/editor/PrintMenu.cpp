@@ -22,13 +22,10 @@ void setScale(Printer &printer)
 
 PrintMenu::PrintMenu(const Ui::frmMain &ui, QWidget *window) : m_window(window)
 {
-    const auto onChoice = [this](QAction *item, void (PrintMenu::*handler)()) {
-        connect(item, &QAction::triggered, this, guarded(this, handler));
-    };
-    onChoice(ui.mnuPageSetup, &PrintMenu::mnuPageSetup_Click);
-    onChoice(ui.mnuPrinterSetup, &PrintMenu::mnuPrinterSetup_Click);
-    onChoice(ui.mnuPrint, &PrintMenu::mnuPrint_Click);
-    onChoice(ui.mnuPrintWholeList, &PrintMenu::mnuPrintWholeList_Click);
+    onClick(ui.mnuPageSetup, this, &PrintMenu::mnuPageSetup_Click);
+    onClick(ui.mnuPrinterSetup, this, &PrintMenu::mnuPrinterSetup_Click);
+    onClick(ui.mnuPrint, this, &PrintMenu::mnuPrint_Click);
+    onClick(ui.mnuPrintWholeList, this, &PrintMenu::mnuPrintWholeList_Click);
 }
 
 // So that the start does not wait for the system's printers.

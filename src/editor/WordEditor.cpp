@@ -21,14 +21,11 @@ bool isEntry(Integer position)
 
 WordEditor::WordEditor(Ui::frmMain &ui) : m_area(ui), m_page(*ui.MSFlexGrid1, *ui.VScroll1)
 {
-    const auto onClick = [this](QPushButton *button, void (WordEditor::*handler)()) {
-        connect(button, &QPushButton::clicked, this, guarded(this, handler));
-    };
-    onClick(ui.cmdNewWord, &WordEditor::cmdNewWord_Click);
-    onClick(ui.cmdAdd, &WordEditor::cmdAdd_Click);
-    onClick(ui.cmdAbort, &WordEditor::cmdAbort_Click);
-    onClick(ui.cmdDelete, &WordEditor::cmdDelete_Click);
-    onClick(ui.cmdSearch, &WordEditor::cmdSearch_Click);
+    onClick(ui.cmdNewWord, this, &WordEditor::cmdNewWord_Click);
+    onClick(ui.cmdAdd, this, &WordEditor::cmdAdd_Click);
+    onClick(ui.cmdAbort, this, &WordEditor::cmdAbort_Click);
+    onClick(ui.cmdDelete, this, &WordEditor::cmdDelete_Click);
+    onClick(ui.cmdSearch, this, &WordEditor::cmdSearch_Click);
     connect(ui.MSFlexGrid1, &MSFlexGrid::Click, this,
             guarded(this, &WordEditor::MSFlexGrid1_Click));
 }

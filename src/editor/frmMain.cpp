@@ -64,19 +64,15 @@ frmMain::~frmMain() = default;
 
 void frmMain::connectHandlers()
 {
-    const auto onChoice = [this](QAction *item, void (frmMain::*handler)()) {
-        connect(item, &QAction::triggered, this, guarded(this, handler));
-    };
-    onChoice(m_ui->mnuNew, &frmMain::mnuNew_Click);
-    onChoice(m_ui->mnuOpen, &frmMain::mnuOpen_Click);
-    onChoice(m_ui->mnuSave, &frmMain::mnuSave_Click);
-    onChoice(m_ui->mnuSaveAs, &frmMain::mnuSaveAs_Click);
-    onChoice(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
-    onChoice(m_ui->mnuExport, &frmMain::mnuExport_Click);
-    onChoice(m_ui->mnuImport, &frmMain::mnuImport_Click);
+    onClick(m_ui->mnuNew, &frmMain::mnuNew_Click);
+    onClick(m_ui->mnuOpen, &frmMain::mnuOpen_Click);
+    onClick(m_ui->mnuSave, &frmMain::mnuSave_Click);
+    onClick(m_ui->mnuSaveAs, &frmMain::mnuSaveAs_Click);
+    onClick(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
+    onClick(m_ui->mnuExport, &frmMain::mnuExport_Click);
+    onClick(m_ui->mnuImport, &frmMain::mnuImport_Click);
     connect(m_ui->mnuExit, &QAction::triggered, this, &frmMain::close);
-    connect(m_ui->mnuDeleteWord, &QAction::triggered, m_editor.get(),
-            guarded(m_editor.get(), &WordEditor::mnuDeleteWord_Click));
+    ::onClick(m_ui->mnuDeleteWord, m_editor.get(), &WordEditor::mnuDeleteWord_Click);
     connect(m_editor.get(), &WordEditor::changed, m_ui->mnuSave,
             [this] { m_ui->mnuSave->setEnabled(true); });
 }

@@ -8,7 +8,6 @@
 
 #include "platform/Guarded.h"
 
-#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QFocusEvent>
 #include <QShowEvent>
@@ -20,12 +19,11 @@ public:
     using Window::Window;
 
 protected:
-    // Connects the clicks on a button to a handler of the form:
-    //   onClick(m_ui->cmdAdd, &frmMain::cmdAdd_Click);
-    template <class Class> void onClick(QAbstractButton *button, void (Class::*handler)())
+    // The same for a handler of this form: onClick(m_ui->cmdAdd, &frmMain::cmdAdd_Click);
+    template <class Control, class Class>
+    void onClick(const Control *control, void (Class::*handler)())
     {
-        auto *const form = static_cast<Class *>(this);
-        QObject::connect(button, &QAbstractButton::clicked, form, guarded(form, handler));
+        ::onClick(control, static_cast<Class *>(this), handler);
     }
 
     virtual void Form_Load() {}

@@ -3,6 +3,9 @@
 // the program goes on.
 #pragma once
 
+#include <QAbstractButton>
+#include <QAction>
+
 #include <functional>
 
 // Runs the handler and shows what it throws. True if it threw nothing.
@@ -20,4 +23,18 @@ template <class Form, class Class, class... Arguments>
     return [form, handler](Arguments... arguments) {
         runGuarded([&] { (form->*handler)(arguments...); });
     };
+}
+
+// Connects the clicks on a button, or the choice of a menu item, to a handler of `form`:
+//   onClick(m_ui->cmdAdd, this, &frmMain::cmdAdd_Click);
+template <class Form, class Class>
+void onClick(const QAbstractButton *button, Form *form, void (Class::*handler)())
+{
+    QObject::connect(button, &QAbstractButton::clicked, form, guarded(form, handler));
+}
+
+template <class Form, class Class>
+void onClick(const QAction *item, Form *form, void (Class::*handler)())
+{
+    QObject::connect(item, &QAction::triggered, form, guarded(form, handler));
 }
