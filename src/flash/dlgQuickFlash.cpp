@@ -6,6 +6,7 @@
 #include "core/cVocabList.h"
 #include "flash/DefinitionTime.h"
 #include "flash/ui_dlgQuickFlash.h"
+#include "platform/RetainedSize.h"
 
 #include <QShortcut>
 
@@ -24,11 +25,8 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
 {
     m_ui->setupUi(this);
     // They share one place, which keeps its size.
-    for (QPushButton *button : {m_ui->cmdAutoFlash, m_ui->cmdStop}) {
-        QSizePolicy policy = button->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(policy);
-    }
+    retainSizeWhenHidden(*m_ui->cmdAutoFlash);
+    retainSizeWhenHidden(*m_ui->cmdStop);
     onClick(m_ui->cmdNext, &dlgQuickFlash::cmdNext_Click);
     onClick(m_ui->cmdPrevious, &dlgQuickFlash::cmdPrevious_Click);
     onClick(m_ui->cmdAutoFlash, &dlgQuickFlash::cmdAutoFlash_Click);
