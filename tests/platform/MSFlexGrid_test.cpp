@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/GridPage.h"
 #include "runtime/RunTimeError.h"
+#include "support/Caller.h"
 
 #include <QFontMetrics>
 #include <QScrollBar>
@@ -28,6 +29,21 @@ void turnWheel(QWidget &widget, int notches, Qt::KeyboardModifiers modifiers = Q
     turnWheelBy(widget, notches * 120, modifiers);
 }
 
+void expectEmptyCells(const MSFlexGrid &grid, Caller caller = Caller::current())
+{
+    if (grid.rowCount() != Rows || grid.columnCount() != 4)
+        return failTest(
+            u"the grid has %1 rows and %2 columns"_s.arg(grid.rowCount()).arg(grid.columnCount()),
+            caller);
+    for (int row = 0; row < Rows; ++row)
+        for (int column = 0; column < 4; ++column)
+            if (!grid.text(row, column).isEmpty() || grid.cellBold(row, column) ||
+                grid.cellBackColour(row, column) != MSFlexGrid::White)
+                return failTest(
+                    u"cell %1, %2 is not empty, white and of normal weight"_s.arg(row).arg(column),
+                    caller);
+}
+
 } // namespace
 
 class MSFlexGrid_test final : public QObject
@@ -39,15 +55,7 @@ private Q_SLOTS:
     {
         MSFlexGrid grid;
         grid.setSize(Rows, 4);
-        QCOMPARE(grid.rowCount(), Rows);
-        QCOMPARE(grid.columnCount(), 4);
-        for (int row = 0; row < Rows; ++row) {
-            for (int column = 0; column < 4; ++column) {
-                QCOMPARE(grid.text(row, column), QString());
-                QVERIFY(!grid.cellBold(row, column));
-                QCOMPARE(grid.cellBackColour(row, column), MSFlexGrid::White);
-            }
-        }
+        expectEmptyCells(grid);
     }
 
     void growingKeepsTheOldCells()
@@ -73,15 +81,7 @@ private Q_SLOTS:
             }
         }
         grid.Clear();
-        QCOMPARE(grid.rowCount(), Rows);
-        QCOMPARE(grid.columnCount(), 4);
-        for (int row = 0; row < Rows; ++row) {
-            for (int column = 0; column < 4; ++column) {
-                QCOMPARE(grid.text(row, column), QString());
-                QVERIFY(!grid.cellBold(row, column));
-                QCOMPARE(grid.cellBackColour(row, column), MSFlexGrid::White);
-            }
-        }
+        expectEmptyCells(grid);
     }
 
     void aTextIsKeptAsItIs()
