@@ -27,6 +27,14 @@ inline QStringList parts(const QString &entry)
     return texts;
 }
 
+inline QString entryOf(const QStringList &texts)
+{
+    QString entry = texts.join(u'|');
+    while (entry.endsWith(u'|'))
+        entry.chop(1);
+    return entry;
+}
+
 inline QByteArray listFile(const QStringList &entries)
 {
     QList<QStringList> all;
@@ -56,7 +64,7 @@ inline QByteArray joined(const QByteArrayList &lines, const QByteArray &lineEnd 
     return lines.isEmpty() ? QByteArray() : lines.join(lineEnd) + lineEnd;
 }
 
-// The entries of the open list, without separators at the end.
+// The entries of the open list.
 inline QStringList openEntries()
 {
     cVocabList &list = Module1::gVocabList();
@@ -64,10 +72,7 @@ inline QStringList openEntries()
     QStringList entries;
     for (Integer i = 1; i <= list.NumWords(); ++i) {
         list.CurrentWord(i);
-        QString entry = QStringList{list.Word(), list.Definition(), list.Sentence()}.join(u'|');
-        while (entry.endsWith(u'|'))
-            entry.chop(1);
-        entries += entry;
+        entries += entryOf({list.Word(), list.Definition(), list.Sentence()});
     }
     list.CurrentWord(current);
     return entries;

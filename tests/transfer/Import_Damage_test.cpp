@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// DIF files that are cut off, shuffled or damaged, the same in every run.
+// DIF files that are cut off, shuffled or damaged, the same in every run. An import has to end with
+// the entries and the message that PlainReader finds.
 #include "platform/Guarded.h"
+#include "runtime/Windows1252.h"
+#include "transfer/DifLines.h"
 #include "transfer/ImportRun.h"
-
-#include <QRegularExpression>
 
 #include <random>
 
@@ -17,6 +18,65 @@ const QStringList Rows{u"cat|an animal"_s, u"dog|a pet"_s,   u"caf\u00E9|a place
                        u"\"\"x\"\"|"_s,    u"cat|another"_s, u"cow|gives milk"_s};
 constexpr int Header = 13;
 constexpr int LinesOfARow = 6;
+
+class PlainReader
+{
+public:
+    // The open list has this entry.
+    PlainReader(const QByteArray &bytes, const QString &openEntry)
+        : entries{openEntry}, m_words{parts(openEntry).constFirst()}
+    {
+        const bool hasReturns = bytes.contains('\r');
+        for (const QByteArray &line : bytes.split(hasReturns ? '\r' : '\n'))
+            m_lines +=
+                !m_lines.isEmpty() && hasReturns && line.startsWith('\n') ? line.mid(1) : line;
+        if (m_lines.constLast().isEmpty())
+            m_lines.removeLast();
+        try {
+            readRows();
+            told = u"%1 words added"_s.arg(entries.size() - 1);
+        } catch (const RunTimeError &error) {
+            told = error.report();
+        }
+    }
+
+    QStringList entries; // of the open list after the import
+    QString told;        // the message at the end
+
+private:
+    [[nodiscard]] QString line(int number) const
+    {
+        if (number > m_lines.size())
+            throw RunTimeError(RunTimeError::SubscriptOutOfRange);
+        return fromWindows1252(m_lines[number - 1]);
+    }
+
+    void readRows()
+    {
+        const bool hasRows = difVectors(line(5)) >= 1;
+        const Integer values = difTuples(line(8));
+        if (!hasRows)
+            return;
+        int at = Header + 1;
+        do {
+            if (line(at) != u"BOT") {
+                ++at;
+                continue;
+            }
+            m_texts[0] = difValue(line(at += 2));
+            if (values == 2 || values == 3)
+                m_texts[values.toInt() - 1] = difValue(line(at += 2));
+            if (!m_words.contains(m_texts[0], Qt::CaseInsensitive)) {
+                m_words += m_texts[0];
+                entries += entryOf(m_texts);
+            }
+        } while (line(at) != u"EOD");
+    }
+
+    QByteArrayList m_lines;
+    QStringList m_texts{{}, {}, {}}; // of the row that is read: word, definition and sentence
+    QStringList m_words;             // of the open list
+};
 
 } // namespace
 
@@ -70,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), expected);
     }
 
-    void aDamagedFileIsImportedOrReported_data()
+    void aDamagedFileGivesWhatItsLinesSay_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         Random random(20'040'917); // the same files in every run
@@ -111,24 +171,15 @@ private Q_SLOTS:
         }
     }
 
-    void aDamagedFileIsImportedOrReported()
+    void aDamagedFileGivesWhatItsLinesSay()
     {
         QFETCH(QByteArray, bytes);
         gSkipAll = true; // the damage may have made two words equal
-        QString told;
-        m_run->answers.expectAnyMsgBox(QMessageBox::Ok,
-                                       [&told](QMessageBox &box) { told = box.text(); });
+        const PlainReader expected(bytes, u"dog|old"_s);
+        m_run->answers.expectMsgBox(expected.told);
         run(bytes);
-        static const QRegularExpression count(u"^(\\d+) words added$"_s);
-        static const QRegularExpression error(
-            u"^Run-time error '(5|6|9|13)':\n\n(Invalid procedure call or argument|Overflow|"
-            "Subscript out of range|Type mismatch)$"_s);
-        QVERIFY2(count.match(told).hasMatch() || error.match(told).hasMatch(), qPrintable(told));
-        const int added = gVocabList().NumWords().toInt() - 1;
-        QCOMPARE(gImportCount.toInt(), added);
-        if (count.match(told).hasMatch())
-            QCOMPARE(count.match(told).captured(1).toInt(), added);
-        QCOMPARE(openEntries().constFirst(), u"dog|old"_s);
+        QCOMPARE(openEntries(), expected.entries);
+        QCOMPARE(gImportCount.toInt(), expected.entries.size() - 1);
     }
 
     // After an error the next import works.
