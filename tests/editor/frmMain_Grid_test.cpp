@@ -6,7 +6,6 @@
 #include <QMetaEnum>
 #include <QMouseEvent>
 #include <QScrollBar>
-#include <QStyleOptionSlider>
 #include <QToolTip>
 
 #include <algorithm>
@@ -28,21 +27,6 @@ void turnWheel(MSFlexGrid &grid, int notches)
     QWheelEvent wheel(place, viewport.mapToGlobal(place), {}, {0, notches * 120}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&viewport, &wheel);
-}
-
-QRect sliderOf(const QScrollBar &bar)
-{
-    QStyleOptionSlider option;
-    option.initFrom(&bar);
-    option.orientation = bar.orientation();
-    option.minimum = bar.minimum();
-    option.maximum = bar.maximum();
-    option.sliderPosition = bar.sliderPosition();
-    option.sliderValue = bar.value();
-    option.singleStep = bar.singleStep();
-    option.pageStep = bar.pageStep();
-    return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider,
-                                       &bar);
 }
 
 // Moves the mouse there with its left button down.
@@ -155,7 +139,7 @@ private Q_SLOTS:
         MainWindow main;
         main.fill(60);
         QScrollBar &bar = main.bar();
-        const QPoint slider = sliderOf(bar).center();
+        const QPoint slider = Controls::middleOf(bar, QStyle::SC_ScrollBarSlider);
         QTest::mousePress(&bar, Qt::LeftButton, {}, slider);
         QVERIFY(bar.isSliderDown());
         drag(bar, {slider.x(), bar.height() / 2});

@@ -20,7 +20,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QStyleOptionSlider>
 #include <QTest>
 #include <QTimer>
 
@@ -333,20 +332,7 @@ private:
     void clickArrow(QStyle::SubControl arrow, Caller caller)
     {
         QScrollBar &bar = levelSwitch();
-        QStyleOptionSlider option;
-        option.initFrom(&bar);
-        option.subControls = QStyle::SC_All;
-        option.orientation = bar.orientation();
-        option.minimum = bar.minimum();
-        option.maximum = bar.maximum();
-        option.sliderPosition = bar.sliderPosition();
-        option.sliderValue = bar.value();
-        option.singleStep = bar.singleStep();
-        option.pageStep = bar.pageStep();
-        const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, arrow, &bar);
-        if (place.isEmpty() || !bar.rect().contains(place.center()))
-            return failTest(u"the level switch has no such arrow"_s, caller);
-        QTest::mouseClick(&bar, Qt::LeftButton, {}, place.center());
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, Controls::middleOf(bar, arrow, caller));
     }
 
     QAction m_mnuUpbeat;

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QStyleOptionSlider>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -69,6 +70,24 @@ void Controls::holdOn(Qt::Key key, const QString &text, Caller caller)
         QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, text, true);
         QApplication::sendEvent(focus, &again);
     }
+}
+
+QPoint Controls::middleOf(const QScrollBar &bar, QStyle::SubControl part, Caller caller)
+{
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.subControls = QStyle::SC_All;
+    option.orientation = bar.orientation();
+    option.minimum = bar.minimum();
+    option.maximum = bar.maximum();
+    option.sliderPosition = bar.sliderPosition();
+    option.sliderValue = bar.value();
+    option.singleStep = bar.singleStep();
+    option.pageStep = bar.pageStep();
+    const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
+    if (place.isEmpty() || !bar.rect().contains(place.center()))
+        failTest(bar.objectName() + u" has no such arrow or slider"_s, caller);
+    return place.center();
 }
 
 QString Controls::focusedControl()

@@ -9,6 +9,8 @@
 #include <QAction>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QStyle>
 #include <QWidget>
 
 #include <type_traits>
@@ -50,6 +52,9 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
            Caller caller = Caller::current());
 // Sends the repeated press of a key that is held down to the control with the keyboard focus.
 void holdOn(Qt::Key key, const QString &text = {}, Caller caller = Caller::current());
+// The middle of an arrow or of the slider of a scroll bar. A bar without that part fails the test.
+[[nodiscard]] QPoint middleOf(const QScrollBar &bar, QStyle::SubControl part,
+                              Caller caller = Caller::current());
 // The name of the control that has the focus; empty where there is none.
 [[nodiscard]] QString focusedControl();
 // The names of the controls that get the focus by this key, until the first one has it again.
