@@ -2,6 +2,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "runtime/RunTimeError.h"
+#include "support/TestFiles.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -109,10 +110,7 @@ private Q_SLOTS:
         m_list.DeleteVocab(); // its slot stays
         const QByteArray bytes = m_list.fileBytes();
         gFileName = m_folder.filePath(u"copy.lwx"_s);
-        QFile copy(gFileName);
-        QVERIFY(copy.open(QIODevice::WriteOnly));
-        QCOMPARE(copy.write(bytes), bytes.size());
-        copy.close();
+        writeFile(gFileName, bytes);
         cVocabList read;
         QVERIFY(read.OpenFile());
         QCOMPARE(read.NumWords(), 1);

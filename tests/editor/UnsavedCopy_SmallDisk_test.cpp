@@ -37,8 +37,7 @@ public:
     }
     [[nodiscard]] QByteArray bytes() const
     {
-        QFile file(pathOf(Place::WordLists) + u"/Untitled (not saved).lwx"_s);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return readFile(pathOf(Place::WordLists) + u"/Untitled (not saved).lwx"_s);
     }
     [[nodiscard]] bool isCopied() const { return bytes() == gVocabList().fileBytes(); }
 

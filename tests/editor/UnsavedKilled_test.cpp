@@ -5,6 +5,7 @@
 #include "core/ListFile.h"
 #include "core/cVocabList.h"
 #include "editor/EditingSession.h"
+#include "support/TestFiles.h"
 
 #include <QDir>
 #include <QProcess>
@@ -29,11 +30,9 @@ constexpr int Longest = 3000;  // from the first action to the kill
 // A list file as the session tells a list; empty where there is no file.
 QByteArray listIn(const QString &path)
 {
-    QFile file(path);
+    const QByteArray bytes = QFile::exists(path) ? readFile(path) : QByteArray();
+    const ListFile::Content content = ListFile::decode(bytes, cVocabList::MaxWords);
     QByteArray list;
-    if (!file.open(QIODevice::ReadOnly))
-        return list;
-    const ListFile::Content content = ListFile::decode(file.readAll(), cVocabList::MaxWords);
     for (const VocabRecord &record : content.records)
         for (const QString *text : {&record.Word, &record.Definition, &record.Sentence})
             list += QString(text->constData(), text->size()).toLatin1() + FieldEnd;

@@ -4,8 +4,8 @@
 #include "core/cVocabList.h"
 #include "editor/MainWindow.h"
 #include "support/FormTest.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -40,11 +40,8 @@ void addCat(MainWindow &main)
 
 QStringList wordsIn(const QString &path)
 {
-    QFile file(path);
+    const ListFile::Content content = ListFile::decode(readFile(path), cVocabList::MaxWords);
     QStringList words;
-    if (!file.open(QIODevice::ReadOnly))
-        return words;
-    const ListFile::Content content = ListFile::decode(file.readAll(), cVocabList::MaxWords);
     for (const VocabRecord &record : content.records)
         words += QString(record.Word.constData(), record.Word.size());
     return words;

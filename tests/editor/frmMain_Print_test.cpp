@@ -3,10 +3,10 @@
 #include "core/ListTools.h"
 #include "editor/MainWindow.h"
 #include "support/FormTest.h"
+#include "support/TestFiles.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -172,13 +172,10 @@ private Q_SLOTS:
             for (const char *name : {"filename", "lOutput", "fileBrowser"})
                 QVERIFY2(!in<QWidget>(dialog, name).isVisible(), name);
         });
-        QFile file(m_main->path(u"print.pdf"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("old");
-        file.close();
+        const QString path = m_main->path(u"print.pdf"_s);
+        writeFile(path, "old");
         setUpPrinter({});
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), "old"_ba);
+        QCOMPARE(readFile(path), "old"_ba);
     }
 
     void pageSetupTurnsTheSheet()

@@ -5,6 +5,7 @@
 #include "editor/MainWindow.h"
 #include "platform/Paths.h"
 #include "support/FormTest.h"
+#include "support/TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -216,13 +217,10 @@ private Q_SLOTS:
     {
         MainWindow main(MainWindow::Start::Hidden);
         // 36526 days after 30 December 1899, "Ann", 12 points.
-        QFile file(pathOf(Place::Top10));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromHex("00000000c0d5e140"
-                                       "0300"
-                                       "416e6e"
-                                       "0c00"));
-        file.close();
+        writeFile(pathOf(Place::Top10), QByteArray::fromHex("00000000c0d5e140"
+                                                            "0300"
+                                                            "416e6e"
+                                                            "0c00"));
         main.show();
         QCOMPARE(gTop10[0].EntryDate, QDate(2000, 1, 1));
         QCOMPARE(gTop10[0].PlayerName, u"Ann"_s);

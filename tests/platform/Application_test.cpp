@@ -3,6 +3,7 @@
 
 #include "runtime/BinaryFile.h"
 #include "runtime/ChildProcess.h"
+#include "support/TestFiles.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -162,8 +163,7 @@ private Q_SLOTS:
     void theProgramStartsWhereNoLockFileCanBeMade()
     {
         const QString notAFolder = m_data->filePath(u"file"_s);
-        QFile file(notAFolder);
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        writeFile(notAFolder, {});
         qputenv("XDG_DATA_HOME", QFile::encodeName(notAFolder));
         Copy copy;
         QCOMPARE(copy.answer(), "first"_ba);

@@ -6,6 +6,7 @@
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
 #include "support/FreshHome.h"
+#include "support/TestFiles.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -311,11 +312,7 @@ private:
         return m_state->path(QLatin1String(name));
     }
 
-    void make(const QString &name) const
-    {
-        QFile file(m_state->path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
+    void make(const QString &name) const { writeFile(m_state->path(name), {}); }
 
     std::unique_ptr<FreshHome> m_state;
     std::unique_ptr<DialogAnswers> m_answers;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Paths.h"
 
+#include "support/TestFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -59,10 +61,8 @@ private Q_SLOTS:
     void documentsAreWhereTheDesktopSays()
     {
         QVERIFY(QDir().mkpath(m_home->filePath(u"config"_s)));
-        QFile places(m_home->filePath(u"config/user-dirs.dirs"_s));
-        QVERIFY(places.open(QIODevice::WriteOnly));
-        places.write("XDG_DOCUMENTS_DIR=\"$HOME/Schriften\"\n");
-        places.close();
+        writeFile(m_home->filePath(u"config/user-dirs.dirs"_s),
+                  "XDG_DOCUMENTS_DIR=\"$HOME/Schriften\"\n");
         QCOMPARE(pathOf(Place::WordLists), m_home->filePath(u"Schriften/Lexibrook/MyLists"_s));
         QVERIFY(QDir(m_home->filePath(u"Schriften/Lexibrook"_s)).exists());
         QVERIFY(!QDir(m_home->filePath(u"Documents"_s)).exists());
@@ -78,13 +78,9 @@ private Q_SLOTS:
     void aFolderThatIsThereKeepsItsFiles()
     {
         const QString path = pathOf(Place::Top10);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("scores");
-        file.close();
+        writeFile(path, "scores");
         QCOMPARE(pathOf(Place::Top10), path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), "scores"_ba);
+        QCOMPARE(readFile(path), "scores"_ba);
     }
 
     void whatComesWithTheProgramIsFoundFromItsFolderAndNeverMade()

@@ -6,8 +6,8 @@
 #include "platform/Listening.h"
 #include "platform/SoundServer.h"
 #include "platform/WaveBytes.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
@@ -115,10 +115,7 @@ private Q_SLOTS:
     void aShortSoundIsLoopedWithoutAGapOverAndOver()
     {
         const QString path = m_folder.filePath(u"noise.wav"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(waveBytes(int(Second), 1, 16, noise()));
-        file.close();
+        writeFile(path, waveBytes(int(Second), 1, 16, noise()));
         const Sound sound = soundOf(path);
         QCOMPARE(sound.size(), Second / 2);
         const Match start = playAndListen(path, sound, sound.size() - FadedIn);
@@ -158,11 +155,8 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, bytes);
         const QString path = m_folder.filePath(u"damaged.wav"_s);
-        if (!bytes.isEmpty()) {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(bytes);
-        }
+        if (!bytes.isEmpty())
+            writeFile(path, bytes);
         playUntilHeard(pathOfTrack(u"fastbeat/Track10"_s));
         sndPlaySoundA(path, Play);
         QVERIFY(listenUntil([this] { return hasBeenSilentFor(Second / 5); }));

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SvgPicture.h"
 
-#include <QFile>
+#include "support/TestFiles.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -39,12 +40,7 @@ class SvgPicture_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.write(stripes()) > 0);
-    }
+    void initTestCase() { writeFile(path(), stripes()); }
 
     void thePictureFillsItsWidget()
     {
@@ -71,16 +67,14 @@ private Q_SLOTS:
 
     void aPictureOfAnotherShapeKeepsItsProportions()
     {
-        QTemporaryDir folder;
-        QFile file(folder.filePath(u"disc.svg"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
-                   "<rect width='100' height='100' fill='#fff'/>"
-                   "<circle cx='50' cy='50' r='20' fill='#000'/></svg>");
-        file.close();
+        const TestFolder folder;
+        const QString disc = folder.write(
+            u"disc.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
+                           "<rect width='100' height='100' fill='#fff'/>"
+                           "<circle cx='50' cy='50' r='20' fill='#000'/></svg>");
         SvgPicture picture;
         picture.resize(200, 100);
-        picture.setSource(file.fileName());
+        picture.setSource(disc);
         const QImage image = drawn(picture, 1);
         int across = 0;
         int down = 0;

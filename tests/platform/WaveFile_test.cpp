@@ -2,10 +2,9 @@
 #include "platform/sound/WaveFile.h"
 
 #include "platform/WaveBytes.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -80,7 +79,7 @@ private Q_SLOTS:
 
     void aMissingFileIsNothing()
     {
-        QVERIFY(!readWaveFile(m_folder.filePath(u"missing.wav"_s)));
+        QVERIFY(!readWaveFile(m_folder.path(u"missing.wav"_s)));
         QVERIFY(!readWaveFile(m_folder.path()));
         QVERIFY(!readWaveFile(QString()));
     }
@@ -115,14 +114,10 @@ private Q_SLOTS:
 private:
     [[nodiscard]] std::optional<WaveFile> read(const QByteArray &bytes) const
     {
-        QFile file(m_folder.filePath(u"sound.wav"_s));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("The wave file cannot be written");
-        file.close();
-        return readWaveFile(file.fileName());
+        return readWaveFile(m_folder.write(u"sound.wav"_s, bytes));
     }
 
-    QTemporaryDir m_folder;
+    TestFolder m_folder;
 };
 
 QTEST_GUILESS_MAIN(WaveFile_test)

@@ -2,8 +2,8 @@
 #include "platform/sndPlaySoundA.h"
 
 #include "platform/WaveBytes.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
@@ -21,8 +21,7 @@ constexpr unsigned Play = SoundFlags::Asynchronous | SoundFlags::Loop;
 
 bool libraryIsLoaded(const QByteArray &name)
 {
-    QFile maps(u"/proc/self/maps"_s);
-    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(name);
+    return readFile(u"/proc/self/maps"_s).contains(name);
 }
 
 } // namespace
@@ -36,10 +35,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_folder.isValid());
         m_wave = path("sound.wav");
-        QFile file(m_wave);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(waveBytes(22050, 1, 16, QByteArray(44100, '\x10')));
-        file.close();
+        writeFile(m_wave, waveBytes(22050, 1, 16, QByteArray(44100, '\x10')));
         // Neither this machine's server nor a new one.
         qputenv("HOME", QFile::encodeName(m_folder.path()));
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.path()));

@@ -6,9 +6,9 @@
 #include "soak/DifFile.h"
 #include "soak/Refusals.h"
 #include "soak/Soak.h"
+#include "support/TestFiles.h"
 
 #include <QDialog>
-#include <QFile>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -302,15 +302,13 @@ void importList(Soak &soak)
 void importDif(Soak &soak)
 {
     const DifFile dif = someDifFile(soak, soak.model.imported);
-    QFile file(soak.path(u"words.dif"_s));
-    if (!file.open(QIODevice::WriteOnly) || file.write(dif.bytes) != dif.bytes.size())
-        failTest(u"cannot write "_s + file.fileName());
-    file.close();
+    const QString path = soak.path(u"words.dif"_s);
+    writeFile(path, dif.bytes);
     QStringList words;
     for (const Entry &entry : dif.words)
         words += entry.word;
     soak.note(u"%1, error %2"_s.arg(words.join(u'|')).arg(dif.error));
-    soak.answers().chooseFile(file.fileName());
+    soak.answers().chooseFile(path);
     if (dif.isRefused) {
         soak.expectRunTimeError(dif.error);
         expectPageAfter(soak, currentPosition());

@@ -6,10 +6,10 @@
 #include "core/cVocabList.h"
 #include "editor/EditorModes.h"
 #include "platform/Paths.h"
+#include "support/TestFiles.h"
 
 #include <QApplication>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QTest>
 
@@ -118,12 +118,10 @@ void Soak::compareDisk()
     QDirIterator files(pathOf(Place::WordLists), QDir::Files | QDir::Hidden,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        QFile file(files.next());
-        check(model.disk.count(file.fileName()) == 1, file.fileName() + u" is new"_s);
-        if (!QFileInfo(file).isReadable())
-            continue;
-        check(file.open(QIODevice::ReadOnly) && file.readAll() == model.disk[file.fileName()],
-              file.fileName() + u" has another content"_s);
+        const QString path = files.next();
+        check(model.disk.count(path) == 1, path + u" is new"_s);
+        if (QFileInfo(path).isReadable())
+            check(readFile(path) == model.disk[path], path + u" has another content"_s);
     }
     for (const auto &[path, bytes] : model.disk)
         check(QFileInfo::exists(path), path + u" is missing"_s);

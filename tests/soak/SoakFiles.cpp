@@ -3,9 +3,7 @@
 #include "soak/Soak.h"
 
 #include "platform/Paths.h"
-
-#include <QDir>
-#include <QFile>
+#include "support/TestFiles.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,19 +22,12 @@ QByteArray listFile(Soak &soak, int count)
     return Model::listBytes(listOfWords(soak, count), count);
 }
 
-QByteArray randomBytes(Soak &soak, int size)
-{
-    QByteArray bytes;
-    while (bytes.size() < size)
-        bytes += char(soak.roll(256));
-    return bytes;
-}
-
 } // namespace
 
 void Soak::layOutFiles()
 {
     QDir().mkpath(inLists(u"locked"_s));
+    const auto seed = unsigned(roll(1000));
     put(u"few.lwx"_s, listFile(*this, 1 + roll(5)));
     put(u"page.lwx"_s, listFile(*this, 20 + roll(5)));
     put(u"many.lwx"_s, listFile(*this, 40 + roll(100)));
@@ -44,8 +35,8 @@ void Soak::layOutFiles()
     put(u"cut.lwx"_s, listFile(*this, 8).chopped(30));
     put(u"tail.lwx"_s, listFile(*this, 3) + listFile(*this, 20));
     put(u"negative.lwx"_s, QByteArray("\xFF\xFF", 2) + listFile(*this, 2));
-    put(u"random.lwx"_s, QByteArray(1, char(roll(40))) + '\0' + randomBytes(*this, 200));
-    put(u"old.txt"_s, randomBytes(*this, 2000));
+    put(u"random.lwx"_s, QByteArray(1, char(roll(40))) + '\0' + randomBytes(200, seed));
+    put(u"old.txt"_s, randomBytes(2000, seed));
     put(u"readonly.lwx"_s, listFile(*this, 6));
     put(u"secret.lwx"_s, listFile(*this, 6));
     put(u"locked/inside.lwx"_s, listFile(*this, 4));
@@ -56,10 +47,9 @@ void Soak::layOutFiles()
 
 void Soak::put(const QString &name, const QByteArray &bytes)
 {
-    QFile file(inLists(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        failTest(u"cannot write "_s + file.fileName());
-    model.disk[file.fileName()] = bytes;
+    const QString path = inLists(name);
+    writeFile(path, bytes);
+    model.disk[path] = bytes;
 }
 
 // So that they can be removed.

@@ -3,6 +3,7 @@
 #include "transfer/dlgExport.h"
 
 #include "support/FormTest.h"
+#include "support/TestFiles.h"
 #include "transfer/ExportForm.h"
 
 #include <QComboBox>
@@ -260,7 +261,7 @@ private Q_SLOTS:
     void theChosenFileIsOfferedAgainWithinOneOpening()
     {
         const QString target = m_form->path(u"other.lwx"_s);
-        QVERIFY(QFile(target).open(QIODevice::WriteOnly));
+        writeFile(target, {});
         m_form->answers.chooseFile(target, offered(QString()));
         m_form->click("cmdBrowse");
         m_form->answers.cancelFileDialog(offered(u"other.lwx"_s));
