@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyle>
+#include <QTextBlock>
 #include <QTextOption>
 
 #include <algorithm>
@@ -15,11 +16,29 @@ namespace {
 
 constexpr std::array TypeSizes{32, 28, 24, 20, 18, 16, 14, 12}; // points
 
-QString withoutBlanksAtEnd(QString text)
+bool isBlank(const QTextBlock &line)
 {
-    while (!text.isEmpty() && text.back().isSpace())
-        text.chop(1);
-    return text;
+    return line.text().trimmed().isEmpty();
+}
+
+void hideEmptyLinesAround(QTextDocument &document)
+{
+    if (document.toPlainText().trimmed().isEmpty())
+        return;
+    for (QTextBlock line = document.firstBlock(); isBlank(line); line = line.next())
+        line.setVisible(false);
+    for (QTextBlock line = document.lastBlock(); isBlank(line); line = line.previous())
+        line.setVisible(false);
+    document.markContentsDirty(0, document.characterCount());
+}
+
+QString shownText(const QTextDocument &document)
+{
+    QStringList lines;
+    for (QTextBlock line = document.firstBlock(); line.isValid(); line = line.next())
+        if (line.isVisible())
+            lines += line.text();
+    return lines.join(u'\n');
 }
 
 } // namespace
@@ -44,6 +63,7 @@ void FlashCard::setText(const QString &text, Side side)
         style()->polish(this);
     }
     setPlainText(text);
+    hideEmptyLinesAround(*document());
     fitType();
 }
 
@@ -96,9 +116,9 @@ void FlashCard::resizeEvent(QResizeEvent *event)
 
 void FlashCard::fitType()
 {
-    const int padding = 2 * int(document()->documentMargin());
-    const QRect room = contentsRect().adjusted(0, 0, -padding, -padding);
-    const QString text = withoutBlanksAtEnd(toPlainText());
+    const int margin = int(document()->documentMargin());
+    const QRect room = contentsRect().adjusted(0, 0, -2 * margin, -2 * margin);
+    const QString text = shownText(*document());
     QRect needed;
     QFont type = font();
     const auto fits = [&](int size) {
@@ -117,5 +137,8 @@ void FlashCard::fitType()
     setVerticalScrollBarPolicy(fitsAtAll ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     if (type != document()->defaultFont())
         document()->setDefaultFont(type);
-    setViewportMargins(0, std::max(0, (room.height() - needed.height()) / 2), 0, 0);
+    // The margin above the document is laid out with its first line, which may be hidden.
+    const int lostMargin = document()->firstBlock().isVisible() ? 0 : margin;
+    const int space = std::max(0, (room.height() - needed.height()) / 2);
+    setViewportMargins(0, space + lostMargin, 0, 0);
 }

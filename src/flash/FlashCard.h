@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A card with a plain front and a coloured back. Its text is centred in the largest type that fits
-// and scrolls where the smallest type does not. A click, Enter or Space on it emits Click.
+// and scrolls where the smallest type does not; empty lines before and after it are not shown. A
+// click, Enter or Space on the card emits Click.
 #pragma once
 
 #include <QPlainTextEdit>

@@ -141,6 +141,36 @@ private Q_SLOTS:
         QCOMPARE(card().toPlainText(), u"a small\nanimal"_s);
     }
 
+    void emptyLinesAroundTheTextAreNotShown()
+    {
+        card().setText(u"a small\r\n\r\nanimal"_s, FlashCard::Side::Front);
+        const QImage text = card().grab().toImage();
+        const QString whole = u"\r\n \r\na small\r\n\r\nanimal"_s + QString(200, u' ') +
+                              u"\r\n"_s.repeated(60) + u' ';
+        card().setText(whole, FlashCard::Side::Front);
+        QCOMPARE(card().grab().toImage(), text);
+        QCOMPARE(card().toPlainText(), QString(whole).remove(u'\r'));
+        // There is nothing to scroll to.
+        QVERIFY(fits(card()));
+    }
+
+    void aLongTextScrollsToItsLastLineOnly()
+    {
+        card().setText(prose(2000), FlashCard::Side::Front);
+        const int last = card().verticalScrollBar()->maximum();
+        QVERIFY(last > 0);
+        card().setText(prose(2000) + u"\n"_s.repeated(60), FlashCard::Side::Front);
+        QCOMPARE(card().verticalScrollBar()->maximum(), last);
+    }
+
+    void aCardOfEmptyLinesIsEmpty()
+    {
+        card().setText({}, FlashCard::Side::Front);
+        const QImage empty = card().grab().toImage();
+        card().setText(u"\r\n \r\n"_s, FlashCard::Side::Front);
+        QCOMPARE(card().grab().toImage(), empty);
+    }
+
     void theCardTakesNoTyping()
     {
         card().setFocus();
