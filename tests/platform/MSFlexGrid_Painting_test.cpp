@@ -151,7 +151,7 @@ private Q_SLOTS:
         };
         const qsizetype ofLongTexts = laidOut(2'000);
         QVERIFY(ofLongTexts > 0);
-        QCOMPARE(laidOut(2'000'000), ofLongTexts);
+        QCOMPARE(laidOut(20'000), ofLongTexts);
     }
 };
 
