@@ -3,9 +3,9 @@
 #include "editor/ImportCommand.h"
 #include "editor/UnsavedCopies.h"
 #include "runtime/ChildProcess.h"
+#include "support/SmallFiles.h"
 #include "transfer/Import.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Module1;
@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Makes permission bits count for root too, for a while.
+// While the object exists, permission bits hold for root, too.
 class WithoutPrivileges
 {
 public:
@@ -31,23 +31,6 @@ public:
 private:
     __user_cap_header_struct m_header{_LINUX_CAPABILITY_VERSION_3, 0};
     __user_cap_data_struct m_before[2]{};
-};
-
-// Writing a file beyond so many bytes fails for a while.
-class LargestFile
-{
-public:
-    explicit LargestFile(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~LargestFile() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(LargestFile)
-
-private:
-    rlimit m_before{};
 };
 
 bool setMode(const QString &folder, mode_t mode)
@@ -204,7 +187,7 @@ private Q_SLOTS:
         QVERIFY(comes(Untitled));
     }
 
-    void anEmptiedListIsCopiedTooButASlotOfItIsNot()
+    void theCopyOfAnEmptiedListHoldsNoDeletedEntry()
     {
         addEntry(*m_main, u"cow"_s);
         QVERIFY(comes(Untitled));
@@ -237,13 +220,13 @@ private Q_SLOTS:
         QVERIFY(comes(Untitled));
     }
 
-    void aCopyThatStopsShortLeavesTheOlderOneWhole()
+    void aCopyThatDoesNotFitLeavesTheOlderOneWhole()
     {
         addEntry(*m_main, u"cow"_s);
         QVERIFY(comes(Untitled));
         const QByteArray before = readFile(path(Untitled));
         {
-            const LargestFile limit(static_cast<rlim_t>(before.size()));
+            const SmallFiles small(static_cast<rlim_t>(before.size()));
             addEntry(*m_main, u"pig"_s);
             QVERIFY(settled(*m_main));
         }
@@ -253,7 +236,7 @@ private Q_SLOTS:
         QVERIFY(comes(Untitled));
     }
 
-    void aTextThatNoListFileHoldsIsCutAndTheOthersAreSafe()
+    void aTextTooLongForAListFileIsCutAndTheOthersAreWhole()
     {
         addEntry(*m_main, u"cow"_s);
         gVocabList().AddVocab(u"long"_s, QString(65'536, u'x'), u"A sentence."_s);
@@ -280,7 +263,7 @@ private Q_SLOTS:
     }
 
     // Opening the file to import clears gChanged.
-    void anImportThatBringsNothingLosesNoChange()
+    void anImportThatAddsNothingLosesNoChange()
     {
         addEntry(*m_main, u"cow"_s);
         QVERIFY(comes(Untitled));
@@ -308,14 +291,14 @@ private Q_SLOTS:
         QVERIFY(comes(Untitled));
     }
 
-    void anImportAtWorkIsNotInterrupted()
+    void aRunningImportIsNotInterrupted()
     {
         m_command->expectQuestion(u"cmdNo"_s, [this](QDialog &) {
             connect(m_main->window().findChild<Import *>(), &Import::progress, &m_main->window(),
                     [this](int done, int) {
                         if (done != 3)
                             return;
-                        // Long enough for the copy, with events handled in between.
+                        // Wait for long enough that the copy would be written.
                         QVERIFY(isDue(*m_main));
                         QTest::qWait(600);
                         QVERIFY(isDue(*m_main));
@@ -332,7 +315,7 @@ private Q_SLOTS:
     }
 
     // A deletion in dlgWordExist does not set gChanged.
-    void aDeletionAmongConflictsAloneIsNotCopied()
+    void aDeletionInTheImportDialogAloneIsNotCopied()
     {
         openList(*m_main, m_list);
         const QString conflicting = m_main->path(u"words.lwx"_s);

@@ -2,43 +2,15 @@
 #include "editor/OpenList.h"
 #include "platform/EntryTextBox.h"
 #include "support/FormTest.h"
+#include "support/SmallFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// A disk that takes no file beyond a size, for as long as the object lives.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t largestFile)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_oldLimit);
-        setLimit(largestFile);
-    }
-    ~FullDisk() { setLimit(m_oldLimit.rlim_cur); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    void setLimit(rlim_t largestFile)
-    {
-        rlimit limit = m_oldLimit;
-        limit.rlim_cur = largestFile;
-        if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
-            failTest(u"the size of files cannot be limited"_s);
-    }
-
-    rlimit m_oldLimit{};
-};
-
-} // namespace
 
 class frmMain_FileErrors_test final : public QObject
 {
@@ -70,7 +42,7 @@ private Q_SLOTS:
         gSaved = false;
         const OpenList before(*m_main);
         {
-            const FullDisk disk(64 * 1024);
+            const SmallFiles small(64 * 1024);
             expectReport(m_path);
             m_main->choose("mnuSave");
         }
@@ -97,7 +69,7 @@ private Q_SLOTS:
                               QString(60'000, QLatin1Char('y')));
         const OpenList before(*m_main);
         {
-            const FullDisk disk(64 * 1024);
+            const SmallFiles small(64 * 1024);
             m_main->answers.chooseFile(m_other);
             expectReport(m_other);
             m_main->choose("mnuSaveAs");
@@ -126,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(m_path), listBytes(m_entries));
     }
 
-    void saveAsOverWhatIsNoFileKeepsTheName()
+    void saveAsOverAPipeKeepsTheName()
     {
         QCOMPARE(mkfifo(QFile::encodeName(m_other).constData(), 0600), 0);
         const OpenList before(*m_main);

@@ -2,6 +2,7 @@
 #include "editor/EditorModes.h"
 #include "editor/OpenList.h"
 #include "support/FormTest.h"
+#include "support/SmallFiles.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 
 #include <filesystem>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Module1;
@@ -127,7 +127,7 @@ private Q_SLOTS:
         m_main->choose("mnuCreateTextFile");
     }
 
-    void cancelLeavesEverythingAsItWasButForTheSavedMark()
+    void cancelClearsGSavedAndChangesNothingElse()
     {
         open(someEntries(5, u"animal"_s));
         addEntry(*m_main, u"cow"_s);
@@ -156,14 +156,14 @@ private Q_SLOTS:
         QVERIFY(gSaved);
     }
 
-    void theOpenListIsNeverTurnedIntoText_data()
+    void theFileOfTheOpenListIsNeverReplacedByText_data()
     {
         QTest::addColumn<QString>("name");
         for (const char *name : {"animals.lwx", "link.txt", "linked/animals.lwx", "twin.txt"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 
-    void theOpenListIsNeverTurnedIntoText()
+    void theFileOfTheOpenListIsNeverReplacedByText()
     {
         QFETCH(QString, name);
         open(someEntries(5, u"animal"_s));
@@ -282,14 +282,14 @@ private Q_SLOTS:
         verifyOnlyThePositionMoved(before);
     }
 
-    void aFileThatCannotBeWrittenLeavesTheSavedMarkAndTheCaption_data()
+    void aFileThatCannotBeWrittenLeavesGSavedAndTheCaption_data()
     {
         QTest::addColumn<bool>("saved");
         QTest::newRow("saved before") << true;
         QTest::newRow("not saved before") << false;
     }
 
-    void aFileThatCannotBeWrittenLeavesTheSavedMarkAndTheCaption()
+    void aFileThatCannotBeWrittenLeavesGSavedAndTheCaption()
     {
         QFETCH(bool, saved);
         open(someEntries(2, u"animal"_s));
@@ -302,22 +302,17 @@ private Q_SLOTS:
         QCOMPARE(m_main->window().windowTitle(), u"another caption"_s);
     }
 
-    void aFileThatTheDiskDoesNotTakeStaysWhole()
+    void aFileThatDoesNotFitOnTheDiskStaysWhole()
     {
         open(someEntries(5, u"animal"_s));
         gVocabList().AddVocab(u"long"_s, QString(60'000, u'x'), {});
         writeFile(m_text, "old"_ba);
         const OpenList before(*m_main);
-        rlimit usual{};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
-        rlimit small = usual;
-        small.rlim_cur = 16 * 1024;
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const SmallFiles small(16 * 1024);
         m_main->answers.chooseFile(m_text);
         m_main->answers.answerOverwrite(u"animals.txt"_s, QMessageBox::Yes);
         expectReport(u"Run-time error '"_s);
         m_main->choose("mnuCreateTextFile");
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
         verifyOnlyThePositionMoved(before);
         QCOMPARE(readFile(m_text), "old"_ba);
         QCOMPARE(QDir(QFileInfo(m_text).path()).entryList({u"animals.txt*"_s}, QDir::Files),
@@ -342,7 +337,7 @@ private:
         QVERIFY(m_main->answers.allSeen());
     }
 
-    // That the file dialog offers this name.
+    // Checks the name that the file dialog offers.
     static std::function<void(QFileDialog &)> offered(const QString &name)
     {
         return [name](QFileDialog &dialog) {

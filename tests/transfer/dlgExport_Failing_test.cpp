@@ -3,10 +3,9 @@
 #include "transfer/dlgExport.h"
 
 #include "support/FormTest.h"
+#include "support/SmallFiles.h"
 #include "support/TestFiles.h"
 #include "transfer/ExportForm.h"
-
-#include <sys/resource.h>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
@@ -20,26 +19,6 @@ void makeATextTooLongForAFile()
     gVocabList().CurrentWord(7);
     gVocabList().Edit(u"w7"_s, QString(65'536, u'x'), {});
 }
-
-// While the object exists, no file of this process can grow beyond 16 KiB.
-class SmallFiles
-{
-public:
-    SmallFiles()
-    {
-        if (getrlimit(RLIMIT_FSIZE, &m_usual) != 0)
-            failTest(u"the limit cannot be read"_s);
-        rlimit small = m_usual;
-        small.rlim_cur = 16 * 1024;
-        if (setrlimit(RLIMIT_FSIZE, &small) != 0)
-            failTest(u"the limit cannot be set"_s);
-    }
-    ~SmallFiles() { setrlimit(RLIMIT_FSIZE, &m_usual); }
-    Q_DISABLE_COPY_MOVE(SmallFiles)
-
-private:
-    rlimit m_usual{};
-};
 
 } // namespace
 
@@ -63,23 +42,23 @@ private Q_SLOTS:
         m_folder.reset();
     }
 
-    void aFileThatTheExportMadeIsGone()
+    void aFileThatTheExportMadeIsRemoved()
     {
         makeATextTooLongForAFile();
         exportInVain(m_folder->path(u"new.lwx"_s), u"Run-time error '6':\n\nOverflow\n"_s);
         QCOMPARE(m_folder->names(), QStringList());
     }
 
-    void aFileThatTheDiskDoesNotTakeIsGone()
+    void aFileThatDoesNotFitOnTheDiskIsRemoved()
     {
         gVocabList().CurrentWord(7);
         gVocabList().Edit(u"w7"_s, QString(60'000, u'x'), {});
-        const SmallFiles small;
+        const SmallFiles small(16 * 1024);
         exportInVain(m_folder->path(u"new.lwx"_s), u"Run-time error '"_s);
         QCOMPARE(m_folder->names(), QStringList());
     }
 
-    void theFileThatALinkEndsAtIsGoneAndTheLinkStays()
+    void theTargetOfALinkIsRemovedAndTheLinkStays()
     {
         QVERIFY(QFile::link(m_folder->path(u"new.lwx"_s), m_folder->path(u"link.lwx"_s)));
         makeATextTooLongForAFile();

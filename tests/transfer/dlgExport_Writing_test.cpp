@@ -3,12 +3,12 @@
 #include "transfer/dlgExport.h"
 
 #include "support/FormTest.h"
+#include "support/SmallFiles.h"
 #include "transfer/ExportForm.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Module1;
@@ -361,20 +361,15 @@ private Q_SLOTS:
         verifyNothingHappened();
     }
 
-    void aTargetThatTheDiskDoesNotTakeStaysWhole()
+    void aTargetThatDoesNotFitOnTheDiskStaysWhole()
     {
         const QByteArray old = number16(1) + addedRecord("old");
         writeFile(m_target, old);
         gVocabList().CurrentWord(7);
         gVocabList().Edit(u"w7"_s, QString(60'000, u'x'), u"w7 sen"_s);
-        rlimit before{};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-        rlimit small = before;
-        small.rlim_cur = 16 * 1024;
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const SmallFiles small(16 * 1024);
         expectReport(u"Run-time error '"_s);
         ok();
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
         verifyNothingHappened();
         QCOMPARE(readFile(m_target), old);
     }
