@@ -55,3 +55,13 @@ QStringList EditorModes::filledRow(int position)
     const QString number = QString::number(position);
     return {number, u"word "_s + number, u"definition "_s + number, u"sentence "_s + number};
 }
+
+QStringList EditorModes::numberedRow(int number)
+{
+    return {QString::number(number), {}, {}, {}};
+}
+
+QStringList EditorModes::emptyRow()
+{
+    return {{}, {}, {}, {}};
+}

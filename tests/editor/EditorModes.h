@@ -10,16 +10,19 @@ enum class Boxes { Disabled, WordOnly, Enabled };
 
 [[nodiscard]] QStringList look(const QStringList &buttons, Boxes boxes);
 
-// After start, Abort, Update, Delete.
+// After the start, Abort, Update and Delete.
 [[nodiscard]] QStringList idle();
 [[nodiscard]] QStringList newWord();
 // An entry picked in the grid.
 [[nodiscard]] QStringList editing();
-// From the idle editor: a search before its hit and with one.
+// A search, started in the idle editor, without a hit and with one.
 [[nodiscard]] QStringList searching();
 [[nodiscard]] QStringList found();
 
 // A row that shows an entry of MainWindow::fill(int).
 [[nodiscard]] QStringList filledRow(int position);
+// A row with an item number alone, and one with nothing.
+[[nodiscard]] QStringList numberedRow(int number);
+[[nodiscard]] QStringList emptyRow();
 
 } // namespace EditorModes

@@ -17,7 +17,7 @@ QString question(const QString &word)
     return u"Are you sure you want to delete '"_s + word + u"' ?"_s;
 }
 
-// Of the list, in their order.
+// All words of the list, in their order.
 QStringList words()
 {
     QStringList words;
@@ -53,8 +53,7 @@ private Q_SLOTS:
         QCOMPARE(main.row(2),
                  (QStringList{u"2"_s, u"cow"_s, u"definition of cow"_s, u"sentence of cow"_s}));
         for (int row = 3; row <= 23; ++row)
-            QCOMPARE(main.row(row),
-                     (QStringList{QString::number(row), QString(), QString(), QString()}));
+            QCOMPARE(main.row(row), EditorModes::numberedRow(row));
         QCOMPARE(main.markedRows(), QList<int>());
         QCOMPARE(main.bar().maximum(), 3);
     }
@@ -89,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(main.markedRows(), QList<int>{2});
     }
 
-    void theWordMustStandInTheBoxExactly_data()
+    void theWordBoxMustHoldTheWordExactly_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::newRow("another word") << u"dog"_s;
@@ -99,7 +98,7 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QString();
     }
 
-    void theWordMustStandInTheBoxExactly()
+    void theWordBoxMustHoldTheWordExactly()
     {
         QFETCH(QString, typed);
         MainWindow main;
@@ -145,7 +144,7 @@ private Q_SLOTS:
         QCOMPARE(main.bar().maximum(), 60);
     }
 
-    void anEntryScrolledOutOfSightIsDeletedAllTheSame()
+    void anEntryScrolledOutOfSightIsDeletedToo()
     {
         MainWindow main;
         main.fill(60);
@@ -169,8 +168,7 @@ private Q_SLOTS:
         QVERIFY(main.answers.allSeen());
         QCOMPARE(gVocabList().NumWords(), 0);
         for (int row = 1; row <= 23; ++row)
-            QCOMPARE(main.row(row),
-                     (QStringList{QString::number(row), QString(), QString(), QString()}));
+            QCOMPARE(main.row(row), EditorModes::numberedRow(row));
         QCOMPARE(main.row(0).at(1), u"Vocabulary Word"_s);
         QCOMPARE(main.markedRows(), QList<int>());
         QCOMPARE(gHighlightRow, 0);
@@ -193,8 +191,7 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().NumWords(), 39);
         QCOMPARE(main.row(1), EditorModes::filledRow(39));
         for (int row = 2; row <= 23; ++row)
-            QCOMPARE(main.row(row),
-                     (QStringList{QString::number(38 + row), QString(), QString(), QString()}));
+            QCOMPARE(main.row(row), EditorModes::numberedRow(38 + row));
         QCOMPARE(main.bar().value(), 39);
         QCOMPARE(main.markedRows(), QList<int>());
     }
@@ -218,7 +215,7 @@ private Q_SLOTS:
         main.choose("mnuDeleteWord");
         QVERIFY(main.answers.allSeen());
         QTEST(words(), "left");
-        // Filling the page leaves the position behind the page.
+        // After filling the page, the current position is the one after its last entry.
         QCOMPARE(gVocabList().CurrentWord(), 3);
     }
 
@@ -280,7 +277,8 @@ private Q_SLOTS:
     void withNothingPickedTheMenuItemAsksForAChoice_data()
     {
         QTest::addColumn<int>("entries");
-        // After a page fill the position is behind the page: outside the list, or inside it.
+        // After filling a page, the current position is the one after its last row: outside a short
+        // list, inside a long one.
         QTest::newRow("short list") << 3;
         QTest::newRow("long list") << 40;
     }
@@ -316,12 +314,12 @@ private Q_SLOTS:
         QVERIFY(!gChanged);
     }
 
-    void theEntryInTheBoxesIsMeantWhereverThePositionWent_data()
+    void theEntryInTheBoxesIsDeletedWhateverTheCurrentPosition_data()
     {
         outsideTheListNothingIsDeleted_data();
     }
 
-    void theEntryInTheBoxesIsMeantWhereverThePositionWent()
+    void theEntryInTheBoxesIsDeletedWhateverTheCurrentPosition()
     {
         QFETCH(int, position);
         MainWindow main;

@@ -55,8 +55,7 @@ private Q_SLOTS:
         main.click("cmdNewWord");
         QCOMPARE(main.markedRows(), QList<int>{markedRow});
         QCOMPARE(gHighlightRow, markedRow);
-        QCOMPARE(main.row(markedRow),
-                 (QStringList{QString::number(entries + 1), QString(), QString(), QString()}));
+        QCOMPARE(main.row(markedRow), EditorModes::numberedRow(entries + 1));
         for (int row = 1; row < markedRow; ++row)
             QCOMPARE(main.row(row), EditorModes::filledRow(top + row - 1));
         if (entries > 0)
@@ -88,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries().at(1).constFirst(), u"word 2"_s);
     }
 
-    void addAppendsTheTextsAsTheyStand()
+    void addAppendsTheTextsAsTheyAreTyped()
     {
         MainWindow main;
         main.fill(2);
@@ -149,14 +148,14 @@ private Q_SLOTS:
         QCOMPARE(main.markedRows(), QList<int>{newRow + 1});
     }
 
-    void inAnEmptiedBoxUndoBringsNothingBack_data()
+    void undoBringsNothingBackIntoAnEmptiedBox_data()
     {
         QTest::addColumn<QByteArray>("button");
         QTest::newRow("Add") << "cmdAdd"_ba;
         QTest::newRow("Abort and New Word") << "cmdAbort"_ba;
     }
 
-    void inAnEmptiedBoxUndoBringsNothingBack()
+    void undoBringsNothingBackIntoAnEmptiedBox()
     {
         QFETCH(QByteArray, button);
         MainWindow main;

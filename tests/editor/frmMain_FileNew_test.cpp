@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/EditorModes.h"
 #include "editor/OpenList.h"
+#include "editor/ShownPage.h"
 #include "support/FormTest.h"
 
 #include <QDir>
@@ -152,7 +153,7 @@ private Q_SLOTS:
         QVERIFY(!gChanged);
         QCOMPARE(gLastItem.toInt(), 1);
         QCOMPARE(gHighlightRow.toInt(), 0);
-        checkEmptyPage();
+        compareEmptyPage(*m_main);
 
         for (const char *box : {"txtWord", "txtDefinition", "txtSentence"})
             QCOMPARE(m_main->text(box), QString());
@@ -279,7 +280,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(m_path), listBytes(m_entries));
     }
 
-    void afterNewTheFileOfBeforeIsReadAgain()
+    void afterNewTheFormerFileIsReadAgain()
     {
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->choose("mnuNew");
@@ -321,20 +322,6 @@ private:
     {
         startNewList();
         addEntry(*m_main, u"cow"_s);
-    }
-
-    void checkEmptyPage()
-    {
-        QCOMPARE(m_main->row(0),
-                 (QStringList{QString(), u"Vocabulary Word"_s, u"Definition"_s, u"Sentence"_s}));
-        for (int column = 1; column <= 3; ++column)
-            QVERIFY(m_main->grid().cellBold(0, column));
-        for (int row = 1; row <= 24; ++row)
-            QCOMPARE(m_main->row(row), (QStringList{row <= 23 ? QString::number(row) : QString(),
-                                                    QString(), QString(), QString()}));
-        QCOMPARE(m_main->markedRows(), QList<int>());
-        QCOMPARE(m_main->grid().Row(), 1);
-        QCOMPARE(m_main->grid().Col(), 1);
     }
 
     const Entries m_entries = someEntries(5, u"animal"_s);

@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(main.markedRows(), QList<int>());
     }
 
-    void theHeaderStandsAboveEachPage()
+    void theHeaderIsAboveEachPage()
     {
         MainWindow main;
         main.fill(60);
@@ -145,7 +145,8 @@ private Q_SLOTS:
         drag(bar, {slider.x(), bar.height() / 2});
         QVERIFY(bar.value() > 1 && bar.value() < 60);
         comparePage(main, bar.value());
-        // The mouse asks for one behind the list; the bar goes back to the last entry.
+        // The mouse moves the bar to its maximum, one after the last entry; the bar goes back by
+        // one.
         const QSignalSpy values(&bar, &QScrollBar::sliderMoved);
         drag(bar, {slider.x(), bar.height() - 1});
         QCOMPARE(values.constLast().constFirst().toInt(), 61);
@@ -163,7 +164,7 @@ private Q_SLOTS:
         main.bar().setValue(6);
         QCOMPARE(main.bar().value(), 6);
         for (int row = 1; row <= 24; ++row)
-            QCOMPARE(main.row(row), EmptyRow);
+            QCOMPARE(main.row(row), EditorModes::emptyRow());
         main.clickCell(1, 1);
         QCOMPARE(main.look(), EditorModes::idle());
         main.bar().setValue(5);
@@ -177,13 +178,13 @@ private Q_SLOTS:
         const Integer current = gVocabList().CurrentWord();
         main.bar().setValue(1);
         main.bar().setValue(0);
-        QCOMPARE(main.row(1), (QStringList{u"1"_s, QString(), QString(), QString()}));
+        QCOMPARE(main.row(1), EditorModes::numberedRow(1));
         QCOMPARE(gVocabList().CurrentWord(), current);
         QCOMPARE(gLastItem, 1);
         QVERIFY(main.answers.allSeen());
     }
 
-    void withNothingPickedThePositionStaysBehindThePage_data()
+    void withNothingPickedTheCurrentPositionIsAfterThePage_data()
     {
         QTest::addColumn<int>("top");
         QTest::addColumn<int>("position");
@@ -191,7 +192,7 @@ private Q_SLOTS:
         QTest::newRow("last entries") << 50 << 61;
     }
 
-    void withNothingPickedThePositionStaysBehindThePage()
+    void withNothingPickedTheCurrentPositionIsAfterThePage()
     {
         QFETCH(int, top);
         MainWindow main;
@@ -228,7 +229,7 @@ private Q_SLOTS:
         QCOMPARE(main.bar().value(), 1);
     }
 
-    void afterTypedWordsTheWheelLeavesTheListInSight()
+    void afterTypedWordsTheWheelKeepsTheListVisible()
     {
         // The bar's value is the new entry, but the page begins with the first one.
         MainWindow main;
@@ -241,12 +242,12 @@ private Q_SLOTS:
         QCOMPARE(main.markedRows(), QList<int>{8});
     }
 
-    void theWheelLeavesAPageBehindTheListsEnd()
+    void theWheelReturnsFromAPageAfterTheLastEntry()
     {
         MainWindow main;
         main.fill(5);
         main.bar().setValue(6);
-        QCOMPARE(main.row(1), EmptyRow);
+        QCOMPARE(main.row(1), EditorModes::emptyRow());
         turnWheel(main.grid(), -1);
         comparePage(main, 1);
 
@@ -350,7 +351,7 @@ private Q_SLOTS:
         turnWheel(main.grid(), -1);
         for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home})
             Controls::press(key);
-        QCOMPARE(main.row(1), (QStringList{u"1"_s, QString(), QString(), QString()}));
+        QCOMPARE(main.row(1), EditorModes::numberedRow(1));
         QCOMPARE(main.grid().Row(), 1);
         QVERIFY(main.answers.allSeen());
     }

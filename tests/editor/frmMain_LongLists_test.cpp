@@ -68,7 +68,7 @@ private Q_SLOTS:
         QCOMPARE(m_main->markedRows(), QList<int>());
         QCOMPARE(gVocabList().CurrentWord().toInt(), 1);
         for (int row = 1; row <= 23; ++row)
-            QCOMPARE(m_main->row(row), count < Integer::Max ? rowOf(row) : EmptyRow);
+            QCOMPARE(m_main->row(row), count < Integer::Max ? rowOf(row) : EditorModes::emptyRow());
 
         const QString copy = m_main->path(u"copy.lwx"_s);
         m_main->answers.chooseFile(copy);
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(copy), bytes);
     }
 
-    void allThatGoesThroughTheGridOfTheLongestListEndsInError6()
+    void eachCommandThatShowsAPageOfTheLongestListEndsInError6()
     {
         open(Integer::Max);
         expectOverflow();
@@ -188,7 +188,7 @@ private Q_SLOTS:
         QVERIFY(m_main->action("mnuSave").isEnabled());
     }
 
-    void thePageBehindTheLastFullOneEndsInError6AndStaysAway()
+    void thePageAfterTheLastFullOneEndsInError6AndIsNotShown()
     {
         open(32766);
         QTest::keyClick(&m_main->grid(), Qt::Key_End);
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QCOMPARE(m_main->look(), EditorModes::idle());
     }
 
-    void aDeletionBringsTheLongestListIntoTheGrid()
+    void afterADeletionTheLongestListIsShownInTheGrid()
     {
         open(Integer::Max);
         m_main->click("cmdSearch");
@@ -255,11 +255,9 @@ private Q_SLOTS:
     }
 
 private:
-    const QStringList EmptyRow{QString(), QString(), QString(), QString()};
-
     void expectOverflow() { m_main->answers.expectMsgBox(Overflow); }
 
-    // Makes and opens a list of so many entries; the longest one does not fit the grid.
+    // Makes and opens a list with this number of entries. The grid cannot show the longest one.
     QByteArray open(int count)
     {
         const QByteArray bytes = longList(count);
