@@ -34,10 +34,10 @@ DifFile someDifFile(Soak &soak, Entry before)
         file.words.push_back(before);
     }
     switch (soak.roll(6)) {
-    case 0: // cut off behind its last row
+    case 0: // cut off after its last row
         file.error = 9;
         break;
-    case 1: // a value that is no text
+    case 1: // a number in the place of a text
         lines << "BOT"
               << "0,5"
               << "V";
@@ -55,7 +55,7 @@ DifFile someDifFile(Soak &soak, Entry before)
         break;
     default:
         lines << "EOD";
-        // In the first line of the data it is not looked for.
+        // EOD in the first line of the data is not noticed.
         file.error = file.words.empty() ? 9 : 0;
     }
     file.bytes = lines.join("\r\n") + "\r\n";

@@ -106,7 +106,7 @@ void moveFocus(Soak &soak)
         Soak::press(*focus, soak.chance(70) ? Qt::Key_Tab : Qt::Key_Backtab);
 }
 
-// The boxes as Add finds them.
+// The texts in the boxes.
 Entry typedEntry(Soak &soak)
 {
     MainWindow &main = soak.main();

@@ -22,7 +22,7 @@ bool isEditorShown(Soak &soak)
     return !soak.game();
 }
 
-// The dialog while the person is in it.
+// The actions in the open dialog.
 class ExportDialog final
 {
 public:
@@ -75,7 +75,7 @@ private:
             failTest(u"%1 shows %2"_s.arg(QLatin1String(name), box(name).text()));
     }
 
-    // So that the files do not all become long ones.
+    // Otherwise all files would become long.
     void keepRangeShort()
     {
         constexpr int most = 500;
@@ -85,7 +85,7 @@ private:
         typeNumber("txtEnd", std::min(m_start + m_soak.roll(10), m_soak.model.count()), m_end);
     }
 
-    // Leaving the box tells it; the number before it is typed again.
+    // Types a wrong number, which is reported when the box is left, and then the old number.
     void typeMistake()
     {
         m_soak.note(u"txtStart: some"_s);
@@ -132,7 +132,7 @@ private:
         }
     }
 
-    // False where the dialog stays.
+    // False if the dialog stays open.
     bool exportWords()
     {
         Soak::waitFor(m_form);
@@ -175,7 +175,7 @@ private:
         return true;
     }
 
-    // The words of the range come into the other list, as long as it is not full.
+    // Adds the words of the range to the target list until it is full.
     void expectWords(std::vector<Entry> &list)
     {
         Refusals refusals;

@@ -21,7 +21,7 @@ bool isEditorShown(Soak &soak)
     return !soak.game();
 }
 
-// A file to save to, of all kinds; none where the person changes their mind.
+// A file to save to, of any kind; nothing if the dialog is cancelled.
 std::optional<QString> chosenTarget(Soak &soak, const QString &ending)
 {
     switch (soak.roll(10)) {
@@ -45,7 +45,7 @@ std::optional<QString> chosenTarget(Soak &soak, const QString &ending)
 
 using Look = std::function<void(QFileDialog &)>;
 
-// The dialog in which the target is chosen; nothing where it is cancelled in the end.
+// The file that is chosen in the file dialog; nothing if the dialog is cancelled.
 std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const Look &look = {})
 {
     const auto target = chosenTarget(soak, ending);
@@ -54,7 +54,7 @@ std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const
         soak.answers().cancelFileDialog(look);
         return {};
     }
-    // The ending comes by itself.
+    // The dialog adds the extension.
     soak.answers().chooseFile(soak.chance(30) && target->endsWith(ending) &&
                                       !target->chopped(ending.size()).contains(u'.')
                                   ? target->chopped(ending.size())
@@ -71,7 +71,7 @@ std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const
     return {};
 }
 
-// The list's own name is offered, and none for an untitled list.
+// The dialog must offer the name of the list, and none for an untitled list.
 void compareOffered(QFileDialog &dialog, const QString &name)
 {
     const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
@@ -103,7 +103,8 @@ Outcome expectSaveAs(Soak &soak)
     return Outcome::Done;
 }
 
-// Over the list's own file; without a word where the program ends.
+// Saves to the list's own file. isTold: whether a message says so, as it does except at the end of
+// the program.
 Outcome expectSaveToOwnFile(Soak &soak, bool isTold)
 {
     Model &model = soak.model;
@@ -127,7 +128,7 @@ Outcome expectSave(Soak &soak)
     return soak.model.fileName.isEmpty() ? expectSaveAs(soak) : expectSaveToOwnFile(soak, true);
 }
 
-// The questions before the list goes.
+// The questions before another list replaces the open one.
 Outcome expectEndOfLesson(Soak &soak, bool mayCancel)
 {
     if (soak.chance(10)) {
@@ -286,7 +287,7 @@ void createTextFile(Soak &soak)
     soak.main().choose("mnuCreateTextFile");
 }
 
-// Whether the program ends.
+// Expects the questions at the end. True if the program ends.
 bool expectEnd(Soak &soak)
 {
     if (!soak.model.changed)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The flash cards, by hand and by themselves. Time passes by the timers' events.
+// The flash cards, by hand and automatic. Time passes by sending the events of the timers.
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "flash/FlashCard.h"
@@ -15,14 +15,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int LongestDefinition = 163; // whose time can be reckoned in 16 bits
+constexpr int LongestDefinition = 163; // whose time fits into 16 bits
 
 bool isEditorShown(Soak &soak)
 {
     return !soak.game();
 }
 
-// The time of the timer that runs is over.
+// Lets the running timer end.
 void passTime(Soak &soak, QDialog &form)
 {
     auto &word = Controls::find<QTimer>(form, "tmrWord");
@@ -65,7 +65,7 @@ void useCards(Soak &soak, QDialog &form)
             pressSomething(soak, form);
         if (!form.isVisible())
             return; // Tab to Close, Enter
-        // Line breaks and hard blanks as a text box has them.
+        // With the line breaks and blanks that a text box makes of those of the word.
         const QString word = QPlainTextEdit(Module1::gVocabList().Word()).toPlainText();
         if (Controls::find<FlashCard>(form, "txtWord").toPlainText() != word)
             failTest(u"the card shows another word"_s);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The game. Time passes by the countdown's events.
+// The game. Time passes by sending the events of the countdown.
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "soak/Soak.h"
@@ -51,8 +51,8 @@ template <const char *Name> void click(Soak &soak)
     Controls::click(in<QPushButton>(soak, Name));
 }
 
-// Words that can be asked. One of one or two letters has no scramble and is asked without; an empty
-// one cannot be asked.
+// Whether the game can ask each word. A word of one or two letters is asked without being shown; an
+// empty one cannot be asked.
 bool isPlayable(Soak &soak)
 {
     const auto &entries = soak.model.entries;
@@ -123,8 +123,8 @@ void expectTop10(Soak &soak)
     soak.answers().useForm("dlgGameOver", [&soak](QDialog &form) { useTop10(soak, form); });
 }
 
-// The dialog in which the word that was missed has to be typed; after the last life the game is
-// over.
+// Uses the dialog in which the missed word has to be typed. isLast: the last life is lost, and the
+// game is over.
 void useMiss(Soak &soak, QDialog &form, bool isLast)
 {
     auto &box = Controls::find<QLineEdit>(form, "txtUserAnswer");

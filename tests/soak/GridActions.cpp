@@ -18,7 +18,7 @@ bool isGridShown(Soak &soak)
     return !soak.game();
 }
 
-// A click into the row picks the entry that it shows. False where it shows none.
+// Expects that a click in the row picks the entry in it. False if it has none.
 bool expectPick(Soak &soak, int row)
 {
     Model &model = soak.model;
@@ -68,7 +68,8 @@ int firstShown(Soak &soak)
     return soak.main().grid().text(1, 0).toInt();
 }
 
-// Neither wheel nor keys go beyond the last full page; the bar may have gone before.
+// The wheel and the keys stop at the last full page. Before them the scroll bar may have gone
+// further.
 void comparePage(Soak &soak, int firstBefore)
 {
     const int first = firstShown(soak);
@@ -109,7 +110,7 @@ void turnWheel(Soak &soak)
     comparePage(soak, before);
 }
 
-// The bar stops at the last entry, but for a list of one page.
+// The scroll bar stops at the last entry, except for a list of one page.
 void expectPageOfBar(Soak &soak, int value)
 {
     const int count = soak.model.count();

@@ -34,8 +34,8 @@ void expectPageAfter(Soak &soak, int position)
         soak.expectPage(position <= soak.model.count() ? position : 1);
 }
 
-// One import from its first word to its last message. It goes on in the model until the next word
-// that exists already, and from there when the person has answered.
+// One import from its first word to its last message. The model follows it up to the next word that
+// exists already, and goes on from there after the answer.
 class ImportRun final : public std::enable_shared_from_this<ImportRun>
 {
 public:
@@ -47,7 +47,7 @@ public:
         m_soak.model.addThis = m_soak.model.addAll = false;
     }
 
-    // What ends the reading of a damaged file; 0 = nothing does.
+    // The error at the end of a damaged file; 0 if there is none.
     void endWithError(int number) { m_error = number; }
 
     void expectRest()
@@ -65,7 +65,7 @@ public:
     }
 
 private:
-    // A new word is taken at once. In a DIF file it is so once more after a Yes.
+    // A new word is added without a question, and after a Yes in a DIF file once more.
     void takeOrSkip(bool isNew)
     {
         const Model &model = m_soak.model;
@@ -104,7 +104,7 @@ private:
         m_soak.note(QLatin1String(button));
         take(QLatin1String(button));
         if (QLatin1String(button) != Close && QLatin1String(button) != u"cmdNo"_s)
-            m_soak.expectPage(1); // the main window is brought up to date
+            m_soak.expectPage(1); // the main window is updated
         takeOrSkip(false);
         expectRest();
         if (QLatin1String(button) != Close)
@@ -245,7 +245,7 @@ bool isEditorShown(Soak &soak)
     return !soak.game();
 }
 
-// The message that refuses the whole list; empty where it comes in.
+// The message that refuses the whole list; empty if it is imported.
 QString refusalOfList(const Model &model, int words)
 {
     constexpr int most = cVocabList::MaxWords;
@@ -257,14 +257,14 @@ QString refusalOfList(const Model &model, int words)
     return {};
 }
 
-// So many words would take the model too long.
+// Whether the list has so many words that the model would be slow.
 bool isTooLong(const Model &model, const std::vector<Entry> &list)
 {
     constexpr int most = 1000;
     return int(list.size()) > most && refusalOfList(model, int(list.size())).isEmpty();
 }
 
-// Until its first word.
+// The import of a list, up to its first word.
 void expectListImport(Soak &soak, std::vector<Entry> list)
 {
     soak.model.changed = false;
@@ -325,7 +325,7 @@ void importNothing(Soak &soak)
     if (soak.chance(50)) {
         soak.answers().cancelFileDialog();
     } else {
-        soak.answers().chooseFile(soak.inLists(u"old.txt"_s)); // no kind that can be imported
+        soak.answers().chooseFile(soak.inLists(u"old.txt"_s)); // a file that cannot be imported
         expectPageAfter(soak, currentPosition());
     }
     soak.main().choose("mnuImport");

@@ -17,7 +17,7 @@ constexpr int PathNotFound = 76;
 constexpr int RowsOfPage = 23;
 const QString ListEnding = u".lwx"_s;
 
-// Reads the numbers and texts of a list file one after the other; beyond the end there are zeros.
+// Reads the numbers and texts of a list file one after the other, and zeros after its end.
 class Fields
 {
 public:
@@ -27,7 +27,7 @@ public:
     int number()
     {
         int value = 0;
-        // A number that is cut off in the middle counts as beyond the end.
+        // A number of which the second byte is missing is read as zero.
         if (m_position + 2 <= m_bytes.size())
             value = int(quint8(m_bytes[m_position])) + 256 * quint8(m_bytes[m_position + 1]);
         m_position += 2;
@@ -97,7 +97,7 @@ void Model::replaceBy(std::vector<Entry> newEntries)
     m_behind.reset();
     m_searchPos = 0;
     if (!changed)
-        copy.clear(); // nobody was asked about what it holds: it stays on the disk
+        copy.clear(); // its changes were not asked about, so it stays on the disk
     forgetCopy();
 }
 
@@ -139,7 +139,7 @@ int Model::writeError(const QString &path)
     const QFileInfo file(path);
     if (!QFileInfo::exists(file.path()))
         return PathNotFound;
-    // An old file is read, too: what it holds beyond the new bytes stays.
+    // An old file is read, too, because its tail stays.
     const bool allowed = file.exists() ? file.isReadable() && file.isWritable()
                                        : QFileInfo(file.path()).isWritable();
     return allowed ? 0 : PermissionDenied;
@@ -152,8 +152,8 @@ void Model::write(const QString &path, const QByteArray &bytes)
     m_copyIsForeign = m_copyIsForeign || path == copy;
 }
 
-// Nothing is written of a list that an import or an export has marked as saved; a copy that is
-// there already follows each change.
+// A list that an import or an export has marked as saved gets no copy, but an existing copy is
+// written at each change.
 void Model::writeCopy(const QString &folder)
 {
     copyIsDue = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the open list, its title and the files on the disk have to be after each step.
+// The expected state after each step: the open list, its title, the editor and the files.
 #pragma once
 
 #include <QByteArray>
@@ -36,16 +36,17 @@ public:
     bool wordSelected = false;
     int shown = 0; // position of the entry in the boxes; 0 = none
 
-    // Left by one import for the next.
+    // What one import leaves for the next.
     Entry imported;
     bool addThis = false;
     bool addAll = false;
     bool skipAll = false;
 
-    // Every file of the lists' folder: full path and content.
+    // All files in the folder of lists: full path and content.
     std::map<QString, QByteArray> disk;
 
-    // The copy of unsaved work among them; empty = there is none. It is due after a change.
+    // The path of the copy of the unsaved list, which is one of them; empty if there is none. A
+    // change makes it due.
     QString copy;
     bool copyIsDue = false;
 
@@ -53,7 +54,7 @@ public:
     void showTitle() { caption = captionOf(fileTitle); }
 
     [[nodiscard]] int count() const { return int(entries.size()); }
-    // Whether a page from there leads to a number beyond 16 bits.
+    // Whether the numbers of a page that begins there exceed 16 bits.
     [[nodiscard]] bool overflowsOnPage(int first) const;
     [[nodiscard]] const Entry &entry(int position) const { return entries.at(index(position)); }
     void add(const Entry &entry);
@@ -61,30 +62,30 @@ public:
     void remove(int position);
     void replaceBy(std::vector<Entry> newEntries);
     void markAsSaved();
-    // The first position from `start` on; 0 for none.
+    // The first position of the word from `start` on; 0 if there is none.
     [[nodiscard]] int find(const QString &word, int start) const;
-    // As the editor's Search, which goes on behind the last hit and then wraps round.
+    // The hit of the editor's Search, which begins after its last hit and continues at the start.
     int search(const QString &word);
 
-    // The run-time error that reading or writing a file gives; 0 for none.
+    // The number of the run-time error at reading or writing the file; 0 if there is none.
     [[nodiscard]] static int readError(const QString &path);
     [[nodiscard]] static int writeError(const QString &path);
-    // Over the old content from its first byte, without truncating it.
+    // Writes over the old content from its first byte, without truncating it.
     void write(const QString &path, const QByteArray &bytes);
-    // Into `folder`, when its time has come.
+    // Writes the copy of the unsaved list into `folder` if it is due.
     void writeCopy(const QString &folder);
-    // It is removed where it is still what was written.
+    // Removes the copy unless its file was changed by something else.
     void forgetCopy();
-    // What is read from there; a missing file comes to be, empty.
+    // The content of the file. A missing file is created, empty.
     const QByteArray &read(const QString &path) { return disk[path]; }
 
-    // The list as a file and as a text file.
+    // The content of the list file and of the text file.
     [[nodiscard]] QByteArray listBytes() const;
     [[nodiscard]] QByteArray textBytes() const;
     [[nodiscard]] static QByteArray listBytes(const std::vector<Entry> &records, int count);
-    // Nothing where the count is negative.
+    // The entries of a list file. Nothing if the count is negative.
     [[nodiscard]] static std::optional<std::vector<Entry>> listOf(const QByteArray &bytes);
-    // Whether its records, as far as the count says, all lie within it. So does an empty file.
+    // Whether the file holds as many records as its count says. An empty file does.
     [[nodiscard]] static bool isWhole(const QByteArray &bytes);
 
 private:
@@ -94,8 +95,8 @@ private:
     void removeOwnCopy();
     [[nodiscard]] QString freePath(const QString &start) const;
 
-    std::optional<Entry> m_behind; // what a deletion left behind the last entry
+    std::optional<Entry> m_behind; // the deleted entry that stays after the last one
     int m_searchPos = 0;
-    QString m_copyTitle;          // of the list when the copy got its name
-    bool m_copyIsForeign = false; // the person has written something else there
+    QString m_copyTitle;          // title of the list when the copy got its name
+    bool m_copyIsForeign = false; // something else was written to its path
 };

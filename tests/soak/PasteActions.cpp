@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What comes into the boxes of the editor from elsewhere, in each way that a box has.
+// Pastes and drops into the boxes of the editor, in each way that a box offers.
 #include "soak/Soak.h"
 
 #include <QAction>
@@ -23,7 +23,7 @@ bool hasBox(Soak &soak)
     return soak.isUsable("txtWord");
 }
 
-// What another program has copied or a person drags; often a text, and sometimes nothing at all.
+// Data that another program has copied, or that is dragged: often a text, sometimes nothing.
 std::unique_ptr<QMimeData> someData(Soak &soak)
 {
     auto data = std::make_unique<QMimeData>();
@@ -52,7 +52,7 @@ std::unique_ptr<QMimeData> someData(Soak &soak)
     return data;
 }
 
-// Where the mouse meets the box.
+// The widget of the box that gets the mouse events.
 QWidget &surface(QWidget &box)
 {
     auto *lines = qobject_cast<QPlainTextEdit *>(&box);
@@ -82,10 +82,10 @@ void pasteByMenu(Soak & /*soak*/, QWidget &box)
         if (item->text().startsWith(u"&Paste"_s) && item->isEnabled())
             item->trigger();
     menu->close();
-    box.activateWindow(); // as a window manager does, which this display may lack
+    box.activateWindow(); // a window manager does it, but this display may have none
 }
 
-// Of what is selected somewhere, on displays that have that.
+// Pastes the selection, on displays that have one.
 void pasteByMiddleClick(Soak & /*soak*/, QWidget &box)
 {
     QTest::mouseClick(&surface(box), Qt::MiddleButton);

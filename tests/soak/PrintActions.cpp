@@ -17,14 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int MostEntries = 400; // that are printed here, for printing takes its time
+constexpr int MostEntries = 400; // printing more would take too long
 
 bool isPrintable(Soak &soak)
 {
     return !soak.game() && soak.model.count() <= MostEntries;
 }
 
-// The dialog that asks for the PDF file; an empty path where it is cancelled.
+// The path that is chosen for the PDF file; empty if the dialog is cancelled.
 QString expectPdfDialog(Soak &soak)
 {
     if (soak.chance(20)) {
@@ -136,7 +136,7 @@ void usePrintDialog(Soak &soak, QDialog &form)
         default:
             pressButton(soak, form);
         }
-        // The preview lays out its pages when nothing else is to be done.
+        // The preview lays out its pages while the program is idle.
         Soak::waitFor(form);
     }
     if (soak.chance(50))
@@ -151,7 +151,7 @@ void print(Soak &soak)
     soak.main().choose("mnuPrint");
 }
 
-// A dialog of the system, which has no name.
+// Uses one of Qt's own dialogs, which have no object name.
 void useSystemDialog(Soak &soak, const char *menuItem)
 {
     const bool accepted = soak.chance(60);

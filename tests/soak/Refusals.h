@@ -10,23 +10,23 @@ using namespace Qt::StringLiterals;
 class Refusals final
 {
 public:
-    // The first three are told one by one.
+    // Each of the first three words has a message of its own.
     void expectOne(Soak &soak)
     {
-        if (++m_words <= ToldOneByOne)
+        if (++m_words <= WithOwnMessage)
             soak.expectMsgBox(cVocabList::maxWordsText());
     }
 
     void expectRest(Soak &soak) const
     {
-        const int rest = m_words - ToldOneByOne;
+        const int rest = m_words - WithOwnMessage;
         if (rest > 0)
             soak.expectMsgBox(rest == 1 ? u"1 more word has not been added."_s
                                         : u"%1 more words have not been added."_s.arg(rest));
     }
 
 private:
-    static constexpr int ToldOneByOne = 3;
+    static constexpr int WithOwnMessage = 3;
 
     int m_words = 0;
 };

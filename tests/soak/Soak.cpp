@@ -31,7 +31,7 @@ std::vector<Action> allActions()
     return all;
 }
 
-// Also that of the close box. None where both do nothing.
+// The answer of Esc and of the close box; none if they do nothing.
 QMessageBox::StandardButton answerOfEsc(const QMessageBox &box)
 {
     if (box.standardButtons() == QMessageBox::Ok)
@@ -76,7 +76,7 @@ Soak::~Soak()
 void Soak::startAnew()
 {
     if (m_main) {
-        compareDisk(); // what it leaves behind
+        compareDisk(); // the files at the end of the program
         allowFiles();
     }
     m_main.reset();
@@ -114,7 +114,7 @@ void Soak::step()
     compare();
 }
 
-// As when nothing else is to be done for a moment.
+// As if the program were idle for a moment.
 void Soak::letCopyBeWritten()
 {
     auto &timer = m_main->control<QTimer>(CopyTimer);
@@ -156,7 +156,7 @@ int Soak::roll(int sides)
     return int(m_random() % unsigned(sides));
 }
 
-// Few words, so that the same ones meet.
+// One of a few words, so that duplicates are frequent.
 QString Soak::word()
 {
     static const QStringList words{u"apple"_s,

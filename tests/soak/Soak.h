@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A person who uses the program at random, with a model of what it has to show.
+// Uses the program at random, and compares it with a model after each step.
 //
-// An action tells the model what has to become of it, queues the dialogs that have to come with
-// their answers, and then presses. Every random decision comes from the seed.
+// An action changes the model to the expected result, queues the expected dialogs with their
+// answers, and then clicks or types. All random decisions come from the seed.
 #pragma once
 
 #include "editor/MainWindow.h"
@@ -19,7 +19,7 @@ class Soak;
 struct Action
 {
     const char *name;
-    int weight; // how often, beside the others that are possible
+    int weight; // how often it is chosen, relative to the other possible actions
     bool (*isPossible)(Soak &);
     void (*run)(Soak &);
 };
@@ -31,7 +31,7 @@ public:
     ~Soak();
     Q_DISABLE_COPY_MOVE(Soak)
 
-    // Does something that is possible now and looks whether all is as it should be.
+    // Runs one of the actions that are possible now and compares the program with the model.
     void step();
     [[nodiscard]] int steps() const { return m_steps; }
 
@@ -51,33 +51,33 @@ public:
     [[nodiscard]] QString word();
     [[nodiscard]] QString text(); // of a definition or sentence
 
-    // Adds to what is noted of this step.
+    // Adds to the text that is printed for this step.
     void note(const QString &what);
 
-    // A message box; it is answered in one of the ways that give this answer.
+    // Gives this answer by the button, by its key, or by Esc or the close box where they mean it.
     void expectMsgBox(const QString &text, QMessageBox::StandardButton answer = QMessageBox::Ok);
     void expectRunTimeError(int number);
-    // A page of the grid that begins there; an error where the numbers give out.
+    // The grid shows the page that begins with this entry; error 6 if its numbers exceed 16 bits.
     void expectPage(int first);
     void expectPageOfNewWord();
-    // Until the window is active again, as it is before a person can go on.
+    // Waits until the window is active.
     static void waitFor(QWidget &window);
-    // Whether the control is there to be used.
+    // Whether the control is visible and enabled.
     [[nodiscard]] static bool isUsable(const QWidget &control);
     [[nodiscard]] bool isUsable(const char *control);
-    // Types what a keyboard has, pastes the rest.
+    // Types the text, or pastes it if it has characters that a keyboard lacks.
     void fill(QWidget &box, const QString &text);
     static void press(QWidget &control, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 
-    // A path in the lists' folder, and those of all files there that end so.
+    // A path in the folder of lists, and the paths of all files there with this ending.
     [[nodiscard]] QString inLists(const QString &name) const;
     [[nodiscard]] QStringList files(const QString &ending) const;
-    // Puts a file there, as it comes from elsewhere.
+    // Writes a file in the folder of lists, as another program would.
     void put(const QString &name, const QByteArray &bytes);
     // A path in the fresh home, outside that folder.
     [[nodiscard]] QString path(const QString &name) const { return m_main->path(name); }
 
-    // The program has ended; it is started anew in another home.
+    // Starts the program again, in another home folder.
     void startAnew();
 
 private:
@@ -98,7 +98,7 @@ private:
     int m_steps = 0;
 };
 
-// By window and theme. A control that is added gets a line in one of them.
+// The actions by window and theme. A new control needs a line in one of them.
 [[nodiscard]] std::vector<Action> editorActions();
 [[nodiscard]] std::vector<Action> pasteActions();
 [[nodiscard]] std::vector<Action> gridActions();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a person sees, and what is on the disk, beside the model.
+// Compares the windows and the files with the model.
 #include "soak/Soak.h"
 
 #include "core/Module1.h"
@@ -95,7 +95,7 @@ void Soak::compareEditor()
     }
 }
 
-// Rows follow one another and show what the list holds; behind its end they are empty.
+// The rows show entries that follow one another; after the last entry they are empty.
 void Soak::compareGrid()
 {
     const MSFlexGrid &grid = m_main->grid();

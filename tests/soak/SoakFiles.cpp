@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The files that a freshly started program finds: good ones, bad ones and forbidden ones.
+// The files at the start of the program: good, damaged and unreadable ones.
 #include "soak/Soak.h"
 
 #include "platform/Paths.h"
@@ -52,7 +52,7 @@ void Soak::put(const QString &name, const QByteArray &bytes)
     model.disk[path] = bytes;
 }
 
-// So that they can be removed.
+// Makes all files removable.
 void Soak::allowFiles()
 {
     QFile::setPermissions(inLists(u"locked"_s),

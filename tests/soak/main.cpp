@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Runs a person at random for some time; README.md beside this file says how.
+// Uses the program at random for some time; README.md beside this file says how to run it.
 //
-// The person is a process of its own, so that also of one that crashes or hangs the last steps
-// are told.
+// A child process uses the program and prints each step. The parent process prints the last steps
+// if the child fails, crashes or hangs.
 #include "runtime/ChildProcess.h"
 #include "soak/Soak.h"
 #include "support/AllocatedBytes.h"
@@ -62,7 +62,7 @@ private Q_SLOTS:
         qint64 told = 0;
         while (time.elapsed() / 1000 < end && !QTest::currentTestFailed()) {
             soak.step();
-            // Only what is taken beside an empty list can be compared.
+            // The figures can be compared only while the list is empty.
             if (const qint64 seconds = time.elapsed() / 1000;
                 seconds >= told + interval && soak.model.count() == 0)
                 tellMemory(soak, told = seconds - seconds % interval);
@@ -75,13 +75,13 @@ namespace {
 
 int runPerson(int argc, char **argv)
 {
-    // What is forbidden has to be so for root too.
+    // So that missing rights hold for root, too.
     if (!dropPrivileges())
         return 1;
     return runFormTest<soak_person>(argc, argv);
 }
 
-// Passes on what the person tells, but of the steps only the last ones, and only after a failure.
+// Prints the output of the child, but only the last steps, and these only after a failure.
 class Watch final
 {
 public:
@@ -115,7 +115,7 @@ private:
     void take(const QByteArray &line)
     {
         if (line.contains("propagateSizeHints"))
-            return; // said of every window that is shown without a display
+            return; // a warning for each window on the offscreen platform
         if (!line.startsWith("step ")) {
             std::printf("%s", line.constData());
             std::fflush(stdout);
