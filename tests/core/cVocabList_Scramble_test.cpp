@@ -173,7 +173,7 @@ private Q_SLOTS:
         QCOMPARE(list.ScrambledWord(), u"cab"_s);
     }
 
-    void aDrawOfZeroIsToldAndDrawnAgain()
+    void aDrawOfZeroIsReportedAndDrawnAgain()
     {
         QStringList notices;
         setNoticeHook([&](const QString &text) { notices << text; });

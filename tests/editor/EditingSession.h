@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a process that edits a list tells its parent, a line each:
+// What a process that edits a list writes for its parent, a line each:
 //   home PATH    it has started, with this home folder
-//   begin LIST   an action begins; LIST is what the list holds at its end
+//   begin LIST   an action begins; LIST is the content of the list when it has ended
 //   end TIME     the action has ended, at this moment
 #pragma once
 
@@ -11,7 +11,7 @@
 
 namespace EditingSession {
 
-// Of one clock for all processes.
+// The same clock for all processes.
 inline qint64 milliseconds()
 {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();

@@ -68,7 +68,7 @@ private Q_SLOTS:
         QTEST(look.focus, "focus");
     }
 
-    void addIsDisabledWhereItIsHiddenButInANewList()
+    void addIsDisabledWhereItIsHiddenExceptInANewList()
     {
         for (const EditorMode mode : Modes) {
             const EntryLook &look = lookOf(mode);
@@ -84,7 +84,7 @@ private Q_SLOTS:
             QVERIFY(lookOf(mode).isEnabled(lookOf(mode).defaultButton));
     }
 
-    void aColumnLeadsToItsBox()
+    void aColumnHasItsBox()
     {
         QCOMPARE(boxOfColumn(0), EntryFocus::Word);
         QCOMPARE(boxOfColumn(1), EntryFocus::Word);

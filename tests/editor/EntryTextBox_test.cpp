@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A window with the box between two other controls; it notes the Enter keys that reach it.
+// A window with the box between two other controls; it records the Enter keys that reach it.
 class Window final : public QWidget
 {
 public:
@@ -50,7 +50,7 @@ protected:
     }
 };
 
-// Brings the data to the box; without data the clipboard is empty.
+// Pastes or drops the data; without data the clipboard is empty.
 using Way = std::function<void(EntryTextBox &, QMimeData *)>;
 
 } // namespace
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(window.box->text(), QString());
     }
 
-    void aPastedTextKeepsItsLinesAndLosesItsDress()
+    void aPastedTextKeepsItsLinesAndLosesItsFormat()
     {
         Window window;
         auto *data = new QMimeData;
@@ -243,7 +243,7 @@ private Q_SLOTS:
         QApplication::clipboard()->clear();
     }
 
-    void aPasteIsUndoneByItself()
+    void aPasteIsOneStepOfUndo()
     {
         Window window;
         QTest::keyClicks(window.box, u"one "_s);

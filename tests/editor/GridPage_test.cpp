@@ -101,7 +101,7 @@ private Q_SLOTS:
         QFETCH(int, top);
         page.numberFrom(top);
         QTEST(page, "expected");
-        // A number alone is no entry.
+        // A row with a number need not have an entry.
         QCOMPARE(page.rowOf(page.last + 1), 0);
     }
 
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(RunTimeError, static_cast<void>(scrollMaximum(Integer::Max)));
     }
 
-    void theScrollBarGoesOneBehindTheList()
+    void theScrollBarEndsOneAfterTheLastEntry()
     {
         for (const int entries : {0, 1, 5, 100, 32766})
             QCOMPARE(scrollMaximum(entries).toInt(), entries + 1);
@@ -177,7 +177,7 @@ private Q_SLOTS:
         row("end of a short list", GridMove::Last, 7, {1, 1}, {1, 7});
         row("end of the only entry", GridMove::Last, 1, {1, 1}, {1, 1});
         row("end of the longest list that has pages", GridMove::Last, 32766, {1, 1}, {32744, 23});
-        // The scroll bar goes further than the last full page.
+        // The scroll bar can go beyond the last full page.
         row("up behind the last full page", GridMove::RowUp, 60, {60, 1}, {59, 1});
         row("down behind the last full page", GridMove::RowDown, 60, {59, 2}, {59, 2});
         row("page up from behind the last full page", GridMove::PageUp, 60, {60, 1}, {37, 1});
@@ -186,7 +186,7 @@ private Q_SLOTS:
         row("up on an empty page", GridMove::RowUp, 60, {0, 1}, {38, 23});
         row("down on an empty page", GridMove::RowDown, 5, {0, 1}, {1, 5});
         row("end on an empty page", GridMove::Last, 5, {0, 1}, {1, 5});
-        // A click may leave the current cell where no entry is.
+        // A click may make a cell without an entry the current one.
         row("up from below the last entry", GridMove::RowUp, 7, {1, 20}, {1, 7});
         row("down from below the last entry", GridMove::RowDown, 7, {1, 20}, {1, 7});
         row("down from the header", GridMove::RowDown, 7, {1, 0}, {1, 1});

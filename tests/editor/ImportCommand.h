@@ -37,7 +37,7 @@ public:
         import(u"words.dif"_s, ImportTools::joined(lines), {}, caller);
     }
 
-    // What the person meets after the file dialog has been told before, by the functions below.
+    // Call the functions below before, to expect the dialogs that follow the file dialog.
     void choose(const QString &file, std::function<void(QFileDialog &)> inspect = {},
                 Caller caller = Caller::current())
     {
@@ -47,7 +47,7 @@ public:
         main.choose("mnuImport", caller);
     }
 
-    // What the person meets once the file is chosen, in this order.
+    // The dialogs that follow the file dialog, in this order.
     void expectYesNo(const QString &text, QMessageBox::StandardButton answer,
                      Caller caller = Caller::current())
     {

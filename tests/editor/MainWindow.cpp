@@ -106,7 +106,7 @@ void MainWindow::clickCell(int row, int column, Caller caller)
     MSFlexGrid &table = grid();
     const QRect cell = table.visualItemRect(table.item(row, column));
     if (!table.viewport()->rect().contains(cell.center()))
-        return failTest(u"row %1, column %2 is out of sight"_s.arg(row).arg(column), caller);
+        return failTest(u"row %1, column %2 is not visible"_s.arg(row).arg(column), caller);
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
 }
 

@@ -56,18 +56,18 @@ public:
     void typeEntry(const QString &word, const QString &definition = {},
                    const QString &sentence = {}, Caller caller = Caller::current());
 
-    // Puts entries ("word 1", "definition 1", "sentence 1"), … into the list in place of what it
-    // held and shows the page from entry 1.
+    // Replaces the entries of the list by ("word 1", "definition 1", "sentence 1"), … and shows the
+    // page from entry 1.
     void fill(int entries);
     // The same with these words, "definition of " and "sentence of " each.
     void fill(const QStringList &words);
 
-    // Clicks the middle of a cell, which must be in sight.
+    // Clicks the middle of a cell, which must be visible.
     void clickCell(int row, int column, Caller caller = Caller::current());
     // Item number, word, definition and sentence that the grid shows in the row.
     [[nodiscard]] QStringList row(int row);
-    // The rows that are marked in all three data columns. A row that is marked in part, or whose
-    // bold and yellow disagree, fails the test.
+    // The rows that are bold and yellow in all three columns of texts. A row that is marked only in
+    // part fails the test.
     [[nodiscard]] QList<int> markedRows(Caller caller = Caller::current());
 
     // What a person sees of the entry area, control by control: "hidden", or the button's caption

@@ -44,7 +44,7 @@ inline Entries openEntries()
     return entries;
 }
 
-// What a command that changes nothing must leave as it is.
+// What must stay the same when a command changes nothing.
 struct OpenList
 {
     explicit OpenList(MainWindow &main)

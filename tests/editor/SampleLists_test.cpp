@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(state.home()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList());
     }
 
-    void whatAStartLeftUnfinishedIsFinished()
+    void aStartFinishesAFolderLeftUnfinished()
     {
         const FreshState state;
         QVERIFY(QDir().mkpath(state.path(u"MyLists.new"_s)));
@@ -121,7 +121,7 @@ private Q_SLOTS:
 
     void theFolderHasNoDot()
     {
-        // Import tells the kind of a file by the first dot of its path.
+        // Import finds the extension of a file by the first dot of its path.
         const QStringList names = QDir(u":/lists"_s).entryList(QDir::Files);
         for (const QString &name : names)
             QCOMPARE(name.indexOf(QLatin1Char('.')), name.size() - 4);
@@ -159,7 +159,7 @@ private Q_SLOTS:
             QVERIFY2(isMentioned(word, list.Sentence()), what);
             for (const QString &text : {word, list.Definition(), list.Sentence()}) {
                 QCOMPARE(text, text.simplified());
-                // Written for a character that list files have no byte for.
+                // Written in place of a character that Windows-1252 lacks.
                 QVERIFY2(!text.contains(u"??"_s) && !word.contains(QLatin1Char('?')), what);
             }
         }

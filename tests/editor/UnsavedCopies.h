@@ -30,13 +30,13 @@ inline bool isDue(MainWindow &main)
     return main.control<QTimer>("tmrUnsavedCopy").isActive();
 }
 
-// Waits until there is nothing more to write.
+// Waits for at most a second until there is nothing more to write.
 [[nodiscard]] inline bool settled(MainWindow &main)
 {
     return QTest::qWaitFor([&main] { return !isDue(main); }, 1000);
 }
 
-// Whether this one alone holds what the open list holds, at most one second from now.
+// Waits for at most a second until this is the only copy and holds the entries of the open list.
 [[nodiscard]] inline bool comes(const QString &name)
 {
     return QTest::qWaitFor(

@@ -117,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(!isDue(*m_main));
     }
 
-    void aListThatStaysKeepsIt()
+    void aListThatIsNotReplacedKeepsIt()
     {
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Cancel);
         m_main->choose("mnuNew");
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList());
     }
 
-    void exitWithoutTheSaveThatWasWantedKeepsIt()
+    void exitWithACancelledSaveAsKeepsIt()
     {
         gFileName.clear();
         m_main->answers.expectMsgBox(ExitQuestion, QMessageBox::Yes);
@@ -243,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(path(earlier)), listBytes(openEntries()));
     }
 
-    void theRunsOwnCopyStaysWhereItIsOpened()
+    void aCopyOfThisRunStaysOnceItIsOpened()
     {
         const Entries entries = openEntries();
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
@@ -253,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), entries);
         QCOMPARE(gOpenedFile, path(Animals));
         QVERIFY(comes(Animals));
-        // The program does not remove it any more.
+        // From now on the program does not remove it.
         addEntry(*m_main, u"pig"_s);
         QTRY_COMPARE_WITH_TIMEOUT(
             names(), (QStringList{u"animals (not saved) (not saved).lwx"_s, Animals}), 1000);
@@ -291,7 +291,7 @@ private:
         QVERIFY(!gChanged);
     }
 
-    // The list that took the old one's place has a copy of its own.
+    // The list that replaced the old one has a copy of its own.
     void keepsAsAnEarlierRuns(const QByteArray &copy)
     {
         QCOMPARE(names(), QStringList{Animals});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Kills the editor at random moments of a random editing session: what was finished a second
-// before is in the list file or in the copy of the unsaved list. TANGLEWIT_KILLS says how often;
-// the default is 200.
+// Kills the editor at random moments of a random editing session. All actions that had ended a
+// second before must be in the list file or in the copy of the unsaved list. TANGLEWIT_KILLS is the
+// number of kills, 200 by default.
 #include "core/ListFile.h"
 #include "core/cVocabList.h"
 #include "editor/EditingSession.h"
@@ -27,7 +27,7 @@ constexpr int Sessions = 8;    // at the same time
 constexpr int Lateness = 1000; // milliseconds that a copy may take
 constexpr int Longest = 3000;  // from the first action to the kill
 
-// A list file as the session tells a list; empty where there is no file.
+// The content of a list file, written as the session writes it; empty if there is no file.
 QByteArray listIn(const QString &path)
 {
     const QByteArray bytes = QFile::exists(path) ? readFile(path) : QByteArray();
@@ -39,7 +39,7 @@ QByteArray listIn(const QString &path)
     return list;
 }
 
-// What a session told until it was killed.
+// What a session wrote until it was killed.
 struct Session
 {
     QString home;
@@ -105,7 +105,7 @@ private:
         }
     }
 
-    // Empty where nothing is lost.
+    // Empty if nothing is lost.
     [[nodiscard]] QString killOnce(unsigned seed)
     {
         const QTemporaryDir folder; // of the session's home
@@ -149,7 +149,7 @@ private:
         for (const QString &copy : copies)
             found += listIn(folder.filePath(copy));
 
-        // Later actions may be in it, too, but each of them whole.
+        // It may hold later actions, too, but none of them in part.
         const QByteArrayList allowed = session.lists.mid(finished);
         m_editedLong += finished > 0 ? 1 : 0;
         if (allowed.contains(inList))

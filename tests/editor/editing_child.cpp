@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Edits a list in the main window until it is killed, and tells each action on the standard output.
-// The actions are random; the same seed gives the same ones.
+// Edits a list in the main window until it is killed, and writes each action to its standard
+// output. The actions are random; the same seed gives the same ones.
 #include "editor/EditingSession.h"
 #include "editor/OpenList.h"
 #include "support/FormTest.h"

@@ -21,7 +21,7 @@ const QString LastQuestion = u"Your changes have not been saved.  Do you want to
 
 const QString ChildArgument = u"--be-the-program"_s;
 
-// The program with an unsaved list, asked by its parent to end. The answer is Yes or No.
+// The program with an unsaved list; its parent asks it to end. The answer is Yes or No.
 int beTheProgram(const QString &path, const QString &answer)
 {
     EndRequest request([] { return gChanged; });
@@ -197,7 +197,7 @@ private Q_SLOTS:
             QVERIFY2(!window->isVisible(), qPrintable(window->objectName()));
     }
 
-    void aSplashGoesWithoutAMainWindow()
+    void aSplashEndsWithoutOpeningTheMainWindow()
     {
         m_main->window().hide();
         frmSplash splash;

@@ -235,7 +235,7 @@ private Q_SLOTS:
         QVERIFY(!main.window().isVisible());
     }
 
-    void reallySavedChangesAreNotAskedAbout()
+    void savedChangesAreNotAskedAbout()
     {
         MainWindow main;
         gFileName = main.path(u"list.lwx"_s);

@@ -38,7 +38,7 @@ private Q_SLOTS:
         m_main->choose("mnuExport");
     }
 
-    void afterwardsTheTargetIsTheNamedFileWhileTheCaptionNamesTheList()
+    void afterwardsSaveWritesTheTargetButTheCaptionNamesTheList()
     {
         open(5);
         addEntry(*m_main, u"cow"_s);
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), entries);
         QCOMPARE(readFile(m_target), listBytes(entries.mid(0, 2)));
 
-        // Save refers to that file from now on.
+        // From now on Save writes that file.
         m_main->answers.expectMsgBox(m_target + u" has been saved."_s);
         m_main->choose("mnuSave");
         QCOMPARE(readFile(m_target), listBytes(entries));
@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(m_main->text("txtWord"), u"animal 2"_s);
     }
 
-    void eachOpeningBeginsAfresh()
+    void theDialogOpensWithItsFirstValuesEachTime()
     {
         open(5);
         exportRange(2, 3);
@@ -167,7 +167,7 @@ private Q_SLOTS:
         open(30);
         exportRange(12, 9);
         openList(*m_main, m_target);
-        // The target is the named file already, but not the opened one.
+        // gFileName names the target already, but it is not the opened file.
         const Entries all = someEntries(30, u"animal"_s);
         QCOMPARE(openEntries(), (Entries{all[11], all[10], all[9], all[8]}));
         QCOMPARE(m_main->window().windowTitle(), CaptionStart + u"other.lwx"_s);

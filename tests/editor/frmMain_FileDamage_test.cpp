@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The list that the bytes hold as far as they go. Nothing for a count that no list can have.
+// The entries in the bytes, up to their end. Nothing if the count is negative.
 std::optional<Entries> readable(const QByteArray &bytes)
 {
     const auto byteAt = [&bytes](qsizetype position) {
@@ -120,8 +120,7 @@ private:
         return bytes;
     }
 
-    // Bytes from 80 to 9F have other characters in the file's code page than in Latin 1; that they
-    // are read right is tested elsewhere.
+    // Without the bytes from 80 to 9F, which Windows-1252 and Latin 1 read as different characters.
     static bool sameText(const Entries &found, const Entries &expected)
     {
         if (found.size() != expected.size())

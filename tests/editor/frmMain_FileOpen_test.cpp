@@ -283,7 +283,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(path), listBytes({addedEntry(u"cow"_s)}));
     }
 
-    void anEntryUnderWorkIsPutAway()
+    void openEndsTheEditingOfAnEntry()
     {
         openList(*m_main, m_animals);
         m_main->clickCell(2, 1);

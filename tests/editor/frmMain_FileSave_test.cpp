@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(m_path), expected);
     }
 
-    void whatAnOlderLongerFileHeldBehindStays()
+    void theTailOfAnOlderLongerFileStays()
     {
         const Entries longer = someEntries(10, u"much longer word"_s);
         writeFile(m_other, listBytes(longer));
@@ -223,7 +223,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(cows), listBytes(withCow() + Entries{addedEntry(u"dog"_s)}));
     }
 
-    void theFileOfBeforeIsReadAgainAfterSaveAs()
+    void afterSaveAsTheFormerFileIsReadAgain()
     {
         openList(*m_main, m_path);
         addEntry(*m_main, u"cow"_s);
@@ -330,7 +330,7 @@ private Q_SLOTS:
         expectSaveAsToOffer({});
     }
 
-    void aCancelledSaveAsLeavesTheTextFilesNameOnOffer()
+    void aCancelledSaveAsLeavesTheTextFilesNameOffered()
     {
         openList(*m_main, m_path);
         m_main->answers.chooseFile(m_main->path(u"words.txt"_s));

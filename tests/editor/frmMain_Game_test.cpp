@@ -70,9 +70,9 @@ private Q_SLOTS:
         QVERIFY(!openGame());
     }
 
-    void theGameTakesTheMainWindowsPlace_data() { anEmptyListIsNotPlayed_data(); }
+    void theMainWindowIsHiddenDuringTheGame_data() { anEmptyListIsNotPlayed_data(); }
 
-    void theGameTakesTheMainWindowsPlace()
+    void theMainWindowIsHiddenDuringTheGame()
     {
         QFETCH(bool, byMenu);
         m_main->fill(3);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(m_main->answers.seen(), 0);
     }
 
-    void theGoodByeStandsOverTheMainWindow()
+    void theGoodByeIsShownOverTheMainWindow()
     {
         m_main->fill(3);
         play();
@@ -239,7 +239,7 @@ private Q_SLOTS:
         QCOMPARE(m_main->answers.seen(), 0);
     }
 
-    void endingTheProgramInSilenceAsksForNone()
+    void endingTheProgramWithoutMusicRequestsNoSound()
     {
         m_main->fill(3);
         play();
@@ -275,7 +275,7 @@ private:
         QVERIFY(m_main->answers.allSeen());
     }
 
-    // Null where no game is shown.
+    // Null if no game is shown.
     [[nodiscard]] static frmTanglewit *openGame()
     {
         const QWidgetList windows = QApplication::topLevelWidgets();

@@ -21,15 +21,15 @@ private Q_SLOTS:
         m_command.reset();
     }
 
-    void filesOfOtherProgramsComeIn_data()
+    void filesOfOtherProgramsAreImported_data()
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QStringList>("entries");
         const auto row = [](const char *file, const QStringList &entries) {
             QTest::newRow(file) << QString::fromLatin1(file) << entries;
         };
-        // These two give the number of rows where that of the columns is looked for: with three
-        // rows the second column is the sentence, with two rows the definition.
+        // These programs write the number of rows to the line from which an import takes the number
+        // of columns: with three rows the second column is the sentence, with two the definition.
         for (const char *file : {"gnumeric-words.dif", "libreoffice-words.dif"})
             row(file, {u"harbour||A place where ships are safe."_s,
                        u"lantern||A light that is carried by hand, with a cover of glass."_s,
@@ -40,7 +40,7 @@ private Q_SLOTS:
         row("libreoffice-accents-windows1252.dif",
             {u"cr\u00E8me||The fat part of milk."_s, u"fa\u00E7ade||The front of a building."_s,
              u"na\u00EFve||Ready to believe everything \u2013 even \u201Cthis\u201D."_s});
-        // Written in UTF-8, read as the one encoding of all files.
+        // These files are in UTF-8, but an import reads every file as Windows-1252.
         for (const char *file : {"gnumeric-accents.dif", "libreoffice-accents.dif"})
             row(file, {u"cr\u00C3\u00A8me||The fat part of milk."_s,
                        u"fa\u00C3\u00A7ade||The front of a building."_s,
@@ -53,7 +53,7 @@ private Q_SLOTS:
         row("rowsfirst-three-columns.dif", {u"harbour||unread"_s, u"fa\u00E7ade||unread"_s});
     }
 
-    void filesOfOtherProgramsComeIn()
+    void filesOfOtherProgramsAreImported()
     {
         QFETCH(QString, file);
         QFETCH(QStringList, entries);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         m_command->importList({u"new"_s});
     }
 
-    void aDifFileThatIsNotThereIsReported()
+    void aMissingDifFileIsReported()
     {
         MainWindow &main = m_command->main;
         main.fill(2);
@@ -146,8 +146,8 @@ private Q_SLOTS:
         QVERIFY(!gChanged);
     }
 
-    // As everywhere else, opening a list file makes one that is missing.
-    void aWordListThatIsNotThereIsAnEmptyOne()
+    // Opening a list file creates it if it is missing.
+    void aMissingWordListIsAnEmptyOne()
     {
         MainWindow &main = m_command->main;
         main.fill(2);

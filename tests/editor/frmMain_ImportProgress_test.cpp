@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the main window looks like, and does not do, while a long import runs.
+// A long import: the main window shows its progress and takes no commands.
 #include "editor/ImportCommand.h"
 #include "transfer/Import.h"
 
@@ -35,14 +35,14 @@ private Q_SLOTS:
         m_command.reset();
     }
 
-    void aLongImportShowsItsProgressAndTakesNoCommand_data()
+    void aLongImportShowsItsProgressAndBlocksCommands_data()
     {
         QTest::addColumn<bool>("isDif");
         QTest::newRow("word list") << false;
         QTest::newRow("DIF file") << true;
     }
 
-    void aLongImportShowsItsProgressAndTakesNoCommand()
+    void aLongImportShowsItsProgressAndBlocksCommands()
     {
         QFETCH(bool, isDif);
         MainWindow &main = m_command->main;
@@ -52,7 +52,7 @@ private Q_SLOTS:
             auto *import = main.window().findChild<Import *>();
             QVERIFY(import);
             connect(import, &Import::progress, import, [&](int done, int total) {
-                dawdle();
+                waitForTheBar();
                 if (isBarShown() && shown++ == 0) {
                     QVERIFY(done <= total);
                     tryCommands();
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(main.look(), EditorModes::newWord());
     }
 
-    void aBarThatWasSentAwayStillKeepsCommandsAway()
+    void aHiddenProgressBarStillBlocksCommands()
     {
         MainWindow &main = m_command->main;
         bool wasShown = false;
@@ -86,7 +86,7 @@ private Q_SLOTS:
             connect(main.window().findChild<Import *>(), &Import::progress, &main.window(),
                     [&](int done, int) {
                         if (!wasShown)
-                            dawdle();
+                            waitForTheBar();
                         if (isBarShown() && !wasShown) {
                             wasShown = true;
                             QTest::keyClick(bar(), Qt::Key_Escape);
@@ -116,8 +116,8 @@ private:
     }
     [[nodiscard]] bool isBarShown() const { return bar() && bar()->isVisible(); }
 
-    // Waits at each word, as a slow machine does, until the progress bar is shown.
-    void dawdle() const
+    // Waits a little at each word, as a slow machine does, until the progress bar is shown.
+    void waitForTheBar() const
     {
         if (!isBarShown())
             QTest::qSleep(1);

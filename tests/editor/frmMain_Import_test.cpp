@@ -123,7 +123,7 @@ private Q_SLOTS:
         QCOMPARE(main.bar().maximum(), 33);
     }
 
-    void anEmptyListShowsWhatCameIn()
+    void anEmptyListShowsWhatWasImported()
     {
         m_command->expectMsgBox(Added.arg(2));
         m_command->importDif(difLinesOf({u"cat|1"_s, u"dog|2"_s}));
@@ -203,14 +203,14 @@ private Q_SLOTS:
         QCOMPARE(main.markedRows(), QList<int>{1});
     }
 
-    void aPickedEntryIsLetGoWhereTheQuestionDeletedOne_data()
+    void aDeletionInTheQuestionUnpicksThePickedEntry_data()
     {
         QTest::addColumn<bool>("bySearch");
         QTest::newRow("clicked in the grid") << false;
         QTest::newRow("found") << true;
     }
 
-    void aPickedEntryIsLetGoWhereTheQuestionDeletedOne()
+    void aDeletionInTheQuestionUnpicksThePickedEntry()
     {
         QFETCH(bool, bySearch);
         MainWindow &main = m_command->main;
@@ -250,9 +250,9 @@ private Q_SLOTS:
         QVERIFY(!main.action("mnuSave").isEnabled());
     }
 
-    void anImportOfNothingLeavesTheListInSight()
+    void anImportOfNothingKeepsTheListVisible()
     {
-        // After a page fill the position is behind the list's end.
+        // After filling the page, the current position is after the last entry.
         MainWindow &main = m_command->main;
         main.fill(5);
         QCOMPARE(gVocabList().CurrentWord().toInt(), 6);
@@ -307,14 +307,14 @@ private Q_SLOTS:
         QCOMPARE(main.row(1).at(0), QString::number(first));
     }
 
-    void saveIsOfferedAfterAWordListOnly_data()
+    void saveIsEnabledAfterAWordListOnly_data()
     {
         QTest::addColumn<bool>("isDif");
         QTest::newRow("word list") << false;
         QTest::newRow("DIF file") << true;
     }
 
-    void saveIsOfferedAfterAWordListOnly()
+    void saveIsEnabledAfterAWordListOnly()
     {
         QFETCH(bool, isDif);
         MainWindow &main = m_command->main;
@@ -330,7 +330,7 @@ private Q_SLOTS:
         QCOMPARE(main.action("mnuSave").isEnabled(), !isDif);
     }
 
-    void saveIsNotOfferedWhereNothingCameIn()
+    void saveIsNotEnabledIfNothingWasImported()
     {
         m_command->expectMsgBox(Imported.arg(0));
         m_command->importList({});
@@ -359,8 +359,8 @@ private Q_SLOTS:
         QCOMPARE(readFile(imported), listFile({u"cat"_s}));
     }
 
-    // Whether the page shows already what was imported before the question.
-    void theWindowIsBroughtUpToDateAfterAllAnswersButNo_data()
+    // Whether the page shows the words that were imported before the question.
+    void theWindowIsUpdatedAfterAllAnswersExceptNo_data()
     {
         QTest::addColumn<QString>("answer");
         QTest::addColumn<QStringList>("words");
@@ -372,7 +372,7 @@ private Q_SLOTS:
             QTest::newRow(answer) << QString::fromLatin1(answer) << stale;
     }
 
-    void theWindowIsBroughtUpToDateAfterAllAnswersButNo()
+    void theWindowIsUpdatedAfterAllAnswersExceptNo()
     {
         QFETCH(QString, answer);
         QFETCH(QStringList, words);
@@ -388,7 +388,7 @@ private Q_SLOTS:
     }
 
 private:
-    // From the idle editor.
+    // Starts in the idle editor.
     void search(const QString &word)
     {
         m_command->main.click("cmdSearch");

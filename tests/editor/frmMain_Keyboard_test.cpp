@@ -303,7 +303,7 @@ private Q_SLOTS:
         const auto typeIntoFocus = [](const char *text) {
             QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text));
         };
-        // The start focus is on the grid.
+        // At the start the grid has the focus.
         Controls::press(Qt::Key_Tab);
         Controls::press(Qt::Key_Return);
         for (const char *word : {"cat", "dog"}) {

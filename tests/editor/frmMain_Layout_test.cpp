@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the main window's controls lie. CTest runs this on screens of several sizes.
+// The layout of the main window. CTest runs this on screens of several sizes.
 #include "core/Module1.h"
 #include "editor/MainLayout.h"
 #include "editor/MainWindow.h"
@@ -28,7 +28,7 @@ QRect placeIn(const QWidget &window, const QWidget &control)
     return {control.mapTo(&window, QPoint()), control.size()};
 }
 
-// The controls without the parts that Qt makes them of.
+// Without the widgets inside Qt's own widgets.
 QList<QWidget *> visibleControls(const QWidget &window)
 {
     QList<QWidget *> controls;
@@ -59,7 +59,7 @@ void checkNothingIsCut(MainWindow &main)
                 QVERIFY2(!other->geometry().intersects(control->geometry()),
                          name + " and " + other->objectName().toUtf8());
     }
-    // Room for two lines of text at least.
+    // At least two lines of text must fit.
     for (const char *box : {"txtDefinition", "txtSentence"}) {
         const auto &text = main.control<QWidget>(box);
         QVERIFY2(text.height() >= 2 * text.fontMetrics().lineSpacing() + 8, box);
@@ -75,7 +75,7 @@ void checkRowsFillTheGrid(MainWindow &main)
         height += grid.rowHeight(row);
     }
     QCOMPARE(height, grid.viewport()->height());
-    // The 24th entry's row begins where the grid ends.
+    // The row of the 24th entry begins at the bottom of the grid.
     QCOMPARE(grid.rowViewportPosition(24), grid.viewport()->height());
     QVERIFY(!grid.horizontalScrollBar()->isVisible());
     QVERIFY(!grid.verticalScrollBar()->isVisible());
@@ -90,7 +90,7 @@ class frmMain_Layout_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theTwipsAreThoseOfTheScreen()
+    void theLayoutIsComputedFromTheScreen()
     {
         MainWindow main;
         const QSize screen = screenInTwips(main.window());
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(main.control<QWidget>("cmdPlayScramble").x(), pixels(layout.playLeft));
     }
 
-    void neighboursTouchAsTheyShould()
+    void neighboursLieSideBySide()
     {
         MainWindow main;
         MSFlexGrid &grid = main.grid();

@@ -278,7 +278,7 @@ private Q_SLOTS:
         QCOMPARE(m_requests->take().filter(u" 9"_s), QStringList());
     }
 
-    // From here on with the real windows.
+    // The tests below use the real windows.
 
     void theTracksAreNamedWhenTheGameOpens()
     {

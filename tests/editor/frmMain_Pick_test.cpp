@@ -37,7 +37,7 @@ private Q_SLOTS:
         QVERIFY(!gChanged);
     }
 
-    void aClickTakesTheBoxOfItsColumn_data()
+    void aClickFocusesTheBoxOfItsColumn_data()
     {
         QTest::addColumn<int>("column");
         QTest::newRow("txtWord") << 1;
@@ -45,7 +45,7 @@ private Q_SLOTS:
         QTest::newRow("txtSentence") << 3;
     }
 
-    void aClickTakesTheBoxOfItsColumn()
+    void aClickFocusesTheBoxOfItsColumn()
     {
         QFETCH(int, column);
         MainWindow main;
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QCOMPARE(main.grid().Col(), 1);
     }
 
-    void aClickOnAScrolledPagePicksTheNumberShown()
+    void aClickOnAScrolledPagePicksTheEntryShown()
     {
         MainWindow main;
         main.fill(60);
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(main.row(4), EditorModes::filledRow(4));
     }
 
-    void anAbortedEntryIsNoLongerKept()
+    void anAbortedEntryIsNoLongerCurrent()
     {
         MainWindow main;
         main.fill(60);

@@ -238,7 +238,7 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().CurrentWord(), Integer(2));
     }
 
-    void anEmptyListIsTold()
+    void anEmptyListIsReported()
     {
         gVocabList().ClearList();
         m_main->answers.expectMsgBox(u"Not printed: Your current wordlist is empty."_s);

@@ -39,9 +39,9 @@ private Q_SLOTS:
         QCOMPARE(gOrderSize, Integer(0));
     }
 
-    void theCardsComeUpOverTheMainWindow_data() { anEmptyListHasNoCards_data(); }
+    void theCardsAreShownOverTheMainWindow_data() { anEmptyListHasNoCards_data(); }
 
-    void theCardsComeUpOverTheMainWindow()
+    void theCardsAreShownOverTheMainWindow()
     {
         QFETCH(bool, byMenu);
         m_main->fill(5);
@@ -126,7 +126,7 @@ private:
         QVERIFY(m_main->answers.allSeen());
     }
 
-    // Opens the cards, goes on by so many and closes them.
+    // Opens the cards, clicks Next this number of times and closes them.
     void drill(int cards)
     {
         m_main->answers.useForm("dlgQuickFlash", [cards](QDialog &dialog) {

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// From the idle editor.
+// Starts in the idle editor.
 void search(MainWindow &main, const QString &word)
 {
     main.click("cmdSearch");
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(main.row(row), EditorModes::filledRow(hit));
     }
 
-    void theHitsPageIsShownWhereTheBarStandsThereAlready()
+    void theHitsPageIsShownEvenIfTheBarDoesNotMove()
     {
         MainWindow main;
         main.fill(30);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().CurrentWord(), 31);
     }
 
-    void theFormerMarkGoes()
+    void theFormerMarkIsRemoved()
     {
         MainWindow main;
         main.fill(5);
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(main.answers.allSeen());
     }
 
-    void aMissIsToldAndChangesNothing_data()
+    void aMissIsReportedAndChangesNothing_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("told");
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QTest::newRow("blanks") << u"  "_s << QString();
     }
 
-    void aMissIsToldAndChangesNothing()
+    void aMissIsReportedAndChangesNothing()
     {
         QFETCH(QString, typed);
         QFETCH(QString, told);
@@ -279,7 +279,7 @@ private Q_SLOTS:
         scroll(30, {1});
     }
 
-    void aFoundEntryThatIsAbortedIsNoLongerKept()
+    void aFoundEntryThatIsAbortedIsNoLongerCurrent()
     {
         MainWindow main;
         main.fill(60);

@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(!gChanged);
     }
 
-    void abortLeavesTheModesToTheNextCommand()
+    void abortLeavesGNewWordAndGWordSelected()
     {
         MainWindow main;
         main.fill(3);

@@ -19,7 +19,7 @@ class frmSplash_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theLabelsTellWhatIsStarting_data()
+    void theLabelsNameTheProgram_data()
     {
         QTest::addColumn<QByteArray>("label");
         QTest::addColumn<QString>("text");
@@ -28,7 +28,7 @@ private Q_SLOTS:
         QTest::newRow("version") << "lblVersion"_ba << u"Version 1.0.0a"_s;
     }
 
-    void theLabelsTellWhatIsStarting()
+    void theLabelsNameTheProgram()
     {
         QFETCH(QByteArray, label);
         frmSplash splash;
@@ -38,7 +38,7 @@ private Q_SLOTS:
         QVERIFY(found.isVisible());
     }
 
-    void theVersionIsTheApplicationsAndAnA()
+    void theVersionIsThatOfTheApplicationWithAnA()
     {
         frmSplash splash;
         splash.show();
@@ -48,7 +48,7 @@ private Q_SLOTS:
                      .arg(Application::Revision()));
     }
 
-    void theLegalNoticeIsTheVersionInformations()
+    void theLegalNoticeIsThatOfTheApplication()
     {
         frmSplash splash;
         splash.show();

@@ -99,7 +99,7 @@ private Q_SLOTS:
         QVERIFY(first.end());
     }
 
-    void aSecondCopyFindsTheFirstWhileItLives()
+    void aSecondCopyFindsTheFirstWhileItRuns()
     {
         Copy first;
         QCOMPARE(first.answer(), "first"_ba);

@@ -162,7 +162,7 @@ private Q_SLOTS:
         QCOMPARE(m_dialog->FileTitle, u"dog.lwx"_s);
     }
 
-    void withoutTheOptionAnExistingFileIsTakenUnasked()
+    void withoutTheOptionAnExistingFileIsTakenWithoutAQuestion()
     {
         make(u"first/cat.lwx"_s);
         m_dialog->OverwritePrompt = false;

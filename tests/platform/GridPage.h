@@ -34,7 +34,7 @@ public:
     // The text of the tool tip of a cell; empty if there is none.
     QString toolTip(int row, int column)
     {
-        // Qt hides an older tool tip only after some time.
+        // Qt hides the tool tip before it only after some time.
         for (QWidget *window : QApplication::topLevelWidgets())
             if (window->objectName() == "qtooltip_label"_L1)
                 window->hide();

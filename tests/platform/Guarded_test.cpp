@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(answers.seen(), 0);
     }
 
-    void aHandlerIsAtWorkButForItsDialogs()
+    void aHandlerIsAtWorkExceptDuringItsDialogs()
     {
         QVERIFY(!isHandlerAtWork());
         runGuarded([] {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Comparing what was heard with what was to be heard. Sounds are samples of one channel from -1
-// to 1.
+// Compares a recording with the sound that was played. Sounds are samples of one channel from -1 to
+// 1.
 #pragma once
 
 #include "platform/sound/WaveFile.h"
@@ -16,7 +16,7 @@
 using Sound = std::vector<double>;
 using PieceOfSound = std::span<const double>;
 
-// The 16-bit wave's channels together.
+// The mean of the channels of a 16-bit wave.
 [[nodiscard]] inline Sound mixed(const WaveFile &wave)
 {
     Sound sound;
@@ -31,7 +31,7 @@ using PieceOfSound = std::span<const double>;
 
 inline constexpr std::size_t Coarseness = 20;
 
-// Means of that many samples each: coarser, and much faster to compare.
+// The means of Coarseness samples each, which are much faster to compare.
 [[nodiscard]] inline Sound coarse(PieceOfSound sound)
 {
     Sound means;
@@ -44,7 +44,8 @@ inline constexpr std::size_t Coarseness = 20;
     return means;
 }
 
-// 1 where the two, of one length, have the same course, near 0 where they have nothing in common.
+// The correlation of two sounds of the same length: 1 if they are equal but for the volume, near 0
+// if they have nothing in common.
 [[nodiscard]] inline double likeness(PieceOfSound one, PieceOfSound other)
 {
     double product = 0;
@@ -64,7 +65,7 @@ struct Match
     std::size_t position = 0;
 };
 
-// How like the piece the sound is from each position on.
+// The likeness of the piece and the part of the sound at each position.
 [[nodiscard]] inline Sound likenesses(PieceOfSound piece, PieceOfSound sound)
 {
     Sound found;
@@ -73,11 +74,11 @@ struct Match
     return found;
 }
 
-// Below that the piece is not there: in silence no place is better than another.
+// Below this the sound does not contain the piece.
 inline constexpr double FaintLikeness = 0.3;
 
-// Where in the sound the piece is found best. Coarsely a tone is like itself a few periods later
-// too, so that all good places are looked at closely.
+// The position in the sound where the piece fits best. A tone is also like itself a few periods
+// later, so all good positions of the coarse sounds are compared sample by sample.
 [[nodiscard]] inline Match bestMatch(PieceOfSound piece, PieceOfSound sound)
 {
     const Sound coarsely = likenesses(coarse(piece), coarse(sound));
@@ -102,7 +103,7 @@ inline constexpr double FaintLikeness = 0.3;
     return best;
 }
 
-// Samples in the longest stretch that stays below a thousandth of full scale.
+// The number of samples in the longest part that stays below a thousandth of full scale.
 [[nodiscard]] inline std::size_t longestSilence(PieceOfSound sound)
 {
     std::size_t longest = 0;

@@ -170,7 +170,7 @@ private Q_SLOTS:
                  MsgBoxAnswer::No);
     }
 
-    void anUnknownEndAgreesToNothing_data()
+    void aBoxEndedWithoutAButtonIsNeverAYes_data()
     {
         QTest::addColumn<MsgBoxButtons>("buttons");
         QTest::addColumn<MsgBoxAnswer>("answer");
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QTest::newRow("Yes/No/Cancel") << MsgBoxButtons::YesNoCancel << MsgBoxAnswer::Cancel;
     }
 
-    void anUnknownEndAgreesToNothing()
+    void aBoxEndedWithoutAButtonIsNeverAYes()
     {
         QFETCH(MsgBoxButtons, buttons);
         for (const int end : {int(QDialog::Rejected), int(QDialog::Accepted), -1, 77}) {
@@ -205,7 +205,7 @@ private Q_SLOTS:
         QCOMPARE(MsgBox(u"Well?"_s, MsgBoxButtons::YesNo), MsgBoxAnswer::Yes);
     }
 
-    void theBoxStandsOverTheActiveWindow()
+    void theBoxIsShownOverTheActiveWindow()
     {
         QWidget window;
         window.show();
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QVERIFY(answers.allSeen());
     }
 
-    void theBoxStandsOverAWindowThatStays_data()
+    void theBoxIsShownOverAWindowThatStays_data()
     {
         QTest::addColumn<Qt::WindowType>("type");
         QTest::newRow("a tool tip") << Qt::ToolTip;
@@ -228,7 +228,7 @@ private Q_SLOTS:
         QTest::newRow("a tool window") << Qt::Tool;
     }
 
-    void theBoxStandsOverAWindowThatStays()
+    void theBoxIsShownOverAWindowThatStays()
     {
         QFETCH(Qt::WindowType, type);
         QWidget above(nullptr, type);
@@ -249,7 +249,7 @@ private Q_SLOTS:
         MsgBox(u"Well."_s);
     }
 
-    void theBoxStandsOverTheDialogThatIsOpen()
+    void theBoxIsShownOverTheDialogThatIsOpen()
     {
         QWidget window;
         window.show();

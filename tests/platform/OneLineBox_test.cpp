@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), u"dog"_s);
     }
 
-    void aPasteIsUndoneByItself()
+    void aPasteIsOneStepOfUndo()
     {
         QTest::keyClicks(m_box.get(), u"a"_s);
         copyElsewhere(u"\nbig\ncat\n"_s);

@@ -49,10 +49,10 @@ bool SoundServer::start()
         qWarning() << "pulseaudio:" << m_server.errorString() << m_server.readAll();
         return false;
     }
-    // A server that plays nothing writes nothing: with this it writes silence.
+    // A server without a sound writes nothing. With this client it writes silence.
     m_silence.start(u"pacat"_s, {u"--raw"_s, u"/dev/zero"_s});
     const int pipe = ::open(QFile::encodeName(output).constData(), O_RDONLY | O_NONBLOCK);
-    // The least that a pipe holds, so that what is heard is not long past.
+    // The smallest buffer of a pipe, so that the recording has little delay.
     return m_silence.waitForStarted() && pipe >= 0 && ::fcntl(pipe, F_SETPIPE_SZ, 4096) >= 0 &&
            m_output.open(pipe, QIODevice::ReadOnly | QIODevice::Unbuffered,
                          QFileDevice::AutoCloseHandle);

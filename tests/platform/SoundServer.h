@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A sound server of the test's own. It must be there before the first sound, which finds it by the
-// environment.
+// A sound server for one test. Start it before the first sound is played: the player finds it by an
+// environment variable.
 //
-// Its one output is a pipe, and it plays as fast as the pipe is read. On a machine that is busy
-// the test reads more slowly, so that no sound is lost.
+// Its only output is a pipe, and it plays as fast as the pipe is read. On a busy machine the test
+// reads more slowly, and no sound is lost.
 #pragma once
 
 #include <QFile>
@@ -27,9 +27,9 @@ public:
     [[nodiscard]] bool start();
     void stop();
 
-    // Listens to no more than the next hundredth of a second.
+    // Reads at most the next hundredth of a second.
     void listen();
-    // All that has been listened to, on one channel.
+    // All that has been read, on one channel.
     [[nodiscard]] const std::vector<double> &heard() const { return m_heard; }
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What is heard of sound requests on a real sound server.
+// Plays sounds on a real sound server and records its output.
 #include "platform/Paths.h"
 #include "platform/sndPlaySoundA.h"
 
@@ -19,7 +19,7 @@ namespace {
 constexpr unsigned Play = SoundFlags::Asynchronous | SoundFlags::Loop;
 constexpr std::size_t Second = SoundServer::SampleRate;
 constexpr std::size_t TenMilliseconds = Second / 100;
-constexpr std::size_t FadedIn = Second / 10; // by then a new sound is there in full
+constexpr std::size_t FadedIn = Second / 10; // after this time the fade-in has ended
 constexpr double WellHeard = 0.9;            // likeness of a sound and its recording
 
 QString pathOfTrack(const QString &name)
@@ -33,7 +33,7 @@ Sound soundOf(const QString &path)
     return wave ? mixed(*wave) : Sound();
 }
 
-// The end of a sound and its beginning, as they follow when it is looped.
+// The end of a sound followed by its beginning, as in a loop.
 Sound join(const Sound &sound, std::size_t each)
 {
     Sound joined(sound.end() - std::ptrdiff_t(each), sound.end());
@@ -41,7 +41,7 @@ Sound join(const Sound &sound, std::size_t each)
     return joined;
 }
 
-// Half a second of noise, without what is too high to come through a recording.
+// Half a second of noise, without the high frequencies that a recording loses.
 QByteArray noise()
 {
     QRandomGenerator random(1);
@@ -162,8 +162,8 @@ private Q_SLOTS:
         QVERIFY(listenUntil([this] { return hasBeenSilentFor(Second / 5); }));
     }
 
-    // What closes the connection to the server must not meet what still comes from the server.
-    void aProgramThatEndsWhileItPlaysEndsInPeace()
+    // Messages of the server may arrive while the connection is closed.
+    void aProgramThatEndsWhileItPlaysDoesNotCrash()
     {
         for (int run = 0; run < 10; ++run) {
             QVERIFY(listenUntil([this] { return hasBeenSilentFor(Second / 5); }));
@@ -178,7 +178,7 @@ private Q_SLOTS:
         }
     }
 
-    void aServerThatEndsInTheMiddleIsNoFault()
+    void aServerThatEndsDuringASoundIsNoError()
     {
         playUntilHeard(pathOfTrack(u"fastbeat/Track10"_s));
         m_server.stop();
@@ -229,8 +229,8 @@ private:
         sndPlaySoundA(path, Play);
         QVERIFY(listenUntil([this] { return !hasBeenSilentFor(Second / 5); }));
     }
-    // Plays the file until so much of the beginning of its sound has been heard, which may take a
-    // while on a machine that is busy. The position is that of the sound's first sample.
+    // Plays the file until this number of samples of its sound has been heard. The result's
+    // position is that of the first sample of the sound.
     [[nodiscard]] Match playAndListen(const QString &path, PieceOfSound sound, std::size_t samples)
     {
         listenFromNowOn();

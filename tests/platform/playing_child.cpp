@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// playing_child WAVE: plays the file, and ends when a line comes in.
+// playing_child WAVE: plays the file, and ends when it has read a line from its standard input.
 #include "platform/sndPlaySoundA.h"
 
 #include <QCoreApplication>

@@ -36,13 +36,13 @@ private Q_SLOTS:
         QVERIFY(m_folder.isValid());
         m_wave = path("sound.wav");
         writeFile(m_wave, waveBytes(22050, 1, 16, QByteArray(44100, '\x10')));
-        // Neither this machine's server nor a new one.
+        // So that no sound server of the machine is found or started.
         qputenv("HOME", QFile::encodeName(m_folder.path()));
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.path()));
         qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(path("no-server")));
     }
 
-    void aPlayerInItsPlaceGetsEveryRequestAsItIs()
+    void aPlayerThatIsSetGetsEveryRequestAsItIs()
     {
         QStringList requests;
         setSoundPlayer([&requests](const QString &fileName, unsigned flags) {
@@ -85,7 +85,7 @@ private Q_SLOTS:
         sndPlaySoundA(u"NULL"_s, 0);
     }
 
-    void aServerThatHangsUpIsNotTalkedAbout()
+    void aServerThatClosesTheConnectionIsNotReported()
     {
         QLocalServer server;
         QVERIFY(server.listen(path("rude-server")));
@@ -95,9 +95,9 @@ private Q_SLOTS:
             server.nextPendingConnection()->abort();
         });
         QProcess *program = startedProgram(server);
-        // A second call is made when the first has come to nothing.
+        // The player connects again after the first connection has failed.
         QTRY_VERIFY_WITH_TIMEOUT(calls >= 2, 20'000);
-        endsInPeace(program);
+        endsWithoutAMessage(program);
     }
 
     void aProgramEndsThoughItsServerNeverAnswers()
@@ -106,8 +106,8 @@ private Q_SLOTS:
         QVERIFY(server.listen(path("deaf-server")));
         QProcess *program = startedProgram(server);
         QTRY_VERIFY(server.hasPendingConnections());
-        // By itself the call would last half a minute.
-        endsInPeace(program);
+        // The call for the connection would wait for half a minute.
+        endsWithoutAMessage(program);
     }
 
 private:
@@ -126,7 +126,7 @@ private:
         return program;
     }
 
-    static void endsInPeace(QProcess *program)
+    static void endsWithoutAMessage(QProcess *program)
     {
         program->write("\n");
         QVERIFY(program->waitForFinished(20'000));

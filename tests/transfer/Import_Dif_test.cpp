@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), (QStringList{u"RU"_s, u"dog"_s}));
     }
 
-    void quotesAndBlanksStayAsTheyStand()
+    void quotesAndBlanksStayAsTheyAre()
     {
         gImportSen.clear();
         m_run->expectAdded(3);

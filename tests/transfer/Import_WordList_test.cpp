@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(openEntries(), (QStringList{u"cat"_s, u"dog"_s}));
     }
 
-    void theFlagsAfterwards_data()
+    void theImportEndsWithTheseFlags_data()
     {
         QTest::addColumn<QString>("answer");
         QTest::addColumn<QString>("flags");
@@ -153,7 +153,7 @@ private Q_SLOTS:
         QTest::newRow(Close) << QString::fromLatin1(Close) << u"tase"_s;
     }
 
-    void theFlagsAfterwards()
+    void theImportEndsWithTheseFlags()
     {
         QFETCH(QString, answer);
         setOpenEntries({u"cat"_s});

@@ -21,7 +21,7 @@ private Q_SLOTS:
         QCOMPARE(textOfList(list), "cat\ta small animal\tThe cat sat.\r\ndog\t\t\r\n"_ba);
     }
 
-    void textsAreWrittenAsTheyStand_data()
+    void textsAreWrittenAsTheyAre_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("bytes");
@@ -36,7 +36,7 @@ private Q_SLOTS:
         QTest::newRow("a byte without a character") << u"\u0081"_s << "\x81"_ba;
     }
 
-    void textsAreWrittenAsTheyStand()
+    void textsAreWrittenAsTheyAre()
     {
         QFETCH(QString, text);
         QFETCH(QByteArray, bytes);
