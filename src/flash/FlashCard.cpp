@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flash/FlashCard.h"
 
-#include "platform/CardTurn.h"
+#include "platform/Motion.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -57,7 +57,7 @@ FlashCard::FlashCard(QWidget *parent) : QPlainTextEdit(parent)
 
 void FlashCard::setText(const QString &text, Side side)
 {
-    CardTurn::end(*this);
+    Motion::end(*this);
     if (side != m_side) {
         m_side = side;
         style()->polish(this);
@@ -73,10 +73,10 @@ void FlashCard::turnTo(const QString &text, Side side)
         setText(text, side);
         return;
     }
-    CardTurn::end(*this);
+    Motion::end(*this);
     const QPixmap oldSide = grab();
     setText(text, side);
-    CardTurn::play(*this, oldSide, grab(), parentWidget()->palette().window());
+    Motion::turnOver(*this, oldSide, grab(), parentWidget()->palette().window());
 }
 
 void FlashCard::keyPressEvent(QKeyEvent *event)

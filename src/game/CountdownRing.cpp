@@ -2,15 +2,17 @@
 #include "game/CountdownRing.h"
 
 #include "platform/Appearance.h"
+#include "platform/Motion.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
-// Pixels.
-constexpr int RingSide = 84;
+// Pixels, at the usual side.
+constexpr int UsualSide = 84;
 constexpr int RingWidth = 8;
 constexpr int NumberHeight = 30;
 constexpr int LastNumberHeight = 42;
@@ -19,44 +21,115 @@ constexpr int LastSeconds = 5;
 
 constexpr QColor Alarm(0xC6, 0x28, 0x28); // contrast to white 5.6 to 1
 
+using namespace std::chrono_literals;
+constexpr auto PulseTime = 250ms;
+constexpr auto FillingTime = 400ms;
+constexpr auto TimeOutTime = 400ms;
+
+// Degrees on the colour circle for levels 1 to 10: from the program's blue-green over blue, violet
+// and red to gold.
+constexpr std::array<int, 10> Hues{187, 205, 222, 245, 268, 292, 318, 340, 18, 36};
+
 } // namespace
 
 CountdownRing::CountdownRing(QWidget *parent) : QLabel(parent)
 {
-    setFixedSize(RingSide, RingSide);
+    setSide(UsualSide);
+}
+
+void CountdownRing::setSide(int side)
+{
+    setFixedSize(side, side);
 }
 
 void CountdownRing::setSeconds(Integer left, Integer limit)
 {
+    const bool isTick = left == m_left - 1;
     m_left = left;
     m_limit = limit;
     setText(left.toText());
     update();
+    if (isTick && isLastSeconds()) {
+        Motion::end(*this);
+        Motion::play(*this, rect(), PulseTime, [this](QPainter &painter, double t) {
+            draw(painter, share(), 1 + 0.2 * (1 - t));
+        });
+    }
+}
+
+void CountdownRing::setLevel(Integer level)
+{
+    m_level = level;
+    update();
+}
+
+void CountdownRing::playFilling()
+{
+    Motion::end(*this);
+    Motion::play(*this, rect(), FillingTime,
+                 [this](QPainter &painter, double t) { draw(painter, t, 1); });
+}
+
+void CountdownRing::playTimeOut()
+{
+    QWidget &window = *this->window();
+    const int margin = width() / 3;
+    const QRect place = QRect(mapTo(&window, QPoint()), size());
+    Motion::play(window, place.adjusted(-margin, -margin, margin, margin), TimeOutTime,
+                 [margin, side = width()](QPainter &painter, double t) {
+                     painter.setOpacity(1 - t);
+                     painter.setPen(QPen(Alarm, 4));
+                     const double radius = side / 2.0 + (margin - 4) * t;
+                     painter.drawEllipse(QPointF(margin + side / 2.0, margin + side / 2.0), radius,
+                                         radius);
+                 });
+}
+
+QColor CountdownRing::colourOf(Integer level, const QPalette &palette)
+{
+    const int hue = Hues.at(static_cast<std::size_t>(level.toInt() - 1));
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    return isDark ? QColor::fromHsl(hue, 190, 165) : QColor::fromHsl(hue, 200, 82);
+}
+
+bool CountdownRing::isLastSeconds() const
+{
+    return m_left <= LastSeconds;
+}
+
+double CountdownRing::share() const
+{
+    return double(m_left.toInt()) / std::max(m_limit.toInt(), 1);
+}
+
+void CountdownRing::draw(QPainter &painter, double share, double growth) const
+{
+    const double scale = double(width()) / UsualSide;
+    const double half = RingWidth * scale / 2;
+    const QRectF ring = QRectF(rect()).adjusted(half, half, -half, -half);
+    const bool last = isLastSeconds();
+
+    painter.setPen(QPen(palette().mid(), RingWidth * scale));
+    painter.setBrush(last ? QBrush(Alarm) : palette().window());
+    painter.drawEllipse(ring);
+    constexpr int FullCircle = 360 * 16;
+    constexpr int Top = 90 * 16;
+    painter.setPen(QPen(last ? Alarm : colourOf(m_level, palette()), RingWidth * scale,
+                        Qt::SolidLine, Qt::RoundCap));
+    if (share > 0)
+        painter.drawArc(ring, Top, -qRound(share * FullCircle));
+
+    QFont type = font();
+    type.setBold(true);
+    type.setPixelSize(qRound((last ? LastNumberHeight : NumberHeight) * scale * growth));
+    painter.setFont(type);
+    painter.setPen(last ? QColor(Qt::white) : palette().color(QPalette::WindowText));
+    painter.drawText(rect(), Qt::AlignCenter, text());
 }
 
 void CountdownRing::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double half = RingWidth / 2.0;
-    const QRectF ring = QRectF(rect()).adjusted(half, half, -half, -half);
-    const bool last = m_left <= LastSeconds;
-
-    painter.setPen(QPen(palette().mid(), RingWidth));
-    painter.setBrush(last ? QBrush(Alarm) : QBrush(Qt::NoBrush));
-    painter.drawEllipse(ring);
-    const double share = double(m_left.toInt()) / std::max(m_limit.toInt(), 1);
-    constexpr int FullCircle = 360 * 16;
-    constexpr int Top = 90 * 16;
-    painter.setPen(
-        QPen(last ? Alarm : accentColour(palette()), RingWidth, Qt::SolidLine, Qt::RoundCap));
-    if (m_left > 0)
-        painter.drawArc(ring, Top, -qRound(share * FullCircle));
-
-    QFont type = font();
-    type.setBold(true);
-    type.setPixelSize(last ? LastNumberHeight : NumberHeight);
-    painter.setFont(type);
-    painter.setPen(last ? QColor(Qt::white) : palette().color(QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    draw(painter, share(), 1);
 }

@@ -2,6 +2,8 @@
 #include "game/LifeHearts.h"
 
 #include "game/GameState.h"
+#include "platform/Appearance.h"
+#include "platform/Motion.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -11,6 +13,10 @@ namespace {
 // Pixels.
 constexpr int HeartSide = 24;
 constexpr int HeartPitch = 28;
+
+constexpr QColor Full(0xD8, 0x3A, 0x4B);
+
+constexpr std::chrono::milliseconds FadingTime(400);
 
 QPainterPath heart()
 {
@@ -22,6 +28,14 @@ QPainterPath heart()
     return path;
 }
 
+void drawHeart(QPainter &painter, const QColor &outline, const QBrush &inside)
+{
+    static const QPainterPath Heart = heart();
+    painter.setPen(QPen(outline, 1.5));
+    painter.setBrush(inside);
+    painter.drawPath(Heart);
+}
+
 } // namespace
 
 LifeHearts::LifeHearts(QWidget *parent) : QWidget(parent)
@@ -31,22 +45,29 @@ LifeHearts::LifeHearts(QWidget *parent) : QWidget(parent)
 
 void LifeHearts::setLives(Integer lives)
 {
+    if (lives == m_lives)
+        return;
+    const bool isLost = lives == m_lives - 1 && lives >= 0;
     m_lives = lives;
     update();
+    Motion::end(*this);
+    if (!isLost)
+        return;
+    const QRect place(lives.toInt() * HeartPitch, 0, HeartSide, HeartSide);
+    Motion::play(*this, place, FadingTime, [](QPainter &painter, double t) {
+        painter.setOpacity(1 - t);
+        drawHeart(painter, Full, Full);
+    });
 }
 
 void LifeHearts::paintEvent(QPaintEvent * /*event*/)
 {
-    static const QPainterPath Heart = heart();
-    const QColor full(0xD8, 0x3A, 0x4B);
-    const QColor lost = palette().color(QPalette::PlaceholderText);
+    const QColor lost = quietColour(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (int life = 1; life * HeartPitch <= width(); ++life) {
         const bool isLeft = life <= m_lives.toInt();
-        painter.setPen(QPen(isLeft ? full : lost, 1.5));
-        painter.setBrush(isLeft ? QBrush(full) : QBrush(Qt::NoBrush));
-        painter.drawPath(Heart);
+        drawHeart(painter, isLeft ? Full : lost, isLeft ? QBrush(Full) : QBrush(Qt::NoBrush));
         painter.translate(HeartPitch, 0);
     }
 }

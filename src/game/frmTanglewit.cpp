@@ -5,9 +5,9 @@
 #include "core/WordOrder.h"
 #include "core/cVocabList.h"
 #include "game/Scramble.h"
-#include "game/TypeSizes.h"
 #include "game/dlgGameOver.h"
 #include "game/ui_frmTanglewit.h"
+#include "platform/ReducedMotion.h"
 #include "platform/Screen.h"
 
 #include <QKeyEvent>
@@ -21,9 +21,6 @@ namespace {
 
 constexpr int NarrowScreen = 12000;       // twips
 constexpr QSize LargestWindow(1200, 900); // pixels
-
-const QString StartPrompt = QStringLiteral("Please click Start to begin.");
-const QString RestartPrompt = QStringLiteral("Please click Restart to shuffle.");
 
 // Maximised on a narrow screen; else up to nine tenths of the screen, in proportion 4 to 3.
 void takeSize(QWidget &window)
@@ -40,26 +37,17 @@ void takeSize(QWidget &window)
     window.move(room.center() - window.rect().center());
 }
 
-void showPrompt(QLabel &clue, const QString &prompt)
-{
-    showText(clue, prompt, definitionTypeSize(prompt.size()));
-}
-
 } // namespace
 
 frmTanglewit::frmTanglewit(MusicMenu menu, QWidget *mainWindow)
     : m_ui(std::make_unique<Ui::frmTanglewit>()), m_music(menu), m_mainWindow(mainWindow)
 {
     m_ui->setupUi(this);
+    m_board = std::make_unique<GameBoard>(*m_ui, *this);
     m_Timer1.setParent(this);
     m_Timer1.setObjectName(QStringLiteral("Timer1"));
+    m_Timer1.setTimerType(Qt::PreciseTimer);
     connectHandlers();
-    // They share one place, which keeps its size.
-    for (QPushButton *button : {m_ui->cmdShow, m_ui->cmdHide}) {
-        QSizePolicy policy = button->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(policy);
-    }
 }
 
 frmTanglewit::~frmTanglewit() = default;
@@ -81,21 +69,21 @@ void frmTanglewit::connectHandlers()
 void frmTanglewit::Form_Load()
 {
     takeSize(*this);
+    ReducedMotion::watch();
     m_Timer1.setInterval(1000);
     newGame();
     ResetBoard();
     gOrderIndex = 1;
     gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
     gWordOrder.resize(gVocabList().NumWords().toInt());
-    showWordSwitch(true);
+    m_board->showWordSwitch(true);
     m_music.fillTracks();
 }
 
 void frmTanglewit::newGame()
 {
     m_game = {};
-    m_ui->lstHits->clear();
-    m_ui->lstMisses->clear();
+    m_board->clearLists();
 }
 
 void frmTanglewit::Form_Unload()
@@ -113,8 +101,14 @@ void frmTanglewit::Form_Terminate()
 
 void frmTanglewit::keyPressEvent(QKeyEvent *event)
 {
-    if (!m_defaultButton.press(*event, focusWidget()))
+    if (!m_board->press(*event, focusWidget()))
         Form::keyPressEvent(event);
+}
+
+void frmTanglewit::resizeEvent(QResizeEvent *event)
+{
+    Form::resizeEvent(event);
+    m_board->fit(event->size().height());
 }
 
 // The bar rests at 0. The lower arrow sets it to 1, the upper one to -1.
@@ -123,19 +117,19 @@ void frmTanglewit::VScroll1_Change()
     const int value = m_ui->VScroll1->value();
     m_game.changeStartLevel(value == 0 ? 0 : value > 0 ? -1 : 1);
     m_ui->VScroll1->setValue(0);
-    showGame();
+    m_board->show(m_game);
 }
 
 void frmTanglewit::cmdStart_Click()
 {
-    showMode(Mode::Playing);
+    m_board->show(GameBoard::Mode::Playing);
     ShowFirstWord();
     if (isTooShortToScramble(gVocabList().Word()))
-        return; // the game waits for Restart, Quit or the close box
+        return; // the game stands still
     m_ui->txtUserAnswer->setEnabled(true);
     m_Timer1.start();
     gScore = 0;
-    showGame();
+    m_board->show(m_game);
     m_ui->txtUserAnswer->setFocus();
     m_ui->VScroll1->setEnabled(false);
     m_music.startGame();
@@ -147,7 +141,8 @@ void frmTanglewit::cmdRestart_Click()
     Shuffle();
     newGame();
     ResetBoard();
-    showPrompt(*m_ui->lblClue, QStringLiteral("Word List has been shuffled. ") + StartPrompt);
+    m_board->showPrompt(
+        QStringLiteral("Word List has been shuffled. Please click Start to begin."));
 }
 
 void frmTanglewit::cmdQuit_Click()
@@ -164,13 +159,13 @@ void frmTanglewit::cmdQuit_Click()
 // setFocus does nothing while the answer box is disabled.
 void frmTanglewit::cmdShow_Click()
 {
-    showWordSwitch(true);
+    m_board->showWordSwitch(true);
     m_ui->txtUserAnswer->setFocus();
 }
 
 void frmTanglewit::cmdHide_Click()
 {
-    showWordSwitch(false);
+    m_board->showWordSwitch(false);
     m_ui->txtUserAnswer->setFocus();
 }
 
@@ -179,7 +174,8 @@ void frmTanglewit::cmdViewTop10_Click()
     gViewTop10Only = true;
     dlgGameOver(m_music, this).exec();
     gViewTop10Only = false;
-    showGame(); // the dialog's Close sets the score to 0
+    m_board->show(m_game); // the dialog's Close sets the score to 0
+    m_ui->txtUserAnswer->setFocus();
 }
 
 // Does not change lives, level and lists.
@@ -187,51 +183,8 @@ void frmTanglewit::ResetBoard()
 {
     m_Timer1.stop();
     gScore = 0;
-    showGame();
-    showMode(Mode::Ready);
+    m_board->show(m_game);
+    m_board->show(GameBoard::Mode::Ready);
     m_ui->lblSentence->clear();
     m_ui->VScroll1->setEnabled(true);
-}
-
-// In Playing the answer box is enabled, and the level switch disabled, once a word is shown.
-void frmTanglewit::showMode(Mode mode)
-{
-    const bool isReady = mode == Mode::Ready;
-    const bool isPlaying = mode == Mode::Playing;
-    if (!isPlaying) {
-        m_ui->lblScrambledWord->clear();
-        showPrompt(*m_ui->lblClue, isReady ? StartPrompt : RestartPrompt);
-        m_ui->tileRack->prepare(0);
-        m_ui->txtUserAnswer->clear();
-        m_ui->txtUserAnswer->setEnabled(false);
-    }
-    m_ui->cmdEnter->setEnabled(isPlaying);
-    m_ui->cmdEnter->setVisible(!isReady);
-    m_ui->cmdStart->setVisible(isReady);
-    m_ui->cmdStart->setEnabled(isReady);
-    m_defaultButton.set(isReady ? m_ui->cmdStart : isPlaying ? m_ui->cmdEnter : nullptr);
-    if (!isPlaying)
-        (isReady ? m_ui->cmdStart : m_ui->cmdRestart)->setFocus();
-}
-
-void frmTanglewit::showWordSwitch(bool wordIsShown)
-{
-    m_ui->cmdShow->setVisible(!wordIsShown);
-    m_ui->cmdHide->setVisible(wordIsShown);
-    m_ui->lblScrambledWord->setVisible(wordIsShown);
-}
-
-void frmTanglewit::showGame()
-{
-    const Integer hits = m_game.HitCount;
-    m_ui->frmHits->setTitle(hits == 0 ? QStringLiteral("Hits")
-                                      : QStringLiteral("Hits: ") + hits.toText());
-    m_ui->lblScore->setText(gScore.toText());
-    m_ui->lblLevel->setText(m_game.Level.toText());
-    m_ui->lblNumLifes->setText(m_game.NumLifes.toText());
-    m_ui->lifeHearts->setLives(m_game.NumLifes);
-    m_ui->lblCountDown->setSeconds(m_game.CountDown, m_game.TimeLimit);
-    // While no letter is uncovered, the list may have no current word.
-    const Integer uncovered = m_game.NextLetter - 1;
-    m_ui->tileRack->uncover(uncovered, uncovered == 0 ? QString() : gVocabList().Word());
 }

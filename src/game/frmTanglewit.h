@@ -3,9 +3,9 @@
 // its blanked example sentence before a countdown ends. There are ten levels and five lives.
 #pragma once
 
+#include "game/GameBoard.h"
 #include "game/GameState.h"
 #include "game/Music.h"
-#include "platform/DefaultButton.h"
 #include "platform/Form.h"
 
 #include <QTimer>
@@ -38,10 +38,9 @@ protected:
     void Form_Unload() override;
     void Form_Terminate() override;
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    // Ready: Start can be pressed. Playing: the answer can be entered. Over: neither.
-    enum class Mode { Ready, Playing, Over };
     enum class After { Start, Answer, TimeOut };
 
     // frmTanglewit.cpp: the window and its buttons
@@ -55,9 +54,6 @@ private:
     void cmdViewTop10_Click();
     void VScroll1_Change();
     void ResetBoard();
-    void showMode(Mode mode);
-    void showWordSwitch(bool wordIsShown);
-    void showGame();
 
     // frmTanglewit_Round.cpp: the countdown and the answers
     void Timer1_Timer();
@@ -74,8 +70,8 @@ private:
     void MaskSentence();
 
     std::unique_ptr<Ui::frmTanglewit> m_ui;
+    std::unique_ptr<GameBoard> m_board;
     QTimer m_Timer1;
-    DefaultButton m_defaultButton;
     GameState m_game;
     Music m_music;
     QWidget *m_mainWindow;

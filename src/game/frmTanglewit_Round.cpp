@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "game/Scramble.h"
 #include "game/TypedWord.h"
 #include "game/dlgGameOver.h"
 #include "game/dlgIncorrectAnswer.h"
@@ -12,44 +13,56 @@
 
 #include <QApplication>
 #include <QScopeGuard>
+#include <QScreen>
+
+#include <algorithm>
 
 using namespace Module1;
 
 namespace {
+
+constexpr int TitleBar = 40; // pixels, more than a dialog's frame takes
+
+// The window's answer row stays in sight where the screen allows it.
+void placeBelow(QDialog &dialog, const QWidget &control)
+{
+    const QWidget &window = *control.window();
+    const QRect room = window.screen()->availableGeometry();
+    const int left = window.geometry().center().x() - dialog.width() / 2;
+    const int top = control.mapToGlobal(control.rect().bottomLeft()).y();
+    const int lowest = room.bottom() - dialog.height() - TitleBar;
+    dialog.move(std::max(room.left(), left), std::max(room.top(), std::min(top, lowest)));
+}
 
 Integer lengthOfWord()
 {
     return toInteger(gVocabList().length());
 }
 
-void addLine(QListWidget &list, const QString &line)
-{
-    list.addItem(line);
-    list.scrollToBottom();
-}
-
 } // namespace
 
 void frmTanglewit::Timer1_Timer()
 {
-    // The countdown is paused while a dialog is open.
-    if (QApplication::activeModalWidget())
+    // The countdown is paused while a dialog is open, and for a word that is not shown.
+    if (QApplication::activeModalWidget() || isTooShortToScramble(gVocabList().Word()))
         return;
     // A word that is too long for an Integer is reported once, not each second.
     auto stop = qScopeGuard([this] { m_Timer1.stop(); });
     const Integer letters = lengthOfWord();
     stop.dismiss();
     const bool isTimeOut = m_game.tick(letters);
-    showGame();
+    m_board->show(m_game);
+    m_board->showWorth(m_game.points(letters));
     if (isTimeOut)
         timeOut();
 }
 
 void frmTanglewit::timeOut()
 {
+    m_board->showTimeOut();
     miss(QStringLiteral("(Timer Expired)"));
     m_game.coverLetters();
-    showGame();
+    m_board->show(m_game);
     if (m_game.isOver())
         gameOver();
     else
@@ -58,6 +71,8 @@ void frmTanglewit::timeOut()
 
 void frmTanglewit::cmdEnter_Click()
 {
+    if (isTooShortToScramble(gVocabList().Word()))
+        return;
     const QString answer = m_ui->txtUserAnswer->text();
     if (answer.isEmpty()) {
         m_ui->txtUserAnswer->setFocus();
@@ -68,12 +83,13 @@ void frmTanglewit::cmdEnter_Click()
         hit();
     } else {
         m_game.loseLife();
-        showGame();
+        m_board->show(m_game);
+        m_board->showMiss(withoutOuterBlanks(answer));
         miss(withoutOuterBlanks(answer));
     }
     m_game.beginCountdown();
     m_game.coverLetters();
-    showGame();
+    m_board->show(m_game);
     m_Timer1.start();
     showNextWord(After::Answer);
     m_ui->txtUserAnswer->setFocus();
@@ -83,27 +99,31 @@ void frmTanglewit::cmdEnter_Click()
 
 void frmTanglewit::hit()
 {
-    gScore += m_game.points(lengthOfWord());
+    const Integer points = m_game.points(lengthOfWord());
+    gScore += points;
     const bool levelHasRisen = m_game.countHit();
-    showGame();
-    addLine(*m_ui->lstHits, gVocabList().Word());
+    m_board->show(m_game);
+    m_board->showHit(points);
     if (!levelHasRisen)
         return;
     m_music.changeLevel(m_game.Level);
+    m_board->playNewLevel();
     MsgBox(QStringLiteral("Level ") + m_game.Level.toText());
-    m_ui->lstHits->clear();
+    m_board->clearHits();
 }
 
 void frmTanglewit::miss(const QString &answer)
 {
     const QString line = gVocabList().Word() + QStringLiteral(" :: ") + answer;
-    dlgIncorrectAnswer(this).exec();
-    addLine(*m_ui->lstMisses, line);
+    dlgIncorrectAnswer dialog(this);
+    placeBelow(dialog, *m_ui->lblFeedback);
+    dialog.exec();
+    m_board->addMiss(line);
 }
 
 void frmTanglewit::gameOver()
 {
     m_Timer1.stop();
     dlgGameOver(m_music, this).exec();
-    showMode(Mode::Over);
+    m_board->show(GameBoard::Mode::Over);
 }

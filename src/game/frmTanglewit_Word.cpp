@@ -7,8 +7,7 @@
 #include "game/TypeSizes.h"
 #include "game/frmTanglewit.h"
 #include "game/ui_frmTanglewit.h"
-
-#include <QScrollBar>
+#include "runtime/TextToNumber.h"
 
 using namespace Module1;
 
@@ -36,30 +35,29 @@ void frmTanglewit::showNextWord(After event)
     }
     if (event == After::TimeOut) {
         m_game.beginCountdown();
-        showGame();
+        m_board->show(m_game);
     }
     showWord(event);
 }
 
 // Makes the word at gOrderIndex the current word and shows it. If it is too short to be scrambled,
-// it can be answered, but the texts of the word before stay.
+// the game stands still.
 void frmTanglewit::showWord(After event)
 {
     cVocabList &list = gVocabList();
     list.CurrentWord(gWordOrder(gOrderIndex));
-    const QString word = list.Word();
-    if (isTooShortToScramble(word))
+    if (isTooShortToScramble(list.Word())) {
+        m_board->showTooShort();
         return;
-    showText(*m_ui->lblScrambledWord, list.ScrambledWord(), wordTypeSize(word.size()));
-    showText(*m_ui->lblClue, list.Definition(), definitionTypeSize(list.Definition().size()));
+    }
+    if (m_game.isOver() && list.Word().isEmpty())
+        return; // the game is over before the error of an empty word
+    m_board->showWord();
+    m_board->showWorth(m_game.points(toInteger(list.length())));
     MaskSentence();
     // After a time-out the next sentence is shown unblanked.
     if (event == After::TimeOut)
         m_ui->lblSentence->setText(list.Sentence());
-    for (QScrollArea *area : {m_ui->clueArea, m_ui->sentenceArea})
-        area->verticalScrollBar()->setValue(0);
-    m_ui->tileRack->prepare(word.size());
-    m_ui->txtUserAnswer->clear();
 }
 
 void frmTanglewit::MaskSentence()

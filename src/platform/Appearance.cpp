@@ -43,11 +43,19 @@ FlashCard { border-radius: 14px; border: 1px solid @line; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
 FlashCard:focus { border: 2px solid @focus; }
 #wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
+#frmHits, #frmMisses {
+    background: palette(base); border: 1px solid @line; border-radius: 10px; margin: 0;
+    padding: 26px 8px 8px 8px; }
+#frmHits::title, #frmMisses::title { subcontrol-origin: border; left: 14px; top: 8px; padding: 0; }
+LetterTile { background: transparent; min-height: 0; padding: 0; border: none; }
 ScrolledArea, ScrolledArea > QWidget > QWidget { background: transparent; }
 ScrolledArea:focus { border: 2px solid @focus; }
-#scoreCaption, #levelCaption, #livesCaption, #clueCaption, #sentenceCaption { color: @quiet; }
+#scoreCaption, #levelCaption, #livesCaption, #clueCaption, #sentenceCaption, #answerCaption,
+#lblBest, #lblLevelHits, #lblWordsLeft, #lblFeedback { color: @quiet; }
+#lblWorth { font-weight: bold; }
 #lblScore, #lblLevel, #lblNumLifes { font-size: 28px; font-weight: bold; }
 #txtUserAnswer { font-size: 20px; }
+#frmTanglewit #txtUserAnswer { font-size: 30px; }
 #lblTitle { font-size: 22px; font-weight: bold; }
 #lblAnswerIs { font-size: 20px; font-weight: bold; }
 #rowPanel QLabel { font-size: 15px; padding: 5px; }
@@ -68,7 +76,7 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
     set("@focus", dark ? QColor(Qt::white) : accent.darker(170));
     set("@line", dark ? QColor(0x5A, 0x5F, 0x63) : QColor(0xC3, 0xCB, 0xD1));
     set("@thin", dark ? QColor(0x44, 0x48, 0x4C) : QColor(0xDD, 0xE2, 0xE6));
-    set("@quiet", dark ? QColor(0xB4, 0xBC, 0xC2) : QColor(0x4A, 0x56, 0x5E));
+    set("@quiet", quietColour(palette));
     set("@disabled", dark ? QColor(0x8A, 0x90, 0x94) : QColor(0x72, 0x7C, 0x83));
     return sheet;
 }
@@ -78,6 +86,11 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
 QColor accentColour(const QPalette &palette)
 {
     return isDark(palette) ? QColor(0x3F, 0xB6, 0xC2) : QColor(0x0E, 0x73, 0x80);
+}
+
+QColor quietColour(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(0xB4, 0xBC, 0xC2) : QColor(0x4A, 0x56, 0x5E);
 }
 
 void applyAppearance(QApplication &application)

@@ -8,6 +8,8 @@ class QApplication;
 class QPalette;
 
 [[nodiscard]] QColor accentColour(const QPalette &palette);
+// For captions, notes and outlines.
+[[nodiscard]] QColor quietColour(const QPalette &palette);
 
 // Takes its colours from the application's palette. Call it again when the palette has changed.
 void applyAppearance(QApplication &application);

@@ -3,9 +3,9 @@
 #include "flash/FlashCard.h"
 
 #include "flash/FlashForm.h"
-#include "support/CardTurns.h"
 #include "support/FormTest.h"
 #include "support/MotionStyle.h"
+#include "support/Motions.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -253,7 +253,7 @@ private:
         card().setStyle(style);
     }
 
-    [[nodiscard]] int turns() { return cardTurns(card()); }
+    [[nodiscard]] int turns() { return motions(card()); }
 
     std::unique_ptr<FlashForm> m_form;
 };

@@ -2,6 +2,7 @@
 // The looks of the countdown and of the lives.
 #include "game/CountdownRing.h"
 #include "game/LifeHearts.h"
+#include "support/MotionStyle.h"
 #include "support/PaintCount.h"
 
 #include <QImage>
@@ -143,6 +144,7 @@ private Q_SLOTS:
         CountdownRing ring;
         ring.setSeconds(6, 30);
         LifeHearts hearts;
+        hearts.setStyle(&m_still);
         hearts.setLives(5);
         for (QWidget *gauge : {static_cast<QWidget *>(&ring), static_cast<QWidget *>(&hearts)}) {
             gauge->show();
@@ -194,6 +196,9 @@ private Q_SLOTS:
         QVERIFY(look(hearts, 6) == look(hearts, 5));
         QVERIFY(look(hearts, -1) == look(hearts, 0));
     }
+
+private:
+    MotionStyle m_still{0};
 };
 
 QTEST_MAIN(Gauges_test)

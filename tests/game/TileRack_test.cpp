@@ -2,9 +2,9 @@
 #include "game/TileRack.h"
 
 #include "game/LetterTile.h"
-#include "support/CardTurns.h"
 #include "support/Controls.h"
 #include "support/MotionStyle.h"
+#include "support/Motions.h"
 #include "support/PaintCount.h"
 
 #include <QTest>
@@ -217,11 +217,11 @@ private Q_SLOTS:
     {
         const auto rack = shownRack(50);
         rack->uncover(1, u"cat"_s);
-        QCOMPARE(cardTurns(tile(*rack, 15)), 1);
-        QCOMPARE(cardTurns(*rack), 1);
+        QCOMPARE(motions(tile(*rack, 15)), 1);
+        QCOMPARE(motions(*rack), 1);
         // The letter is set at once, and the motion ends by itself.
         QCOMPARE(turnedUp(*rack), u"15c"_s);
-        QTRY_COMPARE(cardTurns(*rack), 0);
+        QTRY_COMPARE(motions(*rack), 0);
         QCOMPARE(turnedUp(*rack), u"15c"_s);
     }
 
@@ -229,17 +229,17 @@ private Q_SLOTS:
     {
         const auto rack = shownRack(10'000);
         rack->uncover(1, u"cat"_s);
-        CardTurn::end(tile(*rack, 15));
+        Motion::end(tile(*rack, 15));
         rack->uncover(2, u"cat"_s);
-        QCOMPARE(cardTurns(tile(*rack, 15)), 0);
-        QCOMPARE(cardTurns(tile(*rack, 16)), 1);
+        QCOMPARE(motions(tile(*rack, 15)), 0);
+        QCOMPARE(motions(tile(*rack, 16)), 1);
     }
 
     void withoutAnimationsATileIsTurnedAtOnce()
     {
         const auto rack = shownRack(0);
         uncoverAll(*rack, u"cat"_s);
-        QCOMPARE(cardTurns(*rack), 0);
+        QCOMPARE(motions(*rack), 0);
         QCOMPARE(turnedUp(*rack), u"15c 16a 17t"_s);
     }
 
@@ -248,7 +248,7 @@ private Q_SLOTS:
         const auto rack = shownRack(10'000);
         rack->uncover(1, u"cat"_s);
         rack->uncover(0, {});
-        QCOMPARE(cardTurns(*rack), 0);
+        QCOMPARE(motions(*rack), 0);
         QCOMPARE(turnedUp(*rack), QString());
     }
 

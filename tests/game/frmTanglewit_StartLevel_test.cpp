@@ -2,6 +2,7 @@
 // The switch for the starting level.
 #include "game/frmTanglewit.h"
 
+#include "game/CountdownRing.h"
 #include "game/GameForm.h"
 #include "game/LevelSeconds.h"
 #include "support/FormTest.h"
@@ -124,17 +125,18 @@ private Q_SLOTS:
 
     void theRingIsWholeAtEachLimit()
     {
-        auto &ring = m_form->control<QWidget>("lblCountDown");
+        auto &ring = m_form->control<CountdownRing>("lblCountDown");
         // Three quarters of the way round.
         const auto colour = [&ring] {
             return ring.grab().toImage().pixelColor(4, ring.height() / 2);
         };
-        const QColor whole = colour();
+        QCOMPARE(colour().name(), CountdownRing::colourOf(1, ring.palette()).name());
         m_form->raiseStartLevel(5);
-        QCOMPARE(colour(), whole);
+        const QColor whole = CountdownRing::colourOf(6, ring.palette());
+        QCOMPARE(colour().name(), whole.name());
         m_form->click("cmdStart");
         m_form->passTime(3);
-        QVERIFY(colour() != whole);
+        QVERIFY(colour().name() != whole.name());
     }
 
     void restartGoesBackToLevelOneAndFreesTheSwitch()

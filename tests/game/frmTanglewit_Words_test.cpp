@@ -221,6 +221,8 @@ private Q_SLOTS:
             m_form->window().update();
             QTRY_VERIFY(painted.count() > 0);
             QVERIFY(m_form->text("lblScrambledWord").isEmpty());
+            if (!word.isEmpty())
+                QCOMPARE(m_form->text("lblClue"), tooShort());
             m_form->click("cmdRestart");
             QCOMPARE(m_form->look(), GameForm::ready());
             QCOMPARE(m_form->numbers(), u"0 1 30 5"_s);
@@ -256,14 +258,14 @@ private Q_SLOTS:
         QCOMPARE(gVocabList().NumWords(), Integer(1));
     }
 
-    void aShortWordAfterAnotherCanBeAnswered_data()
+    void theGameStandsStillForAShortWordAfterAnother_data()
     {
         QTest::addColumn<bool>("byTimeOut");
         QTest::newRow("answer") << false;
         QTest::newRow("time-out") << true;
     }
 
-    void aShortWordAfterAnotherCanBeAnswered()
+    void theGameStandsStillForAShortWordAfterAnother()
     {
         QFETCH(bool, byTimeOut);
         GameForm::fill({u"apple"_s, u"ab"_s});
@@ -276,17 +278,22 @@ private Q_SLOTS:
         }
         QCOMPARE(GameForm::word(), u"ab"_s);
         QCOMPARE(m_form->tiles(), QStringList());
-        QVERIFY(m_form->timer().isActive());
-        QCOMPARE(m_form->look(), GameForm::playing());
-        QCOMPARE(m_form->text("lblCountDown"), u"30"_s);
-        m_form->passTime();
-        const PaintCount painted(m_form->window());
-        m_form->window().update();
-        QTRY_VERIFY(painted.count() > 0);
-        const int score = gScore.toInt();
+        QCOMPARE(m_form->text("lblScrambledWord"), QString());
+        QCOMPARE(m_form->text("lblSentence"), QString());
+        QCOMPARE(m_form->text("lblClue"), tooShort());
+        const QString numbers = m_form->numbers();
+        const QStringList hits = m_form->lines("lstHits");
+        const QStringList misses = m_form->lines("lstMisses");
+        m_form->passTime(40);
         m_form->answer(u"ab"_s);
-        QCOMPARE(gScore, Integer(score + 1));
-        QCOMPARE(m_form->lines("lstHits").constLast(), u"ab"_s);
+        m_form->answer(u"wrong"_s);
+        QCOMPARE(m_form->numbers(), numbers);
+        QCOMPARE(m_form->lines("lstHits"), hits);
+        QCOMPARE(m_form->lines("lstMisses"), misses);
+        m_form->answers.useForm("dlgGameOver",
+                                [](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        m_form->click("cmdViewTop10");
+        m_form->waitForWindow();
         m_form->click("cmdRestart");
         QCOMPARE(m_form->look(), GameForm::ready());
         QCOMPARE(m_form->numbers(), u"0 1 30 5"_s);
@@ -316,7 +323,21 @@ private Q_SLOTS:
         QCOMPARE(m_form->look(), GameForm::ready());
     }
 
+    void theLastLifeEndsTheGameBeforeAnEmptyWord()
+    {
+        GameForm::fill(GameForm::fiveWords() << QString());
+        startInOrder({0.0F, 0.2F, 0.4F, 0.6F, 0.7F, 0.9F});
+        m_form->loseAllLives();
+        QCOMPARE(GameForm::word(), QString());
+        QCOMPARE(m_form->look(), GameForm::over());
+    }
+
 private:
+    [[nodiscard]] static QString tooShort()
+    {
+        return u"This word is too short to scramble. Please click Restart."_s;
+    }
+
     [[nodiscard]] QString shownTypes()
     {
         return QStringList{typeOf(m_form->control<QLabel>("lblScrambledWord")),

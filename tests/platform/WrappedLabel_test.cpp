@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The labels whose texts always fit. What they paint is read from an SVG drawing.
-#include "game/FittedLabel.h"
+// The label that wraps its text. What it paints is read from an SVG drawing.
 #include "platform/WrappedLabel.h"
 #include "support/PaintedLines.h"
 
@@ -22,77 +21,13 @@ template <class Label> void prepare(Label &label, const QString &text, int point
 
 } // namespace
 
-class Labels_test final : public QObject
+class WrappedLabel_test final : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aTextThatFitsKeepsItsType()
+    void theLabelNeedsNoMoreSpace()
     {
-        FittedLabel label;
-        prepare(label, u"cat"_s, 34, {600, 80});
-        const QList<Line> lines = paintedLines(label);
-        QCOMPARE(lines.size(), 1);
-        QCOMPARE(lines[0].text, u"cat"_s);
-        QVERIFY(std::abs(lines[0].points - 34) < 0.5);
-    }
-
-    void aTextTooWideIsDrawnSmallerAndWhole_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("points");
-        QTest::newRow("16 wide letters") << u"MWMWMWMWMWMWMWMW"_s << 34;
-        QTest::newRow("16 letters") << u"tnemhsilbatsesid"_s << 34;
-        QTest::newRow("25 letters") << u"yllacihpargotohporteclehp"_s << 18;
-        QTest::newRow("30 letters") << u"msidipohtorapoduespoduespxxxxx"_s << 16;
-    }
-
-    void aTextTooWideIsDrawnSmallerAndWhole()
-    {
-        QFETCH(QString, text);
-        QFETCH(int, points);
-        FittedLabel label;
-        prepare(label, text, points, {100, 80});
-        const double smallest = widthOf(label.font(), 9, text);
-        int shrunk = 0;
-        for (int width = int(smallest * 1.1) + 1; width <= 900; width += 7) {
-            label.resize(width, 80);
-            const QList<Line> lines = paintedLines(label);
-            QCOMPARE(lines.size(), 1);
-            QVERIFY2(lines[0].text == text,
-                     qPrintable(u"%1 pixels: %2"_s.arg(width).arg(lines[0].text)));
-            QVERIFY(lines[0].points >= 8.5 && lines[0].points < points + 0.5);
-            QVERIFY(widthOf(label.font(), lines[0].points, text) <= width * 1.05);
-            shrunk += lines[0].points < points - 1 ? 1 : 0;
-        }
-        QVERIFY(shrunk > 0);
-    }
-
-    void aTextTooHighIsDrawnSmaller()
-    {
-        FittedLabel label;
-        prepare(label, u"cat"_s, 34, {600, 30});
-        const QList<Line> lines = paintedLines(label);
-        QCOMPARE(lines[0].text, u"cat"_s);
-        QVERIFY(lines[0].points < 25 && lines[0].points > 10);
-    }
-
-    void aTextThatIsLongerStillEndsInAnEllipsis()
-    {
-        FittedLabel label;
-        prepare(label, QString(400, u'm'), 14, {600, 80});
-        const QList<Line> lines = paintedLines(label);
-        QVERIFY(lines[0].text.endsWith(u'…'));
-        QVERIFY(lines[0].text.size() > 30);
-        QVERIFY(std::abs(lines[0].points - 9) < 0.5);
-        QVERIFY(widthOf(label.font(), lines[0].points, lines[0].text) <= 600 * 1.02);
-    }
-
-    void noLabelNeedsMoreSpace()
-    {
-        FittedLabel fitted;
-        prepare(fitted, QString(400, u'm'), 34, {600, 80});
-        QCOMPARE(fitted.minimumSizeHint(), QSize(1, 1));
         WrappedLabel wrapped;
         prepare(wrapped, QString(4000, u'm'), 18, {600, 80});
         QCOMPARE(wrapped.minimumSizeHint(), QSize(1, 1));
@@ -100,9 +35,6 @@ private Q_SLOTS:
 
     void anEmptyTextPaintsNothing()
     {
-        FittedLabel fitted;
-        prepare(fitted, QString(), 34, {600, 80});
-        QCOMPARE(joined(paintedLines(fitted)), QString());
         WrappedLabel wrapped;
         prepare(wrapped, QString(), 18, {600, 80});
         QCOMPARE(joined(paintedLines(wrapped)), QString());
@@ -111,9 +43,6 @@ private Q_SLOTS:
     void textsArePaintedAsTheyAre()
     {
         const QString text = u"<b>R&D</b> &amp; &x"_s;
-        FittedLabel fitted;
-        prepare(fitted, text, 18, {600, 80});
-        QCOMPARE(joined(paintedLines(fitted)), text);
         WrappedLabel wrapped;
         prepare(wrapped, text, 18, {600, 80});
         QCOMPARE(joined(paintedLines(wrapped)), text);
@@ -196,6 +125,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(Labels_test)
+QTEST_MAIN(WrappedLabel_test)
 
-#include "Labels_test.moc"
+#include "WrappedLabel_test.moc"
