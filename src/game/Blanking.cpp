@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/Blanking.h"
 
+#include "runtime/Blanks.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -64,8 +66,9 @@ std::optional<QString> blanked(const QString &sentence, const Forms &forms)
 
 } // namespace
 
-QString blankedSentence(const QString &sentence, const QString &word)
+QString blankedSentence(const QString &sentence, const QString &storedWord)
 {
+    const QString word = withoutOuterBlanks(storedWord);
     const QString capitalised = upperCase(word.left(1)) + word.mid(1);
     const qsizetype shortestStem = std::max<qsizetype>(1, word.size() - LettersLeftOff);
     for (qsizetype length = word.size(); length >= shortestStem; --length) {

@@ -126,7 +126,11 @@ private Q_SLOTS:
             u"I like _____, _____, _____."_s);
         unchanged("first word of a phrase", u"ice cream"_s, u"The ice is cold."_s);
         row("phrase, two letters off", u"ice cream"_s, u"An ice cre am."_s, u"An _____ am."_s);
-        row("blank behind the word", u"cat "_s, u"The cat sat. A cat."_s, u"The _____. A cat."_s);
+        row("blank behind the word", u"cat "_s, u"The cat sat. A cat."_s,
+            u"The _____ sat. A _____."_s);
+        row("blank before the word", u" cat"_s, u"The cat sat. Cat!"_s, u"The _____ sat. _____!"_s);
+        row("blanks around a stem", u"  study "_s, u"She studied hard."_s, u"She _____ hard."_s);
+        unchanged("only blanks", u"  "_s, u"The cat  sat."_s);
         row("delimiter first", u".net"_s, u"A .net, b.net."_s, u"A _____, b.net."_s);
         row("delimiter first behind a blanked word", u".net"_s, u".net.net"_s, u"__________"_s);
     }
