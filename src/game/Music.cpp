@@ -67,6 +67,12 @@ void Music::stop()
     gMusicOff = true;
 }
 
+void Music::stopTrack()
+{
+    if (m_isPlaying)
+        requestSilence();
+}
+
 void Music::play(Integer level)
 {
     const Array<QString> &tracks = gUpbeatMusic ? gFastBeatTracks : gSoftBeatTracks;

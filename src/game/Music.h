@@ -30,6 +30,8 @@ public:
     void changeLevel(Integer level);
     // Stops the track. The music is off until the next game starts.
     void stop();
+    // Stops the track, if one plays, and leaves the choice of music alone.
+    void stopTrack();
 
 private:
     void play(Integer level);

@@ -90,7 +90,7 @@ void frmTanglewit::Form_Unload()
 {
     m_Timer1.stop();
     if (!m_isQuitting)
-        m_music.stop();
+        m_music.stopTrack();
     Q_EMIT left();
 }
 

@@ -267,6 +267,21 @@ private Q_SLOTS:
         QVERIFY(gMusicOff);
     }
 
+    void stoppingTheTrackLeavesTheChoiceAlone()
+    {
+        m_window->choose("mnuUpbeat");
+        m_music->stopTrack();
+        QCOMPARE(m_requests->take(), QStringList());
+        QVERIFY(!gMusicOff);
+        chooseAndFill("mnuUpbeat");
+        m_music->startGame();
+        m_requests->take();
+        m_music->stopTrack();
+        m_music->stopTrack();
+        QCOMPARE(m_requests->take(), QStringList{Stop});
+        QVERIFY(!gMusicOff);
+    }
+
     void anEmptyTrackListPlaysNothing()
     {
         m_window->choose("mnuUpbeat");
@@ -341,7 +356,7 @@ private Q_SLOTS:
             m_window->choose("mnuMusicOff");
         closeGame();
         QCOMPARE(m_requests->take(), QStringList{Stop});
-        QVERIFY(gMusicOff);
+        QCOMPARE(gMusicOff, turnedOffBefore);
     }
 
 private:
