@@ -20,6 +20,9 @@ constexpr int NameColumn = 2;
 constexpr int LabelOnly = 1;
 constexpr int LabelAndName = 2;
 
+const QString EndsGameHint =
+    QStringLiteral("Close ends this game's points; Esc goes back to the game");
+
 std::size_t indexOf(Integer row)
 {
     return static_cast<std::size_t>(row.toInt() - 1);
@@ -66,9 +69,13 @@ void dlgGameOver::Form_Load()
     m_newRow = gViewTop10Only ? Integer(0) : rowOfScore(gTop10, gScore);
     if (m_newRow != 0) {
         enterScore(gTop10, m_newRow, gScore, QDate::currentDate());
+        m_scoreHasRow = true;
         placeRow(m_newRow, LabelOnly);
         m_ui->rowLayout->addWidget(m_ui->txtName, m_newRow.toInt() - 1, NameColumn);
     }
+    const bool endsGame = gViewTop10Only && gScore != 0;
+    m_ui->lblHint->setText(endsGame ? EndsGameHint : QString());
+    m_ui->lblHint->setVisible(endsGame);
     showRows();
     showNaming(m_newRow != 0);
 }
@@ -115,6 +122,8 @@ void dlgGameOver::cmdClose_Click()
 bool dlgGameOver::Form_QueryUnload()
 {
     m_music.stop();
+    if (m_scoreHasRow)
+        gScore = 0; // a score enters the table once
     return true;
 }
 

@@ -44,5 +44,6 @@ private:
     std::unique_ptr<Ui::dlgGameOver> m_ui;
     std::array<QLabel *, std::tuple_size_v<Top10Table>> m_lblTop10{};
     Integer m_newRow; // the row whose name is being typed; 0 = none
+    bool m_scoreHasRow = false;
     Music &m_music;
 };

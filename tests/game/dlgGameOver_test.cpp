@@ -392,6 +392,69 @@ private Q_SLOTS:
         QCOMPARE(gScore, Integer(score));
     }
 
+    void aScoreEntersTheTableOnce_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("named");
+        QTest::newRow("named, Close") << u"cmdClose"_s << true;
+        QTest::newRow("named, close box") << u"box"_s << true;
+        QTest::newRow("named, Esc") << u"esc"_s << true;
+        QTest::newRow("nameless, close box") << u"box"_s << false;
+        QTest::newRow("nameless, Esc") << u"esc"_s << false;
+    }
+
+    void aScoreEntersTheTableOnce()
+    {
+        QFETCH(QString, way);
+        QFETCH(bool, named);
+        gScore = 7;
+        show([&](const OverForm &form) {
+            form.typeName(u"Ann"_s);
+            if (named)
+                form.click("cmdEnter");
+            QCOMPARE(gScore, Integer(7));
+            leave(form, way);
+        });
+        QCOMPARE(gScore, Integer(0));
+        const QStringList once = fieldsOf(gTop10);
+        QCOMPARE(gTop10[0].PlayerName, named ? u"Ann"_s : QString());
+        show([](const OverForm &form) {
+            QCOMPARE(form.state(), Viewing);
+            form.click("cmdClose");
+        });
+        QCOMPARE(fieldsOf(gTop10), once);
+    }
+
+    void theViewInAGameSaysWhatCloseDoes_data()
+    {
+        QTest::addColumn<int>("score");
+        QTest::addColumn<bool>("viewOnly");
+        QTest::addColumn<bool>("says");
+        QTest::newRow("points in a game") << 5 << true << true;
+        QTest::newRow("no points yet") << 0 << true << false;
+        QTest::newRow("too few points at the end") << 5 << false << false;
+        QTest::newRow("a place at the end") << 500 << false << false;
+    }
+
+    void theViewInAGameSaysWhatCloseDoes()
+    {
+        QFETCH(int, score);
+        QFETCH(bool, viewOnly);
+        QFETCH(bool, says);
+        gTop10 = fullTable();
+        gScore = score;
+        gViewTop10Only = viewOnly;
+        show([&](const OverForm &form) {
+            const QLabel &hint = form.label("lblHint");
+            QCOMPARE(hint.isVisible() &&
+                         hint.text() ==
+                             u"Close ends this game's points; Esc goes back to the game"_s,
+                     says);
+            leave(form, u"esc"_s);
+        });
+        QCOMPARE(gScore, Integer(score == 500 ? 0 : score));
+    }
+
     void theMusicEndsWithIt_data()
     {
         QTest::addColumn<QString>("way");
