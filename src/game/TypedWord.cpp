@@ -8,6 +8,11 @@
 
 namespace {
 
+bool isFormat(QChar character)
+{
+    return character.category() == QChar::Other_Format;
+}
+
 QString typeable(QString text)
 {
     const auto hasNoKey = [](QChar character) {
@@ -27,4 +32,16 @@ bool isWord(const QString &typed, const QString &word)
     const QString given = withoutOuterBlanks(typed);
     return given == withoutOuterBlanks(word) || given == withoutOuterBlanks(oneLine(word)) ||
            given == typeable(word);
+}
+
+bool isWordTypedAgain(const QString &typed, const QString &word)
+{
+    const auto isOtherBlank = [](QChar character) {
+        return character.category() == QChar::Separator_Space || isFormat(character);
+    };
+    QString asBlanks = word;
+    std::replace_if(asBlanks.begin(), asBlanks.end(), isOtherBlank, QChar(QLatin1Char(' ')));
+    QString visible = word;
+    visible.removeIf(isFormat);
+    return isWord(typed, word) || isWord(typed, asBlanks) || isWord(typed, visible);
 }

@@ -7,3 +7,8 @@
 
 // Line breaks, tabs and no-break spaces in the word cannot be typed; a blank is accepted for each.
 [[nodiscard]] bool isWord(const QString &typed, const QString &word);
+
+// For dlgIncorrectAnswer, which no other word closes. Other kinds of blanks and invisible
+// characters, such as soft hyphens, can be typed as blanks too. The invisible ones can also be left
+// out.
+[[nodiscard]] bool isWordTypedAgain(const QString &typed, const QString &word);

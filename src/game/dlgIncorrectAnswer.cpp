@@ -6,15 +6,30 @@
 #include "game/TypeSizes.h"
 #include "game/TypedWord.h"
 #include "game/ui_dlgIncorrectAnswer.h"
+#include "platform/LostFocus.h"
 #include "platform/MsgBox.h"
 
-#include <QAction>
-#include <QClipboard>
-#include <QGuiApplication>
+#include <QCoreApplication>
+#include <QKeyEvent>
 
 #include <algorithm>
 
 using Module1::gVocabList;
+
+namespace {
+
+bool isEnter(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool isTyping(const QKeyEvent &event)
+{
+    return !event.text().isEmpty() && event.text().front().isPrint() &&
+           !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+} // namespace
 
 dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgIncorrectAnswer>())
@@ -23,13 +38,10 @@ dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
     onClick(m_ui->cmdOK, &dlgIncorrectAnswer::cmdOK_Click);
     onClick(m_ui->cmdUp, &dlgIncorrectAnswer::cmdUp_Click);
     onClick(m_ui->cmdDown, &dlgIncorrectAnswer::cmdDown_Click);
-    // For letters that are not on the keyboard.
-    auto *copy = new QAction(QStringLiteral("&Copy Word"), m_ui->lblAnswerIs);
-    connect(copy, &QAction::triggered, this,
-            [] { runGuarded([] { QGuiApplication::clipboard()->setText(gVocabList().Word()); }); });
-    m_ui->lblAnswerIs->addAction(copy);
-    m_ui->lblAnswerIs->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_ui->lblAnswerIs->setToolTip(QStringLiteral("Right-click to copy the word"));
+    // The close box would do nothing. X11 window managers are told so only if there is another box.
+    setWindowFlag(Qt::WindowCloseButtonHint, false);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    new LostFocus(m_ui->cmdOK, [this] { showEnterHint({}); });
 }
 
 dlgIncorrectAnswer::~dlgIncorrectAnswer() = default;
@@ -47,12 +59,19 @@ void dlgIncorrectAnswer::Form_Load()
     m_ui->txtUserAnswer->setFocus();
 }
 
-// Enter presses the button that has the focus, else the default button, which exists only while
-// the word is hidden.
+// Enter presses the button that has the focus, else the default button. While the word is in sight
+// there is no default button: Enter then moves the focus to OK.
 void dlgIncorrectAnswer::keyPressEvent(QKeyEvent *event)
 {
-    if (!m_defaultButton.press(*event, focusWidget()))
+    if (isEnter(*event) && m_wordIsShown && !qobject_cast<QPushButton *>(focusWidget())) {
+        showEnterHint(QStringLiteral("Press Enter again for OK."));
+        m_ui->cmdOK->setFocus();
+    } else if (isTyping(*event) && m_ui->cmdOK->hasFocus()) {
+        m_ui->txtUserAnswer->setFocus();
+        QCoreApplication::sendEvent(m_ui->txtUserAnswer, event);
+    } else if (!m_defaultButton.press(*event, focusWidget())) {
         DialogForm::keyPressEvent(event);
+    }
 }
 
 void dlgIncorrectAnswer::cmdDown_Click()
@@ -70,19 +89,27 @@ void dlgIncorrectAnswer::cmdUp_Click()
 void dlgIncorrectAnswer::cmdOK_Click()
 {
     const QString word = gVocabList().Word();
-    m_isTyped = isWord(m_ui->txtUserAnswer->text(), word);
+    m_isTyped = isWordTypedAgain(m_ui->txtUserAnswer->text(), word);
     if (m_isTyped) {
         close();
         return;
     }
+    showEnterHint({});
     MsgBox(QStringLiteral("The correct word is: '") + word + QLatin1Char('\''));
     m_ui->txtUserAnswer->setFocus();
 }
 
 void dlgIncorrectAnswer::showWord(bool shown)
 {
+    m_wordIsShown = shown;
     m_ui->lblAnswerIs->setVisible(shown);
     m_ui->cmdUp->setVisible(!shown);
     m_ui->cmdDown->setVisible(shown);
     m_defaultButton.set(shown ? nullptr : m_ui->cmdOK);
+}
+
+void dlgIncorrectAnswer::showEnterHint(const QString &hint)
+{
+    m_ui->lblEnterHint->setText(hint);
+    m_ui->cmdOK->setAccessibleDescription(hint);
 }

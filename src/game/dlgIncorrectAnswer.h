@@ -29,8 +29,10 @@ private:
     void cmdUp_Click();
     void cmdDown_Click();
     void showWord(bool shown);
+    void showEnterHint(const QString &hint);
 
     std::unique_ptr<Ui::dlgIncorrectAnswer> m_ui;
     DefaultButton m_defaultButton;
+    bool m_wordIsShown = true;
     bool m_isTyped = false; // the right word has been typed
 };

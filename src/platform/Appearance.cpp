@@ -57,7 +57,7 @@ ScrolledArea:focus { border: 2px solid @focus; }
 #txtUserAnswer { font-size: 20px; }
 #frmTanglewit #txtUserAnswer { font-size: 30px; }
 #lblTitle { font-size: 22px; font-weight: bold; }
-#lblHint { color: @quiet; }
+#lblHint, #lblEnterHint { color: @quiet; }
 #lblAnswerIs { font-size: 20px; font-weight: bold; }
 #rowPanel QLabel { font-size: 15px; padding: 5px; }
 #rowPanel QLabel[rank] { color: @quiet; min-width: 24px; }

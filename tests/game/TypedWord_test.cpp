@@ -45,6 +45,29 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, word);
         QTEST(isWord(typed, word), "right");
+        QTEST(isWordTypedAgain(typed, word), "right");
+    }
+
+    void whatNoKeyGivesCanBeTypedAgainAsABlank_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("word");
+        const QString softHyphen = u"co\u00ADoperate"_s;
+        const QString invisible = u"\uFEFFice\u200Bcream"_s;
+        QTest::newRow("soft hyphen") << u"co operate"_s << softHyphen;
+        QTest::newRow("soft hyphen left out") << u"cooperate"_s << softHyphen;
+        QTest::newRow("invisible characters") << u"ice cream"_s << invisible;
+        QTest::newRow("invisible characters left out") << u"icecream"_s << invisible;
+        QTest::newRow("thin blank") << u"ice cream"_s << u"ice\u2009cream"_s;
+        QTest::newRow("both and a tab") << u"an ice cre am"_s << u"an\tice\u2009cre\u00ADam"_s;
+    }
+
+    void whatNoKeyGivesCanBeTypedAgainAsABlank()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, word);
+        QVERIFY(isWordTypedAgain(typed, word));
+        QVERIFY(!isWord(typed, word));
     }
 };
 

@@ -9,8 +9,6 @@
 #include "support/FormTest.h"
 
 #include <QAction>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -262,9 +260,12 @@ private Q_SLOTS:
         });
     }
 
-    void enterDoesNothingWhileTheWordIsInSight_data() { enterChecksTheWordWhileItIsHidden_data(); }
+    void enterDoesNotCheckTheWordWhileItIsInSight_data()
+    {
+        enterChecksTheWordWhileItIsHidden_data();
+    }
 
-    void enterDoesNothingWhileTheWordIsInSight()
+    void enterDoesNotCheckTheWordWhileItIsInSight()
     {
         QFETCH(Qt::Key, key);
         ask([&](const AnswerForm &form) {
@@ -280,6 +281,66 @@ private Q_SLOTS:
             form.type(u"cat"_s);
             form.press(key);
             QVERIFY(form.form.isVisible());
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void enterWithTheWordInSightMovesTheKeyboardToOK_data()
+    {
+        enterChecksTheWordWhileItIsHidden_data();
+    }
+
+    void enterWithTheWordInSightMovesTheKeyboardToOK()
+    {
+        QFETCH(Qt::Key, key);
+        ask([&](const AnswerForm &form) {
+            const QLabel &hint = form.label("lblEnterHint");
+            QCOMPARE(hint.text(), QString());
+            form.press(key);
+            QCOMPARE(form.form.focusWidget(), &form.button("cmdOK"));
+            QCOMPARE(hint.text(), u"Press Enter again for OK."_s);
+            QVERIFY(hint.isVisible());
+            QCOMPARE(form.state(), WordShown);
+            // What is typed then goes into the box.
+            for (const char letter : QByteArray("Cat"))
+                QTest::keyClick(form.form.focusWidget(), letter);
+            QCOMPARE(form.box().text(), u"Cat"_s);
+            QCOMPARE(form.form.focusWidget(), &form.box());
+            QCOMPARE(hint.text(), QString());
+            m_answers->expectMsgBox(u"The correct word is: 'cat'"_s);
+            form.press(key);
+            form.press(key);
+            QVERIFY(m_answers->allSeen());
+            QCOMPARE(form.form.focusWidget(), &form.box());
+            QCOMPARE(hint.text(), QString());
+            form.type(u"cat"_s);
+            form.press(key);
+            form.press(key);
+            QVERIFY(!form.form.isVisible());
+        });
+    }
+
+    void theHintGoesWhenTheKeyboardLeavesOK()
+    {
+        ask([](const AnswerForm &form) {
+            form.press(Qt::Key_Return);
+            form.press(Qt::Key_Tab);
+            QCOMPARE(form.form.focusWidget(), &form.button("cmdDown"));
+            QCOMPARE(form.label("lblEnterHint").text(), QString());
+            // A key with Ctrl or Alt types nothing.
+            form.press(Qt::Key_Backtab);
+            form.press(Qt::Key_B, Qt::ControlModifier);
+            QCOMPARE(form.form.focusWidget(), &form.button("cmdOK"));
+            QCOMPARE(form.box().text(), QString());
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void theFrameHasNoCloseBox()
+    {
+        ask([](const AnswerForm &form) {
+            QVERIFY(!form.form.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+            QVERIFY(form.form.windowFlags().testFlag(Qt::WindowTitleHint));
             form.answer(u"cat"_s);
         });
     }
@@ -363,17 +424,33 @@ private Q_SLOTS:
         });
     }
 
-    void theWordCanBeCopied()
+    void theWordHasToBeTyped()
     {
-        setEntry(u"na\u00EFve"_s, u"simple"_s);
         ask([](const AnswerForm &form) {
             const QLabel &word = form.label("lblAnswerIs");
-            QCOMPARE(word.contextMenuPolicy(), Qt::ActionsContextMenu);
-            QCOMPARE(word.actions().size(), 1);
-            word.actions().constFirst()->trigger();
-            QCOMPARE(QGuiApplication::clipboard()->text(), u"na\u00EFve"_s);
-            form.box().paste();
-            form.click("cmdOK");
+            QCOMPARE(word.actions(), QList<QAction *>());
+            QCOMPARE(word.toolTip(), QString());
+            QCOMPARE(word.textInteractionFlags() & Qt::TextSelectableByMouse, 0);
+            form.answer(u"cat"_s);
+        });
+    }
+
+    void whatNoKeyGivesIsTypedAsABlank_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::newRow("tab") << u"ice\tcream"_s;
+        QTest::newRow("line break") << u"ice\r\ncream"_s;
+        QTest::newRow("fixed blank") << u"ice\u00A0cream"_s;
+        QTest::newRow("soft hyphen") << u"ice\u00ADcream"_s;
+    }
+
+    void whatNoKeyGivesIsTypedAsABlank()
+    {
+        QFETCH(QString, word);
+        setEntry(word, {});
+        ask([](const AnswerForm &form) {
+            form.answer(u"ice cream"_s);
+            QVERIFY(!form.form.isVisible());
         });
     }
 
