@@ -9,8 +9,7 @@ namespace {
 
 QString dateAndPoints(const Top10Entry &entry)
 {
-    return QLocale::system().toString(entry.EntryDate, QLocale::ShortFormat) +
-           QStringLiteral("   ") + entry.Points.toText();
+    return rowDate(entry) + QStringLiteral("   ") + entry.Points.toText();
 }
 
 } // namespace
@@ -50,6 +49,11 @@ void resetScores(Top10Table &table)
 {
     for (Top10Entry &entry : table)
         entry = {entry.EntryDate, {}, 0};
+}
+
+QString rowDate(const Top10Entry &entry)
+{
+    return QLocale::system().toString(entry.EntryDate, QLocale::ShortFormat);
 }
 
 QString rowText(const Top10Entry &entry)

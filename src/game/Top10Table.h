@@ -19,7 +19,9 @@ void enterScore(Top10Table &table, Integer row, Integer score, QDate day);
 // Removes names and points; the dates stay.
 void resetScores(Top10Table &table);
 
-// The date in the system's short form, the points and the name. Empty for an unused row.
+// The date in the system's short form.
+[[nodiscard]] QString rowDate(const Top10Entry &entry);
+// The date, the points and the name. Empty for an unused row.
 [[nodiscard]] QString rowText(const Top10Entry &entry);
 // The text of the row whose name is being typed.
 [[nodiscard]] QString unnamedRowText(const Top10Entry &entry);

@@ -4,24 +4,22 @@
 #include "core/Module1.h"
 #include "game/Music.h"
 #include "game/Top10File.h"
+#include "game/Top10Note.h"
+#include "game/Top10Row.h"
 #include "game/ui_dlgGameOver.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 #include "runtime/Blanks.h"
 
+#include <QStyle>
+
+#include <algorithm>
+
 using namespace Module1;
 
 namespace {
 
-constexpr int RankColumn = 0;
-constexpr int RowColumn = 1;
-constexpr int NameColumn = 2;
-// Columns that a row's label takes.
-constexpr int LabelOnly = 1;
-constexpr int LabelAndName = 2;
-
-const QString EndsGameHint =
-    QStringLiteral("Close ends this game's points; Esc goes back to the game");
+constexpr int LongestCelebration = 400; // milliseconds
 
 std::size_t indexOf(Integer row)
 {
@@ -49,43 +47,53 @@ void dlgGameOver::setTitle(const QString &title)
 
 void dlgGameOver::makeRows()
 {
-    for (int row = 1; row <= int(m_lblTop10.size()); ++row) {
-        auto *rank = new QLabel(QString::number(row), m_ui->rowPanel);
-        rank->setProperty("rank", row);
-        rank->setAlignment(Qt::AlignCenter);
-        auto *label = new QLabel(m_ui->rowPanel);
-        label->setObjectName(QStringLiteral("lblTop10_%1").arg(row));
-        label->setTextFormat(Qt::PlainText);
-        label->setMinimumWidth(1); // a long name is cut off instead of widening the dialog
-        m_lblTop10[indexOf(row)] = label;
-        m_ui->rowLayout->addWidget(rank, row - 1, RankColumn);
-        placeRow(row, LabelAndName);
+    for (int row = 1; row <= int(m_rows.size()); ++row) {
+        auto *widget = new Top10Row(row, m_ui->rowPanel);
+        m_ui->rowLayout->addWidget(widget, 1);
+        m_rows[indexOf(row)] = widget;
     }
-    m_ui->rowLayout->setColumnStretch(NameColumn, 1);
+}
+
+Top10Row &dlgGameOver::rowWidget(Integer row) const
+{
+    return *m_rows[indexOf(row)];
 }
 
 void dlgGameOver::Form_Load()
 {
-    m_newRow = gViewTop10Only ? Integer(0) : rowOfScore(gTop10, gScore);
+    const Integer score = gScore;
+    m_newRow = gViewTop10Only ? Integer(0) : rowOfScore(gTop10, score);
+    m_namedRow = m_newRow;
     if (m_newRow != 0) {
-        enterScore(gTop10, m_newRow, gScore, QDate::currentDate());
-        m_scoreHasRow = true;
-        placeRow(m_newRow, LabelOnly);
-        m_ui->rowLayout->addWidget(m_ui->txtName, m_newRow.toInt() - 1, NameColumn);
+        enterScore(gTop10, m_newRow, score, QDate::currentDate());
+        rowWidget(m_newRow).setNameBox(m_ui->txtName);
+        showPrize();
     }
-    const bool endsGame = gViewTop10Only && gScore != 0;
-    m_ui->lblHint->setText(endsGame ? EndsGameHint : QString());
-    m_ui->lblHint->setVisible(endsGame);
+    const QString note =
+        gViewTop10Only ? noteInTheView(score) : noteAtTheEnd(gTop10, m_newRow, score);
+    m_ui->lblHint->setText(note);
+    m_ui->lblHint->setVisible(!note.isEmpty());
     showRows();
     showNaming(m_newRow != 0);
 }
 
-// With LabelOnly there is room for the name box beside the label.
-void dlgGameOver::placeRow(Integer row, int columns)
+// Runs beside everything else. Left out if the style has no animations.
+void dlgGameOver::showPrize()
 {
-    QLabel *label = m_lblTop10[indexOf(row)];
-    m_ui->rowLayout->removeWidget(label);
-    m_ui->rowLayout->addWidget(label, row.toInt() - 1, RowColumn, 1, columns);
+    const auto show = [this](const QVariant &shown) {
+        m_ui->banner->setPrize(shown.toDouble());
+        rowWidget(m_newRow).setNew(shown.toDouble());
+    };
+    const int duration = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this);
+    show(duration > 0 ? 0.0 : 1.0);
+    if (duration <= 0)
+        return;
+    m_celebration.setDuration(std::min(2 * duration, LongestCelebration));
+    m_celebration.setStartValue(0.0);
+    m_celebration.setEndValue(1.0);
+    m_celebration.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&m_celebration, &QVariantAnimation::valueChanged, this, show);
+    m_celebration.start();
 }
 
 void dlgGameOver::Form_Activate()
@@ -95,10 +103,9 @@ void dlgGameOver::Form_Activate()
 
 void dlgGameOver::cmdEnter_Click()
 {
-    gTop10[indexOf(m_newRow)].PlayerName = withoutOuterBlanks(m_ui->txtName->text());
+    gTop10[indexOf(m_namedRow)].PlayerName = withoutOuterBlanks(m_ui->txtName->text());
     Top10File::write(pathOf(Place::Top10), gTop10);
-    placeRow(m_newRow, LabelAndName);
-    m_newRow = 0;
+    m_namedRow = 0;
     showRows();
     showNaming(false);
 }
@@ -109,6 +116,8 @@ void dlgGameOver::cmdReset_Click()
                MsgBoxEsc::MeansNo) != MsgBoxAnswer::Yes)
         return;
     resetScores(gTop10);
+    if (m_newRow != 0)
+        rowWidget(m_newRow).setNew(0);
     showRows();
     Top10File::write(pathOf(Place::Top10), gTop10);
 }
@@ -122,19 +131,23 @@ void dlgGameOver::cmdClose_Click()
 bool dlgGameOver::Form_QueryUnload()
 {
     m_music.stop();
-    if (m_scoreHasRow)
+    if (m_newRow != 0)
         gScore = 0; // a score enters the table once
     return true;
 }
 
 void dlgGameOver::showRows()
 {
-    for (Integer row = 1; row <= int(m_lblTop10.size()); ++row) {
-        const Top10Entry &entry = gTop10[indexOf(row)];
-        QLabel *label = m_lblTop10[indexOf(row)];
-        label->setText(row == m_newRow ? unnamedRowText(entry) : rowText(entry));
-        label->setToolTip(Qt::convertFromPlainText(label->text()));
+    Top10Columns columns;
+    for (Integer row = 1; row <= int(m_rows.size()); ++row) {
+        rowWidget(row).setEntry(gTop10[indexOf(row)], row == m_namedRow ? Top10Row::Name::BeingTyped
+                                                                        : Top10Row::Name::Shown);
+        const Top10Columns needed = rowWidget(row).columns();
+        columns.date = std::max(columns.date, needed.date);
+        columns.points = std::max(columns.points, needed.points);
     }
+    for (Top10Row *row : m_rows)
+        row->setColumns(columns);
 }
 
 void dlgGameOver::showNaming(bool naming)

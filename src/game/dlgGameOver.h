@@ -5,11 +5,13 @@
 #include "game/Top10Table.h"
 #include "platform/DialogForm.h"
 
+#include <QVariantAnimation>
+
 #include <array>
 #include <memory>
 
 class Music;
-class QLabel;
+class Top10Row;
 
 namespace Ui {
 class dlgGameOver;
@@ -37,13 +39,15 @@ private:
     void cmdClose_Click();
 
     void makeRows();
-    void placeRow(Integer row, int columns);
+    [[nodiscard]] Top10Row &rowWidget(Integer row) const;
     void showRows();
+    void showPrize();
     void showNaming(bool naming);
 
     std::unique_ptr<Ui::dlgGameOver> m_ui;
-    std::array<QLabel *, std::tuple_size_v<Top10Table>> m_lblTop10{};
-    Integer m_newRow; // the row whose name is being typed; 0 = none
-    bool m_scoreHasRow = false;
+    std::array<Top10Row *, std::tuple_size_v<Top10Table>> m_rows{};
+    Integer m_newRow;   // the row of the new score; 0 = none
+    Integer m_namedRow; // the row whose name is being typed; 0 = none
+    QVariantAnimation m_celebration{this};
     Music &m_music;
 };

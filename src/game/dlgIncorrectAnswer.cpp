@@ -11,12 +11,24 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 
 using Module1::gVocabList;
 
 namespace {
+
+// Pixels.
+constexpr int UsualWidth = 560;
+constexpr int LargeWidth = 720;
+constexpr int LeastHeight = 320;
+constexpr QSize FrameOfWindow(20, 50);
+
+constexpr qsizetype LongestInLargeType = 25;
+
+const QString LeadIn = QStringLiteral("The correct answer is: ");
 
 bool isEnter(const QKeyEvent &event)
 {
@@ -50,13 +62,52 @@ void dlgIncorrectAnswer::Form_Load()
 {
     showWord(true);
     const QString word = gVocabList().Word();
-    m_ui->lblAnswerIs->setText(QStringLiteral("The correct answer is: ") + word);
+    m_ui->lblAnswerIs->setText(LeadIn + word);
+    m_ui->lblAnswerIs->setLeadIn(LeadIn.size());
+    m_ui->lblAnswerIs->setProperty("long", word.size() > LongestInLargeType);
+    style()->polish(m_ui->lblAnswerIs); // the style sheet asks for the property
     // The box must take the whole word, or the dialog could never be closed.
     m_ui->txtUserAnswer->setMaxLength(
         std::max(m_ui->txtUserAnswer->maxLength(), static_cast<int>(word.size())));
     const QString definition = gVocabList().Definition();
     showText(*m_ui->lblDefinition, definition, missedDefinitionTypeSize(definition.size()));
+    fitToTexts();
     m_ui->txtUserAnswer->setFocus();
+}
+
+// The dialog is as high as the texts need, wider for long ones, and not higher than the screen.
+void dlgIncorrectAnswer::fitToTexts()
+{
+    QWidget *const areas[] = {m_ui->answerArea, m_ui->definitionArea};
+    QLabel *const labels[] = {m_ui->lblAnswerIs, m_ui->lblDefinition};
+    for (QWidget *control : findChildren<QWidget *>())
+        control->ensurePolished(); // the style sheet makes some of them larger
+    for (QWidget *area : areas)
+        area->setFixedHeight(1);
+    layout()->invalidate();
+    layout()->activate();
+    const QSize other = layout()->totalSizeHint();
+    const QSize screenRoom = screen()->availableSize() - FrameOfWindow;
+    const int room = screenRoom.height() - other.height();
+    const QMargins margins = layout()->contentsMargins() + m_ui->panelLayout->contentsMargins();
+    int answer = 0;
+    int definition = 0;
+    for (const int wanted : {UsualWidth, LargeWidth}) {
+        const int width = std::min(wanted, screenRoom.width());
+        const int textWidth = width - margins.left() - margins.right() - 2;
+        answer = labels[0]->heightForWidth(textWidth);
+        definition = labels[1]->heightForWidth(textWidth);
+        resize(width, height());
+        if (answer + definition <= room)
+            break;
+    }
+    answer = std::min(answer, std::max(room - definition, room / 2));
+    definition = std::min(definition, room - answer);
+    areas[0]->setMinimumHeight(answer);
+    areas[1]->setMinimumHeight(definition);
+    for (QWidget *area : areas)
+        area->setMaximumHeight(QWIDGETSIZE_MAX);
+    resize(width(), std::max(LeastHeight, other.height() + answer + definition));
 }
 
 // Enter presses the button that has the focus, else the default button. While the word is in sight

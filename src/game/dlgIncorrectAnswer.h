@@ -28,6 +28,7 @@ private:
     void cmdOK_Click();
     void cmdUp_Click();
     void cmdDown_Click();
+    void fitToTexts();
     void showWord(bool shown);
     void showEnterHint(const QString &hint);
 

@@ -56,12 +56,15 @@ ScrolledArea:focus { border: 2px solid @focus; }
 #lblScore, #lblLevel, #lblNumLifes { font-size: 28px; font-weight: bold; }
 #txtUserAnswer { font-size: 20px; }
 #frmTanglewit #txtUserAnswer { font-size: 30px; }
-#lblTitle { font-size: 22px; font-weight: bold; }
-#lblHint, #lblEnterHint { color: @quiet; }
-#lblAnswerIs { font-size: 20px; font-weight: bold; }
-#rowPanel QLabel { font-size: 15px; padding: 5px; }
-#rowPanel QLabel[rank] { color: @quiet; min-width: 24px; }
-#rowPanel QLabel[rank="1"] { color: @accent; font-weight: bold; }
+#lblTitle { font-size: 26px; font-weight: bold; }
+#lblHint { font-size: 15px; color: @quiet; }
+#lblEnterHint { color: @quiet; }
+#lblAnswerIs { font-size: 26px; font-weight: bold; }
+#lblAnswerIs[long="true"] { font-size: 20px; }
+#answerPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
+#rowPanel QLabel, #txtName { font-size: 16px; }
+#txtName { padding: 1px 6px; }
+#txtName:focus { padding: 0 5px; }
 #lstHits, #lstMisses { background: transparent; border: none; font-size: 14px; }
 #lstHits:focus, #lstMisses:focus { border: 2px solid @focus; border-radius: 4px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }

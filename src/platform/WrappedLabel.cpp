@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/WrappedLabel.h"
 
+#include "platform/Appearance.h"
+
+#include <QGuiApplication>
 #include <QPainter>
-#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -44,9 +46,33 @@ WrappedLabel::WrappedLabel(QWidget *parent) : QLabel(parent)
     setSizePolicy(policy);
 }
 
+void WrappedLabel::setLeadIn(qsizetype characters)
+{
+    m_leadIn = characters;
+    updateGeometry();
+    update();
+}
+
+QList<QTextLayout::FormatRange> WrappedLabel::formats() const
+{
+    if (m_leadIn == 0)
+        return {};
+    QTextLayout::FormatRange leadIn;
+    leadIn.start = 0;
+    leadIn.length = int(m_leadIn);
+    QFont type = font();
+    type.setBold(false);
+    type.setPixelSize(QFontInfo(type).pixelSize() * 2 / 3);
+    leadIn.format.setFont(type);
+    // The label's own palette does not say whether it is dark where its background is transparent.
+    leadIn.format.setForeground(quietColour(QGuiApplication::palette()));
+    return {leadIn};
+}
+
 QSize WrappedLabel::sizeWithin(int width) const
 {
     QTextLayout layout(oneParagraph(text()), font());
+    layout.setFormats(formats());
     const QSizeF taken = breakLines(layout, width, alignment());
     return {static_cast<int>(std::ceil(taken.width())),
             static_cast<int>(std::ceil(taken.height()))};
@@ -62,6 +88,7 @@ void WrappedLabel::resizeEvent(QResizeEvent *event)
 void WrappedLabel::paintEvent(QPaintEvent * /*event*/)
 {
     QTextLayout layout(oneParagraph(text()), font());
+    layout.setFormats(formats());
     const double height = breakLines(layout, width(), alignment()).height();
     const bool inTheMiddle = alignment().testFlag(Qt::AlignVCenter);
     QPainter painter(this);

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QTextLayout>
 
 class WrappedLabel final : public QLabel
 {
@@ -12,6 +13,9 @@ class WrappedLabel final : public QLabel
 
 public:
     explicit WrappedLabel(QWidget *parent = nullptr);
+
+    // The first characters are shown in smaller, quiet type.
+    void setLeadIn(qsizetype characters);
 
     [[nodiscard]] QSize minimumSizeHint() const override { return {1, 1}; }
     [[nodiscard]] QSize sizeHint() const override { return {width(), heightForWidth(width())}; }
@@ -25,4 +29,9 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+
+private:
+    [[nodiscard]] QList<QTextLayout::FormatRange> formats() const;
+
+    qsizetype m_leadIn = 0;
 };

@@ -465,6 +465,33 @@ private Q_SLOTS:
         });
     }
 
+    void usualTextsAreWhole_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("definition");
+        QTest::newRow("short") << u"cat"_s << u"a small animal"_s;
+        QTest::newRow("100 characters") << u"cat"_s << u"a small cat"_s.repeated(9) + u"."_s;
+        QTest::newRow("600 characters") << u"cat"_s << u"a small animal "_s.repeated(40);
+        QTest::newRow("45 letters") << u"pneumonoultramicroscopicsilicovolcanoconiosis"_s
+                                    << u"a disease of the lung "_s.repeated(15);
+    }
+
+    void usualTextsAreWhole()
+    {
+        QFETCH(QString, word);
+        QFETCH(QString, definition);
+        setEntry(word, definition);
+        ask([&](const AnswerForm &form) {
+            for (const char *name : {"answerArea", "definitionArea"}) {
+                const QScrollArea &area = Controls::find<QScrollArea>(form.form, name);
+                QCOMPARE(area.verticalScrollBar()->maximum(), 0);
+                QVERIFY(area.viewport()->height() >=
+                        area.widget()->heightForWidth(area.viewport()->width()));
+            }
+            form.answer(word);
+        });
+    }
+
     void longTextsLeaveTheControlsInSight_data()
     {
         QTest::addColumn<QString>("word");

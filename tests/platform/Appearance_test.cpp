@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Appearance.h"
 
+#include "support/Contrast.h"
 #include "support/FormTest.h"
 
 #include <QGroupBox>
@@ -10,46 +11,10 @@
 #include <QPushButton>
 #include <QStyle>
 
-#include <algorithm>
-#include <cmath>
-
+using namespace Contrast;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr double ReadableText = 4.5; // WCAG 2, level AA
-constexpr double ReadableMark = 3;   // the same for large text, lines and disabled controls
-
-double luminance(const QColor &colour)
-{
-    const auto part = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-           0.0722 * part(colour.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const auto [low, high] = std::minmax({luminance(a), luminance(b)});
-    return (high + 0.05) / (low + 0.05);
-}
-
-QPalette lightPalette()
-{
-    return QPalette(QColor(0xEF, 0xEF, 0xEF));
-}
-
-QPalette darkPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(0x2D, 0x2D, 0x2D));
-    palette.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
-    palette.setColor(QPalette::Button, QColor(0x38, 0x38, 0x38));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(role, QColor(0xF0, 0xF0, 0xF0));
-    return palette;
-}
 
 // The most frequent colour of the picture, and the one with the highest contrast to it.
 struct Seen
