@@ -23,7 +23,7 @@ ARROWS = {
 }
 
 # Only platform/ names these classes.
-OF_PLATFORM = ["QMessageBox", "QFileDialog", "QPrinter", "QPrintDialog", "QLockFile", "QSoundEffect"]
+OF_PLATFORM = ["QMessageBox", "QFileDialog", "QPrinter", "QPrintDialog", "QLockFile", "QAudioSink"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"/]+)/', re.MULTILINE)
 LINK = re.compile(r"\btanglewit_([a-z]+)\b")

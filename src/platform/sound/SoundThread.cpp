@@ -10,6 +10,8 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <deque>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -44,13 +46,37 @@ public:
     {
         if (!m_player)
             m_player.reset(QPluginLoader(m_plugin).instance());
-        if (auto *const player = qobject_cast<SoundPlayer *>(m_player.get()))
-            player->loop(path);
+        request([this, path](SoundPlayer &player) { player.loop(path, m_gain); });
+    }
+
+    void setGain(double gain)
+    {
+        m_gain = gain;
+        request([gain](SoundPlayer &player) { player.setGain(gain); });
     }
 
 private:
+    using Request = std::function<void(SoundPlayer &)>;
+
+    // Ending a sound handles events, and with them the next request, which must not come while this
+    // one is at work.
+    void request(Request request)
+    {
+        m_requests.push_back(std::move(request));
+        auto *const player = qobject_cast<SoundPlayer *>(m_player.get());
+        if (std::exchange(m_isAtWork, true))
+            return;
+        for (; !m_requests.empty(); m_requests.pop_front())
+            if (player)
+                m_requests.front()(*player);
+        m_isAtWork = false;
+    }
+
     QString m_plugin;
     std::unique_ptr<QObject> m_player;
+    std::deque<Request> m_requests;
+    double m_gain = 1;
+    bool m_isAtWork = false;
 };
 
 } // namespace
@@ -61,9 +87,10 @@ SoundThread::SoundThread()
         std::make_unique<Worker>(pathOf(Place::Plugins) + QStringLiteral("/tanglewit_sound"));
     worker->moveToThread(this);
     connect(this, &SoundThread::requested, worker.get(), &Worker::loop);
+    connect(this, &SoundThread::gainChanged, worker.get(), &Worker::setGain);
     m_worker = std::move(worker);
     // The sound that the server keeps in store, in milliseconds, so that music goes on while the
-    // machine is busy. QSoundEffect has no other way to set it.
+    // machine is busy. Qt has no other way to set it for good.
     if (!qEnvironmentVariableIsSet("PULSE_LATENCY_MSEC"))
         qputenv("PULSE_LATENCY_MSEC", "1000");
     if (!g_nextHandler)
@@ -83,10 +110,11 @@ void SoundThread::run()
     m_worker.reset();
 }
 
-void SoundThread::loop(const QString &path)
+void SoundThread::loop(const QString &path, double gain)
 {
     if (!g_thread)
         g_thread.reset(new SoundThread);
+    setGain(gain);
     Q_EMIT g_thread->requested(path);
 }
 
@@ -95,6 +123,12 @@ void SoundThread::silence()
     // Without the thread nothing plays.
     if (g_thread)
         Q_EMIT g_thread->requested(QString());
+}
+
+void SoundThread::setGain(double gain)
+{
+    if (g_thread)
+        Q_EMIT g_thread->gainChanged(gain);
 }
 
 void SoundThread::end()
