@@ -32,6 +32,7 @@ public:
     void stop();
     // Stops the track, if one plays, and leaves the choice of music alone.
     void stopTrack();
+    [[nodiscard]] bool isPlaying() const { return m_isPlaying; }
 
 private:
     void play(Integer level);

@@ -39,6 +39,12 @@ QPushButton:pressed { background: @line; }
 QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
 QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; outline: none; }
 QPushButton:disabled { background: palette(window); color: @disabled; border-color: @line; }
+SpeakerButton {
+    background: palette(button); border: 1px solid @line; border-radius: 6px; padding-right: 16px; }
+SpeakerButton:hover { border-color: @accent; }
+SpeakerButton:pressed { background: @line; }
+SpeakerButton:focus { border: 2px solid @focus; }
+SpeakerButton::menu-button { border: none; width: 16px; }
 FlashCard { border-radius: 14px; border: 1px solid @line; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
 FlashCard:focus { border: 2px solid @focus; }

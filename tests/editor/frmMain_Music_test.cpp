@@ -276,7 +276,9 @@ private Q_SLOTS:
         chooseAndFill("mnuUpbeat");
         m_music->startGame();
         m_requests->take();
+        QVERIFY(m_music->isPlaying());
         m_music->stopTrack();
+        QVERIFY(!m_music->isPlaying());
         m_music->stopTrack();
         QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(!gMusicOff);
