@@ -24,11 +24,21 @@ namespace {
 constexpr int UsualWidth = 560;
 constexpr int LargeWidth = 720;
 constexpr int LeastHeight = 320;
+constexpr int PanelEdges = 2;
 constexpr QSize FrameOfWindow(20, 50);
 
 constexpr qsizetype LongestInLargeType = 25;
 
 const QString LeadIn = QStringLiteral("The correct answer is: ");
+
+// In pixels; words beyond the first thousand characters do not count.
+int widestWord(const QLabel &label)
+{
+    int widest = 0;
+    for (const QString &word : label.text().left(1000).split(QLatin1Char(' ')))
+        widest = std::max(widest, label.fontMetrics().horizontalAdvance(word));
+    return widest;
+}
 
 bool isEnter(const QKeyEvent &event)
 {
@@ -71,43 +81,53 @@ void dlgIncorrectAnswer::Form_Load()
         std::max(m_ui->txtUserAnswer->maxLength(), static_cast<int>(word.size())));
     const QString definition = gVocabList().Definition();
     showText(*m_ui->lblDefinition, definition, missedDefinitionTypeSize(definition.size()));
+    m_ui->definitionArea->setHidden(definition.isEmpty());
     fitToTexts();
     m_ui->txtUserAnswer->setFocus();
 }
 
 // The dialog is as high as the texts need, wider for long ones, and not higher than the screen.
+// Where the texts do not fit, they scroll.
 void dlgIncorrectAnswer::fitToTexts()
 {
-    QWidget *const areas[] = {m_ui->answerArea, m_ui->definitionArea};
-    QLabel *const labels[] = {m_ui->lblAnswerIs, m_ui->lblDefinition};
-    for (QWidget *control : findChildren<QWidget *>())
-        control->ensurePolished(); // the style sheet makes some of them larger
-    for (QWidget *area : areas)
-        area->setFixedHeight(1);
-    layout()->invalidate();
-    layout()->activate();
-    const QSize other = layout()->totalSizeHint();
-    const QSize screenRoom = screen()->availableSize() - FrameOfWindow;
-    const int room = screenRoom.height() - other.height();
+    const int others = heightWithoutTexts();
+    const QSize room = screen()->availableSize() - FrameOfWindow - QSize(0, others);
     const QMargins margins = layout()->contentsMargins() + m_ui->panelLayout->contentsMargins();
     int answer = 0;
     int definition = 0;
     for (const int wanted : {UsualWidth, LargeWidth}) {
-        const int width = std::min(wanted, screenRoom.width());
-        const int textWidth = width - margins.left() - margins.right() - 2;
-        answer = labels[0]->heightForWidth(textWidth);
-        definition = labels[1]->heightForWidth(textWidth);
+        const int width = std::min(wanted, room.width());
+        const int textWidth = width - margins.left() - margins.right() - PanelEdges;
+        answer = m_ui->lblAnswerIs->heightForWidth(textWidth);
+        definition = m_ui->lblDefinition->heightForWidth(textWidth);
         resize(width, height());
-        if (answer + definition <= room)
+        if (answer + definition <= room.height() && widestWord(*m_ui->lblAnswerIs) <= textWidth)
             break;
     }
-    answer = std::min(answer, std::max(room - definition, room / 2));
-    definition = std::min(definition, room - answer);
-    areas[0]->setMinimumHeight(answer);
-    areas[1]->setMinimumHeight(definition);
-    for (QWidget *area : areas)
+    answer = std::min(answer, std::max(room.height() - definition, room.height() / 2));
+    definition = std::min(definition, room.height() - answer);
+    m_ui->answerArea->setMinimumHeight(answer);
+    m_ui->definitionArea->setMinimumHeight(definition);
+    resize(width(), std::max(LeastHeight, others + answer + definition));
+    setMinimumWidth(width());
+    // With ScrollBarAsNeeded a bar could stay although the text fits without it.
+    if (answer + definition < room.height())
+        for (QScrollArea *area : {m_ui->answerArea, m_ui->definitionArea})
+            area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+int dlgIncorrectAnswer::heightWithoutTexts()
+{
+    for (QWidget *control : findChildren<QWidget *>())
+        control->ensurePolished(); // the style sheet makes some of them larger
+    for (QWidget *area : {m_ui->answerArea, m_ui->definitionArea})
+        area->setFixedHeight(1);
+    layout()->invalidate();
+    layout()->activate();
+    const int height = layout()->totalSizeHint().height();
+    for (QWidget *area : {m_ui->answerArea, m_ui->definitionArea})
         area->setMaximumHeight(QWIDGETSIZE_MAX);
-    resize(width(), std::max(LeastHeight, other.height() + answer + definition));
+    return height;
 }
 
 // Enter presses the button that has the focus, else the default button. While the word is in sight

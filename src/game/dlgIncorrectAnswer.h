@@ -29,6 +29,7 @@ private:
     void cmdUp_Click();
     void cmdDown_Click();
     void fitToTexts();
+    [[nodiscard]] int heightWithoutTexts();
     void showWord(bool shown);
     void showEnterHint(const QString &hint);
 

@@ -474,6 +474,10 @@ private Q_SLOTS:
         QTest::newRow("600 characters") << u"cat"_s << u"a small animal "_s.repeated(40);
         QTest::newRow("45 letters") << u"pneumonoultramicroscopicsilicovolcanoconiosis"_s
                                     << u"a disease of the lung "_s.repeated(15);
+        QTest::newRow("58 letters")
+            << u"Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch and more"_s
+            << u"a village"_s;
+        QTest::newRow("no definition") << u"cat"_s << QString();
     }
 
     void usualTextsAreWhole()
