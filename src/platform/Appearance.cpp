@@ -107,9 +107,12 @@ void applyAppearance(QApplication &application)
 {
     QPalette palette = QApplication::palette();
     const QColor accent = accentColour(palette);
-    if (palette.color(QPalette::Highlight) != accent) {
+    const QColor quiet = quietColour(palette);
+    if (palette.color(QPalette::Highlight) != accent ||
+        palette.color(QPalette::PlaceholderText) != quiet) {
         palette.setColor(QPalette::Highlight, accent);
         palette.setColor(QPalette::HighlightedText, onAccentColour(palette));
+        palette.setColor(QPalette::PlaceholderText, quiet);
         QApplication::setPalette(palette);
     }
     const QString sheet = styleSheet(palette);

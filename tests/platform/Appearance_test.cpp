@@ -95,6 +95,16 @@ private Q_SLOTS:
         QVERIFY(accentColour(lightPalette()) != accentColour(darkPalette()));
     }
 
+    void whatAnEmptyBoxSaysIsReadable()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            wear(palette);
+            const QPalette worn = QLineEdit().palette();
+            QVERIFY(contrast(worn.color(QPalette::PlaceholderText), worn.color(QPalette::Base)) >=
+                    ReadableText);
+        }
+    }
+
     void buttonsAreReadable_data()
     {
         QTest::addColumn<bool>("dark");
