@@ -107,7 +107,7 @@ void SpeakerButton::mute(bool muted)
     update();
 }
 
-// Who sets a volume wants to hear it.
+// Setting a volume ends the muting.
 void SpeakerButton::setVolume(int percent)
 {
     setSoundVolume(percent);

@@ -79,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), m_button);
         QTest::keyClick(m_button, Qt::Key_Space);
         QVERIFY(isSoundMuted());
-        // Who sets a volume wants to hear it.
+        // Setting a volume ends the muting.
         QTest::keyClick(m_button, Qt::Key_Down);
         QCOMPARE(soundVolume(), 90);
         QVERIFY(!isSoundMuted());

@@ -65,7 +65,7 @@ private Q_SLOTS:
         QVERIFY(!isSoundMuted());
     }
 
-    // Before the first sound there is nothing that could be told of it.
+    // It is muted before the first sound starts the thread that plays.
     void whatIsMutedFromTheBeginningIsNotHeard()
     {
         setSoundMuted(true);
