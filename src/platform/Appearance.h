@@ -7,7 +7,6 @@
 class QApplication;
 class QPalette;
 
-[[nodiscard]] QColor quietColour(const QPalette &palette);
 [[nodiscard]] QColor accentColour(const QPalette &palette);
 // For captions, notes and outlines.
 [[nodiscard]] QColor quietColour(const QPalette &palette);
