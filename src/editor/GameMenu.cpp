@@ -52,8 +52,8 @@ void GameMenu::cmdPlayScramble_Click()
             MusicMenu{*m_ui.mnuUpbeat, *m_ui.mnuSoothing, *m_ui.mnuMusicOff}, m_window);
         connect(m_frmTanglewit.get(), &frmTanglewit::left, m_window, &QWidget::show);
     }
+    m_frmTanglewit->show(); // before the main window goes, so that no empty desktop is seen
     m_window->hide();
-    m_frmTanglewit->show();
 }
 
 void GameMenu::cmdQuickFlash_Click()

@@ -9,6 +9,7 @@
 #include "game/ui_frmTanglewit.h"
 #include "platform/Appearance.h"
 #include "platform/Motion.h"
+#include "platform/RetainedSize.h"
 
 #include <QPainter>
 #include <QScrollBar>
@@ -59,11 +60,9 @@ QString shortened(const QString &answer)
 GameBoard::GameBoard(Ui::frmTanglewit &ui, QWidget &window) : m_ui(ui), m_window(window)
 {
     // They share one place, which keeps its size.
-    for (QWidget *widget : {m_ui.cmdShow, m_ui.cmdHide, m_ui.cmdStart, m_ui.cmdEnter}) {
-        QSizePolicy policy = widget->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        widget->setSizePolicy(policy);
-    }
+    for (QWidget *button : {m_ui.cmdShow, m_ui.cmdHide, m_ui.cmdStart, m_ui.cmdEnter})
+        retainSizeWhenHidden(*button);
+    retainSizeWhenHidden(*m_ui.btnSpeaker);
     // A group box has measured its frame before the style sheet knew its name.
     for (QGroupBox *box : {m_ui.frmHits, m_ui.frmMisses}) {
         box->ensurePolished();

@@ -79,12 +79,18 @@ void Music::play(Integer level)
     if (tracks.size() == 0)
         return;
     sndPlaySoundA(tracks(level), SoundFlags::Asynchronous | SoundFlags::Loop);
-    m_isPlaying = true;
+    setPlaying(true);
 }
 
 // There is no file of this name, and every request ends the sound that is playing.
 void Music::requestSilence()
 {
     sndPlaySoundA(QStringLiteral("NULL"), 0);
-    m_isPlaying = false;
+    setPlaying(false);
+}
+
+void Music::setPlaying(bool isPlaying)
+{
+    m_isPlaying = isPlaying;
+    m_playingChanged(isPlaying);
 }

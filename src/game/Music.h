@@ -4,6 +4,9 @@
 
 #include "runtime/Integer.h"
 
+#include <functional>
+#include <utility>
+
 class QAction;
 
 // The items of the main window's Music menu, one of which is checked.
@@ -20,7 +23,12 @@ struct MusicMenu
 class Music final
 {
 public:
-    explicit Music(MusicMenu menu) : m_menu(menu) {}
+    // playingChanged: called with true when a track starts, with false when it stops.
+    explicit Music(
+        MusicMenu menu, std::function<void(bool)> playingChanged = [](bool) {})
+        : m_menu(menu), m_playingChanged(std::move(playingChanged))
+    {
+    }
 
     // Fills gFastBeatTracks and gSoftBeatTracks, unless the music is off or the menu is disabled.
     void fillTracks() const;
@@ -32,12 +40,13 @@ public:
     void stop();
     // Stops the track, if one plays, and leaves the choice of music alone.
     void stopTrack();
-    [[nodiscard]] bool isPlaying() const { return m_isPlaying; }
 
 private:
     void play(Integer level);
     void requestSilence();
+    void setPlaying(bool isPlaying);
 
     MusicMenu m_menu;
+    std::function<void(bool)> m_playingChanged;
     bool m_isPlaying = false;
 };

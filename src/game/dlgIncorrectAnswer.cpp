@@ -53,8 +53,8 @@ bool isTyping(const QKeyEvent &event)
 
 } // namespace
 
-dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget *parent)
-    : DialogForm(parent), m_ui(std::make_unique<Ui::dlgIncorrectAnswer>())
+dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget &above)
+    : DialogForm(above.window()), m_ui(std::make_unique<Ui::dlgIncorrectAnswer>()), m_above(above)
 {
     m_ui->setupUi(this);
     onClick(m_ui->cmdOK, &dlgIncorrectAnswer::cmdOK_Click);
@@ -83,6 +83,7 @@ void dlgIncorrectAnswer::Form_Load()
     showText(*m_ui->lblDefinition, definition, missedDefinitionTypeSize(definition.size()));
     m_ui->definitionArea->setHidden(definition.isEmpty());
     fitToTexts();
+    placeBelow(m_above);
     m_ui->txtUserAnswer->setFocus();
 }
 
@@ -114,6 +115,17 @@ void dlgIncorrectAnswer::fitToTexts()
     if (answer + definition < room.height())
         for (QScrollArea *area : {m_ui->answerArea, m_ui->definitionArea})
             area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void dlgIncorrectAnswer::placeBelow(const QWidget &control)
+{
+    const QRect room = screen()->availableGeometry();
+    const QPoint lowest = room.bottomRight() - QPoint(width(), height()) -
+                          QPoint(FrameOfWindow.width(), FrameOfWindow.height());
+    const int left = control.window()->geometry().center().x() - width() / 2;
+    const int top = control.mapToGlobal(control.rect().bottomLeft()).y();
+    move(std::max(room.left(), std::min(left, lowest.x())),
+         std::max(room.top(), std::min(top, lowest.y())));
 }
 
 int dlgIncorrectAnswer::heightWithoutTexts()

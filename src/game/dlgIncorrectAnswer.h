@@ -16,7 +16,8 @@ class dlgIncorrectAnswer final : public DialogForm
     Q_OBJECT
 
 public:
-    explicit dlgIncorrectAnswer(QWidget *parent);
+    // The dialog opens below this control of its parent window, where the screen has room.
+    explicit dlgIncorrectAnswer(QWidget &above);
     ~dlgIncorrectAnswer() override;
 
 protected:
@@ -30,10 +31,12 @@ private:
     void cmdDown_Click();
     void fitToTexts();
     [[nodiscard]] int heightWithoutTexts();
+    void placeBelow(const QWidget &control);
     void showWord(bool shown);
     void showEnterHint(const QString &hint);
 
     std::unique_ptr<Ui::dlgIncorrectAnswer> m_ui;
+    const QWidget &m_above;
     DefaultButton m_defaultButton;
     bool m_wordIsShown = true;
     bool m_isTyped = false; // the right word has been typed

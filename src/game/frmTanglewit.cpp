@@ -40,7 +40,9 @@ void takeSize(QWidget &window)
 } // namespace
 
 frmTanglewit::frmTanglewit(MusicMenu menu, QWidget *mainWindow)
-    : m_ui(std::make_unique<Ui::frmTanglewit>()), m_music(menu), m_mainWindow(mainWindow)
+    : m_ui(std::make_unique<Ui::frmTanglewit>()),
+      m_music(menu, [this](bool isPlaying) { m_ui->btnSpeaker->setVisible(isPlaying); }),
+      m_mainWindow(mainWindow)
 {
     m_ui->setupUi(this);
     m_board = std::make_unique<GameBoard>(*m_ui, *this);

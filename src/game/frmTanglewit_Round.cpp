@@ -13,26 +13,10 @@
 
 #include <QApplication>
 #include <QScopeGuard>
-#include <QScreen>
-
-#include <algorithm>
 
 using namespace Module1;
 
 namespace {
-
-constexpr int TitleBar = 40; // pixels, more than a dialog's frame takes
-
-// The window's answer row stays in sight where the screen allows it.
-void placeBelow(QDialog &dialog, const QWidget &control)
-{
-    const QWidget &window = *control.window();
-    const QRect room = window.screen()->availableGeometry();
-    const int left = window.geometry().center().x() - dialog.width() / 2;
-    const int top = control.mapToGlobal(control.rect().bottomLeft()).y();
-    const int lowest = room.bottom() - dialog.height() - TitleBar;
-    dialog.move(std::max(room.left(), left), std::max(room.top(), std::min(top, lowest)));
-}
 
 Integer lengthOfWord()
 {
@@ -115,9 +99,7 @@ void frmTanglewit::hit()
 void frmTanglewit::miss(const QString &answer)
 {
     const QString line = gVocabList().Word() + QStringLiteral(" :: ") + answer;
-    dlgIncorrectAnswer dialog(this);
-    placeBelow(dialog, *m_ui->lblFeedback);
-    dialog.exec();
+    dlgIncorrectAnswer(*m_ui->lblFeedback).exec();
     m_board->addMiss(line);
 }
 

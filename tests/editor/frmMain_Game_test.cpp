@@ -14,6 +14,9 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <algorithm>
+#include <array>
+#include <functional>
 #include <utility>
 
 using namespace Module1;
@@ -23,6 +26,31 @@ namespace {
 
 const QString Track1 = u"fastbeat/Track01.wav 9"_s;
 const QString Silence = u"NULL 0"_s;
+
+// Counts the visible ones of two windows each time one of them is hidden.
+class WindowsInSight final : public QObject
+{
+public:
+    WindowsInSight(QWidget &one, QWidget &other) : m_windows{&one, &other}
+    {
+        for (QWidget *window : m_windows)
+            window->installEventFilter(this);
+    }
+    [[nodiscard]] int fewest() const { return m_fewest; }
+
+protected:
+    bool eventFilter(QObject * /*window*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide)
+            m_fewest = std::min(m_fewest, int(std::count_if(m_windows.begin(), m_windows.end(),
+                                                            std::mem_fn(&QWidget::isVisible))));
+        return false;
+    }
+
+private:
+    std::array<QWidget *, 2> m_windows;
+    int m_fewest = 2;
+};
 
 } // namespace
 
@@ -83,6 +111,20 @@ private Q_SLOTS:
         QVERIFY(openGame()->isWindow());
         QCOMPARE(gOrderSize, Integer(3));
         QVERIFY(button("cmdStart").isVisible());
+    }
+
+    void thereIsAlwaysAWindowInSight()
+    {
+        m_main->fill(3);
+        play();
+        QWidget &game = *openGame();
+        openGame()->close();
+        const WindowsInSight windows(m_main->window(), game);
+        play();
+        game.close();
+        play();
+        quit();
+        QCOMPARE(windows.fewest(), 1);
     }
 
     void quitBringsTheMainWindowBackAsItWas()

@@ -58,9 +58,11 @@ private Q_SLOTS:
     void init()
     {
         m_window = std::make_unique<MainWindow>();
+        m_isPlaying = false;
         m_music = std::make_unique<Music>(MusicMenu{m_window->action("mnuUpbeat"),
                                                     m_window->action("mnuSoothing"),
-                                                    m_window->action("mnuMusicOff")});
+                                                    m_window->action("mnuMusicOff")},
+                                          [this](bool isPlaying) { m_isPlaying = isPlaying; });
         m_requests = std::make_unique<SoundRequests>();
     }
 
@@ -276,12 +278,42 @@ private Q_SLOTS:
         chooseAndFill("mnuUpbeat");
         m_music->startGame();
         m_requests->take();
-        QVERIFY(m_music->isPlaying());
+        QVERIFY(m_isPlaying);
         m_music->stopTrack();
-        QVERIFY(!m_music->isPlaying());
+        QVERIFY(!m_isPlaying);
         m_music->stopTrack();
         QCOMPARE(m_requests->take(), QStringList{Stop});
         QVERIFY(!gMusicOff);
+    }
+
+    void theSpeakerIsShownWhileATrackPlays_data()
+    {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<bool>("isShown");
+        QTest::newRow("upbeat") << u"mnuUpbeat"_s << true;
+        QTest::newRow("off") << u"mnuMusicOff"_s << false;
+    }
+
+    void theSpeakerIsShownWhileATrackPlays()
+    {
+        QFETCH(QString, item);
+        QFETCH(bool, isShown);
+        openGame(item.toUtf8());
+        auto &speaker = Controls::find<QWidget>(game(), "btnSpeaker");
+        QVERIFY(!speaker.isVisible());
+        const QRect place = Controls::find<QWidget>(game(), "cmdRestart").geometry();
+        clickInGame("cmdStart");
+        QCOMPARE(speaker.isVisible(), isShown);
+        QCOMPARE(Controls::find<QWidget>(game(), "cmdRestart").geometry(), place);
+        QTest::keyClick(&game(), Qt::Key_M, Qt::ControlModifier);
+        QTRY_COMPARE(isSoundMuted(), isShown);
+        setSoundMuted(false);
+        QCOMPARE(gMusicOff, !isShown);
+        m_window->answers.useForm("dlgGameOver", [](QDialog &dialog) {
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdClose"));
+        });
+        clickInGame("cmdViewTop10"); // its Close stops the music
+        QVERIFY(!speaker.isVisible());
     }
 
     void anEmptyTrackListPlaysNothing()
@@ -407,6 +439,7 @@ private:
 
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<Music> m_music;
+    bool m_isPlaying = false;
     std::unique_ptr<SoundRequests> m_requests;
 };
 

@@ -553,7 +553,8 @@ private:
             QVERIFY(QTest::qWaitForWindowActive(&dialog));
             use(AnswerForm(dialog));
         });
-        dlgIncorrectAnswer(nullptr).exec();
+        QWidget window;
+        dlgIncorrectAnswer(window).exec();
     }
 
     std::unique_ptr<FreshState> m_state;

@@ -185,6 +185,27 @@ private Q_SLOTS:
         QCOMPARE(m_form->window().geometry(), place);
     }
 
+    // Where the screen has no room below, the dialog moves up.
+    void theWrongAnswerDialogLeavesTheAnswerRowInSight()
+    {
+        m_form = std::make_unique<GameForm>();
+        m_form->start();
+        m_form->expectMiss([this](QDialog &dialog) {
+            const QRect room = m_form->window().screen()->availableGeometry();
+            const auto &feedback = m_form->control<QLabel>("lblFeedback");
+            const int top = feedback.mapToGlobal(feedback.rect().bottomLeft()).y();
+            QVERIFY(room.contains(dialog.frameGeometry()));
+            const int roomBelow = room.bottom() - top - dialog.height();
+            if (roomBelow > 50)
+                QVERIFY(dialog.frameGeometry().top() >= top);
+            else
+                QVERIFY(room.bottom() - dialog.frameGeometry().bottom() < 60);
+            const QPoint off = dialog.geometry().center() - m_form->window().geometry().center();
+            QVERIFY(qAbs(off.x()) <= 1);
+        });
+        m_form->answer(u"wrong"_s);
+    }
+
     void everyOpenTileLiesOnTheRack_data()
     {
         QTest::addColumn<int>("letters");
