@@ -93,6 +93,8 @@ void GameBoard::show(Mode mode)
         m_ui.lblWorth->clear();
         m_ui.lblWordsLeft->clear();
     }
+    if (mode == Mode::Over)
+        m_ui.lblBest->setText(GameLines::best(gTop10));
     m_ui.cmdEnter->setEnabled(isPlaying);
     m_ui.cmdEnter->setVisible(!isReady);
     m_ui.cmdStart->setVisible(isReady);

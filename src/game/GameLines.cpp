@@ -30,20 +30,23 @@ QString GameLines::levelHits(const GameState &game)
         .arg(counted(GameState::HitsPerLevel, QStringLiteral("hit")));
 }
 
-QString GameLines::best(const Top10Table &table, Integer score)
+QString GameLines::best(const Top10Table &table)
 {
     const Integer best = pointsOf(table, 1);
-    const QString bestLine =
-        best > 0 ? QStringLiteral("Best %1").arg(best.toInt()) : QStringLiteral("No best yet");
+    return best > 0 ? QStringLiteral("Best %1").arg(best.toInt()) : QStringLiteral("No best yet");
+}
+
+QString GameLines::best(const Top10Table &table, Integer score)
+{
     const Integer row = rowOfScore(table, score);
     if (row == 1)
         return QStringLiteral("A new best");
     const Integer above = row == 0 ? Integer(int(table.size())) : row - 1;
     if (pointsOf(table, above) == Integer::Max)
-        return bestLine;
+        return best(table);
     const Integer next = pointsOf(table, above) + 1;
     return QStringLiteral("%1 · %2 to place %3")
-        .arg(bestLine, counted(next.toInt() - score.toInt(), QStringLiteral("point")))
+        .arg(best(table), counted(next.toInt() - score.toInt(), QStringLiteral("point")))
         .arg(rowOfScore(table, next).toInt());
 }
 

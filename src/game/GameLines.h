@@ -12,8 +12,10 @@ namespace GameLines {
 [[nodiscard]] QString worth(Integer points);
 // "3 of 20 hits", or "Last level".
 [[nodiscard]] QString levelHits(const GameState &game);
-// "Best 41", "7 points to place 3": the best score of the table, and what the game's score lacks to
-// the next better place. Nothing is lacking to a score above the best.
+// "Best 41": the best score of the table.
+[[nodiscard]] QString best(const Top10Table &table);
+// "Best 41 · 7 points to place 3": also what the score of the game lacks to the next better place.
+// Nothing is lacking to a score above the best.
 [[nodiscard]] QString best(const Top10Table &table, Integer score);
 // "12 words to come", before a new order begins. index: gOrderIndex.
 [[nodiscard]] QString wordsLeft(Integer index, Integer size);

@@ -16,7 +16,7 @@ namespace {
 constexpr int LargestTile = 52;
 constexpr int Rim = 6; // around the tiles
 constexpr int Gap = 2; // between two tiles
-constexpr double Corner = 6;
+constexpr double SlotCorner = 6;
 
 using namespace std::chrono_literals;
 constexpr auto WaveTime = 380ms;
@@ -123,7 +123,7 @@ void TileRack::drawSlots(QPainter &painter, const std::vector<QRect> &places) co
     painter.setPen(QPen(quietColour(palette()), 1.5));
     painter.setBrush(Qt::NoBrush);
     for (const QRect &slot : places)
-        painter.drawRoundedRect(QRectF(slot).adjusted(1.5, 1.5, -1.5, -1.5), Corner, Corner);
+        painter.drawRoundedRect(QRectF(slot).adjusted(1.5, 1.5, -1.5, -1.5), SlotCorner, SlotCorner);
 }
 
 void TileRack::paintEvent(QPaintEvent * /*event*/)

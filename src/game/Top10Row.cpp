@@ -15,12 +15,12 @@
 namespace {
 
 // Pixels.
-constexpr int LeastHeight = 30;
+constexpr int LeastRowHeight = 30;
 constexpr int RankWidth = 48;
 constexpr int StarWidth = 32;
 constexpr int ColumnGap = 20;
 constexpr int MedalSide = 24;
-constexpr double Corner = 6;
+constexpr double RowCorner = 6;
 
 QColor mixed(const QColor &one, const QColor &other, double share)
 {
@@ -186,7 +186,7 @@ private:
 Top10Row::Top10Row(int rank, QWidget *parent)
     : QWidget(parent), m_rank(rank), m_label(new Top10Label(rank, this))
 {
-    setMinimumHeight(LeastHeight);
+    setMinimumHeight(LeastRowHeight);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(RankWidth, 0, StarWidth, 0);
     row->setSpacing(0);
@@ -232,14 +232,14 @@ void Top10Row::paintEvent(QPaintEvent * /*event*/)
     if (m_rank % 2 == 0) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(colours.otherBackground);
-        painter.drawRoundedRect(whole, Corner, Corner);
+        painter.drawRoundedRect(whole, RowCorner, RowCorner);
     }
     if (m_newShown > 0) {
         QRectF mark = whole;
-        mark.setWidth(std::max(2 * Corner, whole.width() * m_newShown));
+        mark.setWidth(std::max(2 * RowCorner, whole.width() * m_newShown));
         painter.setPen(QPen(colours.newEdge, 2));
         painter.setBrush(colours.newBackground);
-        painter.drawRoundedRect(mark, Corner, Corner);
+        painter.drawRoundedRect(mark, RowCorner, RowCorner);
         painter.setPen(QPen(colours.medals[0].darker(150), 1));
         painter.setBrush(colours.medals[0]);
         painter.drawPath(star({mark.right() - StarWidth / 2.0, whole.center().y()}, 9));

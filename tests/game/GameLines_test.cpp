@@ -66,6 +66,8 @@ private Q_SLOTS:
     {
         QCOMPARE(GameLines::best(tableOf({}), 0), u"No best yet · 1 point to place 1"_s);
         QCOMPARE(GameLines::best(tableOf({}), 1), u"A new best"_s);
+        QCOMPARE(GameLines::best(tableOf({})), u"No best yet"_s);
+        QCOMPARE(GameLines::best(tableOf({9, 4})), u"Best 9"_s);
     }
 
     void aTableWithUnusedRows()

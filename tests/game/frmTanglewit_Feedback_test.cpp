@@ -135,6 +135,14 @@ private Q_SLOTS:
         QCOMPARE(m_form->text("lblBest"), u"A new best"_s);
     }
 
+    void afterTheGameTheBestScoreIsShown()
+    {
+        m_form->answerRight();
+        m_form->loseAllLives(u"Ann"_s);
+        QCOMPARE(m_form->text("lblBest"), u"Best 4"_s);
+        QCOMPARE(m_form->text("lblScore"), u"4"_s);
+    }
+
     void typedLettersAreTaken()
     {
         QCOMPARE(lettersTaken(*m_form), 0);
