@@ -23,9 +23,9 @@ namespace {
 // Pixels.
 constexpr int UsualWidth = 560;
 constexpr int LargeWidth = 720;
-constexpr int LeastHeight = 320;
+constexpr int LeastHeight = 300;
 constexpr int PanelEdges = 2;
-constexpr QSize FrameOfWindow(20, 50);
+constexpr QSize FrameOfWindow(20, 40);
 
 constexpr qsizetype LongestInLargeType = 25;
 
