@@ -24,6 +24,8 @@ class Desktop final : public QObject
 public:
     explicit Desktop(QObject *parent) : QObject(parent)
     {
+        // The thread of Qt's bus registers it too, but maybe not yet; connect() would then fail.
+        qRegisterMetaType<QDBusVariant>();
         QDBusConnection bus = QDBusConnection::sessionBus();
         bus.connect(Service, Path, Interface, QStringLiteral("SettingChanged"), this,
                     SLOT(take(QString, QString, QDBusVariant)));
