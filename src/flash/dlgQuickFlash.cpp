@@ -6,6 +6,7 @@
 #include "core/cVocabList.h"
 #include "flash/DefinitionTime.h"
 #include "flash/ui_dlgQuickFlash.h"
+#include "platform/ReducedMotion.h"
 #include "platform/RetainedSize.h"
 
 #include <QShortcut>
@@ -57,6 +58,7 @@ dlgQuickFlash::~dlgQuickFlash() = default;
 
 void dlgQuickFlash::Form_Load()
 {
+    ReducedMotion::watch();
     gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
     ShuffleCards();
     gOrderIndex = 1;

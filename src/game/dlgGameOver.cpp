@@ -7,19 +7,16 @@
 #include "game/Top10Note.h"
 #include "game/Top10Row.h"
 #include "game/ui_dlgGameOver.h"
+#include "platform/Motion.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
 #include "runtime/Blanks.h"
-
-#include <QStyle>
 
 #include <algorithm>
 
 using namespace Module1;
 
 namespace {
-
-constexpr int LongestCelebration = 400; // milliseconds
 
 std::size_t indexOf(Integer row)
 {
@@ -77,18 +74,18 @@ void dlgGameOver::Form_Load()
     showNaming(m_newRow != 0);
 }
 
-// Runs beside everything else. Left out if the style has no animations.
+// Runs beside everything else.
 void dlgGameOver::showPrize()
 {
     const auto show = [this](const QVariant &shown) {
         m_ui->banner->setPrize(shown.toDouble());
         rowWidget(m_newRow).setNew(shown.toDouble());
     };
-    const int duration = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this);
-    show(duration > 0 ? 0.0 : 1.0);
-    if (duration <= 0)
+    const auto duration = std::min(2 * Motion::usualTime(*this), Motion::LongestTime);
+    show(duration.count() > 0 ? 0.0 : 1.0);
+    if (duration.count() <= 0)
         return;
-    m_celebration.setDuration(std::min(2 * duration, LongestCelebration));
+    m_celebration.setDuration(static_cast<int>(duration.count()));
     m_celebration.setStartValue(0.0);
     m_celebration.setEndValue(1.0);
     m_celebration.setEasingCurve(QEasingCurve::OutCubic);

@@ -7,27 +7,26 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
-namespace {
-
-// 0 = no animations.
-std::chrono::milliseconds durationOfStyle(const QWidget &widget)
+std::chrono::milliseconds Motion::usualTime(const QWidget &widget)
 {
-    return std::chrono::milliseconds(
-        widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget));
+    if (ReducedMotion::isAskedFor())
+        return {};
+    const int time =
+        widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget);
+    return std::min(std::chrono::milliseconds(time), LongestTime);
 }
-
-} // namespace
 
 void Motion::play(QWidget &widget, const QRect &area, std::chrono::milliseconds duration,
                   const Paint &paint)
 {
-    if (!widget.isVisible() || durationOfStyle(widget).count() <= 0 || ReducedMotion::isAskedFor())
+    if (!widget.isVisible() || usualTime(widget).count() <= 0)
         return;
     auto *motion = new Motion(widget, area, paint);
-    motion->m_time.setDuration(static_cast<int>(duration.count()));
+    motion->m_time.setDuration(static_cast<int>(std::min(duration, LongestTime).count()));
     motion->show();
     motion->m_time.start();
 }
@@ -36,7 +35,7 @@ void Motion::turnOver(QWidget &card, const QPixmap &oldSide, const QPixmap &newS
                       const QBrush &behind)
 {
     const QSize size = card.size();
-    play(card, card.rect(), durationOfStyle(card),
+    play(card, card.rect(), usualTime(card),
          [oldSide, newSide, behind, size](QPainter &painter, double t) {
              painter.fillRect(QRect(QPoint(), size), behind);
              const double turned = QEasingCurve(QEasingCurve::InOutQuad).valueForProgress(t);

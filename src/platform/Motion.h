@@ -20,12 +20,17 @@ public:
     // passed, 0 to 1.
     using Paint = std::function<void(QPainter &painter, double t)>;
 
-    // Plays on a part of the widget. Does nothing if the widget is not visible, its style has no
-    // animations or the system asks for reduced motion.
+    static constexpr std::chrono::milliseconds LongestTime{400};
+
+    // What the widget's style has for an animation, at most LongestTime; 0 if it has none or the
+    // system asks for reduced motion.
+    [[nodiscard]] static std::chrono::milliseconds usualTime(const QWidget &widget);
+    // Plays on a part of the widget, at most for LongestTime. Does nothing if the widget is not
+    // visible or its usual time is 0.
     static void play(QWidget &widget, const QRect &area, std::chrono::milliseconds duration,
                      const Paint &paint);
-    // Turns a card over: the old side gets narrower, then the new side gets wider, in the time that
-    // the style has for animations. `behind` fills the area beside the narrow card.
+    // Turns a card over: the old side gets narrower, then the new side gets wider, in the
+    // usual time. `behind` fills the area beside the narrow card.
     static void turnOver(QWidget &card, const QPixmap &oldSide, const QPixmap &newSide,
                          const QBrush &behind);
     // Removes the motions on the widget that still play.

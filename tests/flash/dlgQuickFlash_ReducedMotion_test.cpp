@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The flash cards on a desktop without animations.
+#include "platform/ReducedMotion.h"
+
+#include "flash/FlashForm.h"
+#include "support/DesktopSettings.h"
+#include "support/FormTest.h"
+#include "support/MotionStyle.h"
+#include "support/Motions.h"
+
+class dlgQuickFlash_ReducedMotion_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!SessionBus::isInstalled())
+            QSKIP("dbus-daemon is not installed.");
+        QVERIFY(m_bus.start());
+        m_portal = std::make_unique<SettingsPortal>(SettingsPortal::Answers::Off);
+        QApplication::setStyle(new MotionStyle(200));
+    }
+
+    void theCardTurnsAtOnce()
+    {
+        FlashForm form;
+        QTRY_VERIFY(ReducedMotion::isAskedFor());
+        form.clickCard();
+        QCOMPARE(motions(form.dialog()), 0);
+        m_portal->changeTo(true);
+        QTRY_VERIFY(!ReducedMotion::isAskedFor());
+        form.click("cmdNext");
+        form.clickCard();
+        QVERIFY(motions(form.dialog()) > 0);
+    }
+
+private:
+    SessionBus m_bus;
+    std::unique_ptr<SettingsPortal> m_portal;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<dlgQuickFlash_ReducedMotion_test>(argc, argv);
+}
+
+#include "dlgQuickFlash_ReducedMotion_test.moc"
