@@ -19,8 +19,6 @@ constexpr int LastNumberHeight = 42;
 
 constexpr int LastSeconds = 5;
 
-constexpr QColor Alarm(0xC6, 0x28, 0x28); // contrast to white 5.6 to 1
-
 using namespace std::chrono_literals;
 constexpr auto PulseTime = 250ms;
 constexpr auto FillingTime = 400ms;
@@ -29,6 +27,23 @@ constexpr auto TimeOutTime = 400ms;
 // Degrees on the colour circle for levels 1 to 10: from the program's blue-green over blue, violet
 // and red to gold.
 constexpr std::array<int, 10> Hues{187, 205, 222, 245, 268, 292, 318, 340, 18, 36};
+
+// Of the last seconds.
+QColor alarmColour(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(0xFF, 0x6B, 0x6B) : QColor(0xC6, 0x28, 0x28);
+}
+
+QColor onAlarmColour(const QPalette &palette)
+{
+    return isDark(palette) ? Qt::black : Qt::white;
+}
+
+// Of the part of the ring that has gone.
+QColor trackColour(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).darker(isDark(palette) ? 150 : 114);
+}
 
 } // namespace
 
@@ -75,21 +90,20 @@ void CountdownRing::playTimeOut()
     QWidget &window = *this->window();
     const int margin = width() / 3;
     const QRect place = QRect(mapTo(&window, QPoint()), size());
-    Motion::play(window, place.adjusted(-margin, -margin, margin, margin), TimeOutTime,
-                 [margin, side = width()](QPainter &painter, double t) {
-                     painter.setOpacity(1 - t);
-                     painter.setPen(QPen(Alarm, 4));
-                     const double radius = side / 2.0 + (margin - 4) * t;
-                     painter.drawEllipse(QPointF(margin + side / 2.0, margin + side / 2.0), radius,
-                                         radius);
-                 });
+    Motion::play(
+        window, place.adjusted(-margin, -margin, margin, margin), TimeOutTime,
+        [margin, side = width(), colour = alarmColour(palette())](QPainter &painter, double t) {
+            painter.setOpacity(1 - t);
+            painter.setPen(QPen(colour, 4));
+            const double radius = side / 2.0 + (margin - 4) * t;
+            painter.drawEllipse(QPointF(margin + side / 2.0, margin + side / 2.0), radius, radius);
+        });
 }
 
 QColor CountdownRing::colourOf(Integer level, const QPalette &palette)
 {
     const int hue = Hues.at(static_cast<std::size_t>(level.toInt() - 1));
-    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
-    return isDark ? QColor::fromHsl(hue, 190, 165) : QColor::fromHsl(hue, 200, 82);
+    return isDark(palette) ? QColor::fromHsl(hue, 190, 180) : QColor::fromHsl(hue, 200, 76);
 }
 
 bool CountdownRing::isLastSeconds() const
@@ -108,14 +122,14 @@ void CountdownRing::draw(QPainter &painter, double share, double growth) const
     const double half = RingWidth * scale / 2;
     const QRectF ring = QRectF(rect()).adjusted(half, half, -half, -half);
     const bool last = isLastSeconds();
+    const QColor colour = last ? alarmColour(palette()) : colourOf(m_level, palette());
 
-    painter.setPen(QPen(palette().mid(), RingWidth * scale));
-    painter.setBrush(last ? QBrush(Alarm) : palette().window());
+    painter.setPen(QPen(trackColour(palette()), RingWidth * scale));
+    painter.setBrush(last ? QBrush(colour) : palette().window());
     painter.drawEllipse(ring);
     constexpr int FullCircle = 360 * 16;
     constexpr int Top = 90 * 16;
-    painter.setPen(QPen(last ? Alarm : colourOf(m_level, palette()), RingWidth * scale,
-                        Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(colour, RingWidth * scale, Qt::SolidLine, Qt::RoundCap));
     if (share > 0)
         painter.drawArc(ring, Top, -qRound(share * FullCircle));
 
@@ -123,7 +137,7 @@ void CountdownRing::draw(QPainter &painter, double share, double growth) const
     type.setBold(true);
     type.setPixelSize(qRound((last ? LastNumberHeight : NumberHeight) * scale * growth));
     painter.setFont(type);
-    painter.setPen(last ? QColor(Qt::white) : palette().color(QPalette::WindowText));
+    painter.setPen(last ? onAlarmColour(palette()) : palette().color(QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignCenter, text());
 }
 

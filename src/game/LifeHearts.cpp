@@ -14,9 +14,12 @@ namespace {
 constexpr int HeartSide = 24;
 constexpr int HeartPitch = 28;
 
-constexpr QColor Full(0xD8, 0x3A, 0x4B);
-
 constexpr std::chrono::milliseconds FadingTime(400);
+
+QColor fullColour(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(0xF0, 0x61, 0x6E) : QColor(0xD8, 0x3A, 0x4B);
+}
 
 QPainterPath heart()
 {
@@ -54,20 +57,22 @@ void LifeHearts::setLives(Integer lives)
     if (!isLost)
         return;
     const QRect place(lives.toInt() * HeartPitch, 0, HeartSide, HeartSide);
-    Motion::play(*this, place, FadingTime, [](QPainter &painter, double t) {
-        painter.setOpacity(1 - t);
-        drawHeart(painter, Full, Full);
-    });
+    Motion::play(*this, place, FadingTime,
+                 [colour = fullColour(palette())](QPainter &painter, double t) {
+                     painter.setOpacity(1 - t);
+                     drawHeart(painter, colour, colour);
+                 });
 }
 
 void LifeHearts::paintEvent(QPaintEvent * /*event*/)
 {
+    const QColor full = fullColour(palette());
     const QColor lost = quietColour(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (int life = 1; life * HeartPitch <= width(); ++life) {
         const bool isLeft = life <= m_lives.toInt();
-        drawHeart(painter, isLeft ? Full : lost, isLeft ? QBrush(Full) : QBrush(Qt::NoBrush));
+        drawHeart(painter, isLeft ? full : lost, isLeft ? QBrush(full) : QBrush(Qt::NoBrush));
         painter.translate(HeartPitch, 0);
     }
 }

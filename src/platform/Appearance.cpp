@@ -6,11 +6,6 @@
 
 namespace {
 
-bool isDark(const QPalette &palette)
-{
-    return palette.color(QPalette::Window).lightness() < 128;
-}
-
 QColor onAccentColour(const QPalette &palette)
 {
     return isDark(palette) ? Qt::black : Qt::white;
@@ -92,6 +87,11 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
 }
 
 } // namespace
+
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
 
 QColor accentColour(const QPalette &palette)
 {

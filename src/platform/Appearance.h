@@ -7,6 +7,7 @@
 class QApplication;
 class QPalette;
 
+[[nodiscard]] bool isDark(const QPalette &palette);
 [[nodiscard]] QColor accentColour(const QPalette &palette);
 // For captions, notes and outlines.
 [[nodiscard]] QColor quietColour(const QPalette &palette);

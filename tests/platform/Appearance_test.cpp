@@ -5,8 +5,6 @@
 #include "support/FormTest.h"
 
 #include <QGroupBox>
-#include <QHash>
-#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
@@ -16,35 +14,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The most frequent colour of the picture, and the one with the highest contrast to it.
-struct Seen
-{
-    QColor paper;
-    QColor ink;
-};
-
-Seen look(const QImage &image)
-{
-    QHash<QRgb, int> counts;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            ++counts[image.pixel(x, y)];
-    QRgb paper = 0;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        if (it.value() > counts.value(paper))
-            paper = it.key();
-    Seen seen{QColor(paper), QColor(paper)};
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        if (contrast(seen.paper, QColor(it.key())) > contrast(seen.paper, seen.ink))
-            seen.ink = QColor(it.key());
-    return seen;
-}
-
 // The inner part of a widget, without its frame and round corners.
 Seen lookInside(QWidget &widget)
 {
     constexpr int frame = 6;
-    return look(widget.grab(widget.rect().adjusted(frame, frame, -frame, -frame)).toImage());
+    return Seen(widget.grab(widget.rect().adjusted(frame, frame, -frame, -frame)).toImage());
 }
 
 QFont fontWithThickStrokes()
@@ -133,10 +107,8 @@ private Q_SLOTS:
         button.setEnabled(enabled);
         window.show();
         const Seen seen = lookInside(button);
-        const double found = contrast(seen.paper, seen.ink);
-        QVERIFY2(
-            found >= (enabled ? ReadableText : ReadableMark),
-            qPrintable(u"%1 on %2 has %3"_s.arg(seen.ink.name(), seen.paper.name()).arg(found)));
+        QVERIFY2(seen.contrastOfInk() >= (enabled ? ReadableText : ReadableMark),
+                 qPrintable(seen.text()));
         QCOMPARE(seen.paper == accentColour(QApplication::palette()), isDefault && enabled);
     }
 
@@ -168,7 +140,7 @@ private Q_SLOTS:
             frame.resize(300, 200);
             window.resize(320, 220);
             window.show();
-            const Seen seen = look(frame.grab(QRect(16, 10, 60, 20)).toImage());
+            const Seen seen(frame.grab(QRect(16, 10, 60, 20)).toImage());
             QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
                      qPrintable(seen.ink.name() + u" on "_s + seen.paper.name()));
         }
@@ -185,7 +157,7 @@ private Q_SLOTS:
             QVERIFY(QTest::qWaitForWindowActive(&box));
             box.setFocus();
             box.selectAll();
-            const Seen seen = look(box.grab(QRect(12, 26, 100, 24)).toImage());
+            const Seen seen(box.grab(QRect(12, 26, 100, 24)).toImage());
             QVERIFY2(contrast(seen.paper, seen.ink) >= ReadableText,
                      qPrintable(seen.ink.name() + u" on "_s + seen.paper.name()));
         }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// For tests: how well a colour stands out from another, and the palettes to see it with.
+// For tests: how well a colour stands out from another, in palettes and in pictures.
 #pragma once
 
 #include <QColor>
+#include <QHash>
+#include <QImage>
 #include <QPalette>
 
 #include <algorithm>
@@ -35,13 +37,42 @@ inline constexpr double ReadableMark = 3;   // the same for large text, lines an
 
 [[nodiscard]] inline QPalette darkPalette()
 {
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(0x2D, 0x2D, 0x2D));
+    QPalette palette(QColor(0x2D, 0x2D, 0x2D));
     palette.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
     palette.setColor(QPalette::Button, QColor(0x38, 0x38, 0x38));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(role, QColor(0xF0, 0xF0, 0xF0));
     return palette;
 }
+
+// The most frequent colour of a picture, and the one with the highest contrast to it.
+struct Seen
+{
+    explicit Seen(const QImage &image)
+    {
+        QHash<QRgb, int> counts;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                ++counts[image.pixel(x, y)];
+        QRgb most = 0;
+        for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+            if (it.value() > counts.value(most))
+                most = it.key();
+        paper = ink = QColor(most);
+        for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+            if (contrast(paper, QColor(it.key())) > contrast(paper, ink))
+                ink = QColor(it.key());
+    }
+
+    [[nodiscard]] double contrastOfInk() const { return contrast(paper, ink); }
+    // "#000000 on #ffffff has 21"
+    [[nodiscard]] QString text() const
+    {
+        return QStringLiteral("%1 on %2 has %3").arg(ink.name(), paper.name()).arg(contrastOfInk());
+    }
+
+    QColor paper;
+    QColor ink;
+};
 
 } // namespace Contrast
