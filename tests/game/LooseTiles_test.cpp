@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/LooseTiles.h"
 
+#include "platform/Appearance.h"
 #include "support/PaintCount.h"
 
 #include <QTest>
@@ -60,6 +61,8 @@ class LooseTiles_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { applyAppearance(*qApp); }
+
     void eachLetterHasATileInTheOrderOfTheText()
     {
         LooseTiles label;
@@ -104,8 +107,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("letters");
         QTest::addColumn<int>("points");
         QTest::addColumn<QSize>("size");
+        std::vector<int> lengths{45, 110, 200};
+        for (int letters = 1; letters <= 40; ++letters)
+            lengths.push_back(letters);
         for (const QSize size : {QSize(700, 72), QSize(865, 100), QSize(1150, 170)})
-            for (const int letters : {1, 3, 8, 16, 17, 25, 26, 30, 31, 45, 110, 200})
+            for (const int letters : lengths)
                 QTest::addRow("%d letters in %dx%d", letters, size.width(), size.height())
                     << letters
                     << (letters <= 16   ? 34
@@ -134,6 +140,23 @@ private Q_SLOTS:
             }
         }
         QVERIFY(shown.type.pixelSize() >= 7);
+    }
+
+    // The pixels of a single tile, which is turned by a few degrees.
+    void aTileIsPaintedAsASquare()
+    {
+        for (const int points : {14, 16, 18, 34}) {
+            LooseTiles label;
+            prepare(label, u"i"_s, points, {800, 120});
+            const QImage picture = label.grab().toImage();
+            QRect painted;
+            for (int y = 0; y < picture.height(); ++y)
+                for (int x = 0; x < picture.width(); ++x)
+                    if (picture.pixel(x, y) != picture.pixel(0, 0))
+                        painted |= QRect(x, y, 1, 1);
+            QVERIFY(painted.width() >= label.tiles().side - 2);
+            QVERIFY(std::abs(painted.width() - painted.height()) <= 1);
+        }
     }
 
     void tilesAreUneven()

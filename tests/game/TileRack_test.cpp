@@ -2,6 +2,7 @@
 #include "game/TileRack.h"
 
 #include "game/LetterTile.h"
+#include "platform/Appearance.h"
 #include "support/Controls.h"
 #include "support/MotionStyle.h"
 #include "support/Motions.h"
@@ -52,6 +53,9 @@ class TileRack_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The style sheet gives other buttons a least height.
+    void initTestCase() { applyAppearance(*qApp); }
+
     void thereAreThirtyCoveredTiles()
     {
         const TileRack rack;
@@ -117,19 +121,45 @@ private Q_SLOTS:
     void tilesLieInsideTheRackSideBySide_data()
     {
         QTest::addColumn<int>("width");
-        for (int width = 700; width <= 1200; width += 50)
-            QTest::addRow("%d pixels", width) << width;
+        QTest::addColumn<int>("largest");
+        for (int width = 600; width <= 1200; width += 50)
+            for (const int largest : {42, 52, 73})
+                QTest::addRow("%d pixels, tiles up to %d", width, largest) << width << largest;
     }
 
     void tilesLieInsideTheRackSideBySide()
     {
         QFETCH(int, width);
+        QFETCH(int, largest);
         TileRack rack;
+        rack.setLargestTile(largest);
         rack.resize(width, rack.height());
         for (int letters = 1; letters <= 40; ++letters) {
             rack.prepare(letters);
             uncoverAll(rack, wordOf(letters));
             verifyTiles(rack, std::min(letters, 30));
+        }
+    }
+
+    void tilesAreShownAsSquares()
+    {
+        TileRack rack;
+        rack.resize(900, rack.height());
+        rack.show();
+        for (const int letters : {1, 5, 16, 25, 30, 40}) {
+            const QString word = wordOf(letters);
+            rack.prepare(letters);
+            uncoverAll(rack, word);
+            const QPushButton &first = *turnedUpTiles(rack).front();
+            const QImage picture = rack.grab(first.geometry()).toImage();
+            // The tile differs from the rack up to a rim of a pixel on each side.
+            const QRgb paper = rack.grab(QRect(0, 12, 1, 1)).toImage().pixel(0, 0);
+            const int middle = picture.width() / 2;
+            QCOMPARE(picture.width(), picture.height());
+            QVERIFY(picture.pixel(middle, 1) != paper);
+            QVERIFY(picture.pixel(middle, picture.height() - 2) != paper);
+            QVERIFY(picture.pixel(1, middle) != paper);
+            QVERIFY(picture.pixel(picture.width() - 2, middle) != paper);
         }
     }
 
