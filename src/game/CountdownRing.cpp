@@ -62,6 +62,7 @@ void CountdownRing::setSeconds(Integer left, Integer limit)
     const bool isTick = left == m_left - 1;
     m_left = left;
     m_limit = limit;
+    m_isFilled = false;
     setText(left.toText());
     update();
     if (isTick && isLastSeconds()) {
@@ -80,6 +81,8 @@ void CountdownRing::setLevel(Integer level)
 
 void CountdownRing::playFilling()
 {
+    m_isFilled = true;
+    update();
     Motion::end(*this);
     Motion::play(*this, rect(), FillingTime,
                  [this](QPainter &painter, double t) { draw(painter, t, 1); });
@@ -108,12 +111,12 @@ QColor CountdownRing::colourOf(Integer level, const QPalette &palette)
 
 bool CountdownRing::isLastSeconds() const
 {
-    return m_left <= LastSeconds;
+    return m_left <= LastSeconds && !m_isFilled;
 }
 
 double CountdownRing::share() const
 {
-    return double(m_left.toInt()) / std::max(m_limit.toInt(), 1);
+    return m_isFilled ? 1 : double(m_left.toInt()) / std::max(m_limit.toInt(), 1);
 }
 
 void CountdownRing::draw(QPainter &painter, double share, double growth) const

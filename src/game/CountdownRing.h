@@ -19,7 +19,7 @@ public:
     void setSeconds(Integer left, Integer limit);
     // 1 to 10.
     void setLevel(Integer level);
-    // Shows the ring filling from empty to full. Changes nothing.
+    // Shows the ring filling in the colour of the level. It stays full until setSeconds is called.
     void playFilling();
     // Shows that the time is up by a circle that widens. Changes nothing.
     void playTimeOut();
@@ -39,4 +39,5 @@ private:
     Integer m_left;
     Integer m_limit = 1;
     Integer m_level = 1;
+    bool m_isFilled = false;
 };

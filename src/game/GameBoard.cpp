@@ -149,7 +149,7 @@ void GameBoard::showWord()
         area->verticalScrollBar()->setValue(0);
     m_ui.tileRack->prepare(word.size());
     m_ui.txtUserAnswer->clear();
-    m_ui.lblWordsLeft->setText(GameLines::wordsLeft(gOrderIndex, gOrderSize));
+    showWordsLeft();
 }
 
 void GameBoard::showTooShort()
@@ -160,6 +160,12 @@ void GameBoard::showTooShort()
     m_ui.tileRack->prepare(0);
     m_ui.txtUserAnswer->clear();
     m_ui.lblWorth->clear();
+    showWordsLeft();
+}
+
+void GameBoard::showWordsLeft()
+{
+    m_ui.lblWordsLeft->setText(GameLines::wordsLeft(gOrderIndex, gOrderSize));
 }
 
 void GameBoard::showHit(Integer points)
@@ -211,8 +217,7 @@ void GameBoard::clearLists()
 {
     clearHits();
     m_ui.lstMisses->clear();
-    const QString hint = QStringLiteral("Small and capital letters count.");
-    showFeedback(hint, hint);
+    showFeedback({}, {});
 }
 
 void GameBoard::playNewLevel()

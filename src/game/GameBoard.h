@@ -51,11 +51,12 @@ public:
     void showTimeOut();
     void addMiss(const QString &line);
     void clearHits();
-    // Empties both lists, and a hint replaces what became of the last word.
+    // Empties both lists and what became of the last word.
     void clearLists();
     void playNewLevel();
 
 private:
+    void showWordsLeft();
     void showFeedback(const QString &plain, const QString &html);
     void endMotions();
     void playPoints(Integer points);

@@ -36,12 +36,21 @@ bool isWord(const QString &typed, const QString &word)
 
 bool isWordTypedAgain(const QString &typed, const QString &word)
 {
+    const auto withBlanks = [&word](auto isBlank) {
+        QString text = word;
+        std::replace_if(text.begin(), text.end(), isBlank, QChar(QLatin1Char(' ')));
+        return text;
+    };
     const auto isOtherBlank = [](QChar character) {
         return character.category() == QChar::Separator_Space || isFormat(character);
     };
-    QString asBlanks = word;
-    std::replace_if(asBlanks.begin(), asBlanks.end(), isOtherBlank, QChar(QLatin1Char(' ')));
     QString visible = word;
     visible.removeIf(isFormat);
-    return isWord(typed, word) || isWord(typed, asBlanks) || isWord(typed, visible);
+    return isWord(typed, word) || isWord(typed, withBlanks(isOtherBlank)) ||
+           isWord(typed, visible) || isWord(typed, withBlanks(mayLackAKey));
+}
+
+bool mayLackAKey(QChar character)
+{
+    return character.unicode() > 0x7E;
 }

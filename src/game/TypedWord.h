@@ -8,7 +8,9 @@
 // Line breaks, tabs and no-break spaces in the word cannot be typed; a blank is accepted for each.
 [[nodiscard]] bool isWord(const QString &typed, const QString &word);
 
-// For dlgIncorrectAnswer, which no other word closes. Other kinds of blanks and invisible
-// characters, such as soft hyphens, can be typed as blanks too. The invisible ones can also be left
-// out.
+// For dlgIncorrectAnswer, which no other word closes. All characters that a keyboard may lack can
+// be typed as blanks, or only other kinds of blanks and invisible characters, such as soft hyphens.
+// The invisible ones can also be left out.
 [[nodiscard]] bool isWordTypedAgain(const QString &typed, const QString &word);
+// Whether there are keyboards without a key for the character.
+[[nodiscard]] bool mayLackAKey(QChar character);

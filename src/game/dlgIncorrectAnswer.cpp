@@ -63,7 +63,7 @@ dlgIncorrectAnswer::dlgIncorrectAnswer(QWidget &above)
     // The close box would do nothing. X11 window managers are told so only if there is another box.
     setWindowFlag(Qt::WindowCloseButtonHint, false);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    new LostFocus(m_ui->cmdOK, [this] { showEnterHint({}); });
+    new LostFocus(m_ui->cmdOK, [this] { showHint({}); });
 }
 
 dlgIncorrectAnswer::~dlgIncorrectAnswer() = default;
@@ -147,7 +147,7 @@ int dlgIncorrectAnswer::heightWithoutTexts()
 void dlgIncorrectAnswer::keyPressEvent(QKeyEvent *event)
 {
     if (isEnter(*event) && m_wordIsShown && !qobject_cast<QPushButton *>(focusWidget())) {
-        showEnterHint(QStringLiteral("Press Enter again for OK."));
+        showHint(QStringLiteral("Press Enter again for OK."));
         m_ui->cmdOK->setFocus();
     } else if (isTyping(*event) && m_ui->cmdOK->hasFocus()) {
         m_ui->txtUserAnswer->setFocus();
@@ -177,9 +177,10 @@ void dlgIncorrectAnswer::cmdOK_Click()
         close();
         return;
     }
-    showEnterHint({});
     MsgBox(QStringLiteral("The correct word is: '") + word + QLatin1Char('\''));
     m_ui->txtUserAnswer->setFocus();
+    const bool mayLackKeys = std::any_of(word.begin(), word.end(), mayLackAKey);
+    showHint(mayLackKeys ? QStringLiteral("For letters without a key, type blanks.") : QString());
 }
 
 void dlgIncorrectAnswer::showWord(bool shown)
@@ -191,8 +192,8 @@ void dlgIncorrectAnswer::showWord(bool shown)
     m_defaultButton.set(shown ? nullptr : m_ui->cmdOK);
 }
 
-void dlgIncorrectAnswer::showEnterHint(const QString &hint)
+void dlgIncorrectAnswer::showHint(const QString &hint)
 {
-    m_ui->lblEnterHint->setText(hint);
+    m_ui->lblTypingHint->setText(hint);
     m_ui->cmdOK->setAccessibleDescription(hint);
 }

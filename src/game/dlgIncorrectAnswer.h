@@ -33,7 +33,7 @@ private:
     [[nodiscard]] int heightWithoutTexts();
     void placeBelow(const QWidget &control);
     void showWord(bool shown);
-    void showEnterHint(const QString &hint);
+    void showHint(const QString &hint);
 
     std::unique_ptr<Ui::dlgIncorrectAnswer> m_ui;
     const QWidget &m_above;

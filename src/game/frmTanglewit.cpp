@@ -125,6 +125,7 @@ void frmTanglewit::VScroll1_Change()
 void frmTanglewit::cmdStart_Click()
 {
     m_board->show(GameBoard::Mode::Playing);
+    m_ui->VScroll1->setEnabled(false);
     ShowFirstWord();
     if (isTooShortToScramble(gVocabList().Word()))
         return; // the game stands still
@@ -133,7 +134,6 @@ void frmTanglewit::cmdStart_Click()
     gScore = 0;
     m_board->show(m_game);
     m_ui->txtUserAnswer->setFocus();
-    m_ui->VScroll1->setEnabled(false);
     m_music.startGame();
 }
 
@@ -176,6 +176,10 @@ void frmTanglewit::cmdViewTop10_Click()
     gViewTop10Only = true;
     dlgGameOver(m_music, this).exec();
     gViewTop10Only = false;
+    if (m_game.isOver()) {
+        m_board->show(GameBoard::Mode::Over);
+        return;
+    }
     m_board->show(m_game); // the dialog's Close sets the score to 0
     m_ui->txtUserAnswer->setFocus();
 }

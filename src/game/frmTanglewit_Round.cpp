@@ -12,7 +12,6 @@
 #include "runtime/TextToNumber.h"
 
 #include <QApplication>
-#include <QScopeGuard>
 
 using namespace Module1;
 
@@ -28,17 +27,17 @@ Integer lengthOfWord()
 void frmTanglewit::Timer1_Timer()
 {
     // The countdown is paused while a dialog is open, and for a word that is not shown.
-    if (QApplication::activeModalWidget() || isTooShortToScramble(gVocabList().Word()))
+    const QString word = gVocabList().Word();
+    if (QApplication::activeModalWidget() || isTooShortToScramble(word) ||
+        isTooLongToScramble(word))
         return;
-    // A word that is too long for an Integer is reported once, not each second.
-    auto stop = qScopeGuard([this] { m_Timer1.stop(); });
     const Integer letters = lengthOfWord();
-    stop.dismiss();
     const bool isTimeOut = m_game.tick(letters);
     m_board->show(m_game);
-    m_board->showWorth(m_game.points(letters));
     if (isTimeOut)
         timeOut();
+    else
+        m_board->showWorth(m_game.points(letters));
 }
 
 void frmTanglewit::timeOut()

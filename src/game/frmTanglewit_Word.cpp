@@ -33,11 +33,11 @@ void frmTanglewit::showNextWord(After event)
         ShowFirstWord();
         return;
     }
+    showWord(event);
     if (event == After::TimeOut) {
         m_game.beginCountdown();
         m_board->show(m_game);
     }
-    showWord(event);
 }
 
 // Makes the word at gOrderIndex the current word and shows it. If it is too short to be scrambled,
@@ -50,8 +50,8 @@ void frmTanglewit::showWord(After event)
         m_board->showTooShort();
         return;
     }
-    if (m_game.isOver() && list.Word().isEmpty())
-        return; // the game is over before the error of an empty word
+    if (m_game.isOver() && isErrorToScramble(list.Word()))
+        return; // the game is over before the error is reported
     m_board->showWord();
     m_board->showWorth(m_game.points(toInteger(list.length())));
     MaskSentence();

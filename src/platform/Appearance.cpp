@@ -52,14 +52,14 @@ LetterTile { background: transparent; min-height: 0; padding: 0; border: none; }
 ScrolledArea, ScrolledArea > QWidget > QWidget { background: transparent; }
 ScrolledArea:focus { border: 2px solid @focus; }
 #scoreCaption, #levelCaption, #livesCaption, #clueCaption, #sentenceCaption, #answerCaption,
-#lblBest, #lblLevelHits, #lblWordsLeft, #lblFeedback { color: @quiet; }
+#lblBest, #lblLevelHits, #lblWordsLeft, #lblFeedback, #lblRules { color: @quiet; }
 #lblWorth { font-weight: bold; }
 #lblScore, #lblLevel, #lblNumLifes { font-size: 28px; font-weight: bold; }
 #txtUserAnswer { font-size: 20px; }
 #frmTanglewit #txtUserAnswer { font-size: 30px; }
 #lblTitle { font-size: 26px; font-weight: bold; }
 #lblHint { font-size: 15px; color: @quiet; }
-#lblEnterHint { color: @quiet; }
+#lblTypingHint { color: @quiet; }
 #lblAnswerIs { font-size: 26px; font-weight: bold; }
 #lblAnswerIs[long="true"] { font-size: 20px; }
 #answerPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }

@@ -71,6 +71,20 @@ private Q_SLOTS:
         }
     }
 
+    void aNewLevelFillsTheRingInItsColour()
+    {
+        CountdownRing ring;
+        QVERIFY(hasDisc(look(ring, 3, 10)));
+        ring.setLevel(6);
+        ring.playFilling();
+        const QImage full = ring.grab().toImage();
+        QVERIFY(!hasDisc(full));
+        const QPoint topLeft(qRound(full.width() * 0.5 - full.width() * 0.455 * 0.7071),
+                             qRound(full.height() * 0.5 - full.height() * 0.455 * 0.7071));
+        QCOMPARE(full.pixelColor(topLeft).rgb(), CountdownRing::colourOf(6, ring.palette()).rgb());
+        QVERIFY(hasDisc(look(ring, 3, 10)));
+    }
+
     void everySecondLooksDifferent()
     {
         CountdownRing ring;

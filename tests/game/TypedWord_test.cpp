@@ -59,6 +59,9 @@ private Q_SLOTS:
         QTest::newRow("invisible characters") << u"ice cream"_s << invisible;
         QTest::newRow("invisible characters left out") << u"icecream"_s << invisible;
         QTest::newRow("thin blank") << u"ice cream"_s << u"ice\u2009cream"_s;
+        QTest::newRow("accents") << u"d j  vu"_s << u"déjà vu"_s;
+        QTest::newRow("accents at the ends") << u"t"_s << u"été"_s;
+        QTest::newRow("another script") << u"to  "_s << u"to 漢字"_s;
         QTest::newRow("both and a tab") << u"an ice cre am"_s << u"an\tice\u2009cre\u00ADam"_s;
     }
 
@@ -68,6 +71,13 @@ private Q_SLOTS:
         QFETCH(QString, word);
         QVERIFY(isWordTypedAgain(typed, word));
         QVERIFY(!isWord(typed, word));
+    }
+
+    void aLetterThatEveryKeyboardHasIsNoBlank()
+    {
+        QVERIFY(!isWordTypedAgain(u"d j v "_s, u"déjà vu"_s));
+        QVERIFY(!isWordTypedAgain(u"c t"_s, u"cat"_s));
+        QVERIFY(!isWordTypedAgain(u"dxjx vu"_s, u"déjà vu"_s));
     }
 };
 

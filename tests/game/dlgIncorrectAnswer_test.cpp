@@ -294,7 +294,7 @@ private Q_SLOTS:
     {
         QFETCH(Qt::Key, key);
         ask([&](const AnswerForm &form) {
-            const QLabel &hint = form.label("lblEnterHint");
+            const QLabel &hint = form.label("lblTypingHint");
             QCOMPARE(hint.text(), QString());
             form.press(key);
             QCOMPARE(form.form.focusWidget(), &form.button("cmdOK"));
@@ -320,13 +320,27 @@ private Q_SLOTS:
         });
     }
 
+    void nobodyIsStuckWithoutAKeyForALetter()
+    {
+        setEntry(u"été"_s, {});
+        ask([this](const AnswerForm &form) {
+            m_answers->expectMsgBox(u"The correct word is: 'été'"_s);
+            form.answer(u"ete"_s);
+            QVERIFY(m_answers->allSeen());
+            QCOMPARE(form.label("lblTypingHint").text(),
+                     u"For letters without a key, type blanks."_s);
+            form.answer(u" t "_s);
+            QVERIFY(!form.form.isVisible());
+        });
+    }
+
     void theHintGoesWhenTheKeyboardLeavesOK()
     {
         ask([](const AnswerForm &form) {
             form.press(Qt::Key_Return);
             form.press(Qt::Key_Tab);
             QCOMPARE(form.form.focusWidget(), &form.button("cmdDown"));
-            QCOMPARE(form.label("lblEnterHint").text(), QString());
+            QCOMPARE(form.label("lblTypingHint").text(), QString());
             // A key with Ctrl or Alt types nothing.
             form.press(Qt::Key_Backtab);
             form.press(Qt::Key_B, Qt::ControlModifier);

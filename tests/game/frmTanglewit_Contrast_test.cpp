@@ -86,7 +86,7 @@ private Q_SLOTS:
         verifyTexts(m_form->window(),
                     {"scoreCaption", "lblScore", "lblBest", "levelCaption", "lblLevel",
                      "lblLevelHits", "livesCaption", "lblNumLifes", "cmdHide", "answerCaption",
-                     "cmdStart", "lblFeedback", "clueCaption", "lblClue", "sentenceCaption",
+                     "cmdStart", "lblRules", "clueCaption", "lblClue", "sentenceCaption",
                      "cmdRestart", "cmdViewTop10", "cmdQuit"});
         m_form->click("cmdStart");
         Controls::type(m_form->answerBox(), u"IIIIII"_s);
@@ -123,7 +123,7 @@ private Q_SLOTS:
             Controls::type(box, u"IIIIII"_s);
             QTest::keyClick(&dialog, Qt::Key_Return);
             verifyTexts(dialog, {"lblAnswerIs", "lblDefinition", "answerCaption", "txtUserAnswer",
-                                 "lblEnterHint", "cmdDown", "cmdOK"});
+                                 "lblTypingHint", "cmdDown", "cmdOK"});
             // The words before the right answer have a line of their own here.
             const QRect answer = placeOf(Controls::find<QWidget>(dialog, "lblAnswerIs"));
             verify(dialog, {answer.left(), answer.top(), answer.width(), 14}, ReadableText,

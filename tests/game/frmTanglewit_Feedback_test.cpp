@@ -49,13 +49,16 @@ private Q_SLOTS:
         m_form.reset();
     }
 
-    void aHintIsThereFromTheStart()
+    void theRulesAreAlwaysInSight()
     {
-        QCOMPARE(feedback(*m_form), u"Small and capital letters count."_s);
+        QCOMPARE(m_form->text("lblRules"), u"Small and capital letters count."_s);
+        QVERIFY(m_form->control<QLabel>("lblRules").isVisible());
+        QCOMPARE(feedback(*m_form), QString());
         m_form->answerRight();
-        QVERIFY(feedback(*m_form) != u"Small and capital letters count."_s);
+        QVERIFY(m_form->control<QLabel>("lblRules").isVisible());
+        QVERIFY(!feedback(*m_form).isEmpty());
         m_form->click("cmdRestart");
-        QCOMPARE(feedback(*m_form), u"Small and capital letters count."_s);
+        QCOMPARE(feedback(*m_form), QString());
     }
 
     void aHitIsNamedWithItsPoints()
@@ -141,6 +144,21 @@ private Q_SLOTS:
         m_form->loseAllLives(u"Ann"_s);
         QCOMPARE(m_form->text("lblBest"), u"Best 4"_s);
         QCOMPARE(m_form->text("lblScore"), u"4"_s);
+        m_form->expectTop10();
+        m_form->click("cmdViewTop10");
+        m_form->waitForWindow();
+        QCOMPARE(m_form->text("lblBest"), u"Best 4"_s);
+        QCOMPARE(m_form->text("lblScore"), u"4"_s);
+        QVERIFY(m_form->button("cmdRestart").hasFocus());
+    }
+
+    void afterTheViewTheAnswerBoxHasTheKeyboard()
+    {
+        m_form->expectTop10();
+        m_form->button("cmdViewTop10").setFocus();
+        m_form->click("cmdViewTop10");
+        m_form->waitForWindow();
+        QVERIFY(m_form->answerBox().hasFocus());
     }
 
     void typedLettersAreTaken()

@@ -281,6 +281,7 @@ private Q_SLOTS:
         QCOMPARE(m_form->text("lblScrambledWord"), QString());
         QCOMPARE(m_form->text("lblSentence"), QString());
         QCOMPARE(m_form->text("lblClue"), tooShort());
+        QCOMPARE(m_form->text("lblWordsLeft"), u"Last word before a shuffle"_s);
         const QString numbers = m_form->numbers();
         const QStringList hits = m_form->lines("lstHits");
         const QStringList misses = m_form->lines("lstMisses");
@@ -332,6 +333,42 @@ private Q_SLOTS:
         QCOMPARE(m_form->look(), GameForm::over());
     }
 
+    void aWordTooLongToBeCountedIsReportedOnce_data()
+    {
+        QTest::addColumn<bool>("byTimeOut");
+        QTest::newRow("answer") << false;
+        QTest::newRow("time-out") << true;
+    }
+
+    void aWordTooLongToBeCountedIsReportedOnce()
+    {
+        QFETCH(bool, byTimeOut);
+        GameForm::fill({u"apple"_s, QString(32'768, u'x')});
+        startInOrder({0.0F, 0.9F});
+        if (byTimeOut)
+            m_form->expectMiss();
+        m_form->answers.expectMsgBox(u"Run-time error '6':\n\nOverflow"_s);
+        if (byTimeOut)
+            m_form->passTime(30);
+        else
+            m_form->answerRight();
+        QVERIFY(m_form->answers.allSeen());
+        m_form->waitForWindow();
+        const QString numbers = m_form->numbers();
+        m_form->passTime(40);
+        QCOMPARE(m_form->numbers(), numbers);
+        m_form->click("cmdRestart");
+        QCOMPARE(m_form->look(), GameForm::ready());
+    }
+
+    void theLastLifeEndsTheGameBeforeAWordThatIsTooLong()
+    {
+        GameForm::fill(GameForm::fiveWords() << QString(32'768, u'x'));
+        startInOrder({0.0F, 0.2F, 0.4F, 0.6F, 0.7F, 0.9F});
+        m_form->loseAllLives();
+        QCOMPARE(m_form->look(), GameForm::over());
+    }
+
 private:
     [[nodiscard]] static QString tooShort()
     {
@@ -362,6 +399,12 @@ private:
         QVERIFY(m_form->button("cmdEnter").isVisible());
         QVERIFY(!m_form->answerBox().isEnabled());
         QVERIFY(!m_form->timer().isActive());
+        QVERIFY(!m_form->levelSwitch().isEnabled());
+        QTest::keyClick(&m_form->window(), Qt::Key_Return);
+        m_form->expectTop10();
+        m_form->click("cmdViewTop10");
+        m_form->waitForWindow();
+        QCOMPARE(m_form->numbers(), u"0 1 30 5"_s);
     }
 
     // Starts a game in the order of the list. numbers: the random numbers that draw this order.
