@@ -48,7 +48,20 @@ int WordIndex::find(const QString &word, int start) const
     const auto *const mark = std::lower_bound(entry->begin(), entry->end(), startMark);
     if (mark == entry->end())
         return 0;
-    return 1 + int(std::lower_bound(m_marks.begin(), m_marks.end(), *mark) - m_marks.begin());
+    return positionOf(*mark);
+}
+
+std::vector<int> WordIndex::findAll(const QString &word) const
+{
+    std::vector<int> positions;
+    for (const Mark mark : m_entries.value(word.toLower()))
+        positions.push_back(positionOf(mark));
+    return positions;
+}
+
+int WordIndex::positionOf(Mark mark) const
+{
+    return 1 + int(std::lower_bound(m_marks.begin(), m_marks.end(), mark) - m_marks.begin());
 }
 
 void WordIndex::insertMark(const QString &word, Mark mark)

@@ -29,11 +29,14 @@ public:
     // The first position at or after `start` (1 or more) whose word equals `word`, both in lower
     // case. 0 if there is none.
     [[nodiscard]] int find(const QString &word, int start) const;
+    // The positions of all entries whose word equals `word`, both in lower case.
+    [[nodiscard]] std::vector<int> findAll(const QString &word) const;
 
 private:
     using Mark = quint32;
     using Marks = QVarLengthArray<Mark, 2>;
 
+    [[nodiscard]] int positionOf(Mark mark) const;
     void insertMark(const QString &word, Mark mark);
     void removeMark(const QString &word, Mark mark);
 

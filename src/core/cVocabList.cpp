@@ -207,6 +207,12 @@ void cVocabList::prepareLookup()
         m_index.rebuild(entries());
 }
 
+std::vector<int> cVocabList::positionsOf(const QString &word)
+{
+    prepareLookup();
+    return m_index.findAll(word);
+}
+
 Integer cVocabList::find(const QString &word, Integer start)
 {
     prepareLookup();

@@ -54,6 +54,9 @@ public:
     // none; the next search then starts at the first entry.
     Integer SearchWord(const QString &FindWord);
 
+    // The positions of all entries with the word, in any case. The current entry stays.
+    [[nodiscard]] std::vector<int> positionsOf(const QString &word);
+
     // Builds the index of words now instead of at the first look-up: some milliseconds for 32,000
     // entries.
     void prepareLookup();

@@ -18,10 +18,23 @@ bool isInTable(char16_t number)
     return (number & 0xFFE0U) == FirstInTable;
 }
 
+// How many units the character at i has: 2 for a surrogate pair.
+qsizetype sizeOfCharacter(QStringView text, qsizetype i)
+{
+    const bool isPair =
+        text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+    return isPair ? 2 : 1;
+}
+
 char byteFromTable(char16_t character)
 {
     const auto *const found = std::find(Table.begin(), Table.end(), character);
     return found == Table.end() ? '?' : static_cast<char>(FirstInTable + (found - Table.begin()));
+}
+
+bool hasByte(char16_t character)
+{
+    return (character <= 0xFF && !isInTable(character)) || byteFromTable(character) != '?';
 }
 
 } // namespace
@@ -43,11 +56,24 @@ qsizetype toWindows1252(QStringView text, char *buffer)
             continue;
         }
         *out++ = byteFromTable(character);
-        // A surrogate pair is one character and so one "?".
-        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
-            ++i;
+        i += sizeOfCharacter(text, i) - 1; // a surrogate pair is one "?"
     }
     return out - buffer;
+}
+
+QStringList notInWindows1252(QStringView text, int most)
+{
+    QStringList characters;
+    for (qsizetype i = 0; i < text.size() && characters.size() < most;) {
+        const qsizetype size = sizeOfCharacter(text, i);
+        if (!hasByte(text[i].unicode())) {
+            const QString character = text.mid(i, size).toString();
+            if (!characters.contains(character))
+                characters += character;
+        }
+        i += size;
+    }
+    return characters;
 }
 
 // A list file has bytes of the table in few places only: rare characters, and lengths in front of

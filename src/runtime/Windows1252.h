@@ -7,9 +7,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 [[nodiscard]] QByteArray toWindows1252(QStringView text);
 // Into a buffer with room for text.size() bytes; returns how many were written.
 [[nodiscard]] qsizetype toWindows1252(QStringView text, char *buffer);
 [[nodiscard]] QString fromWindows1252(QByteArrayView bytes);
+// The characters of the text that are not in the code page, each once, in the text's order; no more
+// than the first `most` of them.
+[[nodiscard]] QStringList notInWindows1252(QStringView text, int most);

@@ -90,6 +90,27 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         QCOMPARE(toWindows1252(text), bytes);
     }
+
+    void charactersThatAreLostAreNamed_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("most");
+        QTest::addColumn<QStringList>("lost");
+        QTest::newRow("none") << u"5 €, señor Œ?\r\n\t"_s << 9 << QStringList();
+        QTest::newRow("each once") << u"łódź łąka"_s << 9 << QStringList{u"ł"_s, u"ź"_s, u"ą"_s};
+        QTest::newRow("no more than asked for")
+            << u"łódź łąka"_s << 2 << QStringList{u"ł"_s, u"ź"_s};
+        QTest::newRow("surrogate pair") << u"a😀b漢"_s << 9 << QStringList{u"😀"_s, u"漢"_s};
+        QTest::newRow("lone surrogate")
+            << QString(QChar(0xD83D)) << 9 << QStringList{QString(QChar(0xD83D))};
+    }
+
+    void charactersThatAreLostAreNamed()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, most);
+        QTEST(notInWindows1252(text, most), "lost");
+    }
 };
 
 QTEST_GUILESS_MAIN(Windows1252_test)
