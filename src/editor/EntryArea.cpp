@@ -34,6 +34,10 @@ void EntryArea::place(const MainLayout &layout, int height)
     m_ui.Label1->setGeometry(2 * Spacing, Spacing, labelWidth, LineHeight);
     m_ui.txtWord->setGeometry(wordLeft, Spacing, Spacing + frameDefWidth - wordLeft, LineHeight);
 
+    const int quietLeft = pixels(layout.frameSenLeft);
+    m_ui.lblQuiet->setGeometry(quietLeft, Spacing, pixels(layout.frameWidth) - quietLeft - Spacing,
+                               LineHeight);
+
     const int textTop = LineHeight + 2 * Spacing;
     const int buttonTop = height - LineHeight - Spacing;
     const int textHeight = buttonTop - textTop - Spacing;

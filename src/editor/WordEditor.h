@@ -14,6 +14,9 @@ public:
     explicit WordEditor(Ui::frmMain &ui);
 
     void place(const MainLayout &layout, int entryHeight);
+    [[nodiscard]] EditorMode mode() const { return m_area.mode(); }
+    // The entry that is picked or found; 0 = none.
+    [[nodiscard]] Integer chosenEntry() const { return m_page.chosen(); }
     // True where the key was Enter, which presses the default button.
     bool press(const QKeyEvent &event, QWidget *focus) const;
 

@@ -8,6 +8,7 @@
 #include "platform/MSFlexGrid.h"
 #include "platform/Screen.h"
 
+#include <QLabel>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -30,8 +31,15 @@ void paintMarkedRow(MSFlexGrid &grid, MSFlexGrid::CellColour colour)
 
 } // namespace
 
-WordPage::WordPage(MSFlexGrid &grid, QScrollBar &bar) : m_grid(grid), m_bar(bar)
+WordPage::WordPage(MSFlexGrid &grid, QScrollBar &bar)
+    : m_grid(grid), m_bar(bar), m_hint(new QLabel(grid.viewport()))
 {
+    m_hint->setObjectName(QStringLiteral("lblEmptyList"));
+    m_hint->setText(QStringLiteral("This list has no words yet.\n"
+                                   "New Word (Alt+N) adds one.\n"
+                                   "File > Open (Ctrl+O) opens a list; there are samples to try."));
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_grid.setSize(GridPage::GridRows, Columns);
     m_grid.setVisibleRows(1 + GridPage::Rows);
     connect(&m_grid, &MSFlexGrid::moved, this, guarded(this, &WordPage::moveCurrentRow));
@@ -50,6 +58,17 @@ void WordPage::place(const MainLayout &layout)
     m_grid.setGeometry(0, 0, width - barWidth, height);
     m_bar.setGeometry(width - barWidth, 0, barWidth, height);
     gRowHeight = m_grid.RowHeight(1);
+    placeHint();
+}
+
+// In the middle of the rows below the first one, which takes the new word.
+void WordPage::placeHint()
+{
+    m_hint->adjustSize();
+    const QRect rows = m_grid.viewport()->rect().adjusted(0, m_grid.rowViewportPosition(2), 0, 0);
+    QRect place(QPoint(), m_hint->size().boundedTo(rows.size()));
+    place.moveCenter(rows.center());
+    m_hint->setGeometry(place);
 }
 
 void WordPage::returnToChosen()
@@ -107,6 +126,7 @@ void WordPage::emptyGrid()
         m_grid.setCellBold(0, column, true);
     makeCurrent(1);
     gHighlightRow = 0;
+    m_hint->setVisible(gVocabList().NumWords() == 0);
     setScrollRange(); // throws for the longest list, whose grid stays empty
 }
 

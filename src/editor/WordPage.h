@@ -10,6 +10,7 @@
 #include <QObject>
 
 class MSFlexGrid;
+class QLabel;
 class QScrollBar;
 struct MainLayout;
 
@@ -24,6 +25,7 @@ public:
 
     // 0 = none.
     void choose(Integer entry) { m_chosen = entry; }
+    [[nodiscard]] Integer chosen() const { return m_chosen; }
     [[nodiscard]] bool isChosen() const { return m_chosen != 0; }
     // Makes the chosen entry the list's current one again: other windows move the position, too.
     void returnToChosen();
@@ -52,9 +54,11 @@ private:
     void turnPage(int rows);
     void emptyGrid();
     void setScrollRange();
+    void placeHint();
 
     MSFlexGrid &m_grid;
     QScrollBar &m_bar;
     GridPage m_page;
     Integer m_chosen; // 0 = none
+    QLabel *m_hint;   // what to do next, in place of the entries of an empty list
 };

@@ -6,6 +6,7 @@
 #include "editor/GameMenu.h"
 #include "editor/MainLayout.h"
 #include "editor/PrintMenu.h"
+#include "editor/QuietLine.h"
 #include "editor/UnsavedCopy.h"
 #include "editor/WordEditor.h"
 #include "editor/ui_frmMain.h"
@@ -53,6 +54,7 @@ frmMain::frmMain()
     for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep})
         separator->setSeparator(true);
     m_editor = std::make_unique<WordEditor>(*m_ui);
+    m_quietLine = std::make_unique<QuietLine>(*m_ui, *m_editor);
     m_gameMenu = std::make_unique<GameMenu>(*m_ui, this);
     m_printMenu = std::make_unique<PrintMenu>(*m_ui, this);
     connectHandlers();

@@ -11,6 +11,7 @@
 
 class GameMenu;
 class PrintMenu;
+class QuietLine;
 class UnsavedCopy;
 class WordEditor;
 enum class MsgBoxButtons;
@@ -56,6 +57,7 @@ private:
 
     std::unique_ptr<Ui::frmMain> m_ui;
     std::unique_ptr<WordEditor> m_editor;
+    std::unique_ptr<QuietLine> m_quietLine;
     std::unique_ptr<GameMenu> m_gameMenu;
     std::unique_ptr<PrintMenu> m_printMenu;
     CommonDialog m_fileDialog;

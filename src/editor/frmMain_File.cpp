@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "editor/QuietLine.h"
 #include "editor/WordEditor.h"
 #include "editor/ui_frmMain.h"
 #include "platform/MsgBox.h"
@@ -179,6 +180,8 @@ void frmMain::importWords(const QString &path)
     connect(&import, &Import::changed, m_editor.get(), &WordEditor::changed);
     connect(&import, &Import::progress, &progress, &ProgressShown::show);
     connect(&import, &Import::paused, &progress, &ProgressShown::pause);
+    const auto report =
+        qScopeGuard([&] { m_quietLine->say(QuietTexts::ofImport(import.added())); });
     if (kind == QLatin1String("lwx"))
         import.ImportWordList();
     else if (kind == QLatin1String("dif"))
@@ -219,4 +222,5 @@ void frmMain::mnuCreateTextFile_Click()
     BinaryFile::overwrite(m_fileDialog.FileName, textOfList(gVocabList()));
     showCaption();
     gSaved = true;
+    m_quietLine->say(QuietTexts::ofTextFile(m_fileDialog.FileName));
 }

@@ -58,6 +58,9 @@ ScrolledArea:focus { border: 2px solid @focus; }
 #txtUserAnswer { font-size: 20px; }
 #frmTanglewit #txtUserAnswer { font-size: 30px; }
 #lblTitle { font-size: 26px; font-weight: bold; }
+#lblEmptyList {
+    background: palette(base); color: @quiet; border: 1px solid @line; border-radius: 10px;
+    font-size: 15px; padding: 12px 28px; }
 #lblHint { font-size: 15px; color: @quiet; }
 #lblTypingHint { color: @quiet; }
 #lblAnswerIs { font-size: 26px; font-weight: bold; }

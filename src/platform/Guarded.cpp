@@ -8,25 +8,21 @@
 #include <QThread>
 
 #include <new>
+#include <utility>
 
 namespace {
 
 // The level of nested event loops at which the innermost handler began; -1 if none runs.
 int handlerLevel = -1;
 
+std::function<void()> handlerEndHook; // NOLINT(cert-err58-cpp)
+
 int loopLevel()
 {
     return QThread::currentThread()->loopLevel();
 }
 
-} // namespace
-
-bool isHandlerAtWork()
-{
-    return handlerLevel >= loopLevel();
-}
-
-bool runGuarded(const std::function<void()> &handler)
+bool runAndTell(const std::function<void()> &handler)
 {
     const QScopedValueRollback atWork(handlerLevel, loopLevel());
     try {
@@ -42,4 +38,24 @@ bool runGuarded(const std::function<void()> &handler)
         MsgBox(QStringLiteral("The command has ended by an unknown error."));
     }
     return false;
+}
+
+} // namespace
+
+bool isHandlerAtWork()
+{
+    return handlerLevel >= loopLevel();
+}
+
+void setHandlerEndHook(std::function<void()> ended)
+{
+    handlerEndHook = std::move(ended);
+}
+
+bool runGuarded(const std::function<void()> &handler)
+{
+    const bool succeeded = runAndTell(handler);
+    if (handlerEndHook && !isHandlerAtWork())
+        handlerEndHook();
+    return succeeded;
 }

@@ -15,6 +15,9 @@ bool runGuarded(const std::function<void()> &handler);
 // calls processEvents does.
 [[nodiscard]] bool isHandlerAtWork();
 
+// Called after each handler that is not part of another one. None by default.
+void setHandlerEndHook(std::function<void()> ended);
+
 // A slot that calls the handler of `form` by runGuarded:
 //   connect(cmdAdd, &QPushButton::clicked, this, guarded(this, &frmMain::cmdAdd_Click));
 template <class Form, class Class, class... Arguments>

@@ -20,6 +20,8 @@ public:
 
     void ImportWordList();
     void ImportDif();
+    // How many words were added so far.
+    [[nodiscard]] int added() const { return m_adder.added(); }
 
 Q_SIGNALS:
     // The main window should be brought up to date.

@@ -26,10 +26,12 @@ WordAdder::WordAdder(cVocabList &list, std::function<void()> paused)
 void WordAdder::add(const QString &word, const QString &definition, const QString &sentence)
 {
     const auto addToList = [&] { m_list.AddVocab(word, definition, sentence); };
-    if (!m_list.isFull())
+    if (!m_list.isFull()) {
         addToList();
-    else if (++m_refused <= ToldOneByOne)
+        ++m_added;
+    } else if (++m_refused <= ToldOneByOne) {
         tell(addToList);
+    }
 }
 
 void WordAdder::tellOfTheRest()

@@ -16,6 +16,8 @@ public:
     explicit WordAdder(cVocabList &list, std::function<void()> paused = {});
 
     void add(const QString &word, const QString &definition, const QString &sentence);
+    // How many words were added.
+    [[nodiscard]] int added() const { return m_added; }
     // Shows how many more words were refused, if any.
     void tellOfTheRest();
 
@@ -24,5 +26,6 @@ private:
 
     cVocabList &m_list;
     std::function<void()> m_paused;
+    int m_added = 0;
     int m_refused = 0;
 };

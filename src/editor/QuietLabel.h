@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One line of quiet type, the end of which may be in the accent colour. A text that is too long
+// ends in "…" and is its own tool tip. Screen readers hear it as a status bar, once for each text.
+#pragma once
+
+#include "editor/QuietTexts.h"
+
+#include <QWidget>
+
+class QuietLabel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit QuietLabel(QWidget *parent = nullptr);
+
+    void show(const QuietTexts::Line &line);
+    [[nodiscard]] QString text() const { return m_line.text + m_line.marked; }
+    [[nodiscard]] QString markedText() const { return m_line.marked; }
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QuietTexts::Line m_line;
+};

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/QuietLine.h"
+
+#include "core/Module1.h"
+#include "core/cVocabList.h"
+#include "editor/WordEditor.h"
+#include "editor/ui_frmMain.h"
+#include "platform/Guarded.h"
+#include "runtime/Windows1252.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Module1;
+
+namespace {
+
+QuietTexts::SaveFile saveFile()
+{
+    const bool isOpenFile = gOpenedFile.isEmpty() || gFileName == gOpenedFile;
+    return {gFileName, isOpenFile && QFileInfo(gFileName).fileName() == gFileTitle};
+}
+
+// Which of the entries with its word the hit is.
+QString hitText(Integer hit)
+{
+    cVocabList &list = gVocabList();
+    const std::vector<int> hits = list.positionsOf(list.entry(hit).Word);
+    const auto before = std::lower_bound(hits.begin(), hits.end(), hit.toInt()) - hits.begin();
+    return QuietTexts::ofHit(int(before) + 1, int(hits.size()));
+}
+
+} // namespace
+
+QuietLine::QuietLine(const Ui::frmMain &ui, const WordEditor &editor) : m_ui(ui), m_editor(editor)
+{
+    connect(ui.txtWord, &QLineEdit::textChanged, this, guarded(this, &QuietLine::refresh));
+    setHandlerEndHook([this] { refresh(); });
+}
+
+QuietLine::~QuietLine()
+{
+    setHandlerEndHook({});
+}
+
+void QuietLine::say(const QString &text)
+{
+    m_said = text;
+    m_shownBefore = QString();
+}
+
+void QuietLine::refresh()
+{
+    // A handler that still works changes the list and the boxes step by step.
+    if (!isHandlerAtWork())
+        m_ui.lblQuiet->show(line());
+}
+
+QuietTexts::Line QuietLine::line()
+{
+    if (const QString lost = lostCharacters(); !lost.isEmpty())
+        return {lost, {}};
+    QuietTexts::Line line = lineOfMode();
+    const QString text = line.text + line.marked;
+    if (m_shownBefore.isNull())
+        m_shownBefore = text;
+    if (m_shownBefore != text)
+        m_said.clear();
+    if (!m_said.isEmpty())
+        return {m_said, {}};
+    return line;
+}
+
+QuietTexts::Line QuietLine::lineOfMode() const
+{
+    if (m_editor.mode() == EditorMode::Found)
+        return {hitText(m_editor.chosenEntry()), {}};
+    if (const QString same = sameWord(); !same.isEmpty())
+        return {same, {}};
+    return QuietTexts::ofList(gVocabList().NumWords().toInt(), gChanged, saveFile());
+}
+
+// While a word is typed, the entry that has it already.
+QString QuietLine::sameWord() const
+{
+    const EditorMode mode = m_editor.mode();
+    const bool isTyped =
+        mode == EditorMode::NewList || mode == EditorMode::NewWord || mode == EditorMode::Editing;
+    const QString word = m_ui.txtWord->text();
+    if (!isTyped || word.isEmpty())
+        return {};
+    cVocabList &list = gVocabList();
+    for (const int position : list.positionsOf(word))
+        if (position != m_editor.chosenEntry())
+            return QuietTexts::ofSameWord(position, list.entry(position));
+    return {};
+}
+
+QString QuietLine::lostCharacters() const
+{
+    constexpr int most = 10; // more than are named
+    const QString texts =
+        m_ui.txtWord->text() + m_ui.txtDefinition->text() + m_ui.txtSentence->text();
+    return QuietTexts::ofLostCharacters(notInWindows1252(texts, most));
+}

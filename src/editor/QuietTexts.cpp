@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/QuietTexts.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr int MostCharacters = 8; // that are named
+
+QString counted(int words)
+{
+    return words == 0   ? QStringLiteral("No words")
+           : words == 1 ? QStringLiteral("1 word")
+                        : QStringLiteral("%1 words").arg(words);
+}
+
+} // namespace
+
+QuietTexts::Line QuietTexts::ofList(int words, bool isChanged, const SaveFile &file)
+{
+    const QString separator = QStringLiteral(" · ");
+    QString text = counted(words);
+    if (isChanged)
+        text += separator + QStringLiteral("not saved");
+    if (file.path.isEmpty())
+        return {text, {}};
+    const QString save = QStringLiteral("Save writes ") + QFileInfo(file.path).fileName();
+    if (file.isInCaption)
+        return {text + separator + save, {}};
+    return {text + separator, save};
+}
+
+QString QuietTexts::ofSameWord(int position, const VocabRecord &entry)
+{
+    QString text = QStringLiteral("In the list: %1 ").arg(position) + entry.Word;
+    if (!entry.Definition.isEmpty())
+        text += QStringLiteral(" - ") + entry.Definition;
+    return text.simplified();
+}
+
+QString QuietTexts::ofHit(int hit, int hits)
+{
+    return QStringLiteral("%1 of %2 found. A click on its row changes it.").arg(hit).arg(hits);
+}
+
+QString QuietTexts::ofLostCharacters(const QStringList &characters)
+{
+    if (characters.isEmpty())
+        return {};
+    const QString more = characters.size() > MostCharacters ? QStringLiteral(", …") : QString();
+    return QStringLiteral("This list cannot keep: ") +
+           characters.mid(0, MostCharacters).join(QStringLiteral(", ")) + more;
+}
+
+QString QuietTexts::ofTextFile(const QString &path)
+{
+    return QStringLiteral("Written to %1.").arg(QFileInfo(path).fileName());
+}
+
+QString QuietTexts::ofImport(int added)
+{
+    return counted(added) + QStringLiteral(" added.");
+}

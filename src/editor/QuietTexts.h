@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the quiet line of the main window says.
+#pragma once
+
+#include "core/VocabRecord.h"
+
+#include <QStringList>
+
+namespace QuietTexts {
+
+struct Line
+{
+    QString text;
+    QString marked; // follows the text, in the accent colour
+};
+
+// The file that Save will write. Empty path: Save asks for a name.
+struct SaveFile
+{
+    QString path;
+    bool isInCaption = true; // the window's caption names this file
+};
+
+// "48 words · not saved · Save writes animals.lwx"
+[[nodiscard]] Line ofList(int words, bool isChanged, const SaveFile &file);
+// "In the list: 12 glacier - a slow river of ice"
+[[nodiscard]] QString ofSameWord(int position, const VocabRecord &entry);
+// "2 of 3 found. A click on its row changes it."
+[[nodiscard]] QString ofHit(int hit, int hits);
+// "This list cannot keep: ł, 漢". Empty without characters.
+[[nodiscard]] QString ofLostCharacters(const QStringList &characters);
+// "12 words added." after an import.
+[[nodiscard]] QString ofImport(int added);
+// "Written to animals.txt."
+[[nodiscard]] QString ofTextFile(const QString &path);
+
+} // namespace QuietTexts

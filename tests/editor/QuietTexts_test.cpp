@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/QuietTexts.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class QuietTexts_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theStateOfTheListIsNamed_data()
+    {
+        QTest::addColumn<int>("words");
+        QTest::addColumn<bool>("isChanged");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isInCaption");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("marked");
+        const QString path = u"/lists/animals.lwx"_s;
+        QTest::newRow("empty") << 0 << false << QString() << true << u"No words"_s << QString();
+        QTest::newRow("one") << 1 << true << QString() << true << u"1 word · not saved"_s
+                             << QString();
+        QTest::newRow("file") << 48 << false << path << true
+                              << u"48 words · Save writes animals.lwx"_s << QString();
+        QTest::newRow("another file") << 48 << true << path << false << u"48 words · not saved · "_s
+                                      << u"Save writes animals.lwx"_s;
+    }
+
+    void theStateOfTheListIsNamed()
+    {
+        QFETCH(int, words);
+        QFETCH(bool, isChanged);
+        QFETCH(QString, path);
+        QFETCH(bool, isInCaption);
+        const QuietTexts::Line line = QuietTexts::ofList(words, isChanged, {path, isInCaption});
+        QTEST(line.text, "text");
+        QTEST(line.marked, "marked");
+    }
+
+    void anEntryWithTheSameWordIsShownInOneLine()
+    {
+        QCOMPARE(QuietTexts::ofSameWord(12, {u"glacier"_s, u"a slow river\r\nof ice"_s, u"x"_s}),
+                 u"In the list: 12 glacier - a slow river of ice"_s);
+        QCOMPARE(QuietTexts::ofSameWord(1, {u"ice"_s, {}, {}}), u"In the list: 1 ice"_s);
+    }
+
+    void lostCharactersAreNamed()
+    {
+        QCOMPARE(QuietTexts::ofLostCharacters({}), QString());
+        QCOMPARE(QuietTexts::ofLostCharacters({u"ł"_s, u"漢"_s}),
+                 u"This list cannot keep: ł, 漢"_s);
+        QCOMPARE(QuietTexts::ofLostCharacters(u"abcdefghij"_s.split(QString(), Qt::SkipEmptyParts)),
+                 u"This list cannot keep: a, b, c, d, e, f, g, h, …"_s);
+    }
+
+    void commandsAreReported()
+    {
+        QCOMPARE(QuietTexts::ofImport(0), u"No words added."_s);
+        QCOMPARE(QuietTexts::ofImport(1), u"1 word added."_s);
+        QCOMPARE(QuietTexts::ofTextFile(u"/home/a/words.txt"_s), u"Written to words.txt."_s);
+        QCOMPARE(QuietTexts::ofHit(2, 3), u"2 of 3 found. A click on its row changes it."_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(QuietTexts_test)
+#include "QuietTexts_test.moc"

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The quiet line beside the word box, and what an empty list shows.
+#include "editor/ImportCommand.h"
+#include "editor/OpenList.h"
+#include "editor/QuietLabel.h"
+#include "support/FormTest.h"
+
+#include <QAccessible>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Module1;
+using namespace Qt::StringLiterals;
+
+class frmMain_QuietLine_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_main = std::make_unique<MainWindow>();
+        m_list = m_main->path(u"animals.lwx"_s);
+        writeFile(m_list, listBytes(someEntries(3, u"glacier"_s)));
+        QCOMPARE(line(), u"No words"_s);
+    }
+
+    void cleanup()
+    {
+        QVERIFY(!m_main || m_main->answers.allSeen());
+        gChanged = false;
+        m_main.reset();
+    }
+
+    void theStateOfTheListIsShown()
+    {
+        openList(*m_main, m_list);
+        QCOMPARE(line(), u"3 words · Save writes animals.lwx"_s);
+        addWord(u"moraine"_s);
+        QCOMPARE(line(), u"4 words · not saved · Save writes animals.lwx"_s);
+        QCOMPARE(marked(), QString());
+        m_main->answers.expectMsgBox(m_list + u" has been saved."_s);
+        m_main->choose("mnuSave");
+        QCOMPARE(line(), u"4 words · Save writes animals.lwx"_s);
+    }
+
+    void afterAnExportTheOtherFileIsMarked()
+    {
+        openList(*m_main, m_list);
+        const QString target = m_main->path(u"other.lwx"_s);
+        m_main->answers.useForm("dlgExport", [&](QDialog &dialog) {
+            for (const char *box : {"txtStart", "txtEnd"})
+                Controls::type(Controls::find<QLineEdit>(dialog, box), u"1"_s);
+            Controls::type(Controls::find<QLineEdit>(dialog, "txtFilename"), target);
+            m_main->answers.expectMsgBox(u"1 words has been added to "_s + target);
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdOk"));
+        });
+        m_main->choose("mnuExport");
+        QCOMPARE(line(), u"3 words · Save writes other.lwx"_s);
+        QCOMPARE(marked(), u"Save writes other.lwx"_s);
+    }
+
+    void aWordThatIsThereAlreadyIsShownWhileItIsTyped()
+    {
+        openList(*m_main, m_list);
+        m_main->click("cmdNewWord");
+        m_main->type("txtWord", u"Glacier 2"_s);
+        QCOMPARE(line(), u"In the list: 2 glacier 2 - definition 2 of glacier"_s);
+        m_main->type("txtWord", u"Glacier 23"_s);
+        QCOMPARE(line(), u"3 words · Save writes animals.lwx"_s);
+    }
+
+    void anEntryThatIsChangedIsNotFoundItself()
+    {
+        openList(*m_main, m_list);
+        m_main->clickCell(2, 1);
+        QCOMPARE(line(), u"3 words · Save writes animals.lwx"_s);
+        m_main->type("txtWord", u"glacier 3"_s);
+        QCOMPARE(line(), u"In the list: 3 glacier 3 - definition 3 of glacier"_s);
+    }
+
+    void hitsAreCounted()
+    {
+        writeFile(m_list, listBytes(someEntries(2, u"a"_s) + someEntries(2, u"a"_s)));
+        openList(*m_main, m_list);
+        m_main->click("cmdSearch");
+        m_main->type("txtWord", u"a 2"_s);
+        m_main->click("cmdSearch");
+        QCOMPARE(line(), u"1 of 2 found. A click on its row changes it."_s);
+        m_main->click("cmdSearch");
+        QCOMPARE(line(), u"2 of 2 found. A click on its row changes it."_s);
+        m_main->click("cmdAbort");
+        QCOMPARE(line(), u"4 words · Save writes animals.lwx"_s);
+    }
+
+    void lostCharactersAreNamedInAllBoxes_data()
+    {
+        QTest::addColumn<QByteArray>("box");
+        for (const char *box : {"txtWord", "txtDefinition", "txtSentence"})
+            QTest::newRow(box) << QByteArray(box);
+    }
+
+    void lostCharactersAreNamedInAllBoxes()
+    {
+        QFETCH(QByteArray, box);
+        m_main->click("cmdNewWord");
+        put(box, u"łódź"_s);
+        QCOMPARE(line(), u"This list cannot keep: ł, ź"_s);
+        put(box, u"lodz"_s);
+        QCOMPARE(line(), u"No words"_s);
+    }
+
+    void anImportAndATextFileAreReportedUntilThereIsSomethingNewer()
+    {
+        m_main.reset();
+        ImportCommand command;
+        const auto &label = Controls::find<QuietLabel>(command.main.window(), "lblQuiet");
+        command.expectMsgBox(u"2 words imported"_s);
+        command.importList({u"cat"_s, u"cow"_s});
+        QCOMPARE(label.text(), u"2 words added."_s);
+        command.main.click("cmdNewWord");
+        QCOMPARE(label.text(), u"2 words added."_s);
+        command.main.type("txtWord", u"cat"_s);
+        QVERIFY(label.text().startsWith(u"In the list: 1 cat"_s));
+        command.main.click("cmdAbort");
+        QVERIFY(label.text().startsWith(u"2 words"_s) && !label.text().contains(u"added"_s));
+        command.main.answers.chooseFile(command.main.path(u"words.txt"_s));
+        command.main.choose("mnuCreateTextFile");
+        QCOMPARE(label.text(), u"Written to words.txt."_s);
+        gChanged = false;
+        QVERIFY(command.main.answers.allSeen());
+    }
+
+    void screenReadersReadAStatusBar()
+    {
+        const QAccessibleInterface *label = QAccessible::queryAccessibleInterface(&quiet());
+        QCOMPARE(label->role(), QAccessible::StatusBar);
+        m_main->click("cmdNewWord");
+        put("txtWord", u"ł"_s);
+        QCOMPARE(label->text(QAccessible::Name), u"This list cannot keep: ł"_s);
+    }
+
+    void theHintOfAnEmptyListGoesWithTheFirstEntry()
+    {
+        const auto &hint = m_main->control<QLabel>("lblEmptyList");
+        QVERIFY(hint.isVisible());
+        QVERIFY(m_main->grid().viewport()->rect().contains(hint.geometry()));
+        QVERIFY(hint.sizeHint().boundedTo(hint.size()) == hint.sizeHint());
+        addWord(u"cat"_s);
+        QVERIFY(!hint.isVisible());
+        m_main->answers.expectMsgBox(EndLesson);
+        m_main->answers.expectMsgBox(SaveChanges, QMessageBox::No);
+        m_main->choose("mnuNew");
+        QVERIFY(hint.isVisible());
+        openList(*m_main, m_list);
+        QVERIFY(!hint.isVisible());
+    }
+
+    void theHintTakesNoClick()
+    {
+        const auto &hint = m_main->control<QLabel>("lblEmptyList");
+        QWidget *viewport = m_main->grid().viewport();
+        QCOMPARE(viewport->childAt(hint.geometry().center()), nullptr);
+        QCOMPARE(hint.focusPolicy(), Qt::NoFocus);
+    }
+
+private:
+    [[nodiscard]] QuietLabel &quiet() { return m_main->control<QuietLabel>("lblQuiet"); }
+    [[nodiscard]] QString line() { return quiet().text(); }
+    [[nodiscard]] QString marked() { return quiet().markedText(); }
+
+    // QTest types Latin-1 characters only.
+    void put(const char *box, const QString &text)
+    {
+        auto &widget = m_main->control<QWidget>(box);
+        widget.setFocus();
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
+        QCoreApplication::sendEvent(&widget, &event);
+    }
+
+    void addWord(const QString &word)
+    {
+        m_main->click("cmdNewWord");
+        m_main->typeEntry(word);
+        m_main->click("cmdAdd");
+        m_main->click("cmdAbort");
+    }
+
+    std::unique_ptr<MainWindow> m_main;
+    QString m_list;
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<frmMain_QuietLine_test>(argc, argv);
+}
+
+#include "frmMain_QuietLine_test.moc"
