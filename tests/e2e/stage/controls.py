@@ -5,7 +5,7 @@ import dataclasses
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 
 @dataclasses.dataclass(frozen=True)
@@ -65,6 +65,17 @@ class Control:
     def text(self):
         length = Atspi.Text.get_character_count(self._accessible)
         return Atspi.Text.get_text(self._accessible, 0, length)
+
+    @text.setter
+    def text(self, text):
+        Atspi.EditableText.set_text_contents(self._accessible, text)
+
+    def does(self):
+        """What the control is for: a button is pressed, a menu opens, an item is chosen."""
+        try:
+            Atspi.Action.do_action(self._accessible, 0)
+        except GLib.Error:
+            pass  # a dialog has opened: the answer comes after that
 
     @property
     def box(self):
