@@ -46,7 +46,7 @@ FlashCard:focus { border: 2px solid @focus; }
 #wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
 #frmHits, #frmMisses {
     background: palette(base); border: 1px solid @line; border-radius: 10px; margin: 0;
-    padding: 26px 8px 8px 8px; }
+    padding: 26px 8px 8px 12px; }
 #frmHits::title, #frmMisses::title { subcontrol-origin: border; left: 14px; top: 8px; padding: 0; }
 LetterTile { background: transparent; min-height: 0; padding: 0; border: none; }
 ScrolledArea, ScrolledArea > QWidget > QWidget { background: transparent; }
