@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Paths.h"
 
+#include "assets/Loudness.h"
 #include "platform/sound/WaveFile.h"
 
 #include <QDir>
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -29,18 +31,13 @@ std::vector<double> samplesOf(const WaveFile &wave, int channel)
     return samples;
 }
 
-double decibels(double squares, double count)
-{
-    return 10 * std::log10(squares / count + 1e-12);
-}
-
-// Root mean square, in dB below full scale.
-double loudness(const std::vector<double> &samples, std::size_t from, std::size_t to)
+// In dB below full scale.
+double rootMeanSquare(const std::vector<double> &samples, std::size_t from, std::size_t to)
 {
     double squares = 0;
     for (std::size_t i = from; i < to; ++i)
         squares += samples[i] * samples[i];
-    return decibels(squares, double(to - from));
+    return 10 * std::log10(squares / double(to - from) + 1e-12);
 }
 
 // 99 % of the steps from one sample to the next are smaller than this.
@@ -96,30 +93,46 @@ private Q_SLOTS:
             const auto [lowest, highest] = std::minmax_element(samples.begin(), samples.end());
             QVERIFY(*lowest > -0.99 && *highest < 0.99);
             for (std::size_t from = 0; from + second <= samples.size(); from += second) {
-                const double level = loudness(samples, from, from + second);
+                const double level = rootMeanSquare(samples, from, from + second);
                 QVERIFY2(level > -36, qPrintable(u"%1 dB"_s.arg(level)));
             }
         }
     }
 
+    // The level and the tolerance are those of the standard.
+    void aSineOf997HertzOnOneChannelHasMinusThreeLufs_data()
+    {
+        QTest::addColumn<double>("sampleRate");
+        for (const double sampleRate : {22050.0, 48000.0})
+            QTest::addRow("%.0f Hz", sampleRate) << sampleRate;
+    }
+
+    void aSineOf997HertzOnOneChannelHasMinusThreeLufs()
+    {
+        QFETCH(double, sampleRate);
+        std::vector<double> sine;
+        for (int i = 0; i < 20 * sampleRate; ++i)
+            sine.push_back(std::sin(2 * std::numbers::pi * 997 * i / sampleRate));
+        const double level = Loudness::lufs({sine}, sampleRate);
+        QVERIFY2(std::abs(level + 3.01) < 0.1, qPrintable(QString::number(level)));
+    }
+
     void allTracksAreEquallyLoud()
     {
-        double quietest = 0;
-        double loudest = -100;
+        std::vector<double> levels;
         for (const QString &set : Sets) {
             for (int level = 1; level <= 10; ++level) {
                 const std::optional<WaveFile> wave = readWaveFile(pathOfTrack(set, level));
                 QVERIFY(wave);
-                double squares = 0;
+                std::vector<std::vector<double>> channels;
                 for (int channel = 0; channel < wave->channels; ++channel)
-                    for (const double sample : samplesOf(*wave, channel))
-                        squares += sample * sample;
-                const double level_dB = decibels(squares, double(wave->samples.size()) / 2);
-                quietest = std::min(quietest, level_dB);
-                loudest = std::max(loudest, level_dB);
+                    channels.push_back(samplesOf(*wave, channel));
+                levels.push_back(Loudness::lufs(channels, wave->sampleRate));
             }
         }
-        QVERIFY2(loudest - quietest <= 2, qPrintable(u"%1 to %2 dB"_s.arg(quietest).arg(loudest)));
+        const auto [quietest, loudest] = std::minmax_element(levels.begin(), levels.end());
+        QVERIFY2(*loudest - *quietest <= 0.5,
+                 qPrintable(u"%1 to %2 LUFS"_s.arg(*quietest).arg(*loudest)));
     }
 
     void noTwoTracksAreTheSame()
