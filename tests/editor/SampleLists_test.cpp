@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "runtime/ChildProcess.h"
+#include "support/SmallFiles.h"
 #include "support/TestFiles.h"
 
 #include <QDir>
@@ -98,8 +99,7 @@ private Q_SLOTS:
         const FreshState state;
         QCOMPARE(errorNumberInChildProcess([&] {
                      std::signal(SIGXFSZ, SIG_IGN);
-                     const rlimit limit{1000, 1000};
-                     setrlimit(RLIMIT_FSIZE, &limit);
+                     const SmallFiles small(1000);
                      installSampleLists(state.path(Folder));
                      return 0;
                  }),

@@ -2,6 +2,7 @@
 // The main window's printing commands, where "Print to PDF" is the only printer.
 #include "core/ListTools.h"
 #include "editor/MainWindow.h"
+#include "print/OutputOf.h"
 #include "support/FormTest.h"
 #include "support/TestFiles.h"
 
@@ -10,7 +11,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -38,11 +38,9 @@ void press(QDialog &dialog, QDialogButtonBox::StandardButton button)
 // The size of each page of a PDF document, and its text.
 QString pagesOf(const QString &pdf)
 {
-    QProcess info;
-    info.start(u"pdfinfo"_s, {u"-l"_s, u"-1"_s, pdf});
-    info.waitForFinished();
     QStringList pages;
-    const QStringList lines = QString::fromUtf8(info.readAllStandardOutput()).split(u'\n');
+    const QStringList lines =
+        QString::fromUtf8(outputOf(u"pdfinfo"_s, {u"-l"_s, u"-1"_s, pdf})).split(u'\n');
     for (const QString &line : lines)
         if (line.startsWith(u"Page ") && line.contains(u"size:"))
             pages += line.simplified();
@@ -51,10 +49,7 @@ QString pagesOf(const QString &pdf)
 
 QString textOf(const QString &pdf)
 {
-    QProcess text;
-    text.start(u"pdftotext"_s, {u"-raw"_s, pdf, u"-"_s});
-    text.waitForFinished();
-    return QString::fromUtf8(text.readAllStandardOutput());
+    return QString::fromUtf8(outputOf(u"pdftotext"_s, {u"-raw"_s, pdf, u"-"_s}));
 }
 
 } // namespace

@@ -10,9 +10,9 @@
 #include "platform/Paths.h"
 #include "support/DialogAnswers.h"
 #include "support/FormTest.h"
+#include "support/TestFiles.h"
 
 #include <QAction>
-#include <QFile>
 #include <QFileInfo>
 #include <QScreen>
 
@@ -74,10 +74,9 @@ QStringList rowTexts(const Top10Table &table)
     return texts;
 }
 
-QByteArray fileBytes()
+QByteArray fileBytes(Caller caller = Caller::current())
 {
-    QFile file(pathOf(Place::Top10));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "(cannot be read)";
+    return readFile(pathOf(Place::Top10), caller);
 }
 
 bool fileIsThere()

@@ -5,8 +5,7 @@
 #include "game/GameForm.h"
 #include "platform/Paths.h"
 #include "support/FormTest.h"
-
-#include <QFile>
+#include "support/TestFiles.h"
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
@@ -112,8 +111,7 @@ private Q_SLOTS:
         QCOMPARE(gTop10[0].PlayerName, u"Ann"_s);
         QCOMPARE(gTop10[0].Points, Integer(8));
         QCOMPARE(gTop10[0].EntryDate, QDate::currentDate());
-        QFile file(pathOf(Place::Top10));
-        QCOMPARE(file.size(), 123);
+        QCOMPARE(readFile(pathOf(Place::Top10)).size(), 123);
         QCOMPARE(gScore, Integer(0));
         checkOver();
     }

@@ -5,8 +5,8 @@
 #include "platform/Listening.h"
 #include "platform/SoundServer.h"
 #include "platform/WaveBytes.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -51,10 +51,7 @@ private Q_SLOTS:
         if (!SoundServer::isInstalled())
             QSKIP("pulseaudio or parec is not installed.");
         const QByteArray wave = waveBytes(int(Second), 1, 16, noise());
-        m_path = m_folder.filePath(QStringLiteral("noise.wav"));
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(wave);
+        m_path = m_folder.write(QStringLiteral("noise.wav"), wave);
         m_sound = mixed(*waveFileFromBytes(wave));
         QVERIFY(m_server.start());
     }
@@ -188,7 +185,7 @@ private:
 
     SoundServer m_server;
     std::size_t m_from = 0;
-    QTemporaryDir m_folder;
+    TestFolder m_folder;
     QString m_path;
     Sound m_sound;
 };

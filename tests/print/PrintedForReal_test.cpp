@@ -5,11 +5,10 @@
 #include "print/PrintedPages.h"
 #include "runtime/ErrorNumber.h"
 #include "support/FormTest.h"
+#include "support/SmallFiles.h"
 #include "support/TestFiles.h"
 
 #include <QProgressDialog>
-
-#include <sys/resource.h>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
@@ -70,23 +69,6 @@ std::vector<VocabRecord> frenchWords()
             {u"Schiff"_s, LongWord, {}},
             {u"œuvre"_s, u"a work"_s, u"Ses œuvres coûtent 20 €."_s}};
 }
-
-// While it exists, no file of this process can grow beyond a few bytes.
-class SmallFiles final
-{
-public:
-    SmallFiles()
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{512, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallFiles() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(SmallFiles)
-
-private:
-    rlimit m_before{};
-};
 
 QString words(int count)
 {
@@ -360,7 +342,7 @@ private Q_SLOTS:
         QVERIFY(printer.StartDoc(nullptr, u"list"_s));
         printer.Font = {u"Times New Roman"_s, 10};
         printer.Print(words(100));
-        const SmallFiles small;
+        const SmallFiles small(512);
         QCOMPARE(errorNumberOf([&printer] { printer.EndDoc(); }), RunTimeError::PrinterFault);
         QCOMPARE(m_server->jobs(Paper), before);
     }

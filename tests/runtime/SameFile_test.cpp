@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runtime/SameFile.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "support/TestFiles.h"
+
 #include <QTest>
 
 #include <filesystem>
@@ -17,14 +16,11 @@ class SameFile_test final : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_folder->isValid());
+        m_folder = std::make_unique<TestFolder>();
         QVERIFY(QDir(m_folder->path()).mkdir(u"lists"_s));
         QVERIFY(QFile::link(path(u"lists"_s), path(u"linked folder"_s)));
-        for (const QString &name : {u"lists/a.lwx"_s, u"lists/b.lwx"_s}) {
-            QFile file(path(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+        for (const QString &name : {u"lists/a.lwx"_s, u"lists/b.lwx"_s})
+            m_folder->write(name, {});
         QVERIFY(QFile::link(path(u"lists/a.lwx"_s), path(u"link"_s)));
         std::filesystem::create_hard_link(path(u"lists/a.lwx"_s).toStdString(),
                                           path(u"twin"_s).toStdString());
@@ -66,9 +62,9 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
+    [[nodiscard]] QString path(const QString &name) const { return m_folder->path(name); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestFolder> m_folder;
 };
 
 QTEST_APPLESS_MAIN(SameFile_test)
