@@ -5,11 +5,11 @@
 #include "editor/MainWindow.h"
 #include "platform/Screen.h"
 #include "support/FormTest.h"
+#include "support/Layout.h"
 
 #include <QAccessible>
 #include <QGroupBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -23,42 +23,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QRect placeIn(const QWidget &window, const QWidget &control)
+void checkNothingIsCut(MainWindow &main, Caller caller = Caller::current())
 {
-    return {control.mapTo(&window, QPoint()), control.size()};
-}
-
-// Without the widgets inside Qt's own widgets.
-QList<QWidget *> visibleControls(const QWidget &window)
-{
-    QList<QWidget *> controls;
-    const QList<QWidget *> all = window.findChildren<QWidget *>();
-    for (QWidget *control : all)
-        if (control->isVisible() && !control->objectName().startsWith(u"qt_"_s) &&
-            !control->objectName().isEmpty())
-            controls += control;
-    return controls;
-}
-
-void checkNothingIsCut(MainWindow &main)
-{
-    frmMain &window = main.window();
-    const QList<QWidget *> controls = visibleControls(window);
-    QVERIFY(controls.size() > 15);
-    for (const QWidget *control : controls) {
-        const QByteArray name = control->objectName().toUtf8();
-        QVERIFY2(!control->size().isEmpty(), name);
-        QVERIFY2(window.rect().contains(placeIn(window, *control)), name);
-        QVERIFY2(control->parentWidget()->rect().contains(control->geometry()), name);
-        if (qobject_cast<const QPushButton *>(control) || qobject_cast<const QLabel *>(control)) {
-            QVERIFY2(control->width() >= control->minimumSizeHint().width(), name);
-            QVERIFY2(control->height() >= control->minimumSizeHint().height(), name);
-        }
-        for (const QWidget *other : controls)
-            if (other != control && other->parentWidget() == control->parentWidget())
-                QVERIFY2(!other->geometry().intersects(control->geometry()),
-                         name + " and " + other->objectName().toUtf8());
-    }
+    QVERIFY(Layout::visibleControls(main.window()).size() > 15);
+    Layout::checkNothingIsCut(main.window(), caller);
     // At least two lines of text must fit.
     for (const char *box : {"txtDefinition", "txtSentence"}) {
         const auto &text = main.control<QWidget>(box);
@@ -147,7 +115,6 @@ private Q_SLOTS:
             main.clickCell(2, 1);
         else if (mode == u"search"_s)
             main.click("cmdSearch");
-        QApplication::processEvents();
         checkNothingIsCut(main);
     }
 

@@ -4,6 +4,7 @@
 #include "platform/SvgPicture.h"
 #include "support/Controls.h"
 #include "support/FormTest.h"
+#include "support/Layout.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -79,16 +80,8 @@ private Q_SLOTS:
         frmSplash splash;
         splash.show();
         QVERIFY(QTest::qWaitForWindowExposed(&splash));
-        const QList<QLabel *> labels = splash.findChildren<QLabel *>();
-        QCOMPARE(labels.size(), 7);
-        for (const QLabel *label : labels) {
-            const QRect place(label->mapTo(&splash, QPoint()), label->size());
-            QVERIFY2(splash.rect().contains(place), qUtf8Printable(label->objectName()));
-            QVERIFY2(label->width() >= label->sizeHint().width(),
-                     qUtf8Printable(label->objectName()));
-            QVERIFY2(label->height() >= label->sizeHint().height(),
-                     qUtf8Printable(label->objectName()));
-        }
+        QCOMPARE(splash.findChildren<QLabel *>().size(), 7);
+        Layout::checkNothingIsCut(splash);
     }
 
     void theTimerRunsFromTheMomentTheSplashIsShown()

@@ -3,8 +3,8 @@
 #include "platform/Appearance.h"
 #include "print/PrintForm.h"
 #include "support/FormTest.h"
+#include "support/Layout.h"
 
-#include <QGroupBox>
 #include <QLabel>
 
 #include <algorithm>
@@ -16,25 +16,6 @@ using namespace Module1;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// All visible controls, without frames and without parts of controls.
-QList<QWidget *> controlsOf(const QWidget &dialog)
-{
-    QList<QWidget *> controls;
-    for (QWidget *control : dialog.findChildren<QWidget *>()) {
-        const bool isPart = control->objectName().isEmpty() ||
-                            control->objectName().startsWith(u"qt_") ||
-                            qobject_cast<QGroupBox *>(control);
-        if (!isPart && control->isVisible())
-            controls += control;
-    }
-    return controls;
-}
-
-QRect placeOf(const QWidget &control)
-{
-    return {control.mapTo(control.window(), QPoint()), control.size()};
-}
 
 double luminance(const QColor &colour)
 {
@@ -132,22 +113,8 @@ private Q_SLOTS:
         dialog.resize(size);
         QCoreApplication::processEvents();
         QCOMPARE(dialog.size(), size);
-        const QList<QWidget *> controls = controlsOf(dialog);
-        QVERIFY(controls.size() > 30);
-        for (const QWidget *control : controls) {
-            const QByteArray name = control->objectName().toUtf8();
-            QVERIFY2(dialog.rect().contains(placeOf(*control)), name);
-            QVERIFY2(control->parentWidget()->rect().contains(control->geometry()), name);
-            if (qobject_cast<const QLabel *>(control) ||
-                qobject_cast<const QAbstractButton *>(control)) {
-                const QSize needed = control->minimumSizeHint();
-                QVERIFY2(control->width() >= needed.width() && control->height() >= needed.height(),
-                         name);
-            }
-            for (const QWidget *other : controls)
-                QVERIFY2(other == control || !placeOf(*other).intersects(placeOf(*control)),
-                         name + " and " + other->objectName().toUtf8());
-        }
+        QVERIFY(Layout::visibleControls(dialog).size() > 30);
+        Layout::checkNothingIsCut(dialog);
         for (const char *box : {"txtTopMargin", "txtFromWord", "txtCopies"}) {
             const auto &line = form.control<QLineEdit>(box);
             QVERIFY2(line.width() >= line.fontMetrics().horizontalAdvance(u"32767"_s) + 12, box);
@@ -178,7 +145,7 @@ private Q_SLOTS:
         form.typeAndLeave("txtToWord", u"500"_s);
         QTRY_VERIFY(form.isEnabled("cmdNextPage"));
         const QImage picture = form.dialog().grab().toImage();
-        for (const QWidget *control : controlsOf(form.dialog())) {
+        for (const QWidget *control : Layout::visibleControls(form.dialog())) {
             const bool hasText = qobject_cast<const QLabel *>(control) ||
                                  qobject_cast<const QAbstractButton *>(control) ||
                                  qobject_cast<const QLineEdit *>(control) ||
@@ -186,7 +153,7 @@ private Q_SLOTS:
             if (!hasText)
                 continue;
             // Without the border of a button or box.
-            const QRect inside = placeOf(*control).adjusted(3, 3, -3, -3);
+            const QRect inside = Layout::placeOf(*control).adjusted(3, 3, -3, -3);
             const double read = contrastIn(picture.copy(inside));
             QVERIFY2(read >= (control->isEnabled() ? 4.5 : 2.5),
                      control->objectName().toUtf8() + ' ' + QByteArray::number(read));
@@ -234,7 +201,7 @@ private Q_SLOTS:
     {
         PrintForm form;
         std::set<QString> names;
-        for (const QWidget *control : controlsOf(form.dialog())) {
+        for (const QWidget *control : Layout::visibleControls(form.dialog())) {
             if (control->focusPolicy() == Qt::NoFocus)
                 continue;
             const auto *button = qobject_cast<const QAbstractButton *>(control);

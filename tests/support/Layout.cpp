@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/Layout.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool holdsOneLine(const QWidget &control)
+{
+    return qobject_cast<const QAbstractButton *>(&control) ||
+           qobject_cast<const QLabel *>(&control) || qobject_cast<const QLineEdit *>(&control);
+}
+
+bool isTooSmall(const QWidget &control)
+{
+    const QSize least = control.minimumSizeHint();
+    return control.width() < least.width() || control.height() < least.height();
+}
+
+bool overlap(const QWidget &one, const QWidget &other)
+{
+    return !one.isAncestorOf(&other) && !other.isAncestorOf(&one) &&
+           Layout::placeOf(one).intersects(Layout::placeOf(other));
+}
+
+} // namespace
+
+QRect Layout::placeOf(const QWidget &control)
+{
+    return {control.mapTo(control.window(), QPoint()), control.size()};
+}
+
+QList<QWidget *> Layout::visibleControls(const QWidget &window)
+{
+    QList<QWidget *> controls;
+    const QList<QWidget *> all = window.findChildren<QWidget *>();
+    for (QWidget *control : all) {
+        const QString name = control->objectName();
+        const bool scrolls = control->parentWidget()->objectName() == u"qt_scrollarea_viewport"_s;
+        if (control->window() == &window && control->isVisible() && !name.isEmpty() &&
+            !name.startsWith(u"qt_"_s) && !scrolls)
+            controls += control;
+    }
+    return controls;
+}
+
+void Layout::checkNothingIsCut(const QWidget &window, Caller caller)
+{
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+    const QList<QWidget *> controls = visibleControls(window);
+    for (const QWidget *control : controls) {
+        const QString name = control->objectName();
+        if (control->size().isEmpty())
+            failTest(name + u" has no size"_s, caller);
+        if (!window.rect().contains(placeOf(*control)) ||
+            !control->parentWidget()->rect().contains(control->geometry()))
+            failTest(name + u" is cut"_s, caller);
+        if (holdsOneLine(*control) && isTooSmall(*control))
+            failTest(name + u" is too small"_s, caller);
+        for (const QWidget *other : controls)
+            if (other != control && overlap(*control, *other))
+                failTest(name + u" and "_s + other->objectName() + u" overlap"_s, caller);
+    }
+}

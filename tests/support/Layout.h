@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whether the controls of a window can be seen whole.
+#pragma once
+
+#include "support/Caller.h"
+
+#include <QList>
+#include <QRect>
+
+class QWidget;
+
+namespace Layout {
+
+// In the coordinates of its window.
+[[nodiscard]] QRect placeOf(const QWidget &control);
+// All that is visible and has a name, without the parts of Qt's own controls and without the
+// content of scroll areas.
+[[nodiscard]] QList<QWidget *> visibleControls(const QWidget &window);
+// Lets the layout follow the texts. Then fails the test if a visible control has no size, is cut by
+// the window or by what contains it, overlaps another one, or, if it is a button, a label or a box
+// of one line, is smaller than its least size.
+void checkNothingIsCut(const QWidget &window, Caller caller = Caller::current());
+
+} // namespace Layout
