@@ -23,7 +23,11 @@ public:
     static constexpr int Max = 32767;
 
     constexpr Integer() = default;
-    constexpr Integer(WholeNumber auto value) : m_value(checked(value)) {}
+    constexpr Integer(WholeNumber auto value) : m_value(static_cast<short>(value))
+    {
+        if (std::cmp_less(value, Min) || std::cmp_greater(value, Max))
+            throw RunTimeError(RunTimeError::Overflow);
+    }
 
     [[nodiscard]] constexpr int toInt() const { return m_value; }
     [[nodiscard]] QString toText() const { return QString::number(m_value); }
@@ -43,12 +47,5 @@ public:
     }
 
 private:
-    static constexpr short checked(WholeNumber auto value)
-    {
-        if (std::cmp_less(value, Min) || std::cmp_greater(value, Max))
-            throw RunTimeError(RunTimeError::Overflow);
-        return static_cast<short>(value);
-    }
-
     short m_value = 0;
 };
