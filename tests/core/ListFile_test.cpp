@@ -230,7 +230,7 @@ private Q_SLOTS:
         for (unsigned i = 0; i < 2000; ++i) {
             QByteArray bytes = randomBytes(qsizetype(random() % 2000), i);
             if (i % 50 != 0 && bytes.size() >= 2)
-                bytes.replace(0, 2, number16(random() % 100));
+                bytes.replace(0, 2, number16(qsizetype(random() % 100)));
             if (countOf(bytes) < 0 || countOf(bytes) > MaxCount) {
                 QCOMPARE(errorNumberOf([&] { return ListFile::decode(bytes, MaxCount); }),
                          RunTimeError::SubscriptOutOfRange);

@@ -5,6 +5,8 @@
 #include "editor/OpenList.h"
 #include "support/FormTest.h"
 
+#include <algorithm>
+
 using namespace Module1;
 using namespace Qt::StringLiterals;
 
@@ -161,13 +163,13 @@ private Q_SLOTS:
     {
         open(Integer::Max);
         m_main->choose("mnuPlayScramble");
-        QWidget *game = nullptr;
-        for (QWidget *window : QApplication::topLevelWidgets())
-            if (window->objectName() == u"frmTanglewit"_s && window->isVisible())
-                game = window;
-        QVERIFY(game);
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const auto game = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+            return window->objectName() == u"frmTanglewit"_s && window->isVisible();
+        });
+        QVERIFY(game != windows.end());
         QCOMPARE(gOrderSize.toInt(), 1000);
-        game->close();
+        (*game)->close();
         QVERIFY(m_main->window().isVisible());
         verifyNothingIsLost(Integer::Max);
     }
