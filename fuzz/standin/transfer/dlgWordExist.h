@@ -11,7 +11,7 @@ class dlgWordExist final : public QObject
 public:
     explicit dlgWordExist(QWidget * /*parent*/) {}
 
-    static void exec();
+    void exec();
 
 Q_SIGNALS:
     void refresh();
