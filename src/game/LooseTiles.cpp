@@ -22,7 +22,7 @@ constexpr double LargestShift = 0.5; // up or down, in sides, where there is roo
 struct Rows
 {
     qsizetype count = 0;
-    qsizetype lettersPerRow = 0; // in all but the last, which may have fewer
+    qsizetype lettersPerRow = 1; // in all but the last, which may have fewer
 };
 
 // The letters are spread evenly over as few rows as the width allows.

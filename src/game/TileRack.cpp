@@ -123,7 +123,8 @@ void TileRack::drawSlots(QPainter &painter, const std::vector<QRect> &places) co
     painter.setPen(QPen(quietColour(palette()), 1.5));
     painter.setBrush(Qt::NoBrush);
     for (const QRect &slot : places)
-        painter.drawRoundedRect(QRectF(slot).adjusted(1.5, 1.5, -1.5, -1.5), SlotCorner, SlotCorner);
+        painter.drawRoundedRect(QRectF(slot).adjusted(1.5, 1.5, -1.5, -1.5), SlotCorner,
+                                SlotCorner);
 }
 
 void TileRack::paintEvent(QPaintEvent * /*event*/)

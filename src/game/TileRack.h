@@ -38,7 +38,7 @@ private:
     // The places of the word's letters.
     [[nodiscard]] std::vector<QRect> places() const;
 
-    int m_largestTile;
+    int m_largestTile = 0;
     Integer m_letters = 0; // of the word, at most 30
     std::vector<LetterTile *> m_cmdLetters;
 };

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSlider>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <memory>
