@@ -16,6 +16,11 @@ if(TANGLEWIT_SANITIZE)
                                                      -fno-omit-frame-pointer)
   target_link_options(tanglewit_options INTERFACE -fsanitize=address,undefined)
 endif()
+# A release is hardened as Debian's packages are (dpkg-buildflags), and names no folder of this machine.
+target_compile_definitions(tanglewit_options INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+target_compile_options(
+  tanglewit_options INTERFACE "$<$<CONFIG:Release>:-fstack-protector-strong;-Werror=format-security;-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>")
+target_link_options(tanglewit_options INTERFACE "$<$<CONFIG:Release>:LINKER:-z,relro>")
 # Each folder below src/ is one library and includes are written "folder/File.h".
 target_include_directories(tanglewit_options INTERFACE "${PROJECT_SOURCE_DIR}/src")
 
