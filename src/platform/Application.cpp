@@ -30,7 +30,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setApplicationName(Title());
     setApplicationVersion(QLatin1String(TANGLEWIT_VERSION));
     setOrganizationName(QStringLiteral("LexiBrook"));
-    setDesktopFileName(QStringLiteral("tanglewit"));
+    setDesktopFileName(QStringLiteral("org.lexibrook.Tanglewit"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tanglewit.svg")));
     setStyle(QStringLiteral("Fusion"));
     applyAppearance(*this);
