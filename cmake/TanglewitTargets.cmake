@@ -26,7 +26,7 @@ target_include_directories(tanglewit_options INTERFACE "${PROJECT_SOURCE_DIR}/sr
 
 # Where the installation puts what comes with the program.
 set(TANGLEWIT_INSTALL_DATA "${CMAKE_INSTALL_DATADIR}/tanglewit")
-# Not in a folder of its own right below lib/, for which CPack would have ldconfig called.
+# Two folders below lib/. For a library in a folder right below it, CPack has ldconfig called.
 set(TANGLEWIT_INSTALL_PLUGINS "${CMAKE_INSTALL_LIBDIR}/tanglewit/plugins")
 
 # The generated files that sources include, for tools that read sources without building them.

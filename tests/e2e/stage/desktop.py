@@ -91,8 +91,8 @@ class Desktop:
         os.environ["HOME"] = str(home)
         return home
 
-    def start(self, program):
-        return self._start([str(program)])
+    def start(self, *command):
+        return self._start([str(part) for part in command])
 
     def picture(self, file, box=None):
         """Keeps a picture of the screen, or of a part, once nothing on it moves any more."""
