@@ -18,8 +18,9 @@ ARROWS = {
     "core": BASE,
     "platform": BASE,
     **{folder: WINDOWS for folder in MIDDLE},
-    "editor": WINDOWS | MIDDLE,
-    "main.cpp": WINDOWS | MIDDLE | {"editor"},
+    "help": BASE | {"platform"},
+    "editor": WINDOWS | MIDDLE | {"help"},
+    "main.cpp": WINDOWS | MIDDLE | {"help", "editor"},
 }
 
 # Only platform/ names these classes.

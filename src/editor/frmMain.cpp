@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/GameMenu.h"
+#include "editor/HelpMenu.h"
 #include "editor/MainLayout.h"
 #include "editor/PrintMenu.h"
 #include "editor/QuietLine.h"
@@ -51,12 +52,13 @@ frmMain::frmMain()
       m_unsavedCopy(std::make_unique<UnsavedCopy>(this))
 {
     m_ui->setupUi(this);
-    for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep})
+    for (QAction *separator : {m_ui->sep1, m_ui->sep2, m_ui->sep, m_ui->sepHelp})
         separator->setSeparator(true);
     m_editor = std::make_unique<WordEditor>(*m_ui);
     m_quietLine = std::make_unique<QuietLine>(*m_ui, *m_editor);
     m_gameMenu = std::make_unique<GameMenu>(*m_ui, this);
     m_printMenu = std::make_unique<PrintMenu>(*m_ui, this);
+    m_helpMenu = std::make_unique<HelpMenu>(*m_ui, this);
     connectHandlers();
     addShortcut(Qt::Key_Escape, m_ui->cmdAbort);
     addShortcut(QKeySequence::Find, m_ui->cmdSearch);

@@ -10,6 +10,7 @@
 #include <memory>
 
 class GameMenu;
+class HelpMenu;
 class PrintMenu;
 class QuietLine;
 class UnsavedCopy;
@@ -60,6 +61,7 @@ private:
     std::unique_ptr<QuietLine> m_quietLine;
     std::unique_ptr<GameMenu> m_gameMenu;
     std::unique_ptr<PrintMenu> m_printMenu;
+    std::unique_ptr<HelpMenu> m_helpMenu;
     CommonDialog m_fileDialog;
     std::unique_ptr<UnsavedCopy> m_unsavedCopy;
 };

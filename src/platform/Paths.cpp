@@ -49,6 +49,9 @@ QString pathOf(Place place)
                          QStringLiteral("Audio"));
     case Place::Plugins:
         return ownFolder(QStringLiteral(TANGLEWIT_PLUGINS_FROM_PROGRAM), QStringLiteral("plugins"));
+    case Place::Handbook:
+        return ownFolder(QStringLiteral(TANGLEWIT_HANDBOOK_FROM_PROGRAM),
+                         QStringLiteral("share/doc/tanglewit/handbook"));
     }
     return {};
 }

@@ -11,9 +11,10 @@ enum class Place {
     WordLists,    // start folder for word lists
     Audio,        // folder of the music that comes with the program
     Plugins,      // folder of the program's plugins
+    Handbook,     // folder of the handbook's pages
 };
 
 // The absolute path. Makes UserData, and the folder that contains a file or WordLists, if it is
 // missing. WordLists itself is not made: at the first start of the program it does not exist yet.
-// Audio and Plugins are installed with the program, and the path may not exist.
+// Audio, Plugins and Handbook are installed with the program, and the path may not exist.
 [[nodiscard]] QString pathOf(Place place);

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "help/dlgAbout.h"
+
+#include "platform/Paths.h"
+#include "support/Controls.h"
+#include "support/FormTest.h"
+#include "support/FreshHome.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+class dlgAbout_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itSaysWhatTheProgramIs()
+    {
+        const FreshHome home;
+        dlgAbout dialog(nullptr);
+        dialog.show();
+        Controls::waitUntilActive(dialog);
+        const auto label = [&dialog](const char *name) {
+            return Controls::find<QLabel>(dialog, name).text();
+        };
+        QCOMPARE(label("lblVersion"), u"Version "_s + QApplication::applicationVersion());
+        QVERIFY(!QApplication::applicationVersion().isEmpty());
+        QCOMPARE(label("lblLegalNotice"), Application::LegalCopyright());
+        QVERIFY(label("lblLicence").contains(u"GNU General Public License, version 3 or later"_s));
+        QCOMPARE(label("lblBuiltWith"), u"C++20 and Qt %1"_s.arg(QLatin1String(qVersion())));
+        const auto &folder = Controls::find<QLineEdit>(dialog, "txtWordLists");
+        QCOMPARE(folder.text(), pathOf(Place::WordLists));
+        QVERIFY(folder.isReadOnly());
+        Controls::press(Qt::Key_Return);
+        QVERIFY(!dialog.isVisible());
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<dlgAbout_test>(argc, argv);
+}
+#include "dlgAbout_test.moc"
