@@ -71,8 +71,10 @@ void EntryArea::show(EditorMode mode, EntryFocus focus)
     const bool showsAdd = look.shown != EntryLook::Shown::NewWord;
     m_ui.cmdAdd->setVisible(showsAdd);
     m_ui.cmdAdd->setEnabled(look.isEnabled(EntryLook::Add));
-    m_ui.cmdAdd->setText(look.shown == EntryLook::Shown::Update ? QStringLiteral("&Update")
-                                                                : QStringLiteral("&Add"));
+    const bool updates = look.shown == EntryLook::Shown::Update;
+    m_ui.cmdAdd->setText(updates ? QStringLiteral("&Update") : QStringLiteral("&Add"));
+    m_ui.cmdAdd->setToolTip(updates ? QStringLiteral("Store the changed entry (Alt+U, Enter)")
+                                    : QStringLiteral("Add the word to the list (Alt+A, Enter)"));
     m_ui.cmdNewWord->setVisible(!showsAdd);
     m_ui.cmdNewWord->setEnabled(look.isEnabled(EntryLook::NewWord));
     m_ui.cmdAbort->setEnabled(look.isEnabled(EntryLook::Abort));

@@ -6,6 +6,7 @@
 #include "editor/GameMenu.h"
 #include "editor/HelpMenu.h"
 #include "editor/MainLayout.h"
+#include "editor/MenuIcons.h"
 #include "editor/PrintMenu.h"
 #include "editor/QuietLine.h"
 #include "editor/UnsavedCopy.h"
@@ -59,6 +60,7 @@ frmMain::frmMain()
     m_gameMenu = std::make_unique<GameMenu>(*m_ui, this);
     m_printMenu = std::make_unique<PrintMenu>(*m_ui, this);
     m_helpMenu = std::make_unique<HelpMenu>(*m_ui, this);
+    showMenuIcons(*m_ui);
     connectHandlers();
     addShortcut(Qt::Key_Escape, m_ui->cmdAbort);
     addShortcut(QKeySequence::Find, m_ui->cmdSearch);

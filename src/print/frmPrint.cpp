@@ -174,9 +174,10 @@ void frmPrint::showPage()
     m_ui->cmdPreviousPage->setEnabled(!preview.isFirst());
     m_ui->cmdNextPage->setEnabled(!preview.isLast());
     m_ui->cmdLastPage->setEnabled(!preview.isLast());
-    m_ui->cmdZoom->setText(preview.zoom() == PagePreview::Zoom::WholePage
-                               ? QStringLiteral("Actual size")
-                               : QStringLiteral("Whole page"));
+    const bool isWhole = preview.zoom() == PagePreview::Zoom::WholePage;
+    m_ui->cmdZoom->setText(isWhole ? QStringLiteral("Actual size") : QStringLiteral("Whole page"));
+    m_ui->cmdZoom->setToolTip(isWhole ? QStringLiteral("Show the page as large as on paper")
+                                      : QStringLiteral("Show all of the page"));
 }
 
 void frmPrint::cmdPrint_Click()
