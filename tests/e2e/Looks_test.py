@@ -92,7 +92,7 @@ class Looks(DesktopTest):
         self.assertLessEqual(grid.box.bottom - bottom, 2)
 
     def test_theMenusFitTheScreen(self):
-        for menu in ("File", "Edit", "Game"):
+        for menu in ("File", "Edit", "Game", "Help"):
             for name, item in self.person.opens_menu(menu).items():
                 self.assertHolds(self.screen, item.box, f"{menu} > {name}")
             self.picture(f"menu-{menu}-{self.name}")

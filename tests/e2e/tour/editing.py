@@ -40,6 +40,7 @@ def picks_and_updates(guide, listed):
         until("the length in the frame's title",
               lambda: person.front().find("panel", f"Sentence: {len(Changed)}"))
         guide.picture("entry-picked")
+        guide.picture_for_handbook("editor")
         person.pushes("Update")
         listed[3] = (*listed[3][:2], Changed)
         until("the new sentence in the grid", lambda: person.page(),
@@ -61,6 +62,7 @@ def adds(guide, listed):
             until("the typed entry", person.entry, word)
             if word == Added[0]:
                 guide.picture("new-word")
+                guide.picture_for_handbook("new-word")
             person.presses("Return")
             listed.append(word)
             until("empty boxes for the next", person.entry, Empty)
@@ -101,6 +103,7 @@ def searches(guide, listed):
         until("the entry found", person.entry, Added[0])
         until("its row at the top", lambda: person.row(1), (str(first), *Added[0]))
         guide.picture("word-found")
+        guide.picture_for_handbook("word-found")
 
     with guide.step("Search again finds the next one"):
         person.pushes("Search")

@@ -23,6 +23,7 @@ def take(guide):
         person.fills("File name", str(target))
         until("the words of the range", lambda: preview(person), [word for word, _, _ in chosen])
         guide.picture("dialog-export")
+        guide.picture_for_handbook("export", person.front())
 
     with guide.step("OK adds them to the words that the target holds"):
         person.pushes("OK")

@@ -48,6 +48,7 @@ def turns_by_hand(guide, definitions):
         until("the definition", lambda: card(person, "Definition card"), definitions[word])
         until("the same word", lambda: card(person, "Word card"), word, limit=0)
         guide.picture("card-open")
+        guide.picture_for_handbook("cards", person.front())
 
     with guide.step("Next shows another word, its card closed again; Previous goes back"):
         person.pushes("Next")

@@ -8,11 +8,12 @@ from stage.person import Person
 
 
 class Guide:
-    def __init__(self, desktop, program, sources, pictures):
+    def __init__(self, desktop, program, sources, pictures, handbook=None):
         self.person = Person(desktop, program)
         self.home = desktop.new_home()
         self.sources = sources  # folder of the texts that the sample lists are made of
         self._pictures = pictures
+        self._handbook = handbook
         self._taken = 0
         self._empty_pictures()
 
@@ -32,6 +33,15 @@ class Guide:
 
     def picture(self, name, window=None):
         self.person.desktop.picture(self._next_picture(name), window.box if window else None)
+
+    def picture_for_handbook(self, name, window=None):
+        """Of the window without its frame, or of the whole screen; only where these are wanted."""
+        if self._handbook:
+            file = self._handbook / f"{name}.png"
+            self.person.desktop.picture(file, window.box if window else None)
+            # As small as it gets: the windows have few colours.
+            subprocess.run(["mogrify", "-strip", "+dither", "-colors", "256", "-define",
+                            "png:compression-level=9", f"PNG8:{file}"], check=True)
 
     def picture_of_page(self, file, page, name):
         """Of a page of a PDF file."""

@@ -31,6 +31,7 @@ def take(guide):
     with guide.step("A word that is there already is shown beside the own one; Yes adds it"):
         sees_conflict(guide, First, own, listed)
         guide.picture("question-word-existed")
+        guide.picture_for_handbook("word-existed", person.front())
         person.pushes("Yes")
 
     with guide.step("No To All keeps the next one out, and all after it"):

@@ -79,6 +79,7 @@ def gets_a_first_word(guide, words):
         for letter in word[:2]:
             until(f"a tile with {letter}", lambda: game.find("push button", letter), limit=30)
         guide.picture("game-tiles")
+        guide.picture_for_handbook("game", game)
 
     with guide.step("The right word is a hit"):
         answers(person, words)
@@ -97,12 +98,14 @@ def misses(guide, words):
 
 def loses_a_life(guide, word, picture=None):
     person = guide.person
+    game = person.front()
     person.writes("Your answer", "wrong")
     person.presses("Return")
     person.window(Miss)
     label(person, f"The correct answer is: {word}")
     if picture:
         guide.picture(picture)
+        guide.picture_for_handbook(picture, game)
     person.writes("Type the word", word)
     person.pushes("OK")
     person.window(Game)
@@ -112,12 +115,14 @@ def reaches_level_2(guide, words):
     person = guide.person
     with guide.step("Twenty hits lead to level 2"):
         last = None
+        game = person.front()
         for hits in range(2, 21):
             last = answers(person, words, last)
             if hits < 20:
                 until(f"{hits} hits", lambda: person.front().find("panel", f"Hits: {hits}"))
         person.is_told("Level 2")
         guide.picture("game-level")
+        guide.picture_for_handbook("game-level", game)
         person.answers("Level 2", "OK")
         person.window(Game)
         until("level 2", lambda: beside(person, "Level"), "2")
@@ -129,6 +134,7 @@ def loses(guide, words):
         for _ in range(3):
             loses_a_life(guide, words[clue(person, words)])
         word = words[clue(person, words)]
+        game = person.front()
         person.writes("Your answer", "wrong")
         person.presses("Return")
         person.window(Miss)
@@ -137,6 +143,7 @@ def loses(guide, words):
         person.window(Scores)
         person.writes("Your name", Player)
         guide.picture("top10-name")
+        guide.picture_for_handbook("top10", game)
         person.presses("Return")
         until("the row with the name", lambda: next(
             part for part in person.front().below() if part.name.endswith(f" :   {Player}")))
@@ -145,6 +152,7 @@ def loses(guide, words):
         person.window(Game)
         label(person, "Please click Restart to shuffle.")
         guide.picture("game-over")
+        guide.picture_for_handbook("game-over", game)
 
 
 def quits(guide, main):
@@ -154,6 +162,7 @@ def quits(guide, main):
         person.window(Scores)
         label(person, "Good bye. Thank you for playing The Tanglewit!!!")
         guide.picture("good-bye")
+        guide.picture_for_handbook("good-bye", person.front())
         person.pushes("Close")
         person.window(main)
         until("only the main window", person.titles, [main])

@@ -27,6 +27,7 @@ def take(guide):
         person.presses("Tab")
         until("more pages", lambda: page_shown(person)[1] > pages)
         guide.picture("print-margins")
+        guide.picture_for_handbook("print", person.front())
 
     with guide.step("Next page shows the second one"):
         person.pushes("Next page")

@@ -17,6 +17,7 @@ def take(guide):
         for words in ("The Tanglewit", "Version 1.0.0a", "LexiBrook"):
             until(f"'{words}' on the splash", lambda: splash.find("label", words))
         guide.picture("splash", splash)
+        guide.picture_for_handbook("splash", splash)
 
     with guide.step("Three seconds later the main window takes its place"):
         main = person.window(Untitled)
