@@ -1,27 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/HandbookText.h"
 
+#include "platform/Appearance.h"
+
 #include <QImage>
 
 namespace {
 
 // In place of the pages' own style sheet, which is for browsers.
 const QString StyleSheet = QStringLiteral("h1 { font-size: 24px; } h2 { font-size: 18px; }"
-                                          "th { text-align: left; padding: 2px 12px 2px 0; }"
-                                          "td { padding: 2px 12px 2px 0; }");
+                                          "td, th { padding-right: 16px; padding-bottom: 4px; }");
 
 } // namespace
 
 HandbookText::HandbookText(QWidget *parent) : QTextBrowser(parent)
 {
     setOpenExternalLinks(true);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the width for pictures does not change
     document()->setDocumentMargin(16);
 }
 
 QVariant HandbookText::loadResource(int type, const QUrl &name)
 {
     if (type == QTextDocument::StyleSheetResource)
-        return StyleSheet;
+        return StyleSheet + QStringLiteral("a { color: %1; }").arg(accentColour(palette()).name());
     const QVariant resource = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource)
         return resource;

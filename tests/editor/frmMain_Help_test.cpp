@@ -75,6 +75,23 @@ private Q_SLOTS:
                  (QStringList{u"exporting.html"_s, u"flash-cards.html"_s, u"printing.html"_s}));
     }
 
+    void f1InAFileDialogAndInAMessageBoxOpensTheirPages()
+    {
+        FakeBrowser browser;
+        MainWindow main;
+        const auto pressF1 = [](QDialog &dialog) {
+            Controls::waitUntilActive(dialog);
+            QTest::keyClick(&dialog, Qt::Key_F1);
+        };
+        main.answers.cancelFileDialog(pressF1);
+        main.choose("mnuImport");
+        main.answers.expectMsgBox(u"Cannot export: Your current wordlist is empty"_s,
+                                  QMessageBox::Ok, pressF1);
+        main.choose("mnuExport");
+        QVERIFY(main.answers.allSeen());
+        QCOMPARE(browser.pages, (QStringList{u"files.html"_s, u"messages.html"_s}));
+    }
+
     void f1InTheGameOpensItsPage()
     {
         FakeBrowser browser;

@@ -135,8 +135,9 @@ private Q_SLOTS:
         for (const QString &page : pages) {
             answers.useForm("dlgHandbook", [&page](QDialog &dialog) {
                 const auto &text = Controls::find<QTextBrowser>(dialog, "text");
-                QVERIFY2(text.horizontalScrollBar()->maximum() == 0, qPrintable(page));
+                const int hidden = text.horizontalScrollBar()->maximum();
                 dialog.close();
+                QVERIFY2(hidden == 0, qPrintable(page));
             });
             openHandbook(page.chopped(5), nullptr);
         }
