@@ -24,7 +24,7 @@ QVariant HandbookText::loadResource(int type, const QUrl &name)
 {
     if (type == QTextDocument::StyleSheetResource)
         return StyleSheet + QStringLiteral("a { color: %1; }").arg(accentColour(palette()).name());
-    const QVariant resource = QTextBrowser::loadResource(type, name);
+    QVariant resource = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource)
         return resource;
     const QImage picture = QImage::fromData(resource.toByteArray());

@@ -6,8 +6,10 @@
 #include <QScreen>
 #include <QUrl>
 
-dlgHandbook::dlgHandbook(const QString &file, QWidget *parent)
-    : DialogForm(parent), m_ui(std::make_unique<Ui::dlgHandbook>()), m_file(file)
+#include <utility>
+
+dlgHandbook::dlgHandbook(QString file, QWidget *parent)
+    : DialogForm(parent), m_ui(std::make_unique<Ui::dlgHandbook>()), m_file(std::move(file))
 {
     m_ui->setupUi(this);
     resize(size().boundedTo(screen()->availableSize() * 0.9));

@@ -16,7 +16,7 @@ class dlgHandbook final : public DialogForm
 
 public:
     // file: the path of the page that is shown first.
-    dlgHandbook(const QString &file, QWidget *parent);
+    dlgHandbook(QString file, QWidget *parent);
     ~dlgHandbook() override;
 
 protected:

@@ -7,7 +7,9 @@
 #include "support/TestFiles.h"
 #include "transfer/dlgWordExist.h"
 
+#include <QDialog>
 #include <QIcon>
+#include <QImage>
 #include <QMenu>
 #include <QRegularExpression>
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/Module1.h"
 #include "editor/MainWindow.h"
 #include "help/FakeBrowser.h"
 #include "platform/Paths.h"
 #include "support/FormTest.h"
 
 #include <QDir>
+#include <QFileDialog>
 #include <QMenuBar>
+#include <QMessageBox>
 
 using namespace Qt::StringLiterals;
 

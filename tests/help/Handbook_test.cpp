@@ -69,7 +69,7 @@ private Q_SLOTS:
         QFETCH(QString, page);
         FakeBrowser browser;
         const HelpKey key;
-        const NamedWindow window(QLatin1String(QTest::currentDataTag()));
+        const NamedWindow window(QString::fromLatin1(QTest::currentDataTag()));
         Controls::press(Qt::Key_F1);
         QCOMPARE(browser.pages, QStringList{page});
     }
