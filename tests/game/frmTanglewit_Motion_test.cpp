@@ -122,6 +122,8 @@ private Q_SLOTS:
         m_form->expectTop10Entry(u"Ann"_s, [this](QDialog &dialog) {
             const auto &celebration = *dialog.findChild<QVariantAnimation *>();
             QCOMPARE(celebration.state(), QAbstractAnimation::Running);
+            waitForFocus();
+            m_time.pass(0);
             const QStringList before = stateOf(dialog);
             for (int passed = 0; passed < 400; passed += 40) {
                 m_time.pass(40);
@@ -183,6 +185,13 @@ private:
         m_form->start();
     }
 
+    // A window is not active at once when it opens, or when a dialog over it closes.
+    void waitForFocus()
+    {
+        QWidget *dialog = QApplication::activeModalWidget();
+        Controls::waitUntilActive(dialog ? *dialog : m_form->window());
+    }
+
     void verifyShort()
     {
         QVERIFY(motions(m_form->window()) > 0);
@@ -191,6 +200,7 @@ private:
 
     void verifyShortOrNone()
     {
+        waitForFocus();
         m_time.pass(0); // what has just been started begins now
         const QStringList before = stateOf(m_form->window());
         for (int passed = 0; passed < 400; passed += 40) {
@@ -206,6 +216,7 @@ private:
     {
         std::vector<QStringList> states;
         const auto look = [this, &states] {
+            waitForFocus();
             states.push_back(stateOf(m_form->window()));
             m_time.pass(150);
             states.push_back(stateOf(m_form->window()));
