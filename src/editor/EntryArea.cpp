@@ -34,7 +34,7 @@ void EntryArea::place(const MainLayout &layout, int height)
     m_ui.Label1->setGeometry(2 * Spacing, Spacing, labelWidth, LineHeight);
     m_ui.txtWord->setGeometry(wordLeft, Spacing, Spacing + frameDefWidth - wordLeft, LineHeight);
 
-    const int quietLeft = pixels(layout.frameSenLeft);
+    const int quietLeft = pixels(layout.frameSenLeft) + 2 * Spacing;
     m_ui.lblQuiet->setGeometry(quietLeft, Spacing, pixels(layout.frameWidth) - quietLeft - Spacing,
                                LineHeight);
 

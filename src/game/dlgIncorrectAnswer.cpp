@@ -26,6 +26,7 @@ constexpr int LargeWidth = 720;
 constexpr int LeastHeight = 300;
 constexpr int PanelEdges = 2;
 constexpr QSize FrameOfWindow(20, 40);
+constexpr int TitleBar = 24;
 
 constexpr qsizetype LongestInLargeType = 25;
 
@@ -123,7 +124,8 @@ void dlgIncorrectAnswer::placeBelow(const QWidget &control)
     const QPoint lowest = room.bottomRight() - QPoint(width(), height()) -
                           QPoint(FrameOfWindow.width(), FrameOfWindow.height());
     const int left = control.window()->geometry().center().x() - width() / 2;
-    const int top = control.mapToGlobal(control.rect().bottomLeft()).y();
+    // Some window managers take the place for that of the dialog without its title bar.
+    const int top = control.mapToGlobal(control.rect().bottomLeft()).y() + TitleBar;
     move(std::max(room.left(), std::min(left, lowest.x())),
          std::max(room.top(), std::min(top, lowest.y())));
 }
