@@ -90,17 +90,13 @@ void CountdownRing::playFilling()
 
 void CountdownRing::playTimeOut()
 {
-    QWidget &window = *this->window();
-    const int margin = width() / 3;
-    const QRect place = QRect(mapTo(&window, QPoint()), size());
-    Motion::play(
-        window, place.adjusted(-margin, -margin, margin, margin), TimeOutTime,
-        [margin, side = width(), colour = alarmColour(palette())](QPainter &painter, double t) {
-            painter.setOpacity(1 - t);
-            painter.setPen(QPen(colour, 4));
-            const double radius = side / 2.0 + (margin - 4) * t;
-            painter.drawEllipse(QPointF(margin + side / 2.0, margin + side / 2.0), radius, radius);
-        });
+    Motion::end(*this);
+    Motion::play(*this, rect(), TimeOutTime,
+                 [this, colour = onAlarmColour(palette())](QPainter &painter, double t) {
+                     painter.setPen(QPen(colour, 4));
+                     const double radius = width() / 2.0 * (1 - t);
+                     painter.drawEllipse(QRectF(rect()).center(), radius, radius);
+                 });
 }
 
 QColor CountdownRing::colourOf(Integer level, const QPalette &palette)

@@ -21,7 +21,7 @@ public:
     void setLevel(Integer level);
     // Shows the ring filling in the colour of the level. It stays full until setSeconds is called.
     void playFilling();
-    // Shows that the time is up by a circle that widens. Changes nothing.
+    // Shows that the time is up by a circle that closes. Changes nothing.
     void playTimeOut();
 
     // The colour of the ring at a level; at least 3 to 1 to the window and to the ring's track.

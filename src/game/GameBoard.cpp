@@ -205,6 +205,7 @@ void GameBoard::showTimeOut()
 void GameBoard::addMiss(const QString &line)
 {
     endMotions();
+    Motion::end(*m_ui.lifeHearts);
     addLine(*m_ui.lstMisses, line);
 }
 
@@ -271,7 +272,7 @@ void GameBoard::playLanding()
     Motion::play(*list.viewport(), place, LandingTime,
                  [colour, size = place.size()](QPainter &painter, double t) {
                      QColor fading = colour;
-                     fading.setAlphaF(float(0.6 * (1 - t)));
+                     fading.setAlphaF(float(0.3 * (1 - t)));
                      painter.fillRect(QRect(QPoint(), size), fading);
                  });
 }
