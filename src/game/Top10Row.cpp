@@ -96,8 +96,13 @@ public:
     {
         setObjectName(QStringLiteral("lblTop10_%1").arg(rank));
         setTextFormat(Qt::PlainText);
-        setMinimumWidth(1); // a long name is cut off instead of widening the dialog
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+    // A long name ends in an ellipsis instead of widening the dialog.
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return {1, QLabel::minimumSizeHint().height()};
     }
 
     void setEntry(const Top10Entry &entry, Top10Row::Name name)

@@ -4,6 +4,7 @@
 
 #include "game/GameForm.h"
 #include "support/FormTest.h"
+#include "support/Layout.h"
 
 #include <QScreen>
 
@@ -12,51 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QRect placeIn(const QWidget &window, const QWidget &control)
-{
-    return {control.mapTo(&window, QPoint()), control.size()};
-}
-
-// Without the widgets inside Qt's own widgets and without the contents of scroll areas.
-QList<QWidget *> visibleControls(const QWidget &window)
-{
-    QList<QWidget *> controls;
-    const QList<QWidget *> all = window.findChildren<QWidget *>();
-    for (QWidget *control : all) {
-        const QString name = control->objectName();
-        const bool scrolls = control->parentWidget()->objectName() == u"qt_scrollarea_viewport"_s;
-        if (control->window() == &window && control->isVisible() && !name.isEmpty() &&
-            !name.startsWith(u"qt_"_s) && !scrolls)
-            controls += control;
-    }
-    return controls;
-}
-
 void checkNothingIsCut(QWidget &window)
 {
-    // Let the layout follow the texts.
-    for (int i = 0; i < 5; ++i)
-        QApplication::processEvents();
+    Layout::checkNothingIsCut(window);
     const QByteArray size =
         u"%1 %2x%3"_s.arg(window.objectName()).arg(window.width()).arg(window.height()).toUtf8();
     QVERIFY2(window.screen()->geometry().contains(window.geometry()), size);
-    const QList<QWidget *> controls = visibleControls(window);
-    QVERIFY(controls.size() > 4);
-    for (const QWidget *control : controls) {
-        const QByteArray name = control->objectName().toUtf8();
-        QVERIFY2(!control->size().isEmpty(), name);
-        QVERIFY2(window.rect().contains(placeIn(window, *control)), name);
-        QVERIFY2(control->parentWidget()->rect().contains(control->geometry()), name);
-        if (qobject_cast<const QPushButton *>(control) || qobject_cast<const QLineEdit *>(control))
-            if (!name.startsWith("cmdLetters")) {
-                QVERIFY2(control->width() >= control->minimumSizeHint().width(), name);
-                QVERIFY2(control->height() >= control->minimumSizeHint().height(), name);
-            }
-        for (const QWidget *other : controls)
-            if (other != control && other->parentWidget() == control->parentWidget())
-                QVERIFY2(!other->geometry().intersects(control->geometry()),
-                         name + " and " + other->objectName().toUtf8());
-    }
 }
 
 // There is room for at least one line of each text.
