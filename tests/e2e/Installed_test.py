@@ -8,7 +8,7 @@ import shutil
 import struct
 import subprocess
 import types
-import unittest
+import unittest.mock
 import xml.etree.ElementTree
 
 from stage.conditions import until
@@ -78,6 +78,24 @@ class Installed(DesktopTest):
         person = self.starts()
         splash = until("the splash", lambda: person.windows()[0])
         until("its version", lambda: splash.find("label", f"Version {self.version()}a"))
+
+    def test_theManualPageIsThere(self):
+        self.assertEqual(len(list((self.share / "man" / "man6").glob("tanglewit.6*"))), 1)
+
+    def test_theHandbookIsFound(self):
+        browser, opened = self.home / "bin" / "xdg-open", self.home / "opened"
+        browser.parent.mkdir()
+        browser.write_text(f"#!/bin/sh\necho \"$1\" >{opened}.new && mv {opened}.new {opened}\n")
+        browser.chmod(0o755)
+        browser.with_name("x-www-browser").symlink_to(browser)
+        path = f"{browser.parent}:{os.environ['PATH']}"
+        with unittest.mock.patch.dict(os.environ, PATH=path):
+            person = self.starts()
+        person.window(Untitled)
+        person.presses("F1")
+        page = self.share / "doc" / "tanglewit" / "handbook" / "index.html"
+        until("the handbook", lambda: opened.exists() and opened.read_text(), f"{page.as_uri()}\n")
+        self.assertTrue(page.is_file())
 
     @needs("pulseaudio", "pactl")
     def test_sampleListsAndMusicAreFound(self):
