@@ -27,6 +27,7 @@ void checkNothingIsCut(MainWindow &main, Caller caller = Caller::current())
 {
     QVERIFY(Layout::visibleControls(main.window()).size() > 15);
     Layout::checkNothingIsCut(main.window(), caller);
+    Layout::checkNames(main.window(), caller);
     // At least two lines of text must fit.
     for (const char *box : {"txtDefinition", "txtSentence"}) {
         const auto &text = main.control<QWidget>(box);

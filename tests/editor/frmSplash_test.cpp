@@ -82,6 +82,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&splash));
         QCOMPARE(splash.findChildren<QLabel *>().size(), 7);
         Layout::checkNothingIsCut(splash);
+        Layout::checkNames(splash);
     }
 
     void theTimerRunsFromTheMomentTheSplashIsShown()

@@ -16,6 +16,7 @@ namespace {
 void checkNothingIsCut(QWidget &window)
 {
     Layout::checkNothingIsCut(window);
+    Layout::checkNames(window);
     const QByteArray size =
         u"%1 %2x%3"_s.arg(window.objectName()).arg(window.width()).arg(window.height()).toUtf8();
     QVERIFY2(window.screen()->geometry().contains(window.geometry()), size);

@@ -115,6 +115,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.size(), size);
         QVERIFY(Layout::visibleControls(dialog).size() > 30);
         Layout::checkNothingIsCut(dialog);
+        Layout::checkNames(dialog);
         for (const char *box : {"txtTopMargin", "txtFromWord", "txtCopies"}) {
             const auto &line = form.control<QLineEdit>(box);
             QVERIFY2(line.width() >= line.fontMetrics().horizontalAdvance(u"32767"_s) + 12, box);

@@ -2,6 +2,7 @@
 #include "support/Layout.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -66,5 +67,17 @@ void Layout::checkNothingIsCut(const QWidget &window, Caller caller)
         for (const QWidget *other : controls)
             if (other != control && overlap(*control, *other))
                 failTest(name + u" and "_s + other->objectName() + u" overlap"_s, caller);
+    }
+}
+
+void Layout::checkNames(const QWidget &window, Caller caller)
+{
+    const QList<QWidget *> controls = visibleControls(window);
+    for (QWidget *control : controls) {
+        if (control->focusPolicy() == Qt::NoFocus)
+            continue;
+        const QAccessibleInterface *tool = QAccessible::queryAccessibleInterface(control);
+        if (!tool || tool->text(QAccessible::Name).isEmpty())
+            failTest(control->objectName() + u" has no name for assistive tools"_s, caller);
     }
 }

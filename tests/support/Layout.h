@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whether the controls of a window can be seen whole.
+// Whether the controls of a window can be seen whole, and are named.
 #pragma once
 
 #include "support/Caller.h"
@@ -20,5 +20,7 @@ namespace Layout {
 // the window or by what contains it, overlaps another one, or, if it is a button, a label or a box
 // of one line, is smaller than its least size.
 void checkNothingIsCut(const QWidget &window, Caller caller = Caller::current());
+// Fails the test if a visible control that can have the keyboard has no name for assistive tools.
+void checkNames(const QWidget &window, Caller caller = Caller::current());
 
 } // namespace Layout
