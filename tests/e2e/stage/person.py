@@ -51,6 +51,10 @@ class Person:
         window = self.front()
         return tuple(window.find("text", name).text for name in EntryNames)
 
+    def reads(self, line):
+        """The line beside the word box."""
+        self.control("status bar", line)
+
     def row(self, number):
         """Item number, word, definition and sentence in a row of the grid; row 0 is the header."""
         grid = self.control("table", "Word list")

@@ -46,6 +46,7 @@ def picks_and_updates(guide, listed):
         until("the new sentence in the grid", lambda: person.page(),
               opening.rows_from(listed, 1))
         until("empty boxes", person.entry, Empty)
+        person.reads(f"{len(listed)} words · not saved · Save writes {opening.Name}.lwx")
 
 
 def adds(guide, listed):

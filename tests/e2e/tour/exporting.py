@@ -34,6 +34,7 @@ def take(guide):
         guide.picture("message-exported")
         person.answers(message, "OK")
         person.window(main)
+        person.reads(f"{len(guide.expected)} words · Save writes {target.name}")
     guide.keeps(target)
 
 

@@ -56,6 +56,7 @@ def take(guide):
 
     with guide.step("The first page of the list stands in the grid"):
         until("the first page", lambda: person.page(), rows_from(listed, 1))
+        person.reads(f"{len(listed)} words · Save writes {Name}.lwx")
         guide.picture("list-opened")
 
     with guide.step("Wheel, Page Down, End and Home leaf through the list"):
