@@ -68,7 +68,7 @@ public:
         showAndExpose(window);
     }
 
-    void hit()
+    void hit() const
     {
         board->clearHits();
         board->showHit(11);
@@ -85,7 +85,7 @@ public:
 
     SteppedTime time;
     QWidget window;
-    Ui::frmTanglewit ui;
+    Ui::frmTanglewit ui{};
     std::unique_ptr<GameBoard> board;
     GameState game;
 };
