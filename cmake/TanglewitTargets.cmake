@@ -28,7 +28,7 @@ target_include_directories(tanglewit_options INTERFACE "${PROJECT_SOURCE_DIR}/sr
 set(TANGLEWIT_INSTALL_DATA "${CMAKE_INSTALL_DATADIR}/tanglewit")
 # Two folders below lib/. For a library in a folder right below it, CPack has ldconfig called.
 set(TANGLEWIT_INSTALL_PLUGINS "${CMAKE_INSTALL_LIBDIR}/tanglewit/plugins")
-set(TANGLEWIT_INSTALL_HANDBOOK "${CMAKE_INSTALL_DATADIR}/doc/tanglewit/handbook")
+set(TANGLEWIT_INSTALL_HANDBOOK "${TANGLEWIT_INSTALL_DATA}/handbook")
 
 # The generated files that sources include, for tools that read sources without building them.
 add_custom_target(generated)

@@ -51,7 +51,7 @@ QString pathOf(Place place)
         return ownFolder(QStringLiteral(TANGLEWIT_PLUGINS_FROM_PROGRAM), QStringLiteral("plugins"));
     case Place::Handbook:
         return ownFolder(QStringLiteral(TANGLEWIT_HANDBOOK_FROM_PROGRAM),
-                         QStringLiteral("share/doc/tanglewit/handbook"));
+                         QStringLiteral("share/tanglewit/handbook"));
     }
     return {};
 }

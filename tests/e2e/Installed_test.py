@@ -93,7 +93,7 @@ class Installed(DesktopTest):
             person = self.starts()
         person.window(Untitled)
         person.presses("F1")
-        page = self.share / "doc" / "tanglewit" / "handbook" / "index.html"
+        page = self.share / "tanglewit" / "handbook" / "index.html"
         until("the handbook", lambda: opened.exists() and opened.read_text(), f"{page.as_uri()}\n")
         self.assertTrue(page.is_file())
 
