@@ -44,6 +44,8 @@ void PrintMenu::mnuPrint_Click()
         printer.setOrientation(m_printerDialog.Orientation);
         setScale(printer);
         frmPrint dialog(printer, m_window);
+        connect(&dialog, &frmPrint::handedOver, this,
+                [this, &printer] { Q_EMIT printed(printer.target()); });
         dialog.exec();
     });
 }
@@ -70,6 +72,8 @@ void PrintMenu::mnuPrintWholeList_Click()
     SystemPrinter &printer = this->printer();
     setScale(printer);
     tellPrinterError(printer, [this, &printer] {
-        printWordList(m_window, printer, WordListPrint::wholeList());
+        const PrintEnd end = printWordList(m_window, printer, WordListPrint::wholeList());
+        if (end == PrintEnd::HandedOver)
+            Q_EMIT printed(printer.target());
     });
 }

@@ -20,6 +20,10 @@ public:
     // The dialogs open over the window.
     PrintMenu(const Ui::frmMain &ui, QWidget *window);
 
+Q_SIGNALS:
+    // A command has printed: the name of the printer or of the file.
+    void printed(const QString &target);
+
 private:
     void mnuPrint_Click();
     void mnuPrinterSetup_Click();

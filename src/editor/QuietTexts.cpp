@@ -57,6 +57,11 @@ QString QuietTexts::ofTextFile(const QString &path)
     return QStringLiteral("Written to %1.").arg(QFileInfo(path).fileName());
 }
 
+QString QuietTexts::ofPrint(const QString &target)
+{
+    return QStringLiteral("Printed to %1.").arg(target);
+}
+
 QString QuietTexts::ofImport(int added)
 {
     return counted(added) + QStringLiteral(" added.");

@@ -33,5 +33,7 @@ struct SaveFile
 [[nodiscard]] QString ofImport(int added);
 // "Written to animals.txt."
 [[nodiscard]] QString ofTextFile(const QString &path);
+// "Printed to Office printer."
+[[nodiscard]] QString ofPrint(const QString &target);
 
 } // namespace QuietTexts

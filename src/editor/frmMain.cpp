@@ -77,6 +77,8 @@ void frmMain::connectHandlers()
     onClick(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
     onClick(m_ui->mnuExport, &frmMain::mnuExport_Click);
     onClick(m_ui->mnuImport, &frmMain::mnuImport_Click);
+    connect(m_printMenu.get(), &PrintMenu::printed, this,
+            [this](const QString &target) { m_quietLine->say(QuietTexts::ofPrint(target)); });
     connect(m_ui->mnuExit, &QAction::triggered, this, &frmMain::close);
     ::onClick(m_ui->mnuDeleteWord, m_editor.get(), &WordEditor::mnuDeleteWord_Click);
     connect(m_editor.get(), &WordEditor::changed, m_ui->mnuSave,

@@ -59,6 +59,11 @@ QStringList SystemPrinter::installed()
     return QPrinterInfo::availablePrinterNames() + QStringList(printToPdf());
 }
 
+QString SystemPrinter::target() const
+{
+    return printsToFile() ? m_fileDialog.FileTitle : m_deviceName;
+}
+
 void SystemPrinter::select(const QString &deviceName)
 {
     const QPageLayout paper = m_device->pageLayout();

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] static QStringList installed();
 
     [[nodiscard]] QString DeviceName() const { return m_deviceName; }
+    // Where a document goes: the device name, or the name of the PDF file chosen last.
+    [[nodiscard]] QString target() const;
     // Selects an installed printer. Paper, orientation and copies stay.
     void select(const QString &deviceName);
 

@@ -11,20 +11,21 @@
 
 using namespace Module1;
 
-void printWordList(QWidget *window, SystemPrinter &printer, const WordListPrint &job)
+PrintEnd printWordList(QWidget *window, SystemPrinter &printer, const WordListPrint &job)
 {
     if (gVocabList().NumWords() < 1) {
         MsgBox(QStringLiteral("Not printed: Your current wordlist is empty."));
-        return;
+        return PrintEnd::EmptyList;
     }
     const QString title = gFileTitle.isEmpty() ? QStringLiteral("Untitled") : gFileTitle;
     if (!printer.StartDoc(window, title))
-        return;
+        return PrintEnd::Cancelled;
     ProgressShown progress(window, ProgressShown::Cancel::Offered);
-    job.print(printer, gVocabList(), [&progress](int done, int total) {
+    const bool isPrinted = job.print(printer, gVocabList(), [&progress](int done, int total) {
         progress.show(done, total);
         return !progress.wasCancelled();
     });
+    return isPrinted ? PrintEnd::HandedOver : PrintEnd::Cancelled;
 }
 
 void tellPrinterError(const SystemPrinter &printer, const std::function<void()> &action)

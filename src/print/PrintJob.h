@@ -8,9 +8,16 @@ class QWidget;
 class SystemPrinter;
 struct WordListPrint;
 
+enum class PrintEnd {
+    HandedOver, // to the printer's queue, or written to the file
+    Cancelled,  // in the choice of a file or while printing
+    EmptyList
+};
+
 // Prints entries of the open list, or shows a message if the list is empty. A job that takes a
 // while shows its progress over the window, with Cancel.
-void printWordList(QWidget *window, SystemPrinter &printer, const WordListPrint &job);
+[[nodiscard]] PrintEnd printWordList(QWidget *window, SystemPrinter &printer,
+                                     const WordListPrint &job);
 
 // Runs the action. After RunTimeError PrinterFault a message names the printer; other errors are
 // not caught.

@@ -183,13 +183,14 @@ void frmPrint::showPage()
 void frmPrint::cmdPrint_Click()
 {
     takeTypedText();
-    bool printed = false;
-    tellPrinterError(m_printer, [this, &printed] {
+    auto end = PrintEnd::Cancelled; // also after an error
+    tellPrinterError(m_printer, [this, &end] {
         const PagePreview::Pause pause(*m_ui->preview); // no layout while the job prints
-        printWordList(this, m_printer, WordListPrint::chosen());
-        printed = true;
+        end = printWordList(this, m_printer, WordListPrint::chosen());
     });
-    if (printed)
+    if (end == PrintEnd::HandedOver)
+        Q_EMIT handedOver();
+    if (end != PrintEnd::Cancelled)
         close();
 }
 

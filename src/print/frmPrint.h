@@ -23,6 +23,10 @@ public:
     explicit frmPrint(SystemPrinter &printer, QWidget *parent = nullptr);
     ~frmPrint() override;
 
+Q_SIGNALS:
+    // The list was printed.
+    void handedOver();
+
 protected:
     void Form_Load() override;
     bool Form_QueryUnload() override;

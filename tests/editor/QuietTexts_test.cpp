@@ -60,6 +60,7 @@ private Q_SLOTS:
         QCOMPARE(QuietTexts::ofImport(0), u"No words added."_s);
         QCOMPARE(QuietTexts::ofImport(1), u"1 word added."_s);
         QCOMPARE(QuietTexts::ofTextFile(u"/home/a/words.txt"_s), u"Written to words.txt."_s);
+        QCOMPARE(QuietTexts::ofPrint(u"words.pdf"_s), u"Printed to words.pdf."_s);
         QCOMPARE(QuietTexts::ofHit(2, 3), u"2 of 3 found. A click on its row changes it."_s);
     }
 };

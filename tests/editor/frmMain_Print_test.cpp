@@ -2,6 +2,7 @@
 // The main window's printing commands, where "Print to PDF" is the only printer.
 #include "core/ListTools.h"
 #include "editor/MainWindow.h"
+#include "editor/QuietLabel.h"
 #include "print/OutputOf.h"
 #include "support/FormTest.h"
 #include "support/TestFiles.h"
@@ -253,6 +254,35 @@ private Q_SLOTS:
             QVERIFY(dialog.selectedFiles().constFirst().endsWith(u"/Untitled.pdf"));
         });
         m_main->choose("mnuPrintWholeList");
+    }
+
+    void aPrintedListIsReportedInTheQuietLine()
+    {
+        const auto &line = m_main->control<QuietLabel>("lblQuiet");
+        const QString before = line.text();
+        m_main->answers.cancelFileDialog();
+        m_main->choose("mnuPrintWholeList");
+        QCOMPARE(line.text(), before);
+        const QString file = QFileInfo(printedWholeList()).fileName();
+        QCOMPARE(line.text(), u"Printed to %1."_s.arg(file));
+        m_main->answers.useForm("frmPrint", [this](QDialog &dialog) {
+            m_main->answers.chooseFile(m_main->path(u"chosen.pdf"_s));
+            Controls::click(in<QPushButton>(dialog, "cmdPrint"));
+        });
+        m_main->choose("mnuPrint");
+        QCOMPARE(line.text(), u"Printed to chosen.pdf."_s);
+    }
+
+    void afterCancelInTheChoiceOfAFileThePrintDialogIsOpen()
+    {
+        m_main->answers.useForm("frmPrint", [this](QDialog &dialog) {
+            m_main->answers.cancelFileDialog();
+            Controls::click(in<QPushButton>(dialog, "cmdPrint"));
+            QVERIFY(dialog.isVisible());
+            Controls::click(in<QPushButton>(dialog, "cmdCancel"));
+        });
+        m_main->choose("mnuPrint");
+        QVERIFY(!m_main->control<QuietLabel>("lblQuiet").text().startsWith(u"Printed"));
     }
 
 private:

@@ -364,6 +364,7 @@ private Q_SLOTS:
         looking.start(5);
         form.click("cmdPrint");
         QVERIFY(cancelled);
+        QVERIFY(form.dialog().isVisible());
         QCOMPARE(m_server->jobs(Paper), before);
     }
 

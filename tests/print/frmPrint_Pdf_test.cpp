@@ -200,7 +200,6 @@ private Q_SLOTS:
         form.click("cmdPrint");
         QVERIFY(form.answers.allSeen());
         QCOMPARE(readFile(path), QByteArray("old"));
-        form.open();
         form.answers.chooseFile(path);
         form.answers.answerOverwrite(u"list.pdf"_s, QMessageBox::Yes);
         form.click("cmdPrint");
@@ -218,9 +217,10 @@ private Q_SLOTS:
         form.typeAndLeave("txtTopMargin", u"2"_s);
         form.click("cmdPrint");
         QVERIFY(form.answers.allSeen());
-        QVERIFY(!form.dialog().isVisible());
+        QVERIFY(form.dialog().isVisible());
         QVERIFY(pdfFiles(form).isEmpty());
         QCOMPARE(TopMargin, Currency(2));
+        QVERIFY(textOf(print(form)).contains(u"w20:"_s));
     }
 
     void aFileThatCannotBeWrittenIsReported()
@@ -274,10 +274,10 @@ private Q_SLOTS:
         QCOMPARE(pdfFiles(form), old.isEmpty() ? QStringList() : QStringList(u"list.pdf"_s));
         if (!old.isEmpty())
             QCOMPARE(readFile(path), old);
-        // The settings stay, and the next job is printed.
-        form.printer.Copies = 1;
+        // The dialog stays for the next job.
+        QVERIFY(form.dialog().isVisible());
+        form.control<StepBar>("vsc_Copies").setValue(1);
         ToWord = 2;
-        form.open();
         const std::vector<PrintedWord> words = wordsOnPages(print(form));
         QCOMPARE(words.front().text, u"1."_s);
         QCOMPARE(words.back().page, 1);

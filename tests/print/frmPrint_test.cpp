@@ -150,6 +150,7 @@ private Q_SLOTS:
         form.answers.cancelFileDialog();
         form.click("cmdPrint");
         QVERIFY(form.answers.allSeen());
+        QVERIFY(form.dialog().isVisible());
         QCOMPARE(gVocabList().CurrentWord(), Integer(3));
     }
 
