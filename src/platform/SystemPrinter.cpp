@@ -23,6 +23,10 @@
 
 namespace {
 
+// The border that printing to a file leaves empty, in inches. It is that of many printers: text on
+// the edge of the sheet would be lost when the file is printed.
+constexpr double FileBorder = 0.25;
+
 // Hides the choice of a PDF file, which the program asks for at the time of printing. The dialog
 // insists on a file name.
 void hideFile(QPrintDialog &dialog, const QString &newFile)
@@ -94,10 +98,19 @@ void SystemPrinter::setOrientation(Orientation orientation)
     measure();
 }
 
+QPageLayout SystemPrinter::paper() const
+{
+    QPageLayout paper = m_device->pageLayout();
+    if (printsToFile()) {
+        paper.setUnits(QPageLayout::Inch);
+        paper.setMinimumMargins({FileBorder, FileBorder, FileBorder, FileBorder});
+    }
+    return paper;
+}
+
 void SystemPrinter::measure()
 {
-    const QPageLayout paper = m_device->pageLayout();
-    m_metrics = std::make_shared<PrintMetrics>(sheetSize(paper), printableArea(paper),
+    m_metrics = std::make_shared<PrintMetrics>(sheetSize(paper()), printableArea(paper()),
                                                m_device->resolution());
 }
 
@@ -147,8 +160,8 @@ bool SystemPrinter::StartDoc(QWidget *parent, const QString &title)
         return false;
     m_device->setCopyCount(Copies.toInt());
     m_device->setDocName(title);
-    m_document = std::make_unique<PrintDocument>(
-        PrintedPaper{m_device->pageLayout(), m_device->resolution(), title});
+    m_document =
+        std::make_unique<PrintDocument>(PrintedPaper{paper(), m_device->resolution(), title});
     return true;
 }
 

@@ -12,6 +12,7 @@
 
 class PrintDocument;
 class PrintMetrics;
+class QPageLayout;
 class QPrinter;
 class QWidget;
 
@@ -62,6 +63,8 @@ protected:
 
 private:
     [[nodiscard]] bool printsToFile() const { return m_deviceName == printToPdf(); }
+    // With the borders that are left empty.
+    [[nodiscard]] QPageLayout paper() const;
     void measure();
     void checkQueue();
     [[nodiscard]] bool askForFile(QWidget *parent, const QString &title);

@@ -150,6 +150,35 @@ private Q_SLOTS:
         QCOMPARE(textOf(file).count(u'W'), 300);
     }
 
+    void withoutMarginsTheBorderOfTheSheetStaysEmpty_data()
+    {
+        QTest::addColumn<bool>("landscape");
+        QTest::newRow("portrait") << false;
+        QTest::newRow("landscape") << true;
+    }
+
+    void withoutMarginsTheBorderOfTheSheetStaysEmpty()
+    {
+        QFETCH(bool, landscape);
+        constexpr double Border = 0.25 * PointsPerInch;
+        PrintForm form;
+        fillWithProse(40);
+        form.click(landscape ? "optLandscape" : "optPortrait");
+        const std::vector<PrintedWord> words = wordsOnPages(print(form));
+        const PrintedWord &first = words.front();
+        QCOMPARE(first.sheet.width() > first.sheet.height(), landscape);
+        const QRectF body = QRectF({}, first.sheet).adjusted(Border, Border, -Border, -Border);
+        // The number begins with a blank, and the box is slightly below the top of the line.
+        QVERIFY(first.box.left() >= body.left() && first.box.left() < body.left() + 4);
+        QVERIFY(first.box.top() >= body.top() - 4 && first.box.top() < body.top() + 4);
+        double right = 0;
+        for (const PrintedWord &word : words) {
+            QVERIFY(word.box.left() > body.left() - 1);
+            right = std::max(right, word.box.right());
+        }
+        QVERIFY(right < body.right() + 1 && right > body.right() - 60);
+    }
+
     void thePagesAreThoseOfThePreview_data()
     {
         QTest::addColumn<bool>("landscape");
