@@ -29,6 +29,9 @@ MarginsFrame::MarginsFrame(const Ui::frmPrint &ui)
 {
     for (const Margin &margin : m_margins) {
         margin.bar.setRange(stepsOf(SmallestMargin), stepsOf(LargestMargin));
+        margin.bar.setBox(&margin.box);
+        connect(&margin.bar, &StepBar::boxStepped, this,
+                [this, &margin] { runGuarded([this, &margin] { txtMargin_LostFocus(margin); }); });
         new LostFocus(&margin.box, [this, &margin] { txtMargin_LostFocus(margin); });
         if (&margin.bar == ui.vsc_BottomMargin) // the only bar with such a handler
             new LostFocus(&margin.bar, [this, &margin] { txtMargin_LostFocus(margin); });

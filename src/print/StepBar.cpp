@@ -41,10 +41,34 @@ void StepBar::raiseUpwards(int action)
     }
 }
 
+void StepBar::setBox(QWidget *box)
+{
+    m_box = box;
+    box->installEventFilter(this);
+}
+
+bool StepBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_box || event->type() != QEvent::Wheel)
+        return QScrollBar::eventFilter(watched, event);
+    turn(*static_cast<QWheelEvent *>(event));
+    return true;
+}
+
 void StepBar::wheelEvent(QWheelEvent *event)
 {
-    const int steps = m_wheel.turned(event->angleDelta().y());
+    turn(*event);
+}
+
+void StepBar::turn(QWheelEvent &event)
+{
+    const bool isBoxInUse = m_box && m_box->hasFocus();
+    event.setAccepted(isBoxInUse || hasFocus());
+    if (!event.isAccepted())
+        return;
+    const int steps = m_wheel.turned(event.angleDelta().y());
+    if (steps != 0 && isBoxInUse)
+        Q_EMIT boxStepped();
     for (int i = 0; i < std::abs(steps); ++i)
         triggerAction(steps > 0 ? SliderSingleStepSub : SliderSingleStepAdd);
-    event->accept();
 }

@@ -28,6 +28,7 @@ frmPrint::frmPrint(SystemPrinter &printer, QWidget *parent)
     m_range = std::make_unique<RangeFrame>(*m_ui);
     m_margins = std::make_unique<MarginsFrame>(*m_ui);
     m_ui->vsc_Copies->setRange(1, Integer::Max);
+    m_ui->vsc_Copies->setBox(m_ui->txtCopies);
     connectHandlers();
     connectPreview();
 }

@@ -3,6 +3,7 @@
 
 #include "support/FormTest.h"
 
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -17,6 +18,7 @@ private Q_SLOTS:
         m_bar.setPageStep(5);
         m_bar.setValue(10);
         m_bar.show();
+        QVERIFY(QTest::qWaitForWindowActive(&m_bar));
         m_bar.setFocus();
     }
 
@@ -95,13 +97,40 @@ private Q_SLOTS:
         QCOMPARE(m_bar.value(), 10);
     }
 
+    void theWheelStepsTheNumberOnlyWhereTheFocusIs()
+    {
+        QWidget window;
+        auto *other = new QLineEdit(&window);
+        auto *box = new QLineEdit(&window);
+        auto *bar = new StepBar(&window);
+        bar->setRange(0, 30);
+        bar->setValue(10);
+        bar->setBox(box);
+        QSignalSpy boxStepped(bar, &StepBar::boxStepped);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (QWidget *focus : {box, static_cast<QLineEdit *>(nullptr), other}) {
+            (focus ? focus : bar)->setFocus();
+            const bool isHere = focus != other;
+            for (QWidget *under : {static_cast<QWidget *>(box), static_cast<QWidget *>(bar)}) {
+                bar->setValue(10);
+                QCOMPARE(turn(120, *under), isHere);
+                QCOMPARE(bar->value(), isHere ? 11 : 10);
+            }
+        }
+        QCOMPARE(boxStepped.count(), 2); // the box had the focus for two of the turns
+    }
+
 private:
     void clickAt(int y) { QTest::mouseClick(&m_bar, Qt::LeftButton, {}, {m_bar.width() / 2, y}); }
-    void turn(int delta)
+    void turn(int delta) { QVERIFY(turn(delta, m_bar)); }
+    // False if the turn is left to others.
+    static bool turn(int delta, QWidget &under)
     {
-        QWheelEvent wheel({5, 5}, m_bar.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, {}, {},
+        QWheelEvent wheel({5, 5}, under.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, {}, {},
                           Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&m_bar, &wheel);
+        QApplication::sendEvent(&under, &wheel);
+        return wheel.isAccepted();
     }
 
     StepBar m_bar;

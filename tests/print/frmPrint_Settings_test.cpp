@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QWheelEvent>
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
@@ -37,6 +38,14 @@ struct End
     const char *box;
     Integer *setting;
 };
+
+void turnWheel(QWidget &under, int delta)
+{
+    const QPointF middle = QRectF(under.rect()).center();
+    QWheelEvent wheel(middle, under.mapToGlobal(middle), {}, {0, delta}, {}, {}, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(&under, &wheel);
+}
 
 const std::vector<End> Ends{{"txtFromWord", &FromWord}, {"txtToWord", &ToWord}};
 
@@ -384,6 +393,25 @@ private Q_SLOTS:
             }
             QCOMPARE(form.text(margin.box()), u"3.00"_s);
         }
+    }
+
+    void theWheelStepsFromTheTypedMargin()
+    {
+        PrintForm form;
+        auto &box = form.control<QLineEdit>("txtLeftMargin");
+        form.type("txtLeftMargin", u"2.54"_s);
+        turnWheel(box, 120);
+        QCOMPARE(LeftMargin, inches(u"2.6"_s));
+        QCOMPARE(form.text("txtLeftMargin"), u"2.60"_s);
+        form.control<QWidget>("lstPrinter").setFocus();
+        turnWheel(box, 120);
+        turnWheel(form.control<StepBar>("vsc_LeftMargin"), 120);
+        turnWheel(form.control<StepBar>("vsc_Copies"), 120);
+        QCOMPARE(LeftMargin, inches(u"2.6"_s));
+        QCOMPARE(form.printer.Copies, Integer(1));
+        form.control<QWidget>("txtCopies").setFocus();
+        turnWheel(form.control<QLineEdit>("txtCopies"), 120);
+        QCOMPARE(form.printer.Copies, Integer(2));
     }
 
     void onlyTheBottomBarTakesTheTypedTextWhenItLosesTheFocus()
