@@ -19,7 +19,8 @@ namespace {
 constexpr int LongestWait = 20; // milliseconds that setPages lays out the page in view
 constexpr int IdleSlice = 8;    // milliseconds of layout before other events are handled
 constexpr int Border = 16;      // pixels around the sheet
-constexpr int Step = 40;        // pixels of one step of a scroll bar
+constexpr QColor MarginColour(0x5B, 0x84, 0xB8);
+constexpr int Step = 40; // pixels of one step of a scroll bar
 
 QColor groundColour(const QPalette &palette)
 {
@@ -214,12 +215,28 @@ void PagePreview::paintEvent(QPaintEvent * /*event*/)
     for (int i = 1; i <= ShadowSteps; ++i)
         painter.drawRoundedRect(m_sheet.adjusted(1 - i, 2 - i, i, 1 + i), i, i);
     painter.fillRect(m_sheet, Qt::white);
+    paintMargins(painter);
     if (m_textsKnown || m_pages->isComplete()) {
         paintTexts(painter);
     } else {
         painter.setPen(Qt::black);
         painter.drawText(m_sheet, Qt::AlignCenter, QStringLiteral("Laying out..."));
     }
+}
+
+void PagePreview::paintMargins(QPainter &painter) const
+{
+    const double pixelsPerInch = m_sheet.width() / m_pages->metrics().sheet().width();
+    const QRectF text = m_pages->textArea();
+    const double left = m_sheet.left() + text.left() * pixelsPerInch;
+    const double right = m_sheet.left() + text.right() * pixelsPerInch;
+    const double top = m_sheet.top() + text.top() * pixelsPerInch;
+    const double bottom = m_sheet.top() + text.bottom() * pixelsPerInch;
+    painter.setPen(QPen(MarginColour, 1, Qt::DashLine));
+    painter.drawLine(QPointF(left, m_sheet.top()), QPointF(left, m_sheet.bottom()));
+    painter.drawLine(QPointF(right, m_sheet.top()), QPointF(right, m_sheet.bottom()));
+    painter.drawLine(QPointF(m_sheet.left(), top), QPointF(m_sheet.right(), top));
+    painter.drawLine(QPointF(m_sheet.left(), bottom), QPointF(m_sheet.right(), bottom));
 }
 
 void PagePreview::paintTexts(QPainter &painter) const

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Shows one page of a print job at a time, as a whole or in its actual size.
+// Shows one page of a print job at a time, as a whole or in its actual size, with the lines of its
+// margins.
 #pragma once
 
 #include "platform/WheelSteps.h"
@@ -37,6 +38,7 @@ public:
     [[nodiscard]] int page() const { return m_page; } // from 1; 0 = none
     [[nodiscard]] bool isFirst() const { return m_page <= 1; }
     [[nodiscard]] bool isLast() const;
+    [[nodiscard]] bool isCounted() const { return !m_pages || m_pages->isComplete(); }
     // "Page 2 of 7", or "Page 2 of about 7" while the pages are being counted.
     [[nodiscard]] QString pageText() const;
 
@@ -64,6 +66,7 @@ private:
     void takeKey(QKeyEvent &event);
     void placeSheet();
     void showTexts();
+    void paintMargins(QPainter &painter) const;
     void paintTexts(QPainter &painter) const;
 
     std::unique_ptr<PreviewPages> m_pages;

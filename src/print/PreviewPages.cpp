@@ -122,6 +122,12 @@ bool PreviewPages::knows(int page) const
     return page >= 1 && (isComplete() ? page <= count() : std::cmp_less(page, m_pageStart.size()));
 }
 
+QRectF PreviewPages::textArea() const
+{
+    const PageFrame &frame = m_job.frame;
+    return m_metrics->area().adjusted(frame.left, frame.top, -frame.right, -frame.bottom);
+}
+
 std::vector<PreviewPages::Text> PreviewPages::texts(int page) const
 {
     const int wanted = pageOfPass(page);

@@ -7,6 +7,7 @@
 #include "print/WordListPrint.h"
 
 #include <QPointF>
+#include <QRectF>
 
 #include <memory>
 #include <vector>
@@ -39,6 +40,8 @@ public:
     // Whether the page is laid out. Pages count from 1.
     [[nodiscard]] bool knows(int page) const;
     [[nodiscard]] std::vector<Text> texts(int page) const;
+    // What the margins leave of the sheet, in inches from its corner.
+    [[nodiscard]] QRectF textArea() const;
     [[nodiscard]] const PrintMetrics &metrics() const { return *m_metrics; }
 
 private:

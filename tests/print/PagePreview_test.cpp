@@ -204,6 +204,30 @@ private Q_SLOTS:
         QVERIFY(ground.lightness() < window.lightness());
     }
 
+    void theMarginsAreDrawnAsLines()
+    {
+        const auto isLineAt = [this](double x) { // whether most of the lower half is coloured
+            const QImage picture = m_preview->viewport()->grab().toImage();
+            int coloured = 0;
+            for (int y = picture.height() / 2; y < picture.height() - 20; ++y)
+                for (const int near : {-1, 0, 1})
+                    if (picture.pixelColor(qRound(x) + near, y).saturation() > 40) {
+                        ++coloured;
+                        break;
+                    }
+            return coloured > (picture.height() / 2 - 20) / 2;
+        };
+        const double inch = (m_preview->viewport()->height() - 32) / 11.0; // of the sheet
+        const double left = (m_preview->viewport()->width() - 8 * inch) / 2;
+        QVERIFY(!isLineAt(left + 2 * inch) && !isLineAt(left + 5 * inch));
+        LeftMargin = Currency(2);
+        RightMargin = Currency(3);
+        setPages();
+        QTRY_VERIFY(isCounted());
+        QVERIFY(isLineAt(left + 2 * inch));
+        QVERIFY(isLineAt(left + 5 * inch));
+    }
+
 private:
     void setPages()
     {
