@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "core/cVocabList.h"
+#include "platform/LostFocus.h"
 #include "platform/SystemPrinter.h"
 #include "print/MarginsFrame.h"
 #include "print/PrintJob.h"
@@ -10,6 +11,7 @@
 #include "print/WordListPrint.h"
 #include "print/ui_frmPrint.h"
 
+#include <QScreen>
 #include <QShortcut>
 
 using namespace Module1;
@@ -18,6 +20,8 @@ namespace {
 
 const QString Portrait = QStringLiteral("Portrait");
 const QString Landscape = QStringLiteral("Landscape");
+
+constexpr QSize FrameOfWindow(16, 48); // pixels
 
 } // namespace
 
@@ -53,9 +57,10 @@ void frmPrint::connectHandlers()
 void frmPrint::connectPreview()
 {
     PagePreview *preview = m_ui->preview;
-    const auto turnsTo = [preview](QAbstractButton *button, PagePreview::Page page) {
+    const auto turnsTo = [this, preview](QAbstractButton *button, PagePreview::Page page) {
         connect(button, &QAbstractButton::clicked, preview,
                 [preview, page] { runGuarded([preview, page] { preview->goTo(page); }); });
+        new LostFocus(button, [this] { showPage(); });
     };
     turnsTo(m_ui->cmdFirstPage, PagePreview::Page::First);
     turnsTo(m_ui->cmdPreviousPage, PagePreview::Page::Previous);
@@ -74,6 +79,7 @@ void frmPrint::connectPreview()
 
 void frmPrint::Form_Load()
 {
+    resize(sizeHint().expandedTo(size()).boundedTo(screen()->availableSize() - FrameOfWindow));
     fillPrinters();
     m_margins->show();
     m_range->show();
@@ -167,14 +173,16 @@ void frmPrint::showPreview()
 void frmPrint::showPage()
 {
     const PagePreview &preview = *m_ui->preview;
-    if (const QString text = preview.pageText(); text != m_ui->lblPage->text()) {
-        m_ui->lblPage->setText(text);
-        m_ui->preview->setAccessibleDescription(text); // for screen readers
-    }
-    m_ui->cmdFirstPage->setEnabled(!preview.isFirst());
-    m_ui->cmdPreviousPage->setEnabled(!preview.isFirst());
-    m_ui->cmdNextPage->setEnabled(!preview.isLast());
-    m_ui->cmdLastPage->setEnabled(!preview.isLast());
+    m_ui->lblPage->show(preview.pageText(), preview.isCounted() ? PageLabel::Count::Known
+                                                                : PageLabel::Count::Estimated);
+    // A button that is disabled would lose the focus.
+    const auto enable = [](QWidget *button, bool enabled) {
+        button->setEnabled(enabled || button->hasFocus());
+    };
+    enable(m_ui->cmdFirstPage, !preview.isFirst());
+    enable(m_ui->cmdPreviousPage, !preview.isFirst());
+    enable(m_ui->cmdNextPage, !preview.isLast());
+    enable(m_ui->cmdLastPage, !preview.isLast());
     const bool isWhole = preview.zoom() == PagePreview::Zoom::WholePage;
     m_ui->cmdZoom->setText(isWhole ? QStringLiteral("Actual size") : QStringLiteral("Whole page"));
     m_ui->cmdZoom->setToolTip(isWhole ? QStringLiteral("Show the page as large as on paper")

@@ -5,6 +5,7 @@
 #include "support/FormTest.h"
 #include "support/Layout.h"
 
+#include <QAccessible>
 #include <QLabel>
 
 #include <algorithm>
@@ -82,6 +83,11 @@ private:
     QPalette m_palette = QApplication::palette();
 };
 
+bool isCounted(PrintForm &form)
+{
+    return !form.control<QLabel>("lblPage").text().contains(u"about"_s);
+}
+
 } // namespace
 
 class frmPrint_Layout_test : public QObject
@@ -121,6 +127,45 @@ private Q_SLOTS:
             QVERIFY2(line.width() >= line.fontMetrics().horizontalAdvance(u"32767"_s) + 12, box);
             QVERIFY2(line.height() >= line.fontMetrics().height() + 4, box);
         }
+    }
+
+    void onALowScreenTheSettingsScrollAndTheButtonsStay_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<double>("fontScale");
+        const QSize frame(16, 48);
+        QTest::newRow("911x512") << QSize(911, 512) - frame << 1.0;
+        QTest::newRow("800x600") << QSize(800, 600) - frame << 1.0;
+        QTest::newRow("768x1024") << QSize(768, 1024) - frame << 1.0;
+        QTest::newRow("1024x768, large font") << QSize(1024, 768) - frame << 1.5;
+        QTest::newRow("1920x1080, very large font") << QSize(1920, 1080) - frame << 2.0;
+    }
+
+    void onALowScreenTheSettingsScrollAndTheButtonsStay()
+    {
+        QFETCH(QSize, size);
+        QFETCH(double, fontScale);
+        const Looks looks(fontScale);
+        PrintForm form;
+        form.click("optSubset");
+        form.dialog().resize(size);
+        QCoreApplication::processEvents();
+        QCOMPARE(form.dialog().size(), size);
+        const auto isInView = [&form](const QWidget &control) {
+            return !control.visibleRegion().isEmpty() &&
+                   control.visibleRegion().boundingRect() == control.rect();
+        };
+        auto &settings = form.control<QWidget>("settings");
+        const QStringList order = Controls::tabRound(Qt::Key_Tab);
+        QVERIFY(order.size() > 15);
+        for (const QString &name : order) {
+            const auto &control = form.control<QWidget>(Controls::focusedControl().toUtf8());
+            QVERIFY2(isInView(control), qPrintable(name));
+            Controls::press(Qt::Key_Tab); // scrolls the next one into view
+            for (const char *button : {"cmdPrint", "cmdCancel", "cmdZoom", "lblPage"})
+                QVERIFY2(isInView(form.control<QWidget>(button)), button);
+        }
+        QVERIFY(settings.width() >= settings.minimumSizeHint().width());
     }
 
     void theDialogFitsOnASmallScreen()
@@ -244,8 +289,51 @@ private Q_SLOTS:
         QVERIFY(!form.isEnabled("cmdLastPage") && !form.isEnabled("cmdNextPage"));
         form.click("cmdFirstPage");
         QVERIFY(shows(u"1"_s));
-        QCOMPARE(form.control<QWidget>("preview").accessibleDescription(),
-                 form.control<QLabel>("lblPage").text());
+    }
+
+    void aStepToTheLastPageKeepsTheKeyboard()
+    {
+        PrintForm form(100);
+        QTRY_VERIFY(isCounted(form));
+        form.control<QWidget>("cmdNextPage").setFocus();
+        while (!form.control<QLabel>("lblPage").text().startsWith(u"Page 6"))
+            Controls::press(Qt::Key_Space);
+        QCOMPARE(form.control<QLabel>("lblPage").text(), u"Page 6 of 6"_s);
+        QCOMPARE(Controls::focusedControl(), u"cmdNextPage"_s);
+        Controls::press(Qt::Key_Space);
+        QCOMPARE(form.control<QLabel>("lblPage").text(), u"Page 6 of 6"_s);
+        Controls::press(Qt::Key_Tab, Qt::ShiftModifier);
+        QCOMPARE(Controls::focusedControl(), u"cmdPreviousPage"_s);
+        QVERIFY(!form.isEnabled("cmdNextPage"));
+    }
+
+    void aScreenReaderHearsThePagesOnceTheyAreCounted()
+    {
+        // A screen reader is told of each change of the name. QLabel tells of a text only without
+        // one.
+        PrintForm form(20'000);
+        const auto &label = form.control<QLabel>("lblPage");
+        QStringList heard{label.accessibleName()};
+        QVERIFY(label.text().contains(u"about"_s));
+        QCOMPARE(heard, QStringList(u"Pages"_s));
+        int changes = 0;
+        const auto hear = [&] {
+            ++changes;
+            if (label.accessibleName() != heard.constLast())
+                heard += label.accessibleName();
+        };
+        connect(&form.control<PagePreview>("preview"), &PagePreview::changed, this, hear);
+        QTRY_VERIFY(isCounted(form));
+        QVERIFY(changes > 2);
+        const QString text = label.text();
+        QCOMPARE(heard, QStringList({u"Pages"_s, text}));
+        Controls::press(Qt::Key_PageDown, Qt::ControlModifier);
+        QVERIFY(label.text() != text);
+        QCOMPARE(label.accessibleName(), label.text());
+        QCOMPARE(form.control<QWidget>("preview").accessibleDescription(), QString());
+        const auto *accessible =
+            QAccessible::queryAccessibleInterface(&form.control<QLabel>("lblPage"));
+        QCOMPARE(accessible->role(), QAccessible::StatusBar);
     }
 
     void thePreviewFollowsEachSetting()
