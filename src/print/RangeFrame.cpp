@@ -29,6 +29,7 @@ void RangeFrame::show()
         chooseWholeList();
         return;
     }
+    showPlaceholders();
     m_ui.txtFromWord->setText(FromWord.toText());
     m_ui.txtToWord->setText(ToWord.toText());
 }
@@ -51,6 +52,12 @@ void RangeFrame::optPrintAllWords_Click()
 void RangeFrame::optSubset_Click()
 {
     enableBoxes(true);
+    const auto toFrom = [this] { m_ui.txtFromWord->setFocus(Qt::TabFocusReason); };
+    // An arrow key clicks the option before it moves the focus to it.
+    if (m_ui.optSubset->hasFocus())
+        toFrom();
+    else
+        QMetaObject::invokeMethod(m_ui.txtFromWord, toFrom, Qt::QueuedConnection);
 }
 
 void RangeFrame::txtFromWord_LostFocus()
@@ -69,6 +76,7 @@ void RangeFrame::takePosition(QLineEdit &box, Integer &setting)
         return;
     if (const auto typed = positionFromText(box.text()))
         setting = positionInList(*typed, gVocabList().NumWords());
+    showPlaceholders();
     box.setText(setting.toText());
     Q_EMIT changed();
 }
@@ -77,6 +85,14 @@ void RangeFrame::chooseWholeList()
 {
     FromWord = 1;
     ToWord = gVocabList().NumWords();
+    showPlaceholders();
+}
+
+// An empty box shows what is printed.
+void RangeFrame::showPlaceholders()
+{
+    m_ui.txtFromWord->setPlaceholderText(FromWord.toText());
+    m_ui.txtToWord->setPlaceholderText(ToWord.toText());
 }
 
 void RangeFrame::enableBoxes(bool enabled)

@@ -34,6 +34,7 @@ private:
     void txtToWord_LostFocus();
     void takePosition(QLineEdit &box, Integer &setting);
     void chooseWholeList();
+    void showPlaceholders();
     void enableBoxes(bool enabled);
 
     const Ui::frmPrint &m_ui;

@@ -274,6 +274,65 @@ private Q_SLOTS:
         QVERIFY(form.isEnabled("txtFromWord"));
     }
 
+    void theSubsetPutsTheKeyboardIntoFrom_data()
+    {
+        QTest::addColumn<Qt::Key>("key"); // 0 = the mouse
+        QTest::newRow("the mouse") << Qt::Key(0);
+        QTest::newRow("Space") << Qt::Key_Space;
+        QTest::newRow("an arrow key") << Qt::Key_Down;
+    }
+
+    void theSubsetPutsTheKeyboardIntoFrom()
+    {
+        QFETCH(Qt::Key, key);
+        PrintForm form;
+        FromWord = 3;
+        ToWord = 7;
+        form.open();
+        auto &option =
+            form.control<QWidget>(key == Qt::Key_Down ? "optPrintAllWords" : "optSubset");
+        option.setFocus();
+        if (key == Qt::Key(0))
+            form.click("optSubset");
+        else
+            Controls::press(key);
+        QVERIFY(form.isChecked("optSubset"));
+        QTRY_COMPARE(Controls::focusedControl(), u"txtFromWord"_s);
+        QCOMPARE(form.control<QLineEdit>("txtFromWord").selectedText(), u"3"_s);
+    }
+
+    void emptyBoxesShowTheRange()
+    {
+        PrintForm form;
+        const auto from = [&form] {
+            return form.control<QLineEdit>("txtFromWord").placeholderText();
+        };
+        const auto to = [&form] { return form.control<QLineEdit>("txtToWord").placeholderText(); };
+        QCOMPARE(from(), u"1"_s);
+        QCOMPARE(to(), u"20"_s);
+        form.click("optSubset");
+        form.typeAndLeave("txtFromWord", u"4"_s);
+        QCOMPARE(from(), u"4"_s);
+        form.open();
+        QCOMPARE(from(), u"4"_s);
+        form.click("optPrintAllWords");
+        QCOMPARE(from(), u"1"_s);
+    }
+
+    void theStepsStandBesideTheirBoxAndMarginsShowTheirUnit()
+    {
+        PrintForm form;
+        for (const QByteArray name :
+             {"TopMargin", "BottomMargin", "LeftMargin", "RightMargin", "Copies"}) {
+            const QRect box = form.control<QWidget>("txt" + name).geometry();
+            const QRect bar = form.control<QWidget>("vsc_" + name).geometry();
+            QVERIFY2(bar.left() > box.right() && bar.left() - box.right() <= 5, name);
+            QVERIFY2(std::abs(bar.center().y() - box.center().y()) <= 1, name);
+        }
+        for (const char *unit : {"lblTopUnit", "lblBottomUnit", "lblLeftUnit", "lblRightUnit"})
+            QCOMPARE(form.control<QLabel>(unit).text(), u"in"_s);
+    }
+
     void aRangeThatRunsDownwardsIsKept()
     {
         PrintForm form;
