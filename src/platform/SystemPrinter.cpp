@@ -27,18 +27,23 @@ namespace {
 // the edge of the sheet would be lost when the file is printed.
 constexpr double FileBorder = 0.25;
 
-// Hides the choice of a PDF file, which the program asks for at the time of printing. The dialog
-// insists on a file name.
+// Hides controls of a dialog of Qt's. The dialog shows some of them again, so that they need a
+// hidden parent.
+void hide(QDialog &dialog, std::initializer_list<const char *> controls)
+{
+    auto *hidden = new QWidget(&dialog);
+    hidden->hide();
+    for (const char *name : controls)
+        if (auto *control = dialog.findChild<QWidget *>(QLatin1String(name)))
+            control->setParent(hidden);
+}
+
+// The program asks for the PDF file at the time of printing. The dialog insists on a file name.
 void hideFile(QPrintDialog &dialog, const QString &newFile)
 {
     if (auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("filename")))
         box->setText(newFile);
-    // The dialog shows these controls again, so their parent is hidden instead.
-    auto *hidden = new QWidget(&dialog);
-    hidden->hide();
-    for (const char *name : {"lOutput", "filename", "fileBrowser"})
-        if (auto *control = dialog.findChild<QWidget *>(QLatin1String(name)))
-            control->setParent(hidden);
+    hide(dialog, {"lOutput", "filename", "fileBrowser"});
 }
 
 } // namespace
@@ -130,12 +135,15 @@ std::optional<Integer> SystemPrinter::showSetup(QWidget *parent, const QString &
     m_device->setCopyCount(copies.toInt());
     QPrintDialog dialog(m_device.get(), parent);
     dialog.setWindowTitle(title);
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
     // Qt calls the button "Print".
     if (auto *buttons = dialog.findChild<QDialogButtonBox *>())
         buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&OK"));
     const QTemporaryDir folder;
     hideFile(dialog, folder.filePath(QStringLiteral("print.pdf")));
+    // What a print job does not follow. Behind "Properties" are the paper, which Page Setup has as
+    // well, several pages on a sheet and options of the job.
+    hide(dialog, {"properties", "gbPrintRange", "collate", "reverse", "outputIcon", "colorMode"});
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     select(m_device->outputFormat() == QPrinter::PdfFormat ? printToPdf()
@@ -146,6 +154,8 @@ std::optional<Integer> SystemPrinter::showSetup(QWidget *parent, const QString &
 bool SystemPrinter::showPageSetup(QWidget *parent)
 {
     QPageSetupDialog dialog(m_device.get(), parent);
+    // The print dialog has margins of its own, and no job prints several pages on a sheet.
+    hide(dialog, {"groupBox", "pagesPerSheetButtonGroup"});
     if (dialog.exec() != QDialog::Accepted)
         return false;
     measure();

@@ -174,6 +174,37 @@ private Q_SLOTS:
         QCOMPARE(readFile(path), "old"_ba);
     }
 
+    void printerSetupOffersOnlyWhatIsFollowed()
+    {
+        setUpPrinter([](QDialog &dialog) {
+            for (auto *button : dialog.findChildren<QPushButton *>())
+                if (button->text().startsWith(u"&Options"))
+                    Controls::click(*button);
+            QVERIFY(in<QWidget>(dialog, "printers").isVisible());
+            QVERIFY(in<QWidget>(dialog, "copies").isVisible());
+            QVERIFY(in<QWidget>(dialog, "duplex").isVisibleTo(&in<QWidget>(dialog, "optionsTab")));
+            for (const char *name :
+                 {"properties", "gbPrintRange", "collate", "reverse", "colorMode"}) {
+                auto &control = in<QWidget>(dialog, name);
+                QVERIFY2(control.parentWidget()->isHidden(), name);
+                QVERIFY2(!control.isVisible(), name);
+            }
+        });
+    }
+
+    void pageSetupOffersOnlyWhatIsFollowed()
+    {
+        m_main->answers.useForm(SystemDialog, [](QDialog &dialog) {
+            for (const char *name : {"pageSizeCombo", "portrait", "landscape"})
+                QVERIFY2(in<QWidget>(dialog, name).isVisible(), name);
+            for (const char *name : {"topMargin", "leftMargin", "rightMargin", "bottomMargin",
+                                     "pagesPerSheetCombo", "pagesPerSheetLayoutCombo"})
+                QVERIFY2(!in<QWidget>(dialog, name).isVisible(), name);
+            press(dialog, QDialogButtonBox::Ok);
+        });
+        m_main->choose("mnuPageSetup");
+    }
+
     void pageSetupTurnsTheSheet()
     {
         setUpPage("landscape", QDialogButtonBox::Ok);
