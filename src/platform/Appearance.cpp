@@ -2,7 +2,11 @@
 #include "platform/Appearance.h"
 
 #include <QApplication>
+#include <QFontInfo>
+#include <QFontMetrics>
 #include <QPalette>
+
+#include <algorithm>
 
 namespace {
 
@@ -25,10 +29,12 @@ QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid @accent; padding: 2px 
 QLineEdit:disabled, QPlainTextEdit:disabled, QLineEdit[readOnly="true"],
 EntryTextBox[readOnly="true"] { background: palette(window); color: @quiet; }
 QLineEdit#txtWord, QLineEdit#txtCurWord, QLineEdit#txtImportWord, EntryTextBox {
-    font-size: 15px; }
+    font-size: @entryTypepx; }
+QLineEdit#txtImportWord, EntryTextBox#txtImportDef, EntryTextBox#txtImportSen {
+    color: palette(text); }
 QPushButton {
     background: palette(button); border: 1px solid @line; border-radius: 6px;
-    padding: 5px 14px; min-height: 18px; }
+    padding: 5px 14px; min-height: @buttonTypepx; }
 QPushButton:hover { border-color: @accent; }
 QPushButton:pressed { background: @line; }
 QPushButton:default { background: @accent; color: @onAccent; border-color: @accent; }
@@ -42,6 +48,9 @@ SpeakerButton:focus { border: 2px solid @focus; }
 SpeakerButton::menu-button { border: none; width: 16px; }
 FlashCard { border-radius: 14px; border: 1px solid @line; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
+#prgDeck { background: @line; border: none; border-radius: 2px; }
+#prgDeck::chunk { background: @accent; border-radius: 2px; }
+#lblDeck, #lblEnding { color: @quiet; }
 FlashCard:focus { border: 2px solid @focus; }
 #wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
 #frmHits, #frmMisses {
@@ -60,7 +69,7 @@ ScrolledArea:focus { border: 2px solid @focus; }
 #lblTitle { font-size: 26px; font-weight: bold; }
 #lblEmptyList {
     background: palette(base); color: @quiet; border: 1px solid @line; border-radius: 10px;
-    font-size: 15px; padding: 12px 28px; }
+    font-size: @entryTypepx; padding: 12px 28px; }
 #lblHint { font-size: 15px; color: @quiet; }
 #lblTypingHint { color: @quiet; }
 #lblAnswerIs { font-size: 26px; font-weight: bold; }
@@ -75,6 +84,12 @@ QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
 MSFlexGrid:focus { border-bottom: 2px solid @accent; }
 )");
+    // The type of the boxes for entries follows the application's.
+    const int entryType = std::max(15, QFontInfo(QApplication::font()).pixelSize() * 23 / 20);
+    sheet.replace(QLatin1String("@entryType"), QString::number(entryType));
+    // A layout never makes a button lower than this.
+    const int buttonType = std::max(18, QFontMetrics(QApplication::font()).height());
+    sheet.replace(QLatin1String("@buttonType"), QString::number(buttonType));
     const QColor accent = accentColour(palette);
     const auto set = [&sheet](const char *name, const QColor &colour) {
         sheet.replace(QLatin1String(name), colour.name());

@@ -12,5 +12,6 @@ class QPalette;
 // For captions, notes and outlines.
 [[nodiscard]] QColor quietColour(const QPalette &palette);
 
-// Takes its colours from the application's palette. Call it again when the palette has changed.
+// Takes its colours from the application's palette and the size of its type from the application's
+// font. Call it again when one of them has changed.
 void applyAppearance(QApplication &application);

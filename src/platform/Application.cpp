@@ -5,6 +5,7 @@
 #include "platform/HeldKeys.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
+#include "platform/ProgramStyle.h"
 #include "runtime/Notice.h"
 
 #include <QIcon>
@@ -32,7 +33,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setOrganizationName(QStringLiteral("LexiBrook"));
     setDesktopFileName(QStringLiteral("org.lexibrook.Tanglewit"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/tanglewit.svg")));
-    setStyle(QStringLiteral("Fusion"));
+    setStyle(new ProgramStyle);
     applyAppearance(*this);
     installEventFilter(new HeldKeys(this));
     setNoticeHook([](const QString &text) { MsgBox(text); });
@@ -74,7 +75,8 @@ QString Application::LegalCopyright()
 
 bool Application::event(QEvent *event)
 {
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::ApplicationPaletteChange ||
+        event->type() == QEvent::ApplicationFontChange)
         applyAppearance(*this);
     return QApplication::event(event);
 }

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Appearance.h"
 
+#include "platform/EntryTextBox.h"
 #include "support/Contrast.h"
+#include "support/Controls.h"
 #include "support/FormTest.h"
+#include "support/LargeType.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyle>
 
 using namespace Contrast;
@@ -190,6 +194,31 @@ private Q_SLOTS:
         }
     }
 
+    // The middle of the thumb against the middle of the track below it.
+    void theThumbOfAScrollBarStandsOutFromItsTrack()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            wear(palette);
+            QScrollBar bar(Qt::Vertical);
+            bar.setRange(0, 100);
+            bar.setPageStep(50);
+            bar.resize(bar.sizeHint().width(), 300);
+            bar.show();
+            const QPoint thumb = Controls::middleOf(bar, QStyle::SC_ScrollBarSlider);
+            const QPoint track = Controls::middleOf(bar, QStyle::SC_ScrollBarAddPage);
+            const QImage seen = bar.grab().toImage();
+            const double difference = contrast(seen.pixelColor(thumb), seen.pixelColor(track));
+            QVERIFY2(difference >= ReadableMark, qPrintable(QString::number(difference)));
+        }
+    }
+
+    void theTypeOfTheEntryFollowsTheApplications()
+    {
+        const int usual = entryType();
+        const LargeType type(1.5);
+        QVERIFY2(entryType() >= usual * 5 / 4, qPrintable(QString::number(entryType())));
+    }
+
     void theLookFollowsThePaletteAtRunTime()
     {
         QPushButton button(u"IIII"_s);
@@ -238,6 +267,13 @@ private Q_SLOTS:
     }
 
 private:
+    static int entryType()
+    {
+        EntryTextBox box;
+        box.ensurePolished();
+        return box.fontInfo().pixelSize();
+    }
+
     static void wear(const QPalette &palette)
     {
         QApplication::setPalette(palette);
