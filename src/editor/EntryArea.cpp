@@ -6,13 +6,12 @@
 #include "platform/Guarded.h"
 #include "platform/Screen.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr int Spacing = 8;     // pixels, as all measures below
-constexpr int LineHeight = 32; // of a one-line box or a button
-constexpr int ButtonWidth = 116;
+constexpr int Spacing = 8; // pixels, as all measures below
 
 } // namespace
 
@@ -24,24 +23,45 @@ EntryArea::EntryArea(Ui::frmMain &ui) : m_ui(ui)
             guarded(this, &EntryArea::txtSentence_Change));
 }
 
+// Of a box of one line or a button.
+int EntryArea::lineHeight() const
+{
+    constexpr int least = 32;
+    return std::max({least, m_ui.txtWord->sizeHint().height(), m_ui.cmdAdd->sizeHint().height()});
+}
+
+int EntryArea::titleHeight() const
+{
+    return std::max(3 * Spacing, m_ui.FrameDef->fontMetrics().height() + Spacing);
+}
+
+int EntryArea::leastHeight() const
+{
+    constexpr int lines = 4;
+    const int border = 2 * Spacing;
+    const int box = lines * m_ui.txtDefinition->fontMetrics().lineSpacing() + border;
+    return 2 * (lineHeight() + 2 * Spacing) + titleHeight() + box + 2 * Spacing;
+}
+
 // From top to bottom: the word, the two long texts, the buttons.
 void EntryArea::place(const MainLayout &layout, int height)
 {
+    const int line = lineHeight();
     m_ui.Frame1->setGeometry(0, pixels(layout.frameTop), pixels(layout.frameWidth), height);
     const int frameDefWidth = pixels(layout.frameDefWidth);
     const int labelWidth = m_ui.Label1->sizeHint().width();
     const int wordLeft = 2 * Spacing + labelWidth + Spacing;
-    m_ui.Label1->setGeometry(2 * Spacing, Spacing, labelWidth, LineHeight);
-    m_ui.txtWord->setGeometry(wordLeft, Spacing, Spacing + frameDefWidth - wordLeft, LineHeight);
+    m_ui.Label1->setGeometry(2 * Spacing, Spacing, labelWidth, line);
+    m_ui.txtWord->setGeometry(wordLeft, Spacing, Spacing + frameDefWidth - wordLeft, line);
 
     const int quietLeft = pixels(layout.frameSenLeft) + 2 * Spacing;
     m_ui.lblQuiet->setGeometry(quietLeft, Spacing, pixels(layout.frameWidth) - quietLeft - Spacing,
-                               LineHeight);
+                               line);
 
-    const int textTop = LineHeight + 2 * Spacing;
-    const int buttonTop = height - LineHeight - Spacing;
+    const int textTop = line + 2 * Spacing;
+    const int buttonTop = height - line - Spacing;
     const int textHeight = buttonTop - textTop - Spacing;
-    const int innerTop = 3 * Spacing;
+    const int innerTop = titleHeight();
     const auto placeText = [&](QGroupBox *frame, QWidget *box, int left) {
         frame->setGeometry(left, textTop, frameDefWidth, textHeight);
         const int boxWidth = pixels(layout.textWidth);
@@ -50,18 +70,30 @@ void EntryArea::place(const MainLayout &layout, int height)
     };
     placeText(m_ui.FrameDef, m_ui.txtDefinition, Spacing);
     placeText(m_ui.FrameSen, m_ui.txtSentence, pixels(layout.frameSenLeft));
+    placeButtons(layout, buttonTop);
+}
 
+// Play and Quick Flash at the right end, the others of one width in what is left.
+void EntryArea::placeButtons(const MainLayout &layout, int top)
+{
+    const int line = lineHeight();
+    const int playLeft = pixels(layout.playLeft);
+    const int playWidth = pixels(layout.frameWidth) - playLeft;
+    const int flashWidth = std::max(playWidth, m_ui.cmdQuickFlash->sizeHint().width());
+    m_ui.cmdPlayScramble->setGeometry(playLeft, top, playWidth, line);
+    m_ui.cmdQuickFlash->setGeometry(playLeft - flashWidth, top, flashWidth, line);
+
+    const std::array entryButtons{m_ui.cmdAdd, m_ui.cmdAbort, m_ui.cmdDelete, m_ui.cmdSearch};
+    const int room = playLeft - flashWidth - Spacing;
+    int width = std::max(116, m_ui.cmdNewWord->sizeHint().width() + 2 * Spacing);
+    width = std::min(width, room / int(entryButtons.size()) - Spacing);
     int left = Spacing;
-    for (QPushButton *button : {m_ui.cmdAdd, m_ui.cmdAbort, m_ui.cmdDelete, m_ui.cmdSearch}) {
-        button->setGeometry(left, buttonTop, ButtonWidth, LineHeight);
-        left += ButtonWidth + Spacing;
+    for (QPushButton *button : entryButtons) {
+        button->setGeometry(left, top, width, line);
+        left += width + Spacing;
     }
     // New Word and Add are never shown together.
     m_ui.cmdNewWord->setGeometry(m_ui.cmdAdd->geometry());
-    const int playLeft = pixels(layout.playLeft);
-    const int playWidth = pixels(layout.frameWidth) - playLeft;
-    m_ui.cmdPlayScramble->setGeometry(playLeft, buttonTop, playWidth, LineHeight);
-    m_ui.cmdQuickFlash->setGeometry(playLeft - playWidth, buttonTop, playWidth, LineHeight);
 }
 
 void EntryArea::show(EditorMode mode, EntryFocus focus)

@@ -23,6 +23,8 @@ public:
     explicit EntryArea(Ui::frmMain &ui);
 
     void place(const MainLayout &layout, int height);
+    // In pixels; four lines of a definition can be read.
+    [[nodiscard]] int leastHeight() const;
 
     // The keyboard goes to the control that the mode names, or to `focus`.
     void show(EditorMode mode) { show(mode, lookOf(mode).focus); }
@@ -40,6 +42,9 @@ public:
     void ClearEntryBoxes();
 
 private:
+    [[nodiscard]] int lineHeight() const;
+    [[nodiscard]] int titleHeight() const;
+    void placeButtons(const MainLayout &layout, int top);
     void txtDefinition_Change();
     void txtSentence_Change();
 

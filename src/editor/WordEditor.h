@@ -14,6 +14,8 @@ public:
     explicit WordEditor(Ui::frmMain &ui);
 
     void place(const MainLayout &layout, int entryHeight);
+    // Of the entry area, in pixels.
+    [[nodiscard]] int leastHeight() const { return m_area.leastHeight(); }
     [[nodiscard]] EditorMode mode() const { return m_area.mode(); }
     // The entry that is picked or found; 0 = none.
     [[nodiscard]] Integer chosenEntry() const { return m_page.chosen(); }

@@ -49,12 +49,16 @@ WordPage::WordPage(MSFlexGrid &grid, QScrollBar &bar)
 
 void WordPage::place(const MainLayout &layout)
 {
-    m_grid.setColWidth(Number, layout.numberWidth);
-    for (int column = Word; column < Columns; ++column)
-        m_grid.setColWidth(column, layout.columnWidths[static_cast<std::size_t>(column - Word)]);
     const int width = pixels(layout.windowWidth);
     const int height = pixels(layout.gridHeight);
     const int barWidth = m_bar.sizeHint().width();
+    // In a narrow window the numbers have what the other columns leave.
+    int left = width - barWidth;
+    for (int column = Word; column < Columns; ++column) {
+        m_grid.setColWidth(column, layout.columnWidths[static_cast<std::size_t>(column - Word)]);
+        left -= m_grid.columnWidth(column);
+    }
+    m_grid.setColWidth(Number, std::min(layout.numberWidth, left * TwipsPerPixel));
     m_grid.setGeometry(0, 0, width - barWidth, height);
     m_bar.setGeometry(width - barWidth, 0, barWidth, height);
     gRowHeight = m_grid.RowHeight(1);

@@ -27,8 +27,6 @@ using namespace Module1;
 
 namespace {
 
-constexpr int SmallestEntryArea = 260; // pixels
-
 void loadTop10()
 {
     gTop10 = emptyTop10(QDate::currentDate());
@@ -139,7 +137,7 @@ void frmMain::fitToWindow()
     const QSize screen = screenInTwips(*this);
     const QSize inside = centralWidget()->size() * TwipsPerPixel;
     MainLayout layout = mainLayout(std::min(screen.width(), inside.width()), screen.height());
-    const int room = std::max(0, inside.height() - SmallestEntryArea * TwipsPerPixel);
+    const int room = std::max(0, inside.height() - m_editor->leastHeight() * TwipsPerPixel);
     layout.gridHeight = layout.frameTop = std::min(layout.gridHeight, room);
     m_editor->place(layout, centralWidget()->height() - pixels(layout.frameTop));
 }

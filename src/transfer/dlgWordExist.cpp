@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "platform/MsgBox.h"
+#include "platform/Screen.h"
 #include "runtime/Blanks.h"
 #include "transfer/ui_dlgWordExist.h"
 
@@ -26,6 +27,7 @@ dlgWordExist::dlgWordExist(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgWordExist>())
 {
     m_ui->setupUi(this);
+    openWithSize(*this, size().expandedTo(sizeHint()));
     restoreGeometry(lastGeometry());
     onClick(m_ui->cmdYes, &dlgWordExist::cmdYes_Click);
     onClick(m_ui->cmdNo, &dlgWordExist::cmdNo_Click);

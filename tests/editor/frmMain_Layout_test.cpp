@@ -5,6 +5,7 @@
 #include "editor/MainWindow.h"
 #include "platform/Screen.h"
 #include "support/FormTest.h"
+#include "support/LargeType.h"
 #include "support/Layout.h"
 
 #include <QAccessible>
@@ -52,6 +53,13 @@ void checkRowsFillTheGrid(MainWindow &main)
     QCOMPARE(Module1::gRowHeight, grid.RowHeight(1));
 }
 
+void checkTheColumnsAreWhole(MainWindow &main)
+{
+    const MSFlexGrid &grid = main.grid();
+    QVERIFY(grid.columnViewportPosition(3) + grid.columnWidth(3) <= grid.viewport()->width());
+    QVERIFY(grid.columnWidth(0) >= grid.fontMetrics().horizontalAdvance(u"32000"_s) + 8);
+}
+
 } // namespace
 
 class frmMain_Layout_test final : public QObject
@@ -96,6 +104,22 @@ private Q_SLOTS:
         const auto &flash = main.control<QPushButton>("cmdQuickFlash");
         QCOMPARE(flash.x(), play.x() - flash.width());
         QCOMPARE(flash.y(), play.y());
+    }
+
+    void theWindowFitsTheScreen_data() { Layout::addTypeSizes(); }
+
+    void theWindowFitsTheScreen()
+    {
+        QFETCH(double, type);
+        const LargeType font(type);
+        MainWindow main;
+        main.fill(40);
+        QCOMPARE(main.window().geometry(), main.window().screen()->availableGeometry());
+        checkNothingIsCut(main);
+        main.click("cmdNewWord");
+        checkNothingIsCut(main);
+        checkRowsFillTheGrid(main);
+        checkTheColumnsAreWhole(main);
     }
 
     void nothingIsCutInAnyMode_data()

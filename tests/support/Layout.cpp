@@ -3,13 +3,20 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QString text(QSize size)
+{
+    return u"%1x%2"_s.arg(size.width()).arg(size.height());
+}
 
 bool holdsOneLine(const QWidget &control)
 {
@@ -53,7 +60,7 @@ QList<QWidget *> Layout::visibleControls(const QWidget &window)
 void Layout::checkNothingIsCut(const QWidget &window, Caller caller)
 {
     for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
+        QGuiApplication::processEvents();
     const QList<QWidget *> controls = visibleControls(window);
     for (const QWidget *control : controls) {
         const QString name = control->objectName();
@@ -63,7 +70,9 @@ void Layout::checkNothingIsCut(const QWidget &window, Caller caller)
             !control->parentWidget()->rect().contains(control->geometry()))
             failTest(name + u" is cut"_s, caller);
         if (holdsOneLine(*control) && isTooSmall(*control))
-            failTest(name + u" is too small"_s, caller);
+            failTest(name + u" is too small: "_s + text(control->size()) + u", not "_s +
+                         text(control->minimumSizeHint()),
+                     caller);
         for (const QWidget *other : controls)
             if (other != control && overlap(*control, *other))
                 failTest(name + u" and "_s + other->objectName() + u" overlap"_s, caller);
@@ -80,4 +89,26 @@ void Layout::checkNames(const QWidget &window, Caller caller)
         if (!tool || tool->text(QAccessible::Name).isEmpty())
             failTest(control->objectName() + u" has no name for assistive tools"_s, caller);
     }
+}
+
+void Layout::checkFitsTheScreen(const QWidget &window, Caller caller)
+{
+    checkNothingIsCut(window, caller);
+    constexpr int titleBar = 30;
+    const QRect room = window.screen()->availableGeometry();
+    if (window.width() > room.width() || window.height() > room.height() - titleBar)
+        failTest(text(window.size()) + u" is larger than the screen"_s, caller);
+    if (!room.contains(window.geometry()))
+        failTest(u"the window is not on the screen"_s, caller);
+}
+
+void Layout::addTypeSizes()
+{
+    QTest::addColumn<double>("type");
+    QTest::newRow("usual type") << 1.0;
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    if (room.width() >= 1024 && room.height() >= 768)
+        QTest::newRow("large type") << 1.5;
+    if (room.width() >= 1920 && room.height() >= 1080)
+        QTest::newRow("very large type") << 2.0;
 }

@@ -23,4 +23,11 @@ void checkNothingIsCut(const QWidget &window, Caller caller = Caller::current())
 // Fails the test if a visible control that can have the keyboard has no name for assistive tools.
 void checkNames(const QWidget &window, Caller caller = Caller::current());
 
+// The same, and the window has room on its screen together with a title bar.
+void checkFitsTheScreen(const QWidget &window, Caller caller = Caller::current());
+
+// Columns "type": factors for the application's font with which windows have to fit the screen that
+// the test runs on.
+void addTypeSizes();
+
 } // namespace Layout

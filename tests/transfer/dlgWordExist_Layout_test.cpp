@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The layout of the dialog about an existing word. CTest runs this on screens of several sizes.
+#include "support/LargeType.h"
+#include "support/Layout.h"
+#include "transfer/WordExistForm.h"
+
+using namespace Module1;
+
+namespace {
+
+void ask(const std::function<void(const WordExistForm &)> &use)
+{
+    const FreshState state;
+    DialogAnswers answers;
+    gVocabList().AddVocab(u"Glacier"_s, u"a slow river of ice"_s, u"The glacier moves."_s);
+    WordExistQuestion(u"glacier|a mass of ice|A glacier ends in the sea."_s)
+        .ask(answers, [&](const WordExistForm &form) {
+            use(form);
+            form.close();
+        });
+}
+
+} // namespace
+
+class dlgWordExist_Layout_test final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itFitsTheScreen_data() { Layout::addTypeSizes(); }
+
+    void itFitsTheScreen()
+    {
+        QFETCH(double, type);
+        const LargeType font(type);
+        ask([](const WordExistForm &form) { Layout::checkFitsTheScreen(form.form); });
+    }
+
+    // The dialog opens with the size that it had last, but never larger than the screen.
+    void itFitsTheScreenAgain_data() { Layout::addTypeSizes(); }
+    void itFitsTheScreenAgain() { itFitsTheScreen(); }
+};
+
+int main(int argc, char *argv[])
+{
+    return runFormTest<dlgWordExist_Layout_test>(argc, argv);
+}
+
+#include "dlgWordExist_Layout_test.moc"
