@@ -8,6 +8,7 @@
 #include "flash/ui_dlgQuickFlash.h"
 #include "platform/ReducedMotion.h"
 #include "platform/RetainedSize.h"
+#include "platform/Screen.h"
 
 #include <QShortcut>
 
@@ -25,6 +26,9 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgQuickFlash>())
 {
     m_ui->setupUi(this);
+    const QSize room = roomOnScreen(*this);
+    openWithSize(*this,
+                 {std::min(room.width() * 9 / 10, 1280), std::min(room.height() * 9 / 10, 720)});
     // They share one place, which keeps its size.
     retainSizeWhenHidden(*m_ui->cmdAutoFlash);
     retainSizeWhenHidden(*m_ui->cmdStop);
@@ -62,7 +66,8 @@ void dlgQuickFlash::Form_Load()
     gOrderSize = std::min(gVocabList().NumWords(), Integer(LongestWordOrder));
     ShuffleCards();
     gOrderIndex = 1;
-    showCard();
+    m_ui->prgDeck->setRange(0, gOrderSize.toInt());
+    showCard(Turn::None);
     m_ui->txtDef->setText(ClosedCard + QStringLiteral("\r\n"), FlashCard::Side::Back);
     showRun(Run::ByHand);
     m_ui->cmdNext->setFocus();
@@ -82,18 +87,23 @@ void dlgQuickFlash::ShuffleCards()
 
 void dlgQuickFlash::cmdNext_Click()
 {
-    gOrderIndex = gOrderIndex < gOrderSize ? gOrderIndex + 1 : Integer(1);
-    showCard();
+    const bool isLast = gOrderIndex >= gOrderSize;
+    gOrderIndex = isLast ? Integer(1) : gOrderIndex + 1;
+    showCard(isLast ? Turn::StartsOver : Turn::None);
 }
 
 void dlgQuickFlash::cmdPrevious_Click()
 {
     gOrderIndex = gOrderIndex >= 2 ? gOrderIndex - 1 : gOrderSize;
-    showCard();
+    showCard(Turn::None);
 }
 
-void dlgQuickFlash::showCard()
+void dlgQuickFlash::showCard(Turn turn)
 {
+    m_ui->lblDeck->setText(
+        QStringLiteral("%1 of %2").arg(gOrderIndex.toText(), gOrderSize.toText()) +
+        (turn == Turn::StartsOver ? QStringLiteral(" - the deck starts over") : QString()));
+    m_ui->prgDeck->setValue(gOrderIndex.toInt());
     gVocabList().CurrentWord(gWordOrder(gOrderIndex));
     m_ui->txtWord->setText(gVocabList().Word(), FlashCard::Side::Front);
     m_ui->txtDef->setText(ClosedCard, FlashCard::Side::Back);
@@ -144,13 +154,15 @@ void dlgQuickFlash::CancelButton_Click()
     close();
 }
 
-// The focus goes from the hidden button to the one that takes its place.
+// The focus goes from a button that cannot be used any more to the one that can.
 void dlgQuickFlash::showRun(Run run)
 {
     const bool automatic = run == Run::Automatic;
-    const bool hadFocus = m_ui->cmdAutoFlash->hasFocus() || m_ui->cmdStop->hasFocus();
+    const bool hadFocus = m_ui->cmdAutoFlash->hasFocus() || m_ui->cmdStop->hasFocus() ||
+                          m_ui->cmdNext->hasFocus() || m_ui->cmdPrevious->hasFocus();
     m_ui->cmdAutoFlash->setVisible(!automatic);
     m_ui->cmdStop->setVisible(automatic);
+    (automatic ? m_ui->cmdStop : m_ui->cmdNext)->setDefault(true);
     if (hadFocus)
         (automatic ? m_ui->cmdStop : m_ui->cmdAutoFlash)->setFocus();
     m_ui->cmdNext->setEnabled(!automatic);

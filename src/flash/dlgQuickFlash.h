@@ -30,6 +30,7 @@ protected:
 
 private:
     enum class Run { ByHand, Automatic };
+    enum class Turn { None, StartsOver };
 
     void cmdNext_Click();
     void cmdPrevious_Click();
@@ -41,7 +42,7 @@ private:
     void tmrDef_Timer();
 
     void ShuffleCards();
-    void showCard();
+    void showCard(Turn turn);
     void startWordPhase();
     void showRun(Run run);
 

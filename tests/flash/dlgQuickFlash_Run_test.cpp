@@ -51,6 +51,17 @@ private Q_SLOTS:
         QVERIFY(m_form->button("cmdAutoFlash").hasFocus());
     }
 
+    void enterStopsTheRun()
+    {
+        m_form->button("cmdNext").setFocus();
+        m_form->click("cmdAutoFlash");
+        QVERIFY(m_form->button("cmdStop").isDefault());
+        QVERIFY(m_form->button("cmdStop").hasFocus());
+        Controls::press(Qt::Key_Return);
+        QCOMPARE(m_form->look(), FlashForm::byHand());
+        QVERIFY(m_form->button("cmdAutoFlash").hasFocus());
+    }
+
     void thePhasesAlternateAndTheDeckBeginsAgain()
     {
         m_form->click("cmdAutoFlash");

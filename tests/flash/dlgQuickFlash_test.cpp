@@ -6,6 +6,8 @@
 #include "support/FormTest.h"
 
 #include <QGroupBox>
+#include <QLabel>
+#include <QProgressBar>
 
 #include <set>
 
@@ -117,6 +119,30 @@ private Q_SLOTS:
             QCOMPARE(m_form->word(), FlashForm::wordOfCard(card));
             QCOMPARE(m_form->definition(), u"Click on card"_s);
         }
+    }
+
+    void theDeckSaysWhichCardIsOnShow()
+    {
+        QCOMPARE(m_form->control<QLabel>("lblDeck").text(), u"1 of 5"_s);
+        const auto &bar = m_form->control<QProgressBar>("prgDeck");
+        for (const int card : {2, 3, 4, 5}) {
+            m_form->click("cmdNext");
+            QCOMPARE(m_form->control<QLabel>("lblDeck").text(), u"%1 of 5"_s.arg(card));
+            QCOMPARE(bar.value(), card);
+            QCOMPARE(bar.maximum(), 5);
+        }
+        m_form->click("cmdPrevious");
+        QCOMPARE(m_form->control<QLabel>("lblDeck").text(), u"4 of 5"_s);
+    }
+
+    void theDeckSaysThatItStartsOver()
+    {
+        m_form->click("cmdPrevious");
+        QCOMPARE(m_form->control<QLabel>("lblDeck").text(), u"5 of 5"_s);
+        m_form->click("cmdNext");
+        QCOMPARE(m_form->control<QLabel>("lblDeck").text(), u"1 of 5 - the deck starts over"_s);
+        m_form->click("cmdNext");
+        QCOMPARE(m_form->control<QLabel>("lblDeck").text(), u"2 of 5"_s);
     }
 
     void theOnlyCardIsItsOwnNextAndPrevious()
