@@ -1,15 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/EntryTextBox.h"
 
+#include "platform/Appearance.h"
+#include "runtime/Windows1252.h"
+
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSignalBlocker>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
+
+#include <algorithm>
+
+namespace {
+
+QTextCharFormat waveFormat(const QPalette &palette)
+{
+    QTextCharFormat format;
+    format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
+    format.setUnderlineColor(isDark(palette) ? QColor(0xFF, 0x8A, 0x80) : QColor(0xC0, 0x20, 0x20));
+    return format;
+}
+
+} // namespace
 
 EntryTextBox::EntryTextBox(QWidget *parent) : QPlainTextEdit(parent)
 {
     setTabChangesFocus(true);
+    connect(this, &QPlainTextEdit::textChanged, this, &EntryTextBox::markLostCharacters);
 }
 
 QString EntryTextBox::text() const
@@ -62,4 +81,29 @@ void EntryTextBox::insertFromMimeData(const QMimeData *source)
     // Undo removes an inserted fragment alone, but an inserted text with what was typed before it.
     textCursor().insertFragment(QTextDocumentFragment::fromPlainText(text));
     ensureCursorVisible();
+}
+
+// One mark for each run of such characters, and no more marks than anyone would read.
+void EntryTextBox::markLostCharacters()
+{
+    constexpr int most = 200;
+    const auto isKept = [](QChar character) { return isInWindows1252(character.unicode()); };
+    QList<QTextEdit::ExtraSelection> marks;
+    for (QTextBlock line = document()->firstBlock(); line.isValid(); line = line.next()) {
+        const QString text = line.text();
+        auto end = text.cbegin();
+        while (marks.size() < most) {
+            const auto start = std::find_if_not(end, text.cend(), isKept);
+            if (start == text.cend())
+                break;
+            end = std::find_if(start, text.cend(), isKept);
+            QTextEdit::ExtraSelection mark{QTextCursor(line), waveFormat(palette())};
+            mark.cursor.setPosition(line.position() + int(start - text.cbegin()));
+            mark.cursor.setPosition(line.position() + int(end - text.cbegin()),
+                                    QTextCursor::KeepAnchor);
+            marks += mark;
+        }
+    }
+    if (!marks.isEmpty() || !extraSelections().isEmpty())
+        setExtraSelections(marks);
 }

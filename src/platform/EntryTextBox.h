@@ -4,7 +4,7 @@
 // A text that the user has not changed is returned exactly as it was set, with any other line
 // breaks. Enter is passed to the window (for its default button); Ctrl+Enter and Shift+Enter insert
 // a line break. Tab moves to the next control. Pasting and dropping insert plain text, or nothing
-// if there is none.
+// if there is none. A wavy line is below characters that a list file cannot keep.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -25,5 +25,7 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    void markLostCharacters();
+
     QString m_setText;
 };

@@ -61,6 +61,11 @@ qsizetype toWindows1252(QStringView text, char *buffer)
     return out - buffer;
 }
 
+bool isInWindows1252(char16_t unit)
+{
+    return hasByte(unit);
+}
+
 QStringList notInWindows1252(QStringView text, int most)
 {
     QStringList characters;

@@ -13,6 +13,8 @@
 // Into a buffer with room for text.size() bytes; returns how many were written.
 [[nodiscard]] qsizetype toWindows1252(QStringView text, char *buffer);
 [[nodiscard]] QString fromWindows1252(QByteArrayView bytes);
+// False for both halves of a surrogate pair.
+[[nodiscard]] bool isInWindows1252(char16_t unit);
 // The characters of the text that are not in the code page, each once, in the text's order; no more
 // than the first `most` of them.
 [[nodiscard]] QStringList notInWindows1252(QStringView text, int most);

@@ -255,6 +255,28 @@ private Q_SLOTS:
         QApplication::clipboard()->clear();
     }
 
+    void charactersThatAFileCannotKeepAreUnderlined()
+    {
+        const auto marked = [](const EntryTextBox &box) {
+            QStringList texts;
+            for (const auto &mark : box.extraSelections()) {
+                if (mark.format.underlineStyle() == QTextCharFormat::WaveUnderline)
+                    texts += mark.cursor.selectedText();
+            }
+            return texts;
+        };
+        Window window;
+        window.box->setText(u"na\u00EFve \u0142\u00F3d\u017A\r\n\u6F22\u5B57 \u20AC"_s);
+        QCOMPARE(marked(*window.box), (QStringList{u"\u0142"_s, u"\u017A"_s, u"\u6F22\u5B57"_s}));
+        window.box->selectAll();
+        QTest::keyClicks(window.box, u"plain"_s);
+        QCOMPARE(marked(*window.box), QStringList());
+        window.box->setText(QString::fromUcs4(U"a \U0001F600 b"));
+        QCOMPARE(marked(*window.box), QStringList{QString::fromUcs4(U"\U0001F600")});
+        window.box->setText(u"\u0142 "_s.repeated(30'000));
+        QCOMPARE(marked(*window.box).size(), 200);
+    }
+
     void everyChangeIsSignalled()
     {
         Window window;
