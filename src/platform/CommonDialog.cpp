@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QPixmapCache>
 #include <QScopeGuard>
+#include <QSettings>
 
 namespace {
 
@@ -57,6 +58,9 @@ bool CommonDialog::show(QWidget *parent, Purpose purpose)
     const auto restore =
         qScopeGuard([limit = QPixmapCache::cacheLimit()] { QPixmapCache::setCacheLimit(limit); });
     QPixmapCache::setCacheLimit(0);
+    // Qt's dialog writes the folders it has shown to the person's settings. In this place it
+    // cannot.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QFileDialog dialog(parent, DialogTitle);
     dialog.resize(900, 560);
     dialog.setObjectName(QStringLiteral("CommonDialog"));

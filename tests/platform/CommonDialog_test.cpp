@@ -265,6 +265,16 @@ private Q_SLOTS:
         QVERIFY(!m_dialog->ShowSave(nullptr));
     }
 
+    void nothingIsLeftInThePersonsSettings()
+    {
+        m_answers->chooseFile(u"cat.lwx"_s);
+        QVERIFY(m_dialog->ShowSave(nullptr));
+        m_answers->cancelFileDialog();
+        QVERIFY(!m_dialog->ShowOpen(nullptr));
+        const QStringList left = QDir(path(".config")).entryList(QDir::Files | QDir::Hidden);
+        QVERIFY2(left.isEmpty(), qPrintable(left.join(u' ')));
+    }
+
     void withoutANameTheFieldIsEmpty()
     {
         m_answers->cancelFileDialog(
