@@ -15,6 +15,7 @@
 #include "transfer/TextFile.h"
 #include "transfer/dlgExport.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 
 #include <utility>
@@ -24,6 +25,14 @@ using namespace Module1;
 namespace {
 
 const QString ListFilter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|All files (*.*)|*.*");
+
+// A list without a file of its own keeps the name in the caption after a cancelled Open.
+QString nameToOffer()
+{
+    if (!gFileName.isEmpty())
+        return gFileName;
+    return gOpenedFile.isEmpty() ? QStringLiteral("words.lwx") : QFileInfo(gOpenedFile).fileName();
+}
 
 // Restores the open list's name at the end of the scope.
 [[nodiscard]] auto nameKeeper()
@@ -60,7 +69,7 @@ void frmMain::mnuSaveAs_Click()
     m_fileDialog.InitDir.clear();
     m_fileDialog.OverwritePrompt = true;
     // The list's own name is offered, not what was imported or written as text last.
-    const QString lastUsed = std::exchange(m_fileDialog.FileName, gFileName);
+    const QString lastUsed = std::exchange(m_fileDialog.FileName, nameToOffer());
     if (!m_fileDialog.ShowSave(this)) {
         m_fileDialog.FileName = lastUsed;
         return;

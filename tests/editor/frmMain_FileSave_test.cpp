@@ -295,7 +295,7 @@ private Q_SLOTS:
             openList(*m_main, m_path);
         else
             m_main->fill(2);
-        const QString name = titled ? u"animals.lwx"_s : QString();
+        const QString name = titled ? u"animals.lwx"_s : u"words.lwx"_s;
         expectSaveAsToOffer(name);
 
         const QString text = m_main->path(u"words.txt"_s);
@@ -317,17 +317,17 @@ private Q_SLOTS:
         m_main->choose("mnuSaveAs");
         expectSaveAsToOffer(u"other.lwx"_s);
 
-        // A cancelled Open takes the name away.
+        // A cancelled Open takes the path away; the caption keeps the name.
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->answers.cancelFileDialog();
         m_main->choose("mnuOpen");
-        expectSaveAsToOffer({});
+        expectSaveAsToOffer(u"other.lwx"_s);
 
         openList(*m_main, m_path);
         expectSaveAsToOffer(u"animals.lwx"_s);
         m_main->answers.expectMsgBox(EndLesson, QMessageBox::Ok);
         m_main->choose("mnuNew");
-        expectSaveAsToOffer({});
+        expectSaveAsToOffer(u"words.lwx"_s);
     }
 
     void aCancelledSaveAsLeavesTheTextFilesNameOffered()
