@@ -5,9 +5,11 @@
 #include "core/cVocabList.h"
 #include "platform/LostFocus.h"
 #include "platform/MsgBox.h"
+#include "platform/Screen.h"
 #include "runtime/Blanks.h"
 #include "runtime/FileError.h"
 #include "runtime/TextToNumber.h"
+#include "transfer/NumberedItems.h"
 #include "transfer/WordAdder.h"
 #include "transfer/ui_dlgExport.h"
 
@@ -74,8 +76,17 @@ dlgExport::dlgExport(const QString &startFolder, QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgExport>()), Cdlg(startFolder)
 {
     m_ui->setupUi(this);
+    openWithSize(*this, size().expandedTo(sizeHint()));
     new LostFocus(m_ui->txtStart, [this] { txtStart_LostFocus(); });
     new LostFocus(m_ui->txtEnd, [this] { txtEnd_LostFocus(); });
+    m_ui->lstExportWords->setItemDelegate(
+        new NumberedItems(m_ui->lstExportWords, [this](int row) { return numberOf(row); }));
+    connect(m_ui->lstExportWords, &QListWidget::doubleClicked, this,
+            [this](const QModelIndex &item) {
+                runGuarded([&] { lstExportWords_DblClick(item.row()); });
+            });
+    connect(m_ui->txtFilename, &QLineEdit::textChanged, this,
+            guarded(this, &dlgExport::txtFilename_Change));
     onClick(m_ui->cmdBrowse, &dlgExport::cmdBrowse_Click);
     onClick(m_ui->cmdOk, &dlgExport::cmdOK_Click);
     onClick(m_ui->cmdCancel, &dlgExport::cmdCancel_Click);
@@ -118,6 +129,31 @@ void dlgExport::fillPreview(EqualNumbers equalNumbers)
     m_ui->lstExportWords->addItems(words);
 }
 
+int dlgExport::numberOf(int row) const
+{
+    return StartNo.toInt() + (EndNo >= StartNo ? row : -row);
+}
+
+// A double click sets the start of the range, the next one its end.
+void dlgExport::lstExportWords_DblClick(int row)
+{
+    const Integer number = numberOf(row);
+    (m_setsEnd ? EndNo : StartNo) = number;
+    (m_setsEnd ? m_ui->txtEnd : m_ui->txtStart)->setText(number.toText());
+    m_setsEnd = !m_setsEnd;
+    fillPreview(EqualNumbers::ShowTheWord);
+}
+
+void dlgExport::txtFilename_Change()
+{
+    const QString name = withoutOuterBlanks(m_ui->txtFilename->text());
+    const bool lacksEnding =
+        !name.isEmpty() && !name.endsWith(QStringLiteral(".lwx"), Qt::CaseInsensitive);
+    m_ui->lblEnding->setText(lacksEnding ? QStringLiteral("Without .lwx, Open lists the file only "
+                                                          "under All files.")
+                                         : QString());
+}
+
 void dlgExport::cmdBrowse_Click()
 {
     Cdlg.Filter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|Data Interchange Format (*.dif)|*.dif|"
@@ -133,8 +169,10 @@ void dlgExport::cmdBrowse_Click()
 
 void dlgExport::cmdOK_Click()
 {
-    if (m_ui->txtFilename->text().isEmpty())
+    if (m_ui->txtFilename->text().isEmpty()) {
+        m_ui->txtFilename->setFocus();
         return;
+    }
     // Enter presses OK while the box still has the keyboard. A box that was left has been read; if
     // it had no number, the one before is kept.
     if (focusWidget() == m_ui->txtStart)

@@ -36,12 +36,18 @@ private:
     void cmdOK_Click();
     void cmdCancel_Click();
 
+    void txtFilename_Change();
+    void lstExportWords_DblClick(int row);
+
     void fillPreview(EqualNumbers equalNumbers);
     void exportRange();
+    // Of the entry in a row of the preview.
+    [[nodiscard]] int numberOf(int row) const;
 
     std::unique_ptr<Ui::dlgExport> m_ui;
     CommonDialog Cdlg;
     Integer StartNo; // first item number of the range
     Integer EndNo;   // last item number; below the first, the range runs downwards
     Integer ExportCount;
+    bool m_setsEnd = false; // a double click sets the end of the range, not its start
 };

@@ -89,6 +89,67 @@ private Q_SLOTS:
         QCOMPARE(m_form->preview(), ExportForm::words(start, end));
     }
 
+    void theNumbersOfTheWordsAreDrawnBesideThem()
+    {
+        auto &words = m_form->control<QListWidget>("lstExportWords");
+        const auto drawn = [&words](int row) {
+            words.item(row)->setText({});
+            return words.viewport()->grab(words.visualItemRect(words.item(row))).toImage();
+        };
+        m_form->chooseRange(4, 9);
+        QCOMPARE(m_form->preview(), ExportForm::words(4, 9));
+        const QImage five = drawn(1);
+        QVERIFY(drawn(2) != five);
+        m_form->chooseRange(9, 4);
+        QCOMPARE(drawn(4), five);
+    }
+
+    void aDoubleClickSetsTheStartAndTheNextOneTheEnd()
+    {
+        const auto doubleClick = [this](int row) {
+            auto &words = m_form->control<QListWidget>("lstExportWords");
+            const QPoint place = words.visualItemRect(words.item(row)).center();
+            QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, place);
+            QTest::mouseDClick(words.viewport(), Qt::LeftButton, {}, place);
+        };
+        doubleClick(2);
+        QCOMPARE(m_form->preview(), ExportForm::words(3, 10));
+        QCOMPARE(m_form->text("txtStart"), u"3"_s);
+        doubleClick(4);
+        QCOMPARE(m_form->preview(), ExportForm::words(3, 7));
+        QCOMPARE(m_form->text("txtEnd"), u"7"_s);
+        doubleClick(4);
+        QCOMPARE(m_form->text("txtStart"), u"7"_s);
+        QCOMPARE(m_form->preview(), ExportForm::words(7, 7));
+    }
+
+    void withoutAFileNameTheNameBoxGetsTheKeyboard()
+    {
+        QVERIFY(!m_form->control<QLineEdit>("txtFilename").placeholderText().isEmpty());
+        m_form->click("cmdOk");
+        QVERIFY(m_form->dialog().isVisible());
+        QVERIFY(m_form->control<QLineEdit>("txtFilename").hasFocus());
+    }
+
+    void aNameWithoutTheEndingIsNoted_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isNoted");
+        QTest::newRow("no name") << QString() << false;
+        QTest::newRow("blanks") << u"  "_s << false;
+        QTest::newRow("ending") << u"/tmp/animals.lwx "_s << false;
+        QTest::newRow("capitals") << u"/tmp/animals.LWX"_s << false;
+        QTest::newRow("no ending") << u"/tmp/animals"_s << true;
+        QTest::newRow("other ending") << u"/tmp/animals.dif"_s << true;
+    }
+
+    void aNameWithoutTheEndingIsNoted()
+    {
+        QFETCH(QString, name);
+        m_form->type("txtFilename", name);
+        QTEST(!m_form->control<QLabel>("lblEnding").text().isEmpty(), "isNoted");
+    }
+
     void equalNumbersShowNothingAfterTheStartBoxAndTheWordAfterTheEndBox()
     {
         m_form->typeAndLeave("txtEnd", u"4"_s);
