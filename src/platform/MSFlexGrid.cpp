@@ -32,6 +32,18 @@ QString wrappingToolTip(QString text)
     return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(text.toHtmlEscaped());
 }
 
+// So that a header in a narrow column is not cut.
+void shrinkToFit(QStyleOptionViewItem &option)
+{
+    constexpr int margin = 8;
+    const int room = option.rect.width() - margin;
+    const int needed = QFontMetrics(option.font).horizontalAdvance(option.text);
+    if (needed <= room || room <= 0)
+        return;
+    option.font.setPixelSize(std::max(1, option.font.pixelSize() * room / needed));
+    option.fontMetrics = QFontMetrics(option.font);
+}
+
 class OneLineDelegate final : public QStyledItemDelegate
 {
 public:
@@ -50,6 +62,8 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         if (index.row() == 0 || index.column() == 0)
             option->backgroundBrush = option->palette.window();
+        if (index.row() == 0)
+            shrinkToFit(*option);
         if (index.column() == 0)
             option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
     }

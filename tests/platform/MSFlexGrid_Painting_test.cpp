@@ -128,6 +128,18 @@ private Q_SLOTS:
         }
     }
 
+    // Two headers that differ in their last letter look the same where it is cut.
+    void aHeaderIsShownWholeInANarrowColumn()
+    {
+        GridPage page;
+        page.grid.setColumnWidth(1, 90);
+        page.grid.setCellBold(0, 1, true);
+        page.grid.setText(0, 1, u"Vocabulary Word"_s);
+        const QImage word = page.cellImage(0, 1);
+        page.grid.setText(0, 1, u"Vocabulary Worm"_s);
+        QVERIFY(page.cellImage(0, 1) != word);
+    }
+
     void aTextOfSeveralLinesIsShownOnOne()
     {
         GridPage page;
