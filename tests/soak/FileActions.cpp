@@ -71,7 +71,15 @@ std::optional<QString> expectSaveDialog(Soak &soak, const QString &ending, const
     return {};
 }
 
-// The dialog must offer the name of the list, and none for an untitled list.
+// Of the list's file, or of the one in the caption.
+QString nameToOffer(const Model &model)
+{
+    for (const QString &path : {model.fileName, model.openedFile})
+        if (!path.isEmpty())
+            return QFileInfo(path).fileName();
+    return u"words.lwx"_s;
+}
+
 void compareOffered(QFileDialog &dialog, const QString &name)
 {
     const QString offered = Controls::find<QLineEdit>(dialog, "fileNameEdit").text();
@@ -82,9 +90,9 @@ void compareOffered(QFileDialog &dialog, const QString &name)
 Outcome expectSaveAs(Soak &soak)
 {
     Model &model = soak.model;
-    const QString ownName = QFileInfo(model.fileName).fileName();
+    const QString name = nameToOffer(model);
     const auto target = expectSaveDialog(
-        soak, u".lwx"_s, [ownName](QFileDialog &dialog) { compareOffered(dialog, ownName); });
+        soak, u".lwx"_s, [name](QFileDialog &dialog) { compareOffered(dialog, name); });
     if (!target)
         return Outcome::Declined;
     const int error = model.count() > 0 ? Model::writeError(*target) : 0;

@@ -51,8 +51,7 @@ template <const char *Name> void click(Soak &soak)
     Controls::click(in<QPushButton>(soak, Name));
 }
 
-// Whether the game can ask each word. A word of one or two letters is asked without being shown; an
-// empty one cannot be asked.
+// Whether the game can ask each word or stands still for it.
 bool isPlayable(Soak &soak)
 {
     const auto &entries = soak.model.entries;
@@ -90,6 +89,13 @@ bool isPlaying(Soak &soak)
 QString wordOfGame()
 {
     return Module1::gVocabList().Word();
+}
+
+// For a word that is too short to be scrambled. Answers and time then change nothing.
+bool standsStill()
+{
+    const qsizetype letters = wordOfGame().size();
+    return letters == 1 || letters == 2;
 }
 
 void resetTop10(Soak &soak, QDialog &form)
@@ -151,6 +157,8 @@ void useMiss(Soak &soak, QDialog &form, bool isLast)
 
 void expectMiss(Soak &soak)
 {
+    if (standsStill())
+        return;
     const bool isLast = number(soak, "lblNumLifes") == 1;
     soak.answers().useForm("dlgIncorrectAnswer",
                            [&soak, isLast](QDialog &form) { useMiss(soak, form, isLast); });
@@ -168,7 +176,7 @@ void answerRight(Soak &soak)
 {
     auto &hits = in<QListWidget>(soak, "lstHits");
     const int level = number(soak, "lblLevel");
-    if (hits.count() == HitsOfALevel - 1 && level < LastLevel)
+    if (hits.count() == HitsOfALevel - 1 && level < LastLevel && !standsStill())
         soak.expectMsgBox(u"Level %1"_s.arg(level + 1));
     type(soak, wordOfGame());
 }

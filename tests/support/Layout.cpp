@@ -94,6 +94,7 @@ void Layout::checkNames(const QWidget &window, Caller caller)
 void Layout::checkFitsTheScreen(const QWidget &window, Caller caller)
 {
     checkNothingIsCut(window, caller);
+    checkNames(window, caller);
     constexpr int titleBar = 30;
     const QRect room = window.screen()->availableGeometry();
     if (window.width() > room.width() || window.height() > room.height() - titleBar)
