@@ -274,7 +274,7 @@ private Q_SLOTS:
         addEntry(*m_main, u"cow"_s);
         m_main->answers.cancelFileDialog([](QFileDialog &dialog) {
             QCOMPARE(dialog.windowTitle(), u"Save File As"_s);
-            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), QString());
+            QCOMPARE(Controls::find<QLineEdit>(dialog, "fileNameEdit").text(), u"words.lwx"_s);
         });
         m_main->choose("mnuSave");
         QCOMPARE(readFile(m_path), listBytes(m_entries));
