@@ -17,6 +17,13 @@ QColor thumbColour(const QStyleOptionSlider &bar)
     return isDark(bar.palette) ? QColor(0x9A, 0xA3, 0xA9) : QColor(0x66, 0x72, 0x7A);
 }
 
+// A bar that only has its two arrows is used for steps.
+bool isLong(const QRect &thumb, const QStyleOptionSlider &bar)
+{
+    return bar.orientation == Qt::Vertical ? thumb.height() >= thumb.width()
+                                           : thumb.width() >= thumb.height();
+}
+
 void drawThumb(QPainter &painter, QRect place, const QStyleOptionSlider &bar)
 {
     constexpr int gap = 3; // to the track's edges
@@ -46,7 +53,7 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
     QStyleOptionSlider track = *bar;
     track.subControls.setFlag(SC_ScrollBarSlider, false);
     QProxyStyle::drawComplexControl(control, &track, painter, widget);
-    if (bar->minimum < bar->maximum && bar->state.testFlag(State_Enabled))
-        drawThumb(*painter, proxy()->subControlRect(control, bar, SC_ScrollBarSlider, widget),
-                  *bar);
+    const QRect thumb = proxy()->subControlRect(control, bar, SC_ScrollBarSlider, widget);
+    if (bar->minimum < bar->maximum && bar->state.testFlag(State_Enabled) && isLong(thumb, *bar))
+        drawThumb(*painter, thumb, *bar);
 }

@@ -64,7 +64,7 @@ def take(guide):
 def page_shown(person):
     """The number of the page in the preview, and how many there are, once they are counted."""
     def look():
-        names = [part.name for part in person.front().below() if part.role == "label"]
+        names = [part.name for part in person.front().below() if part.role == "status bar"]
         numbers = next(filter(None, (re.fullmatch(r"Page (\d+) of (\d+)", name) for name in names)))
         return tuple(map(int, numbers.groups()))
 
