@@ -74,6 +74,10 @@ std::optional<Text> blankedFromTheLeft(TextView rest, const Forms &forms)
 
 Text blankedPlainly(TextView sentence, TextView word)
 {
+    while (word.starts_with(u' '))
+        word.remove_prefix(1);
+    while (word.ends_with(u' '))
+        word.remove_suffix(1);
     for (std::size_t leftOff = 0; leftOff <= 2 && leftOff < word.size(); ++leftOff) {
         const TextView stem = word.substr(0, word.size() - leftOff);
         const Forms forms{upperCase(word.substr(0, 1)).append(word.substr(1)), Text(stem),
