@@ -91,9 +91,9 @@ void EntryTextBox::markLostCharacters()
     QList<QTextEdit::ExtraSelection> marks;
     for (QTextBlock line = document()->firstBlock(); line.isValid(); line = line.next()) {
         const QString text = line.text();
-        auto end = text.cbegin();
+        const QChar *end = text.cbegin();
         while (marks.size() < most) {
-            const auto start = std::find_if_not(end, text.cend(), isKept);
+            const QChar *const start = std::find_if_not(end, text.cend(), isKept);
             if (start == text.cend())
                 break;
             end = std::find_if(start, text.cend(), isKept);
