@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 HelpKey::HelpKey()
@@ -24,6 +25,10 @@ bool HelpKey::eventFilter(QObject *watched, QEvent *event)
     const QString page = handbookPageOf(control);
     if (page.isEmpty())
         return false;
+    // Not while a long command shows its progress, nor over its own message.
+    if (isHandlerAtWork() || m_isHelping)
+        return true;
+    const QScopedValueRollback helping(m_isHelping, true);
     runGuarded([&] { openHandbook(page, control.window()); });
     return true;
 }

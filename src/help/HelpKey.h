@@ -14,4 +14,7 @@ public:
     HelpKey();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool m_isHelping = false;
 };
