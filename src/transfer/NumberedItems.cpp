@@ -37,6 +37,12 @@ void NumberedItems::paint(QPainter *painter, const QStyleOptionViewItem &option,
     painter->restore();
 }
 
+QSize NumberedItems::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    return QStyledItemDelegate::sizeHint(option, index) +
+           QSize(width(option, index.model()->rowCount()), 0);
+}
+
 // Enough for the greatest number, which is in the first row or the last one.
 int NumberedItems::width(const QStyleOptionViewItem &option, int rows) const
 {

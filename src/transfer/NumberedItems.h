@@ -19,6 +19,9 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const override;
+
 private:
     [[nodiscard]] int width(const QStyleOptionViewItem &option, int rows) const;
 

@@ -118,6 +118,8 @@ void dlgExport::txtEnd_LostFocus()
 void dlgExport::fillPreview(EqualNumbers equalNumbers)
 {
     m_ui->lstExportWords->clear();
+    m_shownStart = StartNo;
+    m_shownEnd = EndNo;
     if (StartNo == EndNo && equalNumbers == EqualNumbers::ShowNothing)
         return;
     cVocabList &list = gVocabList();
@@ -131,7 +133,7 @@ void dlgExport::fillPreview(EqualNumbers equalNumbers)
 
 int dlgExport::numberOf(int row) const
 {
-    return StartNo.toInt() + (EndNo >= StartNo ? row : -row);
+    return m_shownStart.toInt() + (m_shownEnd >= m_shownStart ? row : -row);
 }
 
 // A double click sets the start of the range, the next one its end.

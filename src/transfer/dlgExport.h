@@ -46,6 +46,8 @@ private:
 
     std::unique_ptr<Ui::dlgExport> m_ui;
     CommonDialog Cdlg;
+    Integer m_shownStart; // of the preview
+    Integer m_shownEnd;
     Integer StartNo; // first item number of the range
     Integer EndNo;   // last item number; below the first, the range runs downwards
     Integer ExportCount;
