@@ -58,8 +58,12 @@ void frmPrint::connectPreview()
 {
     PagePreview *preview = m_ui->preview;
     const auto turnsTo = [this, preview](QAbstractButton *button, PagePreview::Page page) {
-        connect(button, &QAbstractButton::clicked, preview,
-                [preview, page] { runGuarded([preview, page] { preview->goTo(page); }); });
+        connect(button, &QAbstractButton::clicked, preview, [this, preview, page] {
+            runGuarded([this, preview, page] {
+                takeTypedText(); // a click leaves the keyboard where it is
+                preview->goTo(page);
+            });
+        });
         new LostFocus(button, [this] { showPage(); });
     };
     turnsTo(m_ui->cmdFirstPage, PagePreview::Page::First);

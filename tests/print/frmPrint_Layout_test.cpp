@@ -291,6 +291,16 @@ private Q_SLOTS:
         QVERIFY(shows(u"1"_s));
     }
 
+    void aClickOnAPageButtonTakesWhatIsTyped()
+    {
+        PrintForm form(100);
+        form.type("txtLeftMargin", u"1.5"_s);
+        form.click("cmdNextPage");
+        QCOMPARE(Controls::focusedControl(), u"txtLeftMargin"_s);
+        QCOMPARE(form.text("txtLeftMargin"), u"1.50"_s);
+        QCOMPARE(Module1::LeftMargin, Currency::fromScaled(15'000));
+    }
+
     void aStepToTheLastPageKeepsTheKeyboard()
     {
         PrintForm form(100);
