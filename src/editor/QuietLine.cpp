@@ -6,6 +6,7 @@
 #include "editor/WordEditor.h"
 #include "editor/ui_frmMain.h"
 #include "platform/Guarded.h"
+#include "runtime/Blanks.h"
 #include "runtime/Windows1252.h"
 
 #include <QFileInfo>
@@ -35,7 +36,7 @@ QString hitText(Integer hit)
 
 QuietLine::QuietLine(const Ui::frmMain &ui, const WordEditor &editor) : m_ui(ui), m_editor(editor)
 {
-    connect(ui.txtWord, &QLineEdit::textChanged, this, guarded(this, &QuietLine::refresh));
+    connect(ui.txtWord, &QLineEdit::textChanged, this, guarded(this, &QuietLine::txtWord_Change));
     setHandlerEndHook([this] { refresh(); });
 }
 
@@ -50,16 +51,17 @@ void QuietLine::say(const QString &text)
     m_shownBefore = QString();
 }
 
+// What is shown follows at the handler's end.
+void QuietLine::txtWord_Change() {}
+
 void QuietLine::refresh()
 {
-    // A handler that still works changes the list and the boxes step by step.
-    if (!isHandlerAtWork())
-        m_ui.lblQuiet->show(line());
+    m_ui.lblQuiet->show(line());
 }
 
 QuietTexts::Line QuietLine::line()
 {
-    if (const QString lost = lostCharacters(); !lost.isEmpty())
+    if (const QString lost = isTyped() ? lostCharacters() : QString(); !lost.isEmpty())
         return {lost, {}};
     QuietTexts::Line line = lineOfMode();
     const QString text = line.text + line.marked;
@@ -74,21 +76,35 @@ QuietTexts::Line QuietLine::line()
 
 QuietTexts::Line QuietLine::lineOfMode() const
 {
-    if (m_editor.mode() == EditorMode::Found)
+    if (isHitInBox())
         return {hitText(m_editor.chosenEntry()), {}};
     if (const QString same = sameWord(); !same.isEmpty())
         return {same, {}};
     return QuietTexts::ofList(gVocabList().NumWords().toInt(), gChanged, saveFile());
 }
 
+// Whether the boxes hold an entry for the list.
+bool QuietLine::isTyped() const
+{
+    const EditorMode mode = m_editor.mode();
+    return mode == EditorMode::NewList || mode == EditorMode::NewWord ||
+           mode == EditorMode::Editing;
+}
+
+// Not while the next word to look for is typed, or after it was not found.
+bool QuietLine::isHitInBox() const
+{
+    const Integer hit = m_editor.chosenEntry();
+    return m_editor.mode() == EditorMode::Found && hit != 0 &&
+           withoutOuterBlanks(m_ui.txtWord->text()).toLower() ==
+               gVocabList().entry(hit).Word.toLower();
+}
+
 // While a word is typed, the entry that has it already.
 QString QuietLine::sameWord() const
 {
-    const EditorMode mode = m_editor.mode();
-    const bool isTyped =
-        mode == EditorMode::NewList || mode == EditorMode::NewWord || mode == EditorMode::Editing;
     const QString word = m_ui.txtWord->text();
-    if (!isTyped || word.isEmpty())
+    if (!isTyped() || word.isEmpty())
         return {};
     cVocabList &list = gVocabList();
     for (const int position : list.positionsOf(word))

@@ -26,7 +26,10 @@ public:
     void say(const QString &text);
 
 private:
+    void txtWord_Change();
     void refresh();
+    [[nodiscard]] bool isTyped() const;
+    [[nodiscard]] bool isHitInBox() const;
     [[nodiscard]] QuietTexts::Line line();
     [[nodiscard]] QuietTexts::Line lineOfMode() const;
     [[nodiscard]] QString sameWord() const;

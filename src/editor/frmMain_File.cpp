@@ -189,11 +189,14 @@ void frmMain::importWords(const QString &path)
     connect(&import, &Import::changed, m_editor.get(), &WordEditor::changed);
     connect(&import, &Import::progress, &progress, &ProgressShown::show);
     connect(&import, &Import::paused, &progress, &ProgressShown::pause);
+    const bool isList = kind == QLatin1String("lwx");
+    if (!isList && kind != QLatin1String("dif"))
+        return;
     const auto report =
         qScopeGuard([&] { m_quietLine->say(QuietTexts::ofImport(import.added())); });
-    if (kind == QLatin1String("lwx"))
+    if (isList)
         import.ImportWordList();
-    else if (kind == QLatin1String("dif"))
+    else
         import.ImportDif();
 }
 

@@ -56,6 +56,6 @@ bool runGuarded(const std::function<void()> &handler)
 {
     const bool succeeded = runAndTell(handler);
     if (handlerEndHook && !isHandlerAtWork())
-        handlerEndHook();
+        runAndTell(handlerEndHook);
     return succeeded;
 }

@@ -106,7 +106,7 @@ private Q_SLOTS:
         QApplication::activeWindow()->close();
     }
 
-    void aboutShowsTheVersion()
+    void aboutOpensItsWindow()
     {
         MainWindow main;
         main.answers.useForm("dlgAbout", [](QDialog &dialog) { dialog.close(); });

@@ -90,6 +90,13 @@ private Q_SLOTS:
         QCOMPARE(line(), u"1 of 2 found. A click on its row changes it."_s);
         m_main->click("cmdSearch");
         QCOMPARE(line(), u"2 of 2 found. A click on its row changes it."_s);
+        put("txtWord", u"b"_s);
+        QCOMPARE(line(), u"4 words · Save writes animals.lwx"_s);
+        put("txtWord", u"ł"_s);
+        QCOMPARE(line(), u"4 words · Save writes animals.lwx"_s);
+        m_main->answers.expectMsgBox(u"ł is not in the list."_s);
+        m_main->click("cmdSearch");
+        QCOMPARE(line(), u"4 words · Save writes animals.lwx"_s);
         m_main->click("cmdAbort");
         QCOMPARE(line(), u"4 words · Save writes animals.lwx"_s);
     }
