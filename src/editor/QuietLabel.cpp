@@ -2,28 +2,18 @@
 #include "editor/QuietLabel.h"
 
 #include "platform/Appearance.h"
+#include "platform/StatusBarRole.h"
 
-#include <QAccessibleWidget>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
 
-namespace {
-
-QAccessibleInterface *interfaceOf(const QString & /*className*/, QObject *object)
-{
-    auto *label = qobject_cast<QuietLabel *>(object);
-    return label ? new QAccessibleWidget(label, QAccessible::StatusBar) : nullptr;
-}
-
-} // namespace
-
 QuietLabel::QuietLabel(QWidget *parent) : QWidget(parent)
 {
-    QAccessible::installFactory(interfaceOf);
+    giveStatusBarRole<QuietLabel>();
 }
 
-void QuietLabel::show(const QuietTexts::Line &line)
+void QuietLabel::setLine(const QuietTexts::Line &line)
 {
     if (line.text == m_line.text && line.marked == m_line.marked)
         return;

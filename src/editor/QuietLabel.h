@@ -14,7 +14,7 @@ class QuietLabel final : public QWidget
 public:
     explicit QuietLabel(QWidget *parent = nullptr);
 
-    void show(const QuietTexts::Line &line);
+    void setLine(const QuietTexts::Line &line);
     [[nodiscard]] QString text() const { return m_line.text + m_line.marked; }
     [[nodiscard]] QString markedText() const { return m_line.marked; }
 

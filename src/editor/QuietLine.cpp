@@ -56,7 +56,7 @@ void QuietLine::txtWord_Change() {}
 
 void QuietLine::refresh()
 {
-    m_ui.lblQuiet->show(line());
+    m_ui.lblQuiet->setLine(line());
 }
 
 QuietTexts::Line QuietLine::line()

@@ -15,5 +15,5 @@ public:
     explicit PageLabel(QWidget *parent = nullptr);
 
     // While the number of pages is estimated, screen readers hear nothing of it.
-    void show(const QString &text, Count count);
+    void setPages(const QString &text, Count count);
 };

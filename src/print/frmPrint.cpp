@@ -177,8 +177,8 @@ void frmPrint::showPreview()
 void frmPrint::showPage()
 {
     const PagePreview &preview = *m_ui->preview;
-    m_ui->lblPage->show(preview.pageText(), preview.isCounted() ? PageLabel::Count::Known
-                                                                : PageLabel::Count::Estimated);
+    m_ui->lblPage->setPages(preview.pageText(), preview.isCounted() ? PageLabel::Count::Known
+                                                                    : PageLabel::Count::Estimated);
     // A button that is disabled would lose the focus.
     const auto enable = [](QWidget *button, bool enabled) {
         button->setEnabled(enabled || button->hasFocus());
