@@ -196,7 +196,7 @@ void turnedTile(benchmark::State &state)
     });
 }
 
-// All letters are turned up, the heart fades and a ring grows out of the countdown.
+// All letters are turned up, the heart fades and a circle closes in the countdown.
 void timeOut(benchmark::State &state)
 {
     Play play;

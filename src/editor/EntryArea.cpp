@@ -85,7 +85,8 @@ void EntryArea::placeButtons(const MainLayout &layout, int top)
 
     const std::array entryButtons{m_ui.cmdAdd, m_ui.cmdAbort, m_ui.cmdDelete, m_ui.cmdSearch};
     const int room = playLeft - flashWidth - Spacing;
-    int width = std::max(116, m_ui.cmdNewWord->sizeHint().width() + 2 * Spacing);
+    constexpr int usualWidth = 116;
+    int width = std::max(usualWidth, m_ui.cmdNewWord->sizeHint().width() + 2 * Spacing);
     width = std::min(width, room / int(entryButtons.size()) - Spacing);
     int left = Spacing;
     for (QPushButton *button : entryButtons) {

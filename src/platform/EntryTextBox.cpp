@@ -89,7 +89,8 @@ void EntryTextBox::markLostCharacters()
     constexpr int most = 200;
     const auto isKept = [](QChar character) { return isInWindows1252(character.unicode()); };
     QList<QTextEdit::ExtraSelection> marks;
-    for (QTextBlock line = document()->firstBlock(); line.isValid(); line = line.next()) {
+    for (QTextBlock line = document()->firstBlock(); line.isValid() && marks.size() < most;
+         line = line.next()) {
         const QString text = line.text();
         const QChar *end = text.cbegin();
         while (marks.size() < most) {

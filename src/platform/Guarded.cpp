@@ -15,7 +15,7 @@ namespace {
 // The level of nested event loops at which the innermost handler began; -1 if none runs.
 int handlerLevel = -1;
 
-std::function<void()> handlerEndHook; // NOLINT(cert-err58-cpp)
+std::function<void()> handlerEndHook;
 
 int loopLevel()
 {
