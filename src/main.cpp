@@ -23,9 +23,10 @@ int main(int argc, char *argv[])
     }
     // Between the splash and the main window no window is open.
     Application::setQuitOnLastWindowClosed(false);
-    frmSplash splash;
+    auto splash = std::make_unique<frmSplash>();
     std::unique_ptr<frmMain> mainWindow;
-    QObject::connect(&splash, &frmSplash::unloaded, &application, [&mainWindow] {
+    QObject::connect(splash.get(), &frmSplash::unloaded, &application, [&splash, &mainWindow] {
+        splash.release()->deleteLater();
         runGuarded([] { installSampleLists(pathOf(Place::WordLists)); });
         if (!runGuarded([&mainWindow] {
                 mainWindow = std::make_unique<frmMain>();
@@ -34,6 +35,6 @@ int main(int argc, char *argv[])
             Application::exit(EXIT_FAILURE);
         Application::setQuitOnLastWindowClosed(true);
     });
-    splash.show();
+    splash->show();
     return Application::exec();
 }
