@@ -1,13 +1,88 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/CommonDialog.h"
 
+#include "platform/Paths.h"
+#include "platform/Screen.h"
+
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
+#include <QHeaderView>
+#include <QListView>
 #include <QPixmapCache>
 #include <QScopeGuard>
 #include <QSettings>
+#include <QTreeView>
+#include <QUrl>
+
+#include <algorithm>
 
 namespace {
+
+// The size and place of the dialog that was open last.
+QByteArray &lastGeometry()
+{
+    static QByteArray geometry;
+    return geometry;
+}
+
+// Names the kinds of files that the program reads and writes, whether the desktop knows them or
+// not.
+class FileKinds final : public QFileIconProvider
+{
+public:
+    [[nodiscard]] QString type(const QFileInfo &info) const override
+    {
+        static const QHash<QString, QString> kinds{
+            {QStringLiteral("lwx"), QStringLiteral("Word list")},
+            {QStringLiteral("dif"), QStringLiteral("Spreadsheet data")},
+            {QStringLiteral("txt"), QStringLiteral("Text file")},
+            {QStringLiteral("pdf"), QStringLiteral("PDF document")}};
+        const QString kind = info.isDir() ? QString() : kinds.value(info.suffix().toLower());
+        return kind.isEmpty() ? QFileIconProvider::type(info) : kind;
+    }
+};
+
+class FileDialog final : public QFileDialog
+{
+public:
+    FileDialog(QWidget *parent, const QString &title) : QFileDialog(parent, title)
+    {
+        setObjectName(QStringLiteral("CommonDialog"));
+        setIconProvider(&m_kinds);
+        if (const QString lists = pathOf(Place::WordLists); QFileInfo(lists).isDir())
+            setSidebarUrls(sidebarUrls() << QUrl::fromLocalFile(lists));
+        const int line = fontMetrics().height();
+        openWithSize(*this, {53 * line, 33 * line});
+        restoreGeometry(lastGeometry());
+        widenColumns();
+        // Qt's label of this box is not its buddy.
+        if (auto *types = findChild<QComboBox *>(QStringLiteral("fileTypeCombo")))
+            types->setAccessibleName(QStringLiteral("Files of type"));
+    }
+
+protected:
+    void done(int result) override
+    {
+        lastGeometry() = saveGeometry();
+        QFileDialog::done(result);
+    }
+
+private:
+    // So that names and dates are read whole. A dialog of the desktop has no such views.
+    void widenColumns()
+    {
+        if (const auto *files = findChild<QTreeView *>(QStringLiteral("treeView")))
+            files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        if (auto *places = findChild<QListView *>(QStringLiteral("sidebar"))) {
+            const int wanted = places->sizeHintForColumn(0) + 2 * places->frameWidth();
+            places->setMinimumWidth(std::min(wanted, width() / 4));
+        }
+    }
+
+    FileKinds m_kinds;
+};
 
 // "Lists (*.lwx)|*.lwx" becomes "Lists (*.lwx) (*.lwx)": Qt takes the pattern from the last
 // brackets and, told to hide the details, shows what stands before them.
@@ -61,9 +136,7 @@ bool CommonDialog::show(QWidget *parent, Purpose purpose)
     // Qt's dialog writes the folders it has shown to the person's settings. In this place it
     // cannot.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
-    QFileDialog dialog(parent, DialogTitle);
-    dialog.resize(900, 560);
-    dialog.setObjectName(QStringLiteral("CommonDialog"));
+    FileDialog dialog(parent, DialogTitle);
     dialog.setAcceptMode(purpose == Purpose::Open ? QFileDialog::AcceptOpen
                                                   : QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);

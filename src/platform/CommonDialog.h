@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The common file dialog. Its properties stay from one opening to the next, so that the last
 // folder and name are offered again. Where the folder to start in is missing, the dialog starts in
-// the nearest one above it; of a name whose folder is missing only the name is offered.
+// the nearest one above it; of a name whose folder is missing only the name is offered. The dialog
+// opens with the size and in the place that the last one had.
 #pragma once
 
 #include <QString>
