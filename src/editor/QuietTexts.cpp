@@ -62,7 +62,10 @@ QString QuietTexts::ofPrint(const QString &target)
     return QStringLiteral("Printed to %1.").arg(target);
 }
 
-QString QuietTexts::ofImport(int added)
+QString QuietTexts::ofImport(int added, int refused)
 {
-    return counted(added) + QStringLiteral(" added.");
+    const QString text = counted(added) + QStringLiteral(" added");
+    if (refused == 0)
+        return text + QLatin1Char('.');
+    return text + QStringLiteral(", %1 not added: the list is full.").arg(refused);
 }

@@ -29,8 +29,8 @@ struct SaveFile
 [[nodiscard]] QString ofHit(int hit, int hits);
 // "This list cannot keep: ł, 漢". Empty without characters.
 [[nodiscard]] QString ofLostCharacters(const QStringList &characters);
-// "12 words added." after an import.
-[[nodiscard]] QString ofImport(int added);
+// "12 words added." after an import, or "12 words added, 3 not added: the list is full."
+[[nodiscard]] QString ofImport(int added, int refused);
 // "Written to animals.txt."
 [[nodiscard]] QString ofTextFile(const QString &path);
 // "Printed to Office printer."

@@ -192,8 +192,8 @@ void frmMain::importWords(const QString &path)
     const bool isList = kind == QLatin1String("lwx");
     if (!isList && kind != QLatin1String("dif"))
         return;
-    const auto report =
-        qScopeGuard([&] { m_quietLine->say(QuietTexts::ofImport(import.added())); });
+    const auto report = qScopeGuard(
+        [&] { m_quietLine->say(QuietTexts::ofImport(import.added(), import.refused())); });
     if (isList)
         import.ImportWordList();
     else

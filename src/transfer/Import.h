@@ -20,8 +20,10 @@ public:
 
     void ImportWordList();
     void ImportDif();
-    // How many words were added so far.
+    // How many words were added so far, and how many the full list refused. The message at the end
+    // counts both.
     [[nodiscard]] int added() const { return m_adder.added(); }
+    [[nodiscard]] int refused() const { return m_adder.refused(); }
 
 Q_SIGNALS:
     // The main window should be brought up to date.

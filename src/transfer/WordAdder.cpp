@@ -29,14 +29,16 @@ void WordAdder::add(const QString &word, const QString &definition, const QStrin
     if (!m_list.isFull()) {
         addToList();
         ++m_added;
-    } else if (++m_refused <= ToldOneByOne) {
-        tell(addToList);
+        return;
     }
+    ++m_refused;
+    if (++m_toTell <= ToldOneByOne)
+        tell(addToList);
 }
 
 void WordAdder::tellOfTheRest()
 {
-    const int words = std::exchange(m_refused, 0) - ToldOneByOne;
+    const int words = std::exchange(m_toTell, 0) - ToldOneByOne;
     if (words > 0)
         tell([words] { MsgBox(restText(words)); });
 }

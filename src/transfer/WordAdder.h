@@ -16,9 +16,10 @@ public:
     explicit WordAdder(cVocabList &list, std::function<void()> paused = {});
 
     void add(const QString &word, const QString &definition, const QString &sentence);
-    // How many words were added.
+    // How many words were added, and how many the full list refused.
     [[nodiscard]] int added() const { return m_added; }
-    // Shows how many more words were refused, if any.
+    [[nodiscard]] int refused() const { return m_refused; }
+    // Shows how many words were refused without a message, if any.
     void tellOfTheRest();
 
 private:
@@ -28,4 +29,5 @@ private:
     std::function<void()> m_paused;
     int m_added = 0;
     int m_refused = 0;
+    int m_toTell = 0; // of the refused ones
 };

@@ -57,8 +57,9 @@ private Q_SLOTS:
 
     void commandsAreReported()
     {
-        QCOMPARE(QuietTexts::ofImport(0), u"No words added."_s);
-        QCOMPARE(QuietTexts::ofImport(1), u"1 word added."_s);
+        QCOMPARE(QuietTexts::ofImport(0, 0), u"No words added."_s);
+        QCOMPARE(QuietTexts::ofImport(1, 0), u"1 word added."_s);
+        QCOMPARE(QuietTexts::ofImport(12, 3), u"12 words added, 3 not added: the list is full."_s);
         QCOMPARE(QuietTexts::ofTextFile(u"/home/a/words.txt"_s), u"Written to words.txt."_s);
         QCOMPARE(QuietTexts::ofPrint(u"words.pdf"_s), u"Printed to words.pdf."_s);
         QCOMPARE(QuietTexts::ofHit(2, 3), u"2 of 3 found. A click on its row changes it."_s);

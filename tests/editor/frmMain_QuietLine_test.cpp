@@ -139,6 +139,23 @@ private Q_SLOTS:
         QVERIFY(command.main.answers.allSeen());
     }
 
+    // The message counts the words of the file.
+    void anImportIntoAFullListSaysWhatCameIn()
+    {
+        m_main.reset();
+        ImportCommand command;
+        for (int i = 1; i < cVocabList::MaxWords; ++i)
+            gVocabList().AddVocab(u"old"_s, {}, {});
+        for (int i = 0; i < 2; ++i)
+            command.expectMsgBox(u"Cannot add any more words. Maximum number of words= 32000"_s);
+        command.expectMsgBox(u"3 words added"_s);
+        command.importDif(ImportTools::difLinesOf({u"cat|a"_s, u"cow|b"_s, u"dog|c"_s}));
+        QCOMPARE(Controls::find<QuietLabel>(command.main.window(), "lblQuiet").text(),
+                 u"1 word added, 2 not added: the list is full."_s);
+        gChanged = false;
+        QVERIFY(command.main.answers.allSeen());
+    }
+
     void screenReadersReadAStatusBar()
     {
         const QAccessibleInterface *label = QAccessible::queryAccessibleInterface(&quiet());

@@ -93,6 +93,8 @@ private Q_SLOTS:
         adder.tellOfTheRest();
         QCOMPARE(list.NumWords(), Integer(cVocabList::MaxWords));
         QCOMPARE(entryText(list, cVocabList::MaxWords), u"new 1||"_s);
+        QCOMPARE(adder.added(), 2);
+        QCOMPARE(adder.refused(), 4);
     }
 
     void pausedIsCalledBeforeAndAfterEachMessage()
