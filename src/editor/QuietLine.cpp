@@ -6,8 +6,8 @@
 #include "editor/WordEditor.h"
 #include "editor/ui_frmMain.h"
 #include "platform/Guarded.h"
+#include "platform/TextMarks.h"
 #include "runtime/Blanks.h"
-#include "runtime/Windows1252.h"
 
 #include <QFileInfo>
 
@@ -56,7 +56,9 @@ void QuietLine::txtWord_Change() {}
 
 void QuietLine::refresh()
 {
-    m_ui.lblQuiet->setLine(line());
+    const QuietTexts::Line now = line();
+    m_ui.lblQuiet->setLine(now.text, now.marked);
+    m_ui.txtWord->showLostCharacters(isTyped());
 }
 
 QuietTexts::Line QuietLine::line()
@@ -115,8 +117,6 @@ QString QuietLine::sameWord() const
 
 QString QuietLine::lostCharacters() const
 {
-    constexpr int most = 10; // more than are named
-    const QString texts =
-        m_ui.txtWord->text() + m_ui.txtDefinition->text() + m_ui.txtSentence->text();
-    return QuietTexts::ofLostCharacters(notInWindows1252(texts, most));
+    return lostCharactersText(m_ui.txtWord->text() + m_ui.txtDefinition->text() +
+                              m_ui.txtSentence->text());
 }

@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int MostCharacters = 8; // that are named
-
 QString counted(int words)
 {
     return words == 0   ? QStringLiteral("No words")
@@ -41,15 +39,6 @@ QString QuietTexts::ofSameWord(int position, const VocabRecord &entry)
 QString QuietTexts::ofHit(int hit, int hits)
 {
     return QStringLiteral("%1 of %2 found. A click on its row changes it.").arg(hit).arg(hits);
-}
-
-QString QuietTexts::ofLostCharacters(const QStringList &characters)
-{
-    if (characters.isEmpty())
-        return {};
-    const QString more = characters.size() > MostCharacters ? QStringLiteral(", …") : QString();
-    return QStringLiteral("This list cannot keep: ") +
-           characters.mid(0, MostCharacters).join(QStringLiteral(", ")) + more;
 }
 
 QString QuietTexts::ofTextFile(const QString &path)

@@ -4,7 +4,7 @@
 
 #include "core/VocabRecord.h"
 
-#include <QStringList>
+#include <QString>
 
 namespace QuietTexts {
 
@@ -27,8 +27,6 @@ struct SaveFile
 [[nodiscard]] QString ofSameWord(int position, const VocabRecord &entry);
 // "2 of 3 found. A click on its row changes it."
 [[nodiscard]] QString ofHit(int hit, int hits);
-// "This list cannot keep: ł, 漢". Empty without characters.
-[[nodiscard]] QString ofLostCharacters(const QStringList &characters);
 // "12 words added." after an import, or "12 words added, 3 not added: the list is full."
 [[nodiscard]] QString ofImport(int added, int refused);
 // "Written to animals.txt."

@@ -1,34 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/EntryTextBox.h"
 
-#include "platform/Appearance.h"
-#include "runtime/Windows1252.h"
-
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSignalBlocker>
-#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
-
-#include <algorithm>
-
-namespace {
-
-QTextCharFormat waveFormat(const QPalette &palette)
-{
-    QTextCharFormat format;
-    format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-    format.setUnderlineColor(isDark(palette) ? QColor(0xFF, 0x8A, 0x80) : QColor(0xC0, 0x20, 0x20));
-    return format;
-}
-
-} // namespace
 
 EntryTextBox::EntryTextBox(QWidget *parent) : QPlainTextEdit(parent)
 {
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, &EntryTextBox::markLostCharacters);
+    connect(this, &QPlainTextEdit::textChanged, this, &EntryTextBox::text_Change);
 }
 
 QString EntryTextBox::text() const
@@ -83,28 +65,33 @@ void EntryTextBox::insertFromMimeData(const QMimeData *source)
     ensureCursorVisible();
 }
 
-// One mark for each run of such characters, and no more marks than anyone would read.
-void EntryTextBox::markLostCharacters()
+void EntryTextBox::showDifferences(const QList<TextRange> &ranges)
+{
+    m_differences = ranges;
+    showMarks();
+}
+
+void EntryTextBox::text_Change()
+{
+    m_differences.clear();
+    showMarks();
+}
+
+// No more marks than anyone would read.
+void EntryTextBox::showMarks()
 {
     constexpr int most = 200;
-    const auto isKept = [](QChar character) { return isInWindows1252(character.unicode()); };
     QList<QTextEdit::ExtraSelection> marks;
-    for (QTextBlock line = document()->firstBlock(); line.isValid() && marks.size() < most;
-         line = line.next()) {
-        const QString text = line.text();
-        const QChar *end = text.cbegin();
-        while (marks.size() < most) {
-            const QChar *const start = std::find_if_not(end, text.cend(), isKept);
-            if (start == text.cend())
-                break;
-            end = std::find_if(start, text.cend(), isKept);
-            QTextEdit::ExtraSelection mark{QTextCursor(line), waveFormat(palette())};
-            mark.cursor.setPosition(line.position() + int(start - text.cbegin()));
-            mark.cursor.setPosition(line.position() + int(end - text.cbegin()),
-                                    QTextCursor::KeepAnchor);
-            marks += mark;
+    const auto mark = [&](const QList<TextRange> &ranges, const QTextCharFormat &format) {
+        for (const TextRange &range : ranges) {
+            QTextEdit::ExtraSelection selection{QTextCursor(document()), format};
+            selection.cursor.setPosition(range.start);
+            selection.cursor.setPosition(range.start + range.length, QTextCursor::KeepAnchor);
+            marks += selection;
         }
-    }
+    };
+    mark(m_differences.mid(0, most), differenceFormat(palette()));
+    mark(lostCharacters(toPlainText(), most), lostCharactersFormat(palette()));
     if (!marks.isEmpty() || !extraSelections().isEmpty())
         setExtraSelections(marks);
 }

@@ -7,6 +7,8 @@
 // if there is none. A wavy line is below characters that a list file cannot keep.
 #pragma once
 
+#include "platform/TextMarks.h"
+
 #include <QPlainTextEdit>
 
 class EntryTextBox final : public QPlainTextEdit
@@ -18,6 +20,8 @@ public:
 
     [[nodiscard]] QString text() const;
     void setText(const QString &text);
+    // Marks these parts of toPlainText() until the text changes.
+    void showDifferences(const QList<TextRange> &ranges);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -25,7 +29,9 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
-    void markLostCharacters();
+    void text_Change();
+    void showMarks();
 
     QString m_setText;
+    QList<TextRange> m_differences;
 };

@@ -6,7 +6,9 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QRegularExpression>
+#include <QStyleOptionFrame>
 
 QString oneLine(const QString &text)
 {
@@ -47,6 +49,75 @@ void OneLineBox::dropEvent(QDropEvent *event)
     QLineEdit::dropEvent(&drop);
     event->setDropAction(drop.dropAction());
     event->setAccepted(drop.isAccepted());
+}
+
+void OneLineBox::showLostCharacters(bool shown)
+{
+    if (m_lostCharactersShown == shown)
+        return;
+    m_lostCharactersShown = shown;
+    update();
+}
+
+void OneLineBox::showDifferences(const QList<TextRange> &ranges)
+{
+    m_differences = ranges;
+    m_markedText = text();
+    update();
+}
+
+QList<QTextLayout::FormatRange> OneLineBox::marks() const
+{
+    constexpr int most = 200; // more than anyone would read
+    QList<QTextLayout::FormatRange> marks;
+    const auto mark = [&marks](const QList<TextRange> &ranges, const QTextCharFormat &format) {
+        for (const TextRange &range : ranges)
+            marks += {range.start, range.length, format};
+    };
+    if (text() == m_markedText)
+        mark(m_differences.mid(0, most), differenceFormat(palette()));
+    if (m_lostCharactersShown)
+        mark(lostCharacters(text(), most), lostCharactersFormat(palette()));
+    return marks;
+}
+
+void OneLineBox::inputMethodEvent(QInputMethodEvent *event)
+{
+    m_isComposing = !event->preeditString().isEmpty();
+    QLineEdit::inputMethodEvent(event);
+}
+
+void OneLineBox::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    // What an input method composes stands in the line, but is not in the text yet.
+    const QList<QTextLayout::FormatRange> marks =
+        m_isComposing ? QList<QTextLayout::FormatRange>() : this->marks();
+    if (!marks.isEmpty())
+        paintMarks(marks);
+}
+
+// QLineEdit has no formats. The marks alone are painted over its text, which may be scrolled: the
+// cursor tells by how much.
+void OneLineBox::paintMarks(const QList<QTextLayout::FormatRange> &marks)
+{
+    QTextLayout layout(text(), font());
+    QTextOption option;
+    option.setTextDirection(layoutDirection());
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    layout.setTextOption(option);
+    layout.setFormats(marks);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    QStyleOptionFrame frame;
+    initStyleOption(&frame);
+    QPainter painter(this);
+    painter.setClipRect(style()->subElementRect(QStyle::SE_LineEditContents, &frame, this));
+    painter.setPen(Qt::transparent);
+    const QRect cursor = cursorRect();
+    layout.draw(&painter,
+                {cursor.center().x() - line.cursorToX(cursorPosition()), double(cursor.top())});
 }
 
 void OneLineBox::pasteFrom(QClipboard::Mode mode)

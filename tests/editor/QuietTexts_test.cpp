@@ -46,15 +46,6 @@ private Q_SLOTS:
         QCOMPARE(QuietTexts::ofSameWord(1, {u"ice"_s, {}, {}}), u"In the list: 1 ice"_s);
     }
 
-    void lostCharactersAreNamed()
-    {
-        QCOMPARE(QuietTexts::ofLostCharacters({}), QString());
-        QCOMPARE(QuietTexts::ofLostCharacters({u"ł"_s, u"漢"_s}),
-                 u"This list cannot keep: ł, 漢"_s);
-        QCOMPARE(QuietTexts::ofLostCharacters(u"abcdefghij"_s.split(QString(), Qt::SkipEmptyParts)),
-                 u"This list cannot keep: a, b, c, d, e, f, g, h, …"_s);
-    }
-
     void commandsAreReported()
     {
         QCOMPARE(QuietTexts::ofImport(0, 0), u"No words added."_s);

@@ -2,7 +2,7 @@
 // The main window's printing commands, where "Print to PDF" is the only printer.
 #include "core/ListTools.h"
 #include "editor/MainWindow.h"
-#include "editor/QuietLabel.h"
+#include "platform/QuietLabel.h"
 #include "print/OutputOf.h"
 #include "support/FormTest.h"
 #include "support/TestFiles.h"

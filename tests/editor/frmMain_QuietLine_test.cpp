@@ -2,7 +2,8 @@
 // The quiet line beside the word box, and what an empty list shows.
 #include "editor/ImportCommand.h"
 #include "editor/OpenList.h"
-#include "editor/QuietLabel.h"
+#include "platform/OneLineBox.h"
+#include "platform/QuietLabel.h"
 #include "support/FormTest.h"
 
 #include <QAccessible>
@@ -116,6 +117,19 @@ private Q_SLOTS:
         QCOMPARE(line(), u"This list cannot keep: ł, ź"_s);
         put(box, u"lodz"_s);
         QCOMPARE(line(), u"No words"_s);
+    }
+
+    void theWordsLostCharactersAreUnderlined()
+    {
+        const auto &box = m_main->control<OneLineBox>("txtWord");
+        m_main->click("cmdNewWord");
+        put("txtWord", u"łódź"_s);
+        QCOMPARE(box.marks().size(), 2);
+        m_main->click("cmdAbort");
+        openList(*m_main, m_list);
+        m_main->click("cmdSearch"); // a word to look for goes into no file
+        put("txtWord", u"łódź"_s);
+        QCOMPARE(box.marks().size(), 0);
     }
 
     void anImportAndATextFileAreReportedUntilThereIsSomethingNewer()

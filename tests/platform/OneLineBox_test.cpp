@@ -17,6 +17,17 @@ void copyElsewhere(const QString &text)
     QApplication::clipboard()->setText(text);
 }
 
+// The part of both pictures in which they differ.
+QRect difference(const QImage &one, const QImage &other)
+{
+    QRegion part;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            if (one.pixel(x, y) != other.pixel(x, y))
+                part += QRect(x, y, 1, 1);
+    return part.boundingRect();
+}
+
 } // namespace
 
 class OneLineBox_test final : public QObject
@@ -163,6 +174,68 @@ private Q_SLOTS:
     {
         m_box->setText(u"big\ncat\n"_s);
         QCOMPARE(m_box->text(), u"big\ncat\n"_s);
+    }
+
+    // The place follows the text when it is scrolled.
+    void aMarkIsPaintedBelowItsCharacters_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("short") << u"gla\u0142cier"_s;
+        QTest::newRow("longer than the box")
+            << u"a long row of words "_s.repeated(10) + u"\u0142x"_s;
+    }
+
+    void aMarkIsPaintedBelowItsCharacters()
+    {
+        QFETCH(QString, text);
+        m_box->resize(200, m_box->sizeHint().height());
+        m_box->setText(text);
+        const int lost = int(text.indexOf(u'\u0142'));
+        const auto left = [this](int position) {
+            m_box->setCursorPosition(position);
+            return m_box->inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+        };
+        const auto picture = [&] {
+            m_box->setCursorPosition(int(text.size()));
+            m_box->clearFocus(); // no cursor in the picture
+            return m_box->grab().toImage();
+        };
+        const QImage plain = picture();
+        m_box->showLostCharacters(true);
+        const QRect painted = difference(plain, picture());
+        QVERIFY(!painted.isEmpty());
+        QVERIFY(std::abs(painted.left() - left(lost)) <= 2);
+        QVERIFY(std::abs(painted.right() - left(lost + 1)) <= 2);
+        QVERIFY(painted.top() > m_box->height() / 2);
+        QCOMPARE(m_box->text(), text);
+        QVERIFY(!m_box->isUndoAvailable());
+    }
+
+    void differencesAreMarkedUntilTheTextChanges()
+    {
+        m_box->setText(u"Glacier"_s);
+        const QImage plain = m_box->grab().toImage();
+        m_box->showDifferences({{0, 1}});
+        QCOMPARE(m_box->marks().size(), 1);
+        const QRect painted = difference(plain, m_box->grab().toImage());
+        QVERIFY(!painted.isEmpty() && painted.width() < m_box->width() / 2);
+        QTest::keyClicks(m_box.get(), u"s"_s);
+        QCOMPARE(m_box->marks().size(), 0);
+    }
+
+    // The text that is composed would shift what is behind it.
+    void nothingIsMarkedWhileTextIsComposed()
+    {
+        m_box->setText(u"\u0142"_s);
+        const auto compose = [this](const QString &text) {
+            QInputMethodEvent event(text, {});
+            QCoreApplication::sendEvent(m_box.get(), &event);
+            return m_box->grab().toImage();
+        };
+        const QImage plain = compose(u"n"_s);
+        m_box->showLostCharacters(true);
+        QCOMPARE(compose(u"n"_s), plain);
+        QVERIFY(compose({}) != plain);
     }
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/QuietLabel.h"
+#include "platform/QuietLabel.h"
 
 #include "platform/Appearance.h"
 #include "platform/StatusBarRole.h"
@@ -13,12 +13,13 @@ QuietLabel::QuietLabel(QWidget *parent) : QWidget(parent)
     giveStatusBarRole<QuietLabel>();
 }
 
-void QuietLabel::setLine(const QuietTexts::Line &line)
+void QuietLabel::setLine(const QString &text, const QString &marked)
 {
-    if (line.text == m_line.text && line.marked == m_line.marked)
+    if (text == m_text && marked == m_marked)
         return;
-    m_line = line;
-    setAccessibleName(text());
+    m_text = text;
+    m_marked = marked;
+    setAccessibleName(this->text());
     update();
 }
 
@@ -40,8 +41,8 @@ void QuietLabel::paintEvent(QPaintEvent * /*event*/)
         painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                          fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
     };
-    const int textWidth = fontMetrics().horizontalAdvance(m_line.text);
-    draw(rect(), m_line.text, quietColour(palette()));
-    if (!m_line.marked.isEmpty() && textWidth < width())
-        draw(rect().adjusted(textWidth, 0, 0, 0), m_line.marked, accentColour(palette()));
+    const int textWidth = fontMetrics().horizontalAdvance(m_text);
+    draw(rect(), m_text, quietColour(palette()));
+    if (!m_marked.isEmpty() && textWidth < width())
+        draw(rect().adjusted(textWidth, 0, 0, 0), m_marked, accentColour(palette()));
 }

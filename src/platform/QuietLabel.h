@@ -3,8 +3,6 @@
 // ends in "…" and is its own tool tip. Screen readers hear it as a status bar, once for each text.
 #pragma once
 
-#include "editor/QuietTexts.h"
-
 #include <QWidget>
 
 class QuietLabel final : public QWidget
@@ -14,14 +12,15 @@ class QuietLabel final : public QWidget
 public:
     explicit QuietLabel(QWidget *parent = nullptr);
 
-    void setLine(const QuietTexts::Line &line);
-    [[nodiscard]] QString text() const { return m_line.text + m_line.marked; }
-    [[nodiscard]] QString markedText() const { return m_line.marked; }
+    void setLine(const QString &text, const QString &marked = {});
+    [[nodiscard]] QString text() const { return m_text + m_marked; }
+    [[nodiscard]] QString markedText() const { return m_marked; }
 
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QuietTexts::Line m_line;
+    QString m_text;
+    QString m_marked; // follows the text, in the accent colour
 };
