@@ -29,6 +29,7 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
     const QSize room = roomOnScreen(*this);
     openWithSize(*this,
                  {std::min(room.width() * 9 / 10, 1280), std::min(room.height() * 9 / 10, 720)});
+    openAsLastClosed();
     // They share one place, which keeps its size.
     retainSizeWhenHidden(*m_ui->cmdAutoFlash);
     retainSizeWhenHidden(*m_ui->cmdStop);

@@ -30,6 +30,7 @@ dlgGameOver::dlgGameOver(Music &music, QWidget *parent)
 {
     m_ui->setupUi(this);
     makeRows();
+    openAsLastClosed();
     onClick(m_ui->cmdEnter, &dlgGameOver::cmdEnter_Click);
     onClick(m_ui->cmdReset, &dlgGameOver::cmdReset_Click);
     onClick(m_ui->cmdClose, &dlgGameOver::cmdClose_Click);

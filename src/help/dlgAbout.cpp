@@ -10,6 +10,7 @@
 dlgAbout::dlgAbout(QWidget *parent) : DialogForm(parent), m_ui(std::make_unique<Ui::dlgAbout>())
 {
     m_ui->setupUi(this);
+    openAsLastClosed();
     onClick(m_ui->cmdOK, &dlgAbout::cmdOK_Click);
 }
 

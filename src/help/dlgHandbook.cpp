@@ -13,6 +13,7 @@ dlgHandbook::dlgHandbook(QString file, QWidget *parent)
 {
     m_ui->setupUi(this);
     resize(size().boundedTo(screen()->availableSize() * 0.9));
+    openAsLastClosed();
     onClick(m_ui->cmdBack, &dlgHandbook::cmdBack_Click);
     onClick(m_ui->cmdContents, &dlgHandbook::cmdContents_Click);
     onClick(m_ui->cmdClose, &dlgHandbook::cmdClose_Click);

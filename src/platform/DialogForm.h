@@ -11,22 +11,16 @@ class DialogForm : public Form<QDialog>
 public:
     using Form::Form;
 
-    void reject() override
-    {
-        if (m_closing)
-            QDialog::reject();
-        else
-            close();
-    }
+    void reject() override;
 
 protected:
-    void closeEvent(QCloseEvent *event) override
-    {
-        m_closing = true;
-        Form::closeEvent(event);
-        m_closing = false;
-    }
+    // For the end of a constructor: a dialog that was open before in this run has the size and the
+    // place again with which it was closed, as far as the screen has room for them.
+    void openAsLastClosed();
+
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     bool m_closing = false;
+    bool m_keepsPlace = false;
 };

@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "platform/LostFocus.h"
+#include "platform/Screen.h"
 #include "platform/SystemPrinter.h"
 #include "print/MarginsFrame.h"
 #include "print/PrintJob.h"
@@ -11,7 +12,6 @@
 #include "print/WordListPrint.h"
 #include "print/ui_frmPrint.h"
 
-#include <QScreen>
 #include <QShortcut>
 
 using namespace Module1;
@@ -20,8 +20,6 @@ namespace {
 
 const QString Portrait = QStringLiteral("Portrait");
 const QString Landscape = QStringLiteral("Landscape");
-
-constexpr QSize FrameOfWindow(16, 48); // pixels
 
 } // namespace
 
@@ -33,6 +31,8 @@ frmPrint::frmPrint(SystemPrinter &printer, QWidget *parent)
     m_margins = std::make_unique<MarginsFrame>(*m_ui);
     m_ui->vsc_Copies->setRange(1, Integer::Max);
     m_ui->vsc_Copies->setBox(m_ui->txtCopies);
+    openWithSize(*this, size().expandedTo(sizeHint()));
+    openAsLastClosed();
     connectHandlers();
     connectPreview();
 }
@@ -83,7 +83,6 @@ void frmPrint::connectPreview()
 
 void frmPrint::Form_Load()
 {
-    resize(sizeHint().expandedTo(size()).boundedTo(screen()->availableSize() - FrameOfWindow));
     fillPrinters();
     m_margins->show();
     m_range->show();

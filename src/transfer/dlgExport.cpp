@@ -77,6 +77,7 @@ dlgExport::dlgExport(const QString &startFolder, QWidget *parent)
 {
     m_ui->setupUi(this);
     openWithSize(*this, size().expandedTo(sizeHint()));
+    openAsLastClosed();
     new LostFocus(m_ui->txtStart, [this] { txtStart_LostFocus(); });
     new LostFocus(m_ui->txtEnd, [this] { txtEnd_LostFocus(); });
     m_ui->lstExportWords->setItemDelegate(

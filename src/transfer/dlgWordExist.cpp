@@ -12,23 +12,12 @@
 
 using namespace Module1;
 
-namespace {
-
-// The place and size of the dialog, which opens again for each word.
-QByteArray &lastGeometry()
-{
-    static QByteArray geometry;
-    return geometry;
-}
-
-} // namespace
-
 dlgWordExist::dlgWordExist(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgWordExist>())
 {
     m_ui->setupUi(this);
     openWithSize(*this, size().expandedTo(sizeHint()));
-    restoreGeometry(lastGeometry());
+    openAsLastClosed();
     onClick(m_ui->cmdYes, &dlgWordExist::cmdYes_Click);
     onClick(m_ui->cmdNo, &dlgWordExist::cmdNo_Click);
     onClick(m_ui->cmdYesToAll, &dlgWordExist::cmdYesToAll_Click);
@@ -56,11 +45,6 @@ void dlgWordExist::Form_Load()
     m_ui->txtImportSen->setText(gImportSen);
     gAddThis = gAddAll = false;
     m_ui->cmdYes->setFocus();
-}
-
-void dlgWordExist::Form_Unload()
-{
-    lastGeometry() = saveGeometry();
 }
 
 void dlgWordExist::cmdYes_Click()

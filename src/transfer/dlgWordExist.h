@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Asks about an imported word that the open list already has, and shows the existing entry, which
-// can be edited there. The answers are the flags gAddThis, gAddAll, gSkipAll and gStopImport. The
-// dialog opens with the size and in the place that it had last.
+// can be edited there. The answers are the flags gAddThis, gAddAll, gSkipAll and gStopImport.
 #pragma once
 
 #include "platform/DialogForm.h"
@@ -28,7 +27,6 @@ Q_SIGNALS:
 
 protected:
     void Form_Load() override;
-    void Form_Unload() override;
 
 private:
     void cmdYes_Click();
