@@ -74,9 +74,19 @@ void FlashCard::turnTo(const QString &text, Side side)
         return;
     }
     Motion::end(*this);
-    const QPixmap oldSide = grab();
+    const QPixmap oldSide = picture();
     setText(text, side);
-    Motion::turnOver(*this, oldSide, grab(), parentWidget()->palette().window());
+    Motion::turnOver(*this, oldSide, picture(), parentWidget()->palette().window());
+}
+
+// With transparent corners; grab() would fill them.
+QPixmap FlashCard::picture()
+{
+    QPixmap picture(size() * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(Qt::transparent);
+    render(&picture, {}, {}, DrawChildren);
+    return picture;
 }
 
 void FlashCard::keyPressEvent(QKeyEvent *event)

@@ -32,6 +32,7 @@ protected:
 
 private:
     void fitType();
+    [[nodiscard]] QPixmap picture();
 
     Side m_side = Side::Front;
 };

@@ -210,6 +210,19 @@ private Q_SLOTS:
         QTRY_COMPARE(turns(), 0);
     }
 
+    void theCardThatTurnsHasRoundCorners()
+    {
+        setMotion(10'000);
+        card().turnTo(u"a small animal"_s, FlashCard::Side::Front);
+        QCOMPARE(turns(), 1);
+        // Its first picture has the full width.
+        const QImage first = card().grab().toImage();
+        const QColor behind = m_form->dialog().palette().color(QPalette::Window);
+        QCOMPARE(first.pixelColor(0, 0), behind);
+        QCOMPARE(first.pixelColor(first.width() - 1, first.height() - 1), behind);
+        QVERIFY(first.pixelColor(0, first.height() / 2) != behind);
+    }
+
     void withoutAnimationsTheCardOpensAtOnce()
     {
         setMotion(0);
