@@ -50,6 +50,8 @@ dlgQuickFlash::dlgQuickFlash(QWidget *parent)
     };
     onTimer(m_tmrWord, QStringLiteral("tmrWord"), 3000, &dlgQuickFlash::tmrWord_Timer);
     onTimer(m_tmrDef, QStringLiteral("tmrDef"), 5000, &dlgQuickFlash::tmrDef_Timer);
+    m_ui->wordTime->setTimer(m_tmrWord);
+    m_ui->definitionTime->setTimer(m_tmrDef);
 
     const auto onKey = [this](Qt::Key key, auto action) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, action);
@@ -76,8 +78,7 @@ void dlgQuickFlash::Form_Load()
 
 void dlgQuickFlash::Form_Terminate()
 {
-    m_tmrWord.stop();
-    m_tmrDef.stop();
+    stopTimers();
     Q_EMIT terminated();
 }
 
@@ -126,6 +127,7 @@ void dlgQuickFlash::startWordPhase()
     cmdNext_Click();
     m_ui->txtDef->setText({}, FlashCard::Side::Back);
     m_tmrWord.start();
+    showTimes();
 }
 
 // The timer is stopped first, so that an error is reported only once.
@@ -135,6 +137,7 @@ void dlgQuickFlash::tmrWord_Timer()
     const QString definition = gVocabList().Definition();
     m_ui->txtDef->turnTo(definition, FlashCard::Side::Front);
     m_tmrDef.start(definitionTime(definition.size()).toInt());
+    showTimes();
 }
 
 void dlgQuickFlash::tmrDef_Timer()
@@ -145,9 +148,22 @@ void dlgQuickFlash::tmrDef_Timer()
 
 void dlgQuickFlash::cmdStop_Click()
 {
+    stopTimers();
+    showRun(Run::ByHand);
+}
+
+void dlgQuickFlash::stopTimers()
+{
     m_tmrWord.stop();
     m_tmrDef.stop();
-    showRun(Run::ByHand);
+    showTimes();
+}
+
+// Below each card is the time that its step of the automatic run still lasts.
+void dlgQuickFlash::showTimes()
+{
+    m_ui->wordTime->refresh();
+    m_ui->definitionTime->refresh();
 }
 
 void dlgQuickFlash::CancelButton_Click()

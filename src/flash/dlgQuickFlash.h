@@ -44,6 +44,8 @@ private:
     void ShuffleCards();
     void showCard(Turn turn);
     void startWordPhase();
+    void stopTimers();
+    void showTimes();
     void showRun(Run run);
 
     std::unique_ptr<Ui::dlgQuickFlash> m_ui;

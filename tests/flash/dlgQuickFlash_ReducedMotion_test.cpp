@@ -35,6 +35,21 @@ private Q_SLOTS:
         QVERIFY(motions(form.dialog()) > 0);
     }
 
+    void theLineOfTimeMovesInStepsOfASecond()
+    {
+        FlashForm form;
+        m_portal->changeTo(false);
+        QTRY_VERIFY(ReducedMotion::isAskedFor());
+        form.click("cmdAutoFlash");
+        const auto &steps = *form.control<QWidget>("wordTime").findChild<QTimer *>();
+        QCOMPARE(steps.interval(), 1000);
+        form.click("cmdStop");
+        m_portal->changeTo(true);
+        QTRY_VERIFY(!ReducedMotion::isAskedFor());
+        form.click("cmdAutoFlash");
+        QVERIFY(steps.interval() < 100);
+    }
+
 private:
     SessionBus m_bus;
     std::unique_ptr<SettingsPortal> m_portal;

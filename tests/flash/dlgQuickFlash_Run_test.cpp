@@ -3,11 +3,28 @@
 #include "flash/dlgQuickFlash.h"
 
 #include "flash/FlashForm.h"
+#include "flash/TimeLine.h"
+#include "platform/Appearance.h"
 #include "support/FormTest.h"
 #include "support/KeepsRunning.h"
 
 using namespace Module1;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The line's visible part in pixels, without its round ends.
+int shownLength(TimeLine &line)
+{
+    const QImage picture = line.grab().toImage();
+    const QColor accent = accentColour(line.palette());
+    int length = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        length += picture.pixelColor(x, picture.height() / 2) == accent ? 1 : 0;
+    return length;
+}
+
+} // namespace
 
 class dlgQuickFlash_Run_test final : public QObject
 {
@@ -272,7 +289,84 @@ private Q_SLOTS:
         QVERIFY(!m_form->timer("tmrDef").isActive());
     }
 
+    void aLineBelowTheCardShowsTheTimeThatIsLeft()
+    {
+        const QRect card = m_form->card("txtWord").geometry();
+        QCOMPARE(linesShown(), QStringList());
+        m_form->click("cmdAutoFlash");
+        QCOMPARE(linesShown(), QStringList{u"wordTime"_s});
+        QCOMPARE(m_form->card("txtWord").geometry(), card);
+        m_form->passTime("tmrWord");
+        QCOMPARE(linesShown(), QStringList{u"definitionTime"_s});
+        m_form->passTime("tmrDef");
+        QCOMPARE(linesShown(), QStringList{u"wordTime"_s});
+    }
+
+    void theLineGetsShorter()
+    {
+        m_form->click("cmdAutoFlash");
+        auto &line = m_form->control<TimeLine>("wordTime");
+        QVERIFY(line.left() <= 1);
+        QTRY_VERIFY(line.left() < 0.97 && line.left() > 0);
+        const double before = line.left();
+        const int shown = shownLength(line);
+        const double after = line.left();
+        QVERIFY(shown <= line.width() * before + 1);
+        QVERIFY(shown >= line.width() * after - 5);
+    }
+
+    void noLineAndNoTimerStaysAfterTheRun_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        QTest::addColumn<bool>("withDefinition");
+        QTest::newRow("Stop in the word phase") << QByteArray("cmdStop") << false;
+        QTest::newRow("Stop in the definition phase") << QByteArray("cmdStop") << true;
+        QTest::newRow("Cancel in the word phase") << QByteArray("CancelButton") << false;
+        QTest::newRow("Cancel in the definition phase") << QByteArray("CancelButton") << true;
+    }
+
+    void noLineAndNoTimerStaysAfterTheRun()
+    {
+        QFETCH(QByteArray, button);
+        QFETCH(bool, withDefinition);
+        QCOMPARE(runningTimers(), 0);
+        m_form->click("cmdAutoFlash");
+        if (withDefinition)
+            m_form->passTime("tmrWord");
+        QVERIFY(runningTimers() > 0);
+        m_form->click(button);
+        QCOMPARE(linesShown(), QStringList());
+        QCOMPARE(runningTimers(), 0);
+    }
+
+    void afterAnErrorNoLineAndNoTimerStays()
+    {
+        start(QString(164, u'x'));
+        m_form->click("cmdAutoFlash");
+        m_form->answers.expectMsgBox(u"Run-time error '6':\n\nOverflow"_s);
+        m_form->passTime("tmrWord");
+        QTRY_COMPARE(runningTimers(), 0);
+        QCOMPARE(linesShown(), QStringList());
+    }
+
 private:
+    [[nodiscard]] QStringList linesShown()
+    {
+        QStringList shown;
+        for (const char *name : {"wordTime", "definitionTime"})
+            if (m_form->control<TimeLine>(name).isVisibleTo(&m_form->dialog()))
+                shown += QLatin1String(name);
+        return shown;
+    }
+
+    [[nodiscard]] int runningTimers()
+    {
+        int running = 0;
+        for (const QTimer *timer : m_form->dialog().findChildren<QTimer *>())
+            running += timer->isActive() ? 1 : 0;
+        return running;
+    }
+
     void start(const QString &definition)
     {
         m_form.reset();
