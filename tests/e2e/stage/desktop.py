@@ -94,24 +94,29 @@ class Desktop:
     def start(self, *command):
         return self._start([str(part) for part in command])
 
-    def picture(self, file, box=None):
-        """Keeps a picture of the screen, or of a part, once nothing on it moves any more."""
-        area = ["-crop", f"{box.width}x{box.height}+{box.x}+{box.y}", "+repage"] if box else []
+    def picture(self, file, box=None, still=None):
+        """Keeps a picture of the screen, or of a part, once nothing on it moves any more.
 
-        def pixels():
+        Where something always moves, `still` is the part that has to be at rest.
+        """
+        def pixels(part):
+            area = ["-crop", f"{part.width}x{part.height}+{part.x}+{part.y}", "+repage"] \
+                if part else []
             return subprocess.run(
                 ["import", "-silent", "-window", "root", *area, "ppm:-"],
                 check=True, capture_output=True,
             ).stdout
 
-        shots = [pixels()]
+        watched = still or box
+        shots = [pixels(watched)]
 
         def settled():
-            shots.append(pixels())
+            shots.append(pixels(watched))
             return shots[-1] == shots[-2]
 
         until(f"the screen at rest for {file.name}", settled)
-        subprocess.run(["convert", "ppm:-", "-strip", file], input=shots[-1], check=True)
+        shown = pixels(box) if still else shots[-1]
+        subprocess.run(["convert", "ppm:-", "-strip", file], input=shown, check=True)
 
     def _settle_environment(self):
         kept = {name: os.environ[name] for name in PASSED_ON if name in os.environ}

@@ -73,7 +73,7 @@ def lets_them_run(guide, definitions):
         until("an empty definition card", lambda: card(person, "Definition card"), "")
         for name in ("Next", "Previous"):
             until(f"{name} disabled", lambda: not dialog.find("push button", name).usable)
-        guide.picture("cards-run-word")
+        guide.picture("cards-run-word", still=person.control("text", "Word card"))
 
     with guide.step("About three seconds later its definition follows by itself"):
         until("the definition", lambda: card(person, "Definition card"), definitions[word])
@@ -81,7 +81,7 @@ def lets_them_run(guide, definitions):
         until(f"a word alone for about 3 s (it took {lasted:.1f} s)", lambda: 2 < lasted < 6,
               limit=0)
         until("the same word", lambda: card(person, "Word card"), word, limit=0)
-        guide.picture("cards-run-definition")
+        guide.picture("cards-run-definition", still=person.control("text", "Definition card"))
 
     with guide.step("Stop leaves the cards as they are and gives the buttons back"):
         person.pushes("Stop")

@@ -31,8 +31,10 @@ class Guide:
             raise
         print(f"seen      {what}", flush=True)
 
-    def picture(self, name, window=None):
-        self.person.desktop.picture(self._next_picture(name), window.box if window else None)
+    def picture(self, name, window=None, still=None):
+        """Of the screen or a window, at rest; `still` is a control beside which something moves."""
+        self.person.desktop.picture(self._next_picture(name), window.box if window else None,
+                                    still.box if still else None)
 
     def picture_for_handbook(self, name, window=None):
         """Of the window without its frame, or of the whole screen; only where these are wanted."""
