@@ -153,9 +153,9 @@ Median of $runs runs
 Empty main window, CPU time:          $(milliseconds emptyCpu)
 Empty main window, memory:            $(megabytes emptyMemory)
 Splash mapped, CPU time:              $(milliseconds splashMapped)
-Splash painted, CPU time:             $(milliseconds splashCpu)   goal 100 ms
-Idle in the editor, CPU time:         $(milliseconds idleCpu)
-Idle in the editor, memory:           $(megabytes idleMemory)   goal 60 MB
+Splash painted, CPU time:             $(milliseconds splashCpu)   goal 60 ms
+Idle in the editor, CPU time:         $(milliseconds idleCpu)   goal 75 ms
+Idle in the editor, memory:           $(megabytes idleMemory)   goal 38 MB
   of it not shared or from files:     $(megabytes idleOwnMemory)
 List of 32,000 opened:
   CPU time from the dialog's Enter:   $(milliseconds openCpu)   goal 60 ms
