@@ -55,7 +55,7 @@ void setHandlerEndHook(std::function<void()> ended)
 bool runGuarded(const std::function<void()> &handler)
 {
     const bool succeeded = runAndTell(handler);
-    if (handlerEndHook && !isHandlerAtWork())
+    if (handlerEndHook && handlerLevel < 0)
         runAndTell(handlerEndHook);
     return succeeded;
 }

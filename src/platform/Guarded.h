@@ -15,7 +15,8 @@ bool runGuarded(const std::function<void()> &handler);
 // calls processEvents does.
 [[nodiscard]] bool isHandlerAtWork();
 
-// Called after each handler that is not part of another one. None by default.
+// Called after each handler that is not part of another one and that no other one waits for, as
+// one that shows a dialog does. None by default.
 void setHandlerEndHook(std::function<void()> ended);
 
 // A slot that calls the handler of `form` by runGuarded:
