@@ -6,11 +6,15 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
 
 QuietLabel::QuietLabel(QWidget *parent) : QWidget(parent)
 {
     giveStatusBarRole<QuietLabel>();
+    m_announcing.setSingleShot(true);
+    m_announcing.setInterval(500);
+    connect(&m_announcing, &QTimer::timeout, this, [this] { setAccessibleName(text()); });
 }
 
 void QuietLabel::setLine(const QString &text, const QString &marked)
@@ -19,7 +23,7 @@ void QuietLabel::setLine(const QString &text, const QString &marked)
         return;
     m_text = text;
     m_marked = marked;
-    setAccessibleName(this->text());
+    m_announcing.start();
     update();
 }
 
@@ -28,7 +32,9 @@ bool QuietLabel::event(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const bool isCut = fontMetrics().horizontalAdvance(text()) > width();
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), isCut ? text() : QString(),
+    // Plain text, which would otherwise be taken for HTML where it looks like that.
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       isCut ? Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal) : QString(),
                        this);
     return true;
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One line of quiet type, the end of which may be in the accent colour. A text that is too long
-// ends in "…" and is its own tool tip. Screen readers hear it as a status bar, once for each text.
+// ends in "…" and is its own tool tip. Screen readers hear it as a status bar, once for each text
+// that stays for half a second: not for each letter that is typed.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 class QuietLabel final : public QWidget
@@ -23,4 +25,5 @@ protected:
 private:
     QString m_text;
     QString m_marked; // follows the text, in the accent colour
+    QTimer m_announcing{this};
 };
