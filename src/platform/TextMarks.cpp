@@ -20,12 +20,39 @@ QList<TextRange> lostCharacters(QStringView text, qsizetype most)
     return runs;
 }
 
+namespace {
+
+// A character that cannot be seen by itself is named by its number.
+QString visibleName(const QString &character)
+{
+    const char32_t code = character.toUcs4().constFirst();
+    switch (QChar::category(code)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_SpacingCombining:
+    case QChar::Mark_Enclosing:
+    case QChar::Separator_Space:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Other_PrivateUse:
+    case QChar::Other_NotAssigned:
+        return QStringLiteral("U+%1").arg(uint(code), 4, 16, QLatin1Char('0')).toUpper();
+    default:
+        return character;
+    }
+}
+
+} // namespace
+
 QString lostCharactersText(QStringView text)
 {
     constexpr int most = 8; // that are named
     QStringList characters = notInWindows1252(text, most + 1);
     if (characters.isEmpty())
         return {};
+    std::transform(characters.begin(), characters.end(), characters.begin(), visibleName);
     if (characters.size() > most)
         characters.last() = QStringLiteral("…");
     return QStringLiteral("This list cannot keep: ") + characters.join(QStringLiteral(", "));

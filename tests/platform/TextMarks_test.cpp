@@ -34,6 +34,8 @@ private Q_SLOTS:
     void lostCharactersAreNamed()
     {
         QCOMPARE(lostCharactersText({}), QString());
+        QCOMPARE(lostCharactersText(u"a\u0301 \u200B\U0001F600"),
+                 u"This list cannot keep: U+0301, U+200B, \U0001F600"_s);
         QCOMPARE(lostCharactersText(u"na\u00EFve"), QString());
         QCOMPARE(lostCharactersText(u"\u0142\u6F22\u0142"),
                  u"This list cannot keep: \u0142, \u6F22"_s);
