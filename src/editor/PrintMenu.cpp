@@ -38,6 +38,7 @@ SystemPrinter &PrintMenu::printer()
 
 void PrintMenu::mnuPrint_Click()
 {
+    Q_EMIT begun();
     SystemPrinter &printer = this->printer();
     tellPrinterErrorOnly(printer, [this, &printer] {
         printer.Copies = m_printerDialog.Copies;
@@ -69,6 +70,7 @@ void PrintMenu::mnuPageSetup_Click()
 
 void PrintMenu::mnuPrintWholeList_Click()
 {
+    Q_EMIT begun();
     SystemPrinter &printer = this->printer();
     setScale(printer);
     tellPrinterError(printer, [this, &printer] {

@@ -21,6 +21,8 @@ public:
     PrintMenu(const Ui::frmMain &ui, QWidget *window);
 
 Q_SIGNALS:
+    // A command that prints begins.
+    void begun();
     // A command has printed: the name of the printer or of the file.
     void printed(const QString &target);
 

@@ -19,6 +19,9 @@ namespace {
 
 QuietTexts::SaveFile saveFile()
 {
+    // A list without a file of its own keeps the name in the caption after a cancelled Open.
+    if (gFileName.isEmpty())
+        return {{}, !gOpenedFile.isEmpty()};
     const bool isOpenFile = gOpenedFile.isEmpty() || gFileName == gOpenedFile;
     return {gFileName, isOpenFile && QFileInfo(gFileName).fileName() == gFileTitle};
 }
@@ -48,7 +51,7 @@ QuietLine::~QuietLine()
 void QuietLine::say(const QString &text)
 {
     m_said = text;
-    m_shownBefore = QString();
+    m_before.reset();
 }
 
 // What is shown follows at the handler's end.
@@ -66,10 +69,10 @@ QuietTexts::Line QuietLine::line()
     if (const QString lost = isTyped() ? lostCharacters() : QString(); !lost.isEmpty())
         return {lost, {}};
     QuietTexts::Line line = lineOfMode();
-    const QString text = line.text + line.marked;
-    if (m_shownBefore.isNull())
-        m_shownBefore = text;
-    if (m_shownBefore != text)
+    const std::pair now(m_editor.mode(), line.text + line.marked);
+    if (!m_before)
+        m_before = now;
+    if (m_before != now)
         m_said.clear();
     if (!m_said.isEmpty())
         return {m_said, {}};

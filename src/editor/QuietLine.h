@@ -3,9 +3,13 @@
 // box. It is brought up to date after each handler.
 #pragma once
 
+#include "editor/EditorMode.h"
 #include "editor/QuietTexts.h"
 
 #include <QObject>
+
+#include <optional>
+#include <utility>
 
 class WordEditor;
 
@@ -22,7 +26,8 @@ public:
     QuietLine(const Ui::frmMain &ui, const WordEditor &editor);
     ~QuietLine() override;
 
-    // Says what a command did, until there is something newer to show.
+    // Says what a command did, until there is something newer to show. An empty text takes back
+    // what an earlier command said.
     void say(const QString &text);
 
 private:
@@ -38,5 +43,6 @@ private:
     const Ui::frmMain &m_ui;
     const WordEditor &m_editor;
     QString m_said;
-    QString m_shownBefore; // in place of what was said; null until that is shown
+    // The mode, and what was shown, when that was said; none until it is shown.
+    std::optional<std::pair<EditorMode, QString>> m_before;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/QuietTexts.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -21,11 +22,13 @@ QuietTexts::Line QuietTexts::ofList(int words, bool isChanged, const SaveFile &f
     if (isChanged)
         text += separator + QStringLiteral("not saved");
     if (file.path.isEmpty())
-        return {text, {}};
-    const QString save = QStringLiteral("Save writes ") + QFileInfo(file.path).fileName();
+        return file.isInCaption ? Line{text + separator, QStringLiteral("Save asks for a name")}
+                                : Line{text, {}};
+    const QFileInfo info(file.path);
+    const QString save = QStringLiteral("Save writes ") + info.fileName();
     if (file.isInCaption)
         return {text + separator + save, {}};
-    return {text + separator, save};
+    return {text + separator, save + QStringLiteral(" in ") + info.dir().dirName()};
 }
 
 QString QuietTexts::ofSameWord(int position, const VocabRecord &entry)
@@ -33,7 +36,9 @@ QString QuietTexts::ofSameWord(int position, const VocabRecord &entry)
     QString text = QStringLiteral("In the list: %1 ").arg(position) + entry.Word;
     if (!entry.Definition.isEmpty())
         text += QStringLiteral(" - ") + entry.Definition;
-    return text.simplified();
+    constexpr qsizetype most = 200; // more is not read in one line
+    text = text.simplified();
+    return text.size() > most ? text.left(most) + QStringLiteral("…") : text;
 }
 
 QString QuietTexts::ofHit(int hit, int hits)
@@ -49,6 +54,11 @@ QString QuietTexts::ofTextFile(const QString &path)
 QString QuietTexts::ofPrint(const QString &target)
 {
     return QStringLiteral("Printed to %1.").arg(target);
+}
+
+QString QuietTexts::ofNoImport()
+{
+    return QStringLiteral("Nothing imported: the path may have one dot only, before lwx or dif.");
 }
 
 QString QuietTexts::ofImport(int added, int refused)

@@ -75,6 +75,7 @@ void frmMain::connectHandlers()
     onClick(m_ui->mnuCreateTextFile, &frmMain::mnuCreateTextFile_Click);
     onClick(m_ui->mnuExport, &frmMain::mnuExport_Click);
     onClick(m_ui->mnuImport, &frmMain::mnuImport_Click);
+    connect(m_printMenu.get(), &PrintMenu::begun, this, [this] { m_quietLine->say({}); });
     connect(m_printMenu.get(), &PrintMenu::printed, this,
             [this](const QString &target) { m_quietLine->say(QuietTexts::ofPrint(target)); });
     connect(m_ui->mnuExit, &QAction::triggered, this, &frmMain::close);

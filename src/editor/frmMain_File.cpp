@@ -155,6 +155,7 @@ bool frmMain::openFile()
 
 void frmMain::mnuImport_Click()
 {
+    m_quietLine->say({});
     const Integer position = gVocabList().CurrentWord();
     m_fileDialog.Filter = QStringLiteral("Vocab Data (*.lwx)|*.lwx|Data Interchange Format (*.dif)|"
                                          "*.dif|All files (*.*)|*.*");
@@ -190,8 +191,10 @@ void frmMain::importWords(const QString &path)
     connect(&import, &Import::progress, &progress, &ProgressShown::show);
     connect(&import, &Import::paused, &progress, &ProgressShown::pause);
     const bool isList = kind == QLatin1String("lwx");
-    if (!isList && kind != QLatin1String("dif"))
+    if (!isList && kind != QLatin1String("dif")) {
+        m_quietLine->say(QuietTexts::ofNoImport());
         return;
+    }
     const auto report = qScopeGuard(
         [&] { m_quietLine->say(QuietTexts::ofImport(import.added(), import.refused())); });
     if (isList)
@@ -216,6 +219,7 @@ void frmMain::mnuCreateTextFile_Click()
         MsgBox(QStringLiteral("File not created: Your current wordlist is empty."));
         return;
     }
+    m_quietLine->say({});
     m_fileDialog.DefaultExt = QStringLiteral("txt");
     m_fileDialog.OverwritePrompt = true;
     m_fileDialog.InitDir.clear();

@@ -19,13 +19,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("marked");
         const QString path = u"/lists/animals.lwx"_s;
-        QTest::newRow("empty") << 0 << false << QString() << true << u"No words"_s << QString();
-        QTest::newRow("one") << 1 << true << QString() << true << u"1 word · not saved"_s
+        QTest::newRow("empty") << 0 << false << QString() << false << u"No words"_s << QString();
+        QTest::newRow("one") << 1 << true << QString() << false << u"1 word · not saved"_s
                              << QString();
         QTest::newRow("file") << 48 << false << path << true
                               << u"48 words · Save writes animals.lwx"_s << QString();
         QTest::newRow("another file") << 48 << true << path << false << u"48 words · not saved · "_s
-                                      << u"Save writes animals.lwx"_s;
+                                      << u"Save writes animals.lwx in lists"_s;
+        QTest::newRow("a name without a file")
+            << 4 << false << QString() << true << u"4 words · "_s << u"Save asks for a name"_s;
     }
 
     void theStateOfTheListIsNamed()
@@ -44,6 +46,7 @@ private Q_SLOTS:
         QCOMPARE(QuietTexts::ofSameWord(12, {u"glacier"_s, u"a slow river\r\nof ice"_s, u"x"_s}),
                  u"In the list: 12 glacier - a slow river of ice"_s);
         QCOMPARE(QuietTexts::ofSameWord(1, {u"ice"_s, {}, {}}), u"In the list: 1 ice"_s);
+        QCOMPARE(QuietTexts::ofSameWord(1, {u"ice"_s, QString(60'000, u'x'), {}}).size(), 201);
     }
 
     void commandsAreReported()

@@ -302,6 +302,10 @@ private Q_SLOTS:
         });
         m_main->choose("mnuPrint");
         QCOMPARE(line.text(), u"Printed to chosen.pdf."_s);
+        // The next command takes back what this one said.
+        m_main->answers.cancelFileDialog();
+        m_main->choose("mnuPrintWholeList");
+        QCOMPARE(line.text(), before);
     }
 
     void afterCancelInTheChoiceOfAFileThePrintDialogIsOpen()

@@ -34,7 +34,8 @@ def take(guide):
         guide.picture("message-exported")
         person.answers(message, "OK")
         person.window(main)
-        person.reads(f"{len(guide.expected)} words · Save writes {target.name}")
+        person.reads(f"{len(guide.expected)} words · Save writes {target.name}"
+                     f" in {target.parent.name}")
     guide.keeps(target)
 
 
