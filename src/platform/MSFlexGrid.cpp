@@ -100,7 +100,7 @@ MSFlexGrid::MSFlexGrid(QWidget *parent) : QTableWidget(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(NoEditTriggers);
-    setSelectionMode(NoSelection);
+    setSelectionMode(SingleSelection); // by assistive tools only
     setWordWrap(false);
     setAutoScroll(false);
     setTabKeyNavigation(false); // Tab leaves the grid
@@ -132,6 +132,10 @@ void MSFlexGrid::Clear()
 void MSFlexGrid::setText(int row, int column, const QString &text)
 {
     cell(row, column).setText(text);
+    if (row == 0)
+        setHorizontalHeaderItem(column, new QTableWidgetItem(text));
+    if (column == 0)
+        setVerticalHeaderItem(row, new QTableWidgetItem(text));
 }
 
 QString MSFlexGrid::text(int row, int column) const
@@ -252,6 +256,23 @@ bool MSFlexGrid::viewportEvent(QEvent *event)
     else
         QToolTip::hideText();
     return true;
+}
+
+// Mouse and keys select nothing.
+QItemSelectionModel::SelectionFlags MSFlexGrid::selectionCommand(const QModelIndex & /*index*/,
+                                                                 const QEvent * /*event*/) const
+{
+    return QItemSelectionModel::NoUpdate;
+}
+
+void MSFlexGrid::selectionChanged(const QItemSelection &selected,
+                                  const QItemSelection & /*deselected*/)
+{
+    if (selected.isEmpty())
+        return;
+    const QModelIndex cell = selected.constFirst().topLeft();
+    clearSelection();
+    Q_EMIT Click(cell.row(), cell.column());
 }
 
 void MSFlexGrid::layOutRows()

@@ -4,6 +4,9 @@
 //
 // Rows and columns count from 0, sizes are in twips. The grid does not scroll: for the wheel and
 // the keys it emits signals, and its owner fills the page. The space key clicks the current row.
+//
+// For assistive tools the texts of row 0 and column 0 are the headers of columns and rows as well,
+// and a cell that they select is clicked.
 #pragma once
 
 #include "platform/GridMove.h"
@@ -56,6 +59,10 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;
+    [[nodiscard]] QItemSelectionModel::SelectionFlags
+    selectionCommand(const QModelIndex &index, const QEvent *event) const override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
 
 private:
     void layOutRows();

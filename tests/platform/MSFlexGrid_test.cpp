@@ -3,6 +3,7 @@
 #include "runtime/RunTimeError.h"
 #include "support/Caller.h"
 
+#include <QAccessible>
 #include <QFontMetrics>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -27,6 +28,11 @@ void turnWheelBy(QWidget &widget, int eighthsOfADegree,
 void turnWheel(QWidget &widget, int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     turnWheelBy(widget, notches * 120, modifiers);
+}
+
+QAccessibleTableInterface &tableOf(MSFlexGrid &grid)
+{
+    return *QAccessible::queryAccessibleInterface(&grid)->tableInterface();
 }
 
 void expectEmptyCells(const MSFlexGrid &grid, Caller caller = Caller::current())
@@ -104,6 +110,54 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setText(2, 0, u"cat"_s));
         QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setCellBold(0, 2, true));
         QVERIFY_THROWS_EXCEPTION(RunTimeError, grid.setCellBackColour(-1, 0, MSFlexGrid::Yellow));
+    }
+
+    void assistiveToolsReadTheHeadersOfRowsAndColumns()
+    {
+        GridPage page;
+        page.grid.setText(0, 1, u"Word"_s);
+        page.grid.setText(2, 0, u"12"_s);
+        page.grid.setText(2, 1, u"cat"_s);
+        QAccessibleTableInterface &table = tableOf(page.grid);
+        QAccessibleInterface *cell = table.cellAt(2, 1);
+        QCOMPARE(cell->text(QAccessible::Name), u"cat"_s);
+        const auto header = [](const QList<QAccessibleInterface *> &headers) {
+            return headers.constFirst()->text(QAccessible::Name);
+        };
+        QCOMPARE(header(cell->tableCellInterface()->rowHeaderCells()), u"12"_s);
+        QCOMPARE(header(cell->tableCellInterface()->columnHeaderCells()), u"Word"_s);
+        QCOMPARE(table.rowDescription(2), u"12"_s);
+        QCOMPARE(table.columnDescription(1), u"Word"_s);
+        page.grid.Clear();
+        QCOMPARE(table.rowDescription(2), QString());
+    }
+
+    void aCellThatAssistiveToolsSelectIsClicked()
+    {
+        GridPage page;
+        const QSignalSpy clicks(&page.grid, &MSFlexGrid::Click);
+        QAccessibleActionInterface *cell = tableOf(page.grid).cellAt(3, 2)->actionInterface();
+        for (int times = 1; times <= 2; ++times) {
+            cell->doAction(cell->actionNames().constFirst());
+            QCOMPARE(clicks.size(), times);
+            QCOMPARE(clicks.last(), QVariantList({3, 2}));
+        }
+        QVERIFY(page.grid.selectedItems().isEmpty());
+    }
+
+    void mouseAndKeysSelectNothing()
+    {
+        GridPage page;
+        const QSignalSpy clicks(&page.grid, &MSFlexGrid::Click);
+        QTest::mousePress(page.grid.viewport(), Qt::LeftButton, {}, page.centreOf(3, 2));
+        QVERIFY(page.grid.selectedItems().isEmpty());
+        QVERIFY(clicks.isEmpty());
+        QTest::mouseRelease(page.grid.viewport(), Qt::LeftButton, {}, page.centreOf(3, 2));
+        QCOMPARE(clicks.size(), 1);
+        QTest::keyClick(&page.grid, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&page.grid, Qt::Key_Space);
+        QVERIFY(page.grid.selectedItems().isEmpty());
+        QCOMPARE(clicks.size(), 2);
     }
 
     void columnsAreMeasuredInTwips()
