@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/QuietLabel.h"
 
+#include "platform/AccessibleRole.h"
 #include "platform/Appearance.h"
-#include "platform/StatusBarRole.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -11,7 +11,7 @@
 
 QuietLabel::QuietLabel(QWidget *parent) : QWidget(parent)
 {
-    giveStatusBarRole<QuietLabel>();
+    giveAccessibleRole<QAccessible::StatusBar, QuietLabel>();
     m_announcing.setSingleShot(true);
     m_announcing.setInterval(500);
     connect(&m_announcing, &QTimer::timeout, this, [this] { setAccessibleName(text()); });

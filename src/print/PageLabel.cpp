@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/PageLabel.h"
 
-#include "platform/StatusBarRole.h"
+#include "platform/AccessibleRole.h"
 
 PageLabel::PageLabel(QWidget *parent) : QLabel(parent)
 {
-    giveStatusBarRole<PageLabel>();
+    giveAccessibleRole<QAccessible::StatusBar, PageLabel>();
     setAccessibleName(QStringLiteral("Pages")); // without a name, each change of the text is told
 }
 
