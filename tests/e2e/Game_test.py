@@ -1,58 +1,16 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A whole game without a mouse: by the keyboard alone, and by what assistive tools can do alone."""
+"""A whole game by the keyboard alone."""
 from stage.conditions import until
-from stage.listfile import writes
-from stage.testing import DesktopTest, Untitled, main
-
-Game = "The Tanglewit"
-Miss = "Incorrect Answer"
-Scores = "Top 10"
-Entries = [(word, f"a definition of {word}", f"Here is one {word}.")
-           for word in ("apple", "bread", "cream", "dough", "flour", "grape", "honey")]
-Words = {definition: word for word, definition, _ in Entries}
+from stage.game import Game, GameTest, Miss, Scores, Title
+from stage.testing import main
 
 
-class WholeGame(DesktopTest):
-    def setUp(self):
-        super().setUp()
-        folder = self.home / "Documents" / "Lexibrook" / "MyLists"
-        folder.mkdir(parents=True)
-        self.list = folder / "Food.lwx"
-        writes(self.list, Entries)
-        self.person = self.starts()
-        self.person.window(Untitled)
-
-    # Looking
-
-    def labels(self):
-        return [part.name for part in self.person.front().below() if part.role == "label"]
-
-    def word(self):
-        """The word that is asked for, by its definition."""
-        return until("the clue of a word", lambda: next(
-            Words[text] for text in self.labels() if text in Words))
-
-    def beside(self, caption):
-        shown = self.labels()
-        return shown[shown.index(caption) + 1]
-
-    def shows(self, text):
-        until(f"'{text}'", lambda: text in self.labels())
-
+class WholeGame(GameTest):
     def box(self, name):
         return self.person.control("text", name)
 
     def hasKeyboard(self, role, name):
         until(f"the keyboard in '{name}'", lambda: self.person.control(role, name).focused)
-
-    def assertBackAtTheList(self):
-        title = "LexiBrook- The Tanglewit: Food.lwx"
-        self.person.window(title)
-        until("only the main window", self.person.titles, [title])
-        table = (self.home / ".local" / "share" / "Lexibrook" / "top10.bin").read_bytes()
-        self.assertIn(b"Anna", table)
-
-    # By the keyboard
 
     def types(self, name, text):
         self.hasKeyboard("text", name)
@@ -72,7 +30,7 @@ class WholeGame(DesktopTest):
         person.window("Open File")
         self.types("File name:", "Food.lwx")
         person.presses("Return")
-        person.window("LexiBrook- The Tanglewit: Food.lwx")
+        person.window(Title)
         person.presses("alt+g", "p")
         person.window(Game)
         self.shows("Please click Start to begin.")
@@ -84,7 +42,7 @@ class WholeGame(DesktopTest):
         for hits in (1, 2, 3):
             word = self.word()
             self.answers(word)
-            until(f"hit {hits}", lambda: person.front().find("panel", f"Hits: {hits}"))
+            self.showsHits(hits)
             score = int(self.beside("Score"))
         self.assertGreater(score, 0)
 
@@ -144,8 +102,7 @@ class WholeGame(DesktopTest):
         person.window(Scores)
         self.types("Your name", "Anna")
         person.presses("Return")
-        until("the row with the name", lambda: any(
-            f"   {score} :   Anna" in text for text in self.labels()))
+        self.showsScoreOf("Anna", score)
         person.presses("Return")
         person.window(Game)
         self.shows("Please click Restart to shuffle.")
@@ -159,69 +116,6 @@ class WholeGame(DesktopTest):
         self.assertBackAtTheList()
         person.presses("alt+f", "x")
         until("the program's end", lambda: person.process.poll(), 0)
-
-    # By assistive tools
-
-    def does(self, role, name):
-        self.person.control(role, name).does()
-
-    def puts(self, name, text):
-        self.box(name).text = text
-        until(f"the text in '{name}'", lambda: self.box(name).text, text)
-
-    def enters(self, text):
-        self.puts("Your answer", text)
-        self.does("push button", "Enter")
-
-    def test_byAssistiveToolsAlone(self):
-        person = self.person
-        self.menu("File", "Open...")
-        person.is_told("End current lesson?")
-        self.does("push button", "OK")
-        person.window("Open File")
-        self.puts("File name:", "Food.lwx")
-        self.does("push button", "Open")
-        person.window("LexiBrook- The Tanglewit: Food.lwx")
-        self.does("push button", "Play")
-        person.window(Game)
-        self.does("push button", "View Top 10")
-        person.window(Scores)
-        self.does("push button", "Close")
-        person.window(Game)
-        self.does("push button", "Start")
-
-        for hits in (1, 2):
-            self.enters(self.word())
-            until(f"hit {hits}", lambda: person.front().find("panel", f"Hits: {hits}"))
-        score = self.beside("Score")
-        self.does("push button", "Hide")
-        self.does("push button", "Show")
-        for _ in range(5):
-            person.window(Game)
-            word = self.word()
-            self.enters("wrong")
-            person.window(Miss)
-            self.shows(f"The correct answer is: {word}")
-            self.puts("Type the word", word)
-            self.does("push button", "OK")
-            until("the dialog gone", lambda: Miss not in person.titles())
-        person.window(Scores)
-        self.puts("Your name", "Anna")
-        self.does("push button", "Enter")
-        until("the row with the name", lambda: any(
-            f"   {score} :   Anna" in text for text in self.labels()))
-        self.does("push button", "Close")
-        person.window(Game)
-        self.shows("Please click Restart to shuffle.")
-        self.does("push button", "Quit")
-        person.window(Scores)
-        self.does("push button", "Close")
-        self.assertBackAtTheList()
-
-    def menu(self, name, item):
-        bar = next(part for part in self.person.front().below() if part.role == "menu bar")
-        bar.find("menu item", name).does()
-        until(f"{item} in the menu", lambda: self.person.front().find("menu item", item)).does()
 
 
 if __name__ == "__main__":

@@ -7,6 +7,11 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
+# Milliseconds.
+WAITED_FOR_AN_ANSWER = 100
+USUAL_TIMEOUT = 800
+USUAL_TIMEOUT_AT_START = 15000  # since the program is known
+
 
 @dataclasses.dataclass(frozen=True)
 class Box:
@@ -70,12 +75,19 @@ class Control:
     def text(self, text):
         Atspi.EditableText.set_text_contents(self._accessible, text)
 
+    def takes_the_keyboard(self):
+        Atspi.Component.grab_focus(self._accessible)
+
     def does(self):
         """What the control is for: a button is pressed, a menu opens, an item is chosen."""
+        # Where a dialog opens, the answer comes after it has closed.
+        Atspi.set_timeout(WAITED_FOR_AN_ANSWER, 0)
         try:
             Atspi.Action.do_action(self._accessible, 0)
         except GLib.Error:
-            pass  # a dialog has opened: the answer comes after that
+            pass
+        finally:
+            Atspi.set_timeout(USUAL_TIMEOUT, USUAL_TIMEOUT_AT_START)
 
     @property
     def box(self):
@@ -128,6 +140,22 @@ class Control:
     def value(self):
         """Of a scroll bar."""
         return int(Atspi.Value.get_current_value(self._accessible))
+
+    @value.setter
+    def value(self, value):
+        Atspi.Value.set_current_value(self._accessible, value)
+
+    @property
+    def checked(self):
+        """Of a radio button or a check box."""
+        return self._has(Atspi.StateType.CHECKED)
+
+    def row_header(self, row):
+        """What a table has for the header of a row."""
+        return Control(Atspi.Table.get_row_header(self._accessible, row))
+
+    def column_header(self, column):
+        return Control(Atspi.Table.get_column_header(self._accessible, column))
 
     def _has(self, state):
         return self._accessible.get_state_set().contains(state)

@@ -16,6 +16,7 @@ class DesktopTest(unittest.TestCase):
     """Each test has an empty home folder on the one desktop."""
 
     options = None
+    kind_of_person = Person
 
     @classmethod
     def setUpClass(cls):
@@ -32,7 +33,7 @@ class DesktopTest(unittest.TestCase):
 
     def starts(self):
         """A person who has just started the program."""
-        person = Person(self.desktop, self.options.program)
+        person = self.kind_of_person(self.desktop, self.options.program)
         self._started.append(person.starts_the_program())
         return person
 
