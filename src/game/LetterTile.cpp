@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/LetterTile.h"
 
+#include "platform/AccessibleRole.h"
 #include "platform/Motion.h"
 
 #include <QPainter>
@@ -45,6 +46,7 @@ QFont tileType(QFont type, double side)
 
 LetterTile::LetterTile(QWidget *parent) : QPushButton(parent)
 {
+    giveAccessibleRole<QAccessible::StaticText, LetterTile>(); // there is nothing to press
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
@@ -53,6 +55,7 @@ LetterTile::LetterTile(QWidget *parent) : QPushButton(parent)
 void LetterTile::turnUp(const QString &letter)
 {
     setText({});
+    setAccessibleName(letter);
     show();
     const QPixmap back = grab();
     setText(letter);

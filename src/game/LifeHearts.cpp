@@ -2,6 +2,7 @@
 #include "game/LifeHearts.h"
 
 #include "game/GameState.h"
+#include "platform/AccessibleRole.h"
 #include "platform/Appearance.h"
 #include "platform/Motion.h"
 
@@ -43,6 +44,7 @@ void drawHeart(QPainter &painter, const QColor &outline, const QBrush &inside)
 
 LifeHearts::LifeHearts(QWidget *parent) : QWidget(parent)
 {
+    giveAccessibleRole<QAccessible::Graphic, LifeHearts>();
     setFixedSize(GameState().NumLifes.toInt() * HeartPitch, HeartSide);
 }
 
@@ -52,6 +54,7 @@ void LifeHearts::setLives(Integer lives)
         return;
     const bool isLost = lives == m_lives - 1 && lives >= 0;
     m_lives = lives;
+    setAccessibleName(QStringLiteral("Hearts: %1").arg(lives.toInt()));
     update();
     Motion::end(*this);
     if (!isLost)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/PrizeBanner.h"
 
+#include "platform/AccessibleRole.h"
 #include "platform/Appearance.h"
 
 #include <QLayout>
@@ -73,6 +74,11 @@ void paintCup(QPainter &painter)
 }
 
 } // namespace
+
+PrizeBanner::PrizeBanner(QWidget *parent) : QWidget(parent)
+{
+    giveAccessibleRole<QAccessible::Grouping, PrizeBanner>();
+}
 
 void PrizeBanner::setPrize(double flown)
 {

@@ -10,7 +10,7 @@ class PrizeBanner final : public QWidget
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit PrizeBanner(QWidget *parent = nullptr);
 
     // From 0 to 1, how far the confetti has flown. At 1 it lies where it stays.
     void setPrize(double flown);

@@ -3,6 +3,7 @@
 
 #include "game/LetterTile.h"
 #include "game/LetterTiles.h"
+#include "platform/AccessibleRole.h"
 #include "platform/Appearance.h"
 #include "platform/Motion.h"
 
@@ -29,6 +30,7 @@ constexpr double FadeStart = 0.75; // when the word begins to fade
 
 TileRack::TileRack(QWidget *parent) : QWidget(parent)
 {
+    giveAccessibleRole<QAccessible::Grouping, TileRack>();
     for (int i = 1; i <= LetterTiles; ++i) {
         auto *tile = new LetterTile(this);
         tile->setObjectName(QStringLiteral("cmdLetters_%1").arg(i));

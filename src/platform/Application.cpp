@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Application.h"
 
-#include "platform/AccessibleOptions.h"
+#include "platform/AccessibleWidgets.h"
 #include "platform/Appearance.h"
 #include "platform/HeldKeys.h"
 #include "platform/MsgBox.h"
@@ -36,7 +36,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setWindowIcon(QIcon(QStringLiteral(":/icons/tanglewit.svg")));
     setStyle(new ProgramStyle);
     applyAppearance(*this);
-    makeOptionsClickable();
+    refineAccessibility();
     installEventFilter(new HeldKeys(this));
     setNoticeHook([](const QString &text) { MsgBox(text); });
 }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ScrolledArea.h"
 
+#include "platform/AccessibleRole.h"
+
 #include <QScrollBar>
 
 ScrolledArea::ScrolledArea(QWidget *parent) : QScrollArea(parent)
 {
+    giveAccessibleRole<QAccessible::Pane, ScrolledArea>();
     setFocusPolicy(Qt::NoFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

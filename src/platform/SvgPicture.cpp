@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SvgPicture.h"
 
+#include "platform/AccessibleRole.h"
+
 #include <QPainter>
 #include <QSvgRenderer>
 
-SvgPicture::SvgPicture(QWidget *parent) : QWidget(parent) {}
+SvgPicture::SvgPicture(QWidget *parent) : QWidget(parent)
+{
+    giveAccessibleRole<QAccessible::Graphic, SvgPicture>();
+}
 
 SvgPicture::~SvgPicture() = default;
 

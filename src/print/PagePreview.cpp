@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/PagePreview.h"
 
+#include "platform/AccessibleRole.h"
 #include "platform/Guarded.h"
 #include "platform/PrintMetrics.h"
 
@@ -44,6 +45,7 @@ PagePreview::Pause::~Pause()
 
 PagePreview::PagePreview(QWidget *parent) : QAbstractScrollArea(parent)
 {
+    giveAccessibleRole<QAccessible::Graphic, PagePreview>();
     setFocusPolicy(Qt::StrongFocus);
     setZoom(Zoom::WholePage);
     connect(&m_idle, &QTimer::timeout, this, guarded(this, &PagePreview::layOutMore));

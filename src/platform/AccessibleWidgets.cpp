@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/AccessibleOptions.h"
+#include "platform/AccessibleWidgets.h"
 
 #include <QAccessibleWidget>
 #include <QCheckBox>
+#include <QFrame>
 #include <QRadioButton>
 
 namespace {
@@ -50,18 +51,24 @@ private:
     QAbstractButton &m_button;
 };
 
-QAccessibleInterface *makeOption(const QString & /*className*/, QObject *object)
+// Called with the object's class and, while no factory knows it, its base classes.
+QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
     if (auto *option = qobject_cast<QRadioButton *>(object))
         return new Option(*option, QAccessible::RadioButton);
     if (auto *box = qobject_cast<QCheckBox *>(object))
         return new Option(*box, QAccessible::CheckBox);
+    auto *widget = qobject_cast<QWidget *>(object);
+    if (className == QLatin1String("QWidget") && widget->isWindow())
+        return new QAccessibleWidget(widget, QAccessible::Window);
+    if (className == QLatin1String("QFrame") && object->metaObject() == &QFrame::staticMetaObject)
+        return new QAccessibleWidget(widget, QAccessible::Grouping);
     return nullptr;
 }
 
 } // namespace
 
-void makeOptionsClickable()
+void refineAccessibility()
 {
-    QAccessible::installFactory(makeOption);
+    QAccessible::installFactory(makeInterface);
 }

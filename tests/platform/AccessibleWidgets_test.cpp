@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/AccessibleOptions.h"
+#include "platform/AccessibleWidgets.h"
 
 #include "support/FormTest.h"
 
@@ -24,7 +24,7 @@ void choose(QAbstractButton &button)
 
 } // namespace
 
-class AccessibleOptions_test final : public QObject
+class AccessibleWidgets_test final : public QObject
 {
     Q_OBJECT
 
@@ -75,6 +75,21 @@ private Q_SLOTS:
         QCOMPARE(seenAs(box).text(QAccessible::Name), u"Print numbers"_s);
     }
 
+    void windowsAndPlainFramesAreNotTakenForOthers()
+    {
+        QWidget window;
+        QFrame frame(&window);
+        QLabel label(&window);
+        QWidget part(&window);
+        const auto roleOf = [](QWidget &widget) {
+            return QAccessible::queryAccessibleInterface(&widget)->role();
+        };
+        QCOMPARE(roleOf(window), QAccessible::Window);
+        QCOMPARE(roleOf(frame), QAccessible::Grouping);
+        QCOMPARE(roleOf(label), QAccessible::StaticText);
+        QCOMPARE(roleOf(part), QAccessible::Client);
+    }
+
     void aDisabledOptionHasNoSuchAction()
     {
         QRadioButton option(u"First"_s);
@@ -86,7 +101,7 @@ private Q_SLOTS:
 
 int main(int argc, char *argv[])
 {
-    return runFormTest<AccessibleOptions_test>(argc, argv);
+    return runFormTest<AccessibleWidgets_test>(argc, argv);
 }
 
-#include "AccessibleOptions_test.moc"
+#include "AccessibleWidgets_test.moc"
