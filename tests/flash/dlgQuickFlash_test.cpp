@@ -248,8 +248,8 @@ private Q_SLOTS:
             reached += QApplication::focusWidget()->objectName();
             Controls::press(Qt::Key_Tab);
         }
-        QCOMPARE(reached, (QStringList{u"cmdNext"_s, u"cmdPrevious"_s, u"txtDef"_s,
-                                       u"cmdAutoFlash"_s, u"CancelButton"_s, u"txtWord"_s}));
+        QCOMPARE(reached, (QStringList{u"cmdNext"_s, u"cmdAutoFlash"_s, u"CancelButton"_s,
+                                       u"txtWord"_s, u"txtDef"_s, u"cmdPrevious"_s}));
         QCOMPARE(QApplication::focusWidget()->objectName(), u"cmdNext"_s);
     }
 

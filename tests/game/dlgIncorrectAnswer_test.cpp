@@ -338,11 +338,11 @@ private Q_SLOTS:
     {
         ask([](const AnswerForm &form) {
             form.press(Qt::Key_Return);
-            form.press(Qt::Key_Tab);
+            form.press(Qt::Key_Backtab, Qt::ShiftModifier);
             QCOMPARE(form.form.focusWidget(), &form.button("cmdDown"));
             QCOMPARE(form.label("lblTypingHint").text(), QString());
             // A key with Ctrl or Alt types nothing.
-            form.press(Qt::Key_Backtab);
+            form.press(Qt::Key_Tab);
             form.press(Qt::Key_B, Qt::ControlModifier);
             QCOMPARE(form.form.focusWidget(), &form.button("cmdOK"));
             QCOMPARE(form.box().text(), QString());
@@ -422,7 +422,7 @@ private Q_SLOTS:
                 reached << form.form.focusWidget()->objectName();
                 form.press(Qt::Key_Tab);
             }
-            QCOMPARE(reached, (QStringList{u"txtUserAnswer"_s, u"cmdOK"_s, u"cmdDown"_s}));
+            QCOMPARE(reached, (QStringList{u"txtUserAnswer"_s, u"cmdDown"_s, u"cmdOK"_s}));
             QCOMPARE(form.form.focusWidget(), &form.box());
             form.button("cmdOK").setFocus();
             form.press(Qt::Key_H, Qt::AltModifier);

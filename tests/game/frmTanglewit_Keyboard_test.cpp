@@ -189,13 +189,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("round");
         QTest::newRow("ready")
             << u"ready"_s
-            << u"cmdStart VScroll1 cmdHide lstHits lstMisses cmdRestart cmdViewTop10 cmdQuit"_s;
+            << u"cmdStart lstHits lstMisses cmdRestart cmdViewTop10 cmdQuit VScroll1 cmdHide"_s;
         QTest::newRow("playing")
             << u"playing"_s
-            << u"txtUserAnswer cmdEnter cmdHide lstHits lstMisses cmdRestart cmdViewTop10 cmdQuit"_s;
+            << u"txtUserAnswer cmdEnter lstHits lstMisses cmdRestart cmdViewTop10 cmdQuit cmdHide"_s;
         QTest::newRow("hidden word")
             << u"hidden word"_s
-            << u"txtUserAnswer cmdEnter cmdShow lstHits lstMisses cmdRestart cmdViewTop10 cmdQuit"_s;
+            << u"txtUserAnswer cmdEnter lstHits lstMisses cmdRestart cmdViewTop10 cmdQuit cmdShow"_s;
         QTest::newRow("over") << u"over"_s
                               << u"cmdRestart cmdViewTop10 cmdQuit cmdHide lstHits lstMisses"_s;
     }

@@ -217,8 +217,8 @@ private Q_SLOTS:
                  QStringList({u"lstPrinter"_s,      u"optPortrait"_s,        u"txtCopies"_s,
                               u"vsc_Copies"_s,      u"optSubset"_s,          u"txtFromWord"_s,
                               u"txtToWord"_s,       u"chkPrintItemNumber"_s, u"txtTopMargin"_s,
-                              u"vsc_TopMargin"_s,   u"txtBottomMargin"_s,    u"vsc_BottomMargin"_s,
-                              u"txtLeftMargin"_s,   u"vsc_LeftMargin"_s,     u"txtRightMargin"_s,
+                              u"vsc_TopMargin"_s,   u"txtLeftMargin"_s,      u"vsc_LeftMargin"_s,
+                              u"txtBottomMargin"_s, u"vsc_BottomMargin"_s,   u"txtRightMargin"_s,
                               u"vsc_RightMargin"_s, u"cmdPrint"_s,           u"cmdCancel"_s,
                               u"preview"_s,         u"cmdNextPage"_s,        u"cmdLastPage"_s,
                               u"cmdZoom"_s}));
