@@ -15,6 +15,23 @@ QColor onAccentColour(const QPalette &palette)
     return isDark(palette) ? Qt::black : Qt::white;
 }
 
+QColor disabledColour(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(0x8A, 0x90, 0x94) : QColor(0x72, 0x7C, 0x83);
+}
+
+// The program's colours in the palette's place.
+QPalette withOwnColours(QPalette palette)
+{
+    palette.setColor(QPalette::Highlight, accentColour(palette));
+    palette.setColor(QPalette::HighlightedText, onAccentColour(palette));
+    palette.setColor(QPalette::PlaceholderText, quietColour(palette));
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+        palette.setColor(QPalette::Disabled, role, disabledColour(palette));
+    return palette;
+}
+
 QString styleSheet(const QPalette &palette)
 {
     const bool dark = isDark(palette);
@@ -23,17 +40,18 @@ QGroupBox { border: 1px solid @line; border-radius: 8px; margin-top: 9px; paddin
 QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; color: @quiet; }
 #centralWidget > QGroupBox#Frame1 { border: none; margin: 0; padding: 0; border-radius: 0; }
 QLineEdit, QPlainTextEdit {
-    background: palette(base); border: 1px solid @line; border-radius: 6px; padding: 3px 6px;
+    background: palette(base); border: 1px solid @outline; border-radius: 6px; padding: 3px 6px;
     selection-background-color: @accent; selection-color: @onAccent; }
 QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid @accent; padding: 2px 5px; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QLineEdit[readOnly="true"],
-EntryTextBox[readOnly="true"] { background: palette(window); color: @quiet; }
+QLineEdit:disabled, QPlainTextEdit:disabled { background: palette(window); border-color: @line; }
+QLineEdit[readOnly="true"], EntryTextBox[readOnly="true"] {
+    background: palette(window); color: @quiet; }
 QLineEdit#txtWord, QLineEdit#txtCurWord, QLineEdit#txtImportWord, EntryTextBox {
     font-size: @entryTypepx; }
 QLineEdit#txtImportWord, EntryTextBox#txtImportDef, EntryTextBox#txtImportSen {
     color: palette(text); }
 QPushButton {
-    background: palette(button); border: 1px solid @line; border-radius: 6px;
+    background: palette(button); border: 1px solid @outline; border-radius: 6px;
     padding: 5px 14px; min-height: @buttonTypepx; }
 QPushButton:hover { border-color: @accent; }
 QPushButton:pressed { background: @line; }
@@ -41,12 +59,12 @@ QPushButton:default { background: @accent; color: @onAccent; border-color: @acce
 QPushButton:focus { border: 2px solid @focus; padding: 4px 13px; outline: none; }
 QPushButton:disabled { background: palette(window); color: @disabled; border-color: @line; }
 SpeakerButton {
-    background: palette(button); border: 1px solid @line; border-radius: 6px; padding-right: 16px; }
+    background: palette(button); border: 1px solid @outline; border-radius: 6px; padding-right: 16px; }
 SpeakerButton:hover { border-color: @accent; }
 SpeakerButton:pressed { background: @line; }
 SpeakerButton:focus { border: 2px solid @focus; }
 SpeakerButton::menu-button { border: none; width: 16px; }
-FlashCard { border-radius: 14px; border: 1px solid @line; }
+FlashCard { border-radius: 14px; border: 1px solid @outline; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
 #prgDeck { background: @line; border: none; border-radius: 2px; }
 #prgDeck::chunk { background: @accent; border-radius: 2px; }
@@ -78,6 +96,10 @@ ScrolledArea:focus { border: 2px solid @focus; }
 #rowPanel QLabel, #txtName { font-size: 16px; }
 #txtName { padding: 1px 6px; }
 #txtName:focus { padding: 0 5px; }
+#lstPrinter, #lstExportWords, HandbookText {
+    border: 1px solid @outline; border-radius: 6px; padding: 1px; }
+#lstPrinter:focus, #lstExportWords:focus, HandbookText:focus {
+    border: 2px solid @accent; padding: 0; }
 #lstHits, #lstMisses { background: transparent; border: none; font-size: 14px; }
 #lstHits:focus, #lstMisses:focus { border: 2px solid @focus; border-radius: 4px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
@@ -96,11 +118,12 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
     };
     set("@accent", accent);
     set("@onAccent", onAccentColour(palette));
-    set("@focus", dark ? QColor(Qt::white) : accent.darker(170));
+    set("@focus", focusColour(palette));
+    set("@outline", outlineColour(palette));
     set("@line", dark ? QColor(0x5A, 0x5F, 0x63) : QColor(0xC3, 0xCB, 0xD1));
     set("@thin", dark ? QColor(0x44, 0x48, 0x4C) : QColor(0xDD, 0xE2, 0xE6));
     set("@quiet", quietColour(palette));
-    set("@disabled", dark ? QColor(0x8A, 0x90, 0x94) : QColor(0x72, 0x7C, 0x83));
+    set("@disabled", disabledColour(palette));
     return sheet;
 }
 
@@ -121,18 +144,23 @@ QColor quietColour(const QPalette &palette)
     return isDark(palette) ? QColor(0xB4, 0xBC, 0xC2) : QColor(0x4A, 0x56, 0x5E);
 }
 
+QColor outlineColour(const QPalette &palette)
+{
+    if (!isDark(palette))
+        return {0x76, 0x82, 0x8A};
+    return {0x86, 0x8D, 0x92};
+}
+
+QColor focusColour(const QPalette &palette)
+{
+    return isDark(palette) ? QColor(Qt::white) : accentColour(palette).darker(170);
+}
+
 void applyAppearance(QApplication &application)
 {
-    QPalette palette = QApplication::palette();
-    const QColor accent = accentColour(palette);
-    const QColor quiet = quietColour(palette);
-    if (palette.color(QPalette::Highlight) != accent ||
-        palette.color(QPalette::PlaceholderText) != quiet) {
-        palette.setColor(QPalette::Highlight, accent);
-        palette.setColor(QPalette::HighlightedText, onAccentColour(palette));
-        palette.setColor(QPalette::PlaceholderText, quiet);
+    const QPalette palette = withOwnColours(QApplication::palette());
+    if (palette != QApplication::palette())
         QApplication::setPalette(palette);
-    }
     const QString sheet = styleSheet(palette);
     if (application.styleSheet() != sheet)
         application.setStyleSheet(sheet);

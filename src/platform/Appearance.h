@@ -11,6 +11,10 @@ class QPalette;
 [[nodiscard]] QColor accentColour(const QPalette &palette);
 // For captions, notes and outlines.
 [[nodiscard]] QColor quietColour(const QPalette &palette);
+// For the borders of boxes and buttons, which have to stand out from the window.
+[[nodiscard]] QColor outlineColour(const QPalette &palette);
+// For the border of what has the keyboard.
+[[nodiscard]] QColor focusColour(const QPalette &palette);
 
 // Takes its colours from the application's palette and the size of its type from the application's
 // font. Call it again when one of them has changed.

@@ -3,8 +3,11 @@
 
 #include "platform/Appearance.h"
 
+#include <QAbstractButton>
 #include <QPainter>
 #include <QStyleOptionSlider>
+
+#include <algorithm>
 
 namespace {
 
@@ -37,9 +40,105 @@ void drawThumb(QPainter &painter, QRect place, const QStyleOptionSlider &bar)
     painter.restore();
 }
 
+// Of a mark that can be switched on.
+struct MarkColours
+{
+    explicit MarkColours(const QStyleOption &option)
+    {
+        const QPalette &palette = option.palette;
+        const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+        const bool isOn = !option.state.testFlag(QStyle::State_Off);
+        const bool isUsed = (option.state & (QStyle::State_MouseOver | QStyle::State_Sunken)) != 0;
+        const QColor line = isOn || isUsed ? accentColour(palette) : outlineColour(palette);
+        outline = isEnabled ? line : palette.color(QPalette::Disabled, QPalette::WindowText);
+        inside = palette.color(isEnabled ? QPalette::Base : QPalette::Window);
+    }
+
+    QColor outline; // and the sign of a mark that is on
+    QColor inside;
+};
+
+QRectF markPlace(const QStyleOption &option)
+{
+    const int side = std::min(option.rect.width(), option.rect.height());
+    QRectF place(0, 0, side, side);
+    place.moveCenter(QRectF(option.rect).center());
+    return place.adjusted(0.75, 0.75, -0.75, -0.75); // half the line
+}
+
+void drawOption(QPainter &painter, const QStyleOption &option)
+{
+    const MarkColours colours(option);
+    const QRectF place = markPlace(option);
+    painter.setPen(QPen(colours.outline, 1.5));
+    painter.setBrush(colours.inside);
+    painter.drawEllipse(place);
+    if (!option.state.testFlag(QStyle::State_On))
+        return;
+    const double rim = place.width() / 4;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours.outline);
+    painter.drawEllipse(place.adjusted(rim, rim, -rim, -rim));
+}
+
+void drawCheckBox(QPainter &painter, const QStyleOption &option)
+{
+    const MarkColours colours(option);
+    const QRectF place = markPlace(option);
+    const bool isOn = option.state.testFlag(QStyle::State_On);
+    painter.setPen(QPen(colours.outline, 1.5));
+    painter.setBrush(isOn ? colours.outline : colours.inside);
+    painter.drawRoundedRect(place, 3, 3);
+    if (!isOn)
+        return;
+    const auto at = [&place](double x, double y) {
+        return QPointF(place.left() + x * place.width(), place.top() + y * place.height());
+    };
+    painter.setPen(QPen(colours.inside, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.28)});
+}
+
+void drawFocusFrame(QPainter &painter, const QStyleOption &option)
+{
+    painter.setPen(QPen(focusColour(option.palette), 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75), 3, 3);
+}
+
+using Drawing = void (*)(QPainter &painter, const QStyleOption &option);
+
+// Null for what Fusion draws.
+Drawing drawingOf(QStyle::PrimitiveElement element, const QWidget *widget)
+{
+    switch (element) {
+    case QStyle::PE_IndicatorRadioButton:
+        return drawOption;
+    case QStyle::PE_IndicatorCheckBox:
+        return drawCheckBox;
+    case QStyle::PE_FrameFocusRect:
+        return qobject_cast<const QAbstractButton *>(widget) ? drawFocusFrame : nullptr;
+    default:
+        return nullptr;
+    }
+}
+
 } // namespace
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                 QPainter *painter, const QWidget *widget) const
+{
+    const Drawing draw = drawingOf(element, widget);
+    if (!draw) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    draw(*painter, *option);
+    painter->restore();
+}
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                       QPainter *painter, const QWidget *widget) const

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Qt's Fusion style, with scroll bars whose thumb stands out from its track.
+// Qt's Fusion style, with scroll bars whose thumb stands out from its track, and option buttons and
+// check boxes that stand out from the window.
 #pragma once
 
 #include <QProxyStyle>
@@ -11,6 +12,8 @@ class ProgramStyle final : public QProxyStyle
 public:
     ProgramStyle();
 
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
 };

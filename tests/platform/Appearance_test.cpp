@@ -66,7 +66,7 @@ private Q_SLOTS:
 
     void theAccentStandsOutFromItsWindow()
     {
-        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+        for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
             for (const auto role : {QPalette::Window, QPalette::Base})
                 QVERIFY(contrast(accentColour(palette), palette.color(role)) >= ReadableMark);
         }
@@ -75,7 +75,7 @@ private Q_SLOTS:
 
     void whatAnEmptyBoxSaysIsReadable()
     {
-        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+        for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
             wear(palette);
             const QPalette worn = QLineEdit().palette();
             QVERIFY(contrast(worn.color(QPalette::PlaceholderText), worn.color(QPalette::Base)) >=
@@ -118,7 +118,7 @@ private Q_SLOTS:
 
     void aPressedButtonIsReadable()
     {
-        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+        for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
             for (const bool isDefault : {false, true}) {
                 wear(palette);
                 QPushButton button(u"IIII"_s);
@@ -136,7 +136,7 @@ private Q_SLOTS:
 
     void theTitleOfAFrameIsReadable()
     {
-        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+        for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
             wear(palette);
             QWidget window;
             QGroupBox frame(u"IIII"_s, &window);
@@ -152,7 +152,7 @@ private Q_SLOTS:
 
     void selectedTextIsReadable()
     {
-        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+        for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
             wear(palette);
             QLineEdit box(u"IIIIIIIIIIIIIIII"_s);
             box.setFont(fontWithThickStrokes());
@@ -170,7 +170,7 @@ private Q_SLOTS:
     // The focus frame must have enough contrast to the pixels of a button without focus.
     void theFocusIsSeenOnEveryButton()
     {
-        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+        for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
             for (const bool isDefault : {false, true}) {
                 wear(palette);
                 QWidget window;
@@ -197,7 +197,7 @@ private Q_SLOTS:
     // The middle of the thumb against the middle of the track below it.
     void theThumbOfAScrollBarStandsOutFromItsTrack()
     {
-        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+        for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
             wear(palette);
             QScrollBar bar(Qt::Vertical);
             bar.setRange(0, 100);

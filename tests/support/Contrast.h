@@ -45,15 +45,35 @@ inline constexpr double ReadableMark = 3;   // the same for large text, lines an
     return palette;
 }
 
+// White and yellow on black, as some people set it.
+[[nodiscard]] inline QPalette highContrastPalette()
+{
+    QPalette palette(QColor(Qt::black));
+    for (const auto role : {QPalette::Base, QPalette::AlternateBase, QPalette::Button})
+        palette.setColor(role, Qt::black);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, Qt::white);
+    palette.setColor(QPalette::Highlight, Qt::yellow);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    return palette;
+}
+
 // The most frequent colour of a picture, and the one with the highest contrast to it.
 struct Seen
 {
     explicit Seen(const QImage &image)
     {
         QHash<QRgb, int> counts;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                ++counts[image.pixel(x, y)];
+        const QImage pixels = image.convertToFormat(QImage::Format_RGB32);
+        for (int y = 0; y < pixels.height(); ++y) {
+            const auto *line = reinterpret_cast<const QRgb *>(pixels.constScanLine(y));
+            // Most neighbours are alike.
+            for (int x = 0, end = 0; x < pixels.width(); x = end) {
+                while (end < pixels.width() && line[end] == line[x])
+                    ++end;
+                counts[line[x]] += end - x;
+            }
+        }
         QRgb most = 0;
         for (auto it = counts.cbegin(); it != counts.cend(); ++it)
             if (it.value() > counts.value(most))
