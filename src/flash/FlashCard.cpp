@@ -127,7 +127,8 @@ void FlashCard::resizeEvent(QResizeEvent *event)
 void FlashCard::fitType()
 {
     const int margin = int(document()->documentMargin());
-    const QRect room = contentsRect().adjusted(0, 0, -2 * margin, -2 * margin);
+    // A text that fills the last pixel could already be scrolled.
+    const QRect room = contentsRect().adjusted(0, 0, -2 * margin, -2 * margin - 1);
     const QString text = shownText(*document());
     QRect needed;
     QFont type = font();

@@ -83,6 +83,17 @@ private Q_SLOTS:
         QVERIFY(typeSize(card()) >= 12);
     }
 
+    void aTextThatFitsScrollsAtNoHeight()
+    {
+        card().setText(prose(163), FlashCard::Side::Front);
+        for (int height = 400; height < 700; ++height) {
+            m_form->dialog().resize(700, height);
+            QTRY_COMPARE(m_form->dialog().height(), height);
+            QCoreApplication::processEvents();
+            QVERIFY2(fits(card()), qPrintable(QString::number(height)));
+        }
+    }
+
     void aDefinitionOf2000CharactersScrollsInTheSmallestType()
     {
         start(prose(2000));
@@ -114,7 +125,9 @@ private Q_SLOTS:
 
     void theTypeFollowsTheSizeOfTheCard()
     {
+        m_form->dialog().resize(600, 400);
         card().setText(prose(163), FlashCard::Side::Front);
+        QTRY_VERIFY(typeSize(card()) < 24);
         const int size = typeSize(card());
         m_form->dialog().resize(1000, 700);
         QTRY_VERIFY(typeSize(card()) > size);
