@@ -12,12 +12,17 @@
 
 namespace {
 
-// Of the dialogs that were closed, by their names: the corner of the window's frame and the size
-// inside it.
+// Of the dialogs that were closed: the corner of the window's frame and the size inside it.
 QHash<QString, QRect> &lastPlaces()
 {
     static QHash<QString, QRect> places;
     return places;
+}
+
+// In larger type, a dialog needs another size.
+QString nameOfPlace(const QWidget &dialog)
+{
+    return dialog.objectName() + QLatin1Char(' ') + dialog.font().key();
 }
 
 } // namespace
@@ -25,7 +30,7 @@ QHash<QString, QRect> &lastPlaces()
 void DialogForm::openAsLastClosed()
 {
     m_keepsPlace = true;
-    const QRect last = lastPlaces().value(objectName());
+    const QRect last = lastPlaces().value(nameOfPlace(*this));
     if (last.isNull())
         return;
     // The screen may be another one by now.
@@ -53,5 +58,5 @@ void DialogForm::closeEvent(QCloseEvent *event)
     Form::closeEvent(event);
     m_closing = false;
     if (m_keepsPlace && event->isAccepted())
-        lastPlaces().insert(objectName(), place);
+        lastPlaces().insert(nameOfPlace(*this), place);
 }
