@@ -11,7 +11,12 @@
 
 namespace {
 
-constexpr int Spacing = 8; // pixels, as all measures below
+// All in pixels.
+constexpr int Spacing = 8;
+constexpr int RowSpacing = 12;
+// From the left edges of the frames to their boxes. The style sheet puts the titles there, too.
+constexpr int DefinitionIndent = 14;
+constexpr int SentenceIndent = 33;
 
 } // namespace
 
@@ -32,7 +37,7 @@ int EntryArea::lineHeight() const
 
 int EntryArea::titleHeight() const
 {
-    return std::max(3 * Spacing, m_ui.FrameDef->fontMetrics().height() + Spacing);
+    return m_ui.FrameDef->fontMetrics().height() + Spacing / 2;
 }
 
 int EntryArea::leastHeight() const
@@ -40,55 +45,55 @@ int EntryArea::leastHeight() const
     constexpr int lines = 4;
     const int border = 2 * Spacing;
     const int box = lines * m_ui.txtDefinition->fontMetrics().lineSpacing() + border;
-    return 2 * (lineHeight() + 2 * Spacing) + titleHeight() + box + 2 * Spacing;
+    return 2 * lineHeight() + titleHeight() + box + 4 * RowSpacing;
 }
 
-// From top to bottom: the word, the two long texts, the buttons.
+// From top to bottom: the word, the two long texts, the buttons. The boxes are in the middle of the
+// window's halves; all else begins and ends with them.
 void EntryArea::place(const MainLayout &layout, int height)
 {
     const int line = lineHeight();
     m_ui.Frame1->setGeometry(0, pixels(layout.frameTop), pixels(layout.frameWidth), height);
-    const int frameDefWidth = pixels(layout.frameDefWidth);
+    const int frameDefLeft = pixels(layout.windowWidth - layout.frameWidth);
+    const int frameSenLeft = pixels(layout.frameSenLeft);
+    const int boxWidth = pixels(layout.textWidth);
+    const int left = frameDefLeft + DefinitionIndent;
+    const int middle = frameSenLeft + SentenceIndent;
+
     const int labelWidth = m_ui.Label1->sizeHint().width();
-    const int wordLeft = 2 * Spacing + labelWidth + Spacing;
-    m_ui.Label1->setGeometry(2 * Spacing, Spacing, labelWidth, line);
-    m_ui.txtWord->setGeometry(wordLeft, Spacing, Spacing + frameDefWidth - wordLeft, line);
+    const int wordLeft = left + labelWidth + Spacing;
+    m_ui.Label1->setGeometry(left, RowSpacing, labelWidth, line);
+    m_ui.txtWord->setGeometry(wordLeft, RowSpacing, left + boxWidth - wordLeft, line);
+    m_ui.lblQuiet->setGeometry(middle, RowSpacing, boxWidth, line);
 
-    const int quietLeft = pixels(layout.frameSenLeft) + 2 * Spacing;
-    m_ui.lblQuiet->setGeometry(quietLeft, Spacing, pixels(layout.frameWidth) - quietLeft - Spacing,
-                               line);
-
-    const int textTop = line + 2 * Spacing;
-    const int buttonTop = height - line - Spacing;
-    const int textHeight = buttonTop - textTop - Spacing;
-    const int innerTop = titleHeight();
-    const auto placeText = [&](QGroupBox *frame, QWidget *box, int left) {
-        frame->setGeometry(left, textTop, frameDefWidth, textHeight);
-        const int boxWidth = pixels(layout.textWidth);
-        box->setGeometry((frameDefWidth - boxWidth) / 2, innerTop, boxWidth,
-                         textHeight - innerTop - 2 * Spacing);
+    const int textTop = line + 2 * RowSpacing;
+    const int buttonTop = height - line - RowSpacing;
+    const int textHeight = buttonTop - textTop - RowSpacing;
+    const int title = titleHeight();
+    const auto placeText = [&](QGroupBox *frame, int frameLeft, QWidget *box, int indent) {
+        frame->setGeometry(frameLeft, textTop, pixels(layout.frameDefWidth), textHeight);
+        box->setGeometry(indent, title, boxWidth, textHeight - title);
     };
-    placeText(m_ui.FrameDef, m_ui.txtDefinition, Spacing);
-    placeText(m_ui.FrameSen, m_ui.txtSentence, pixels(layout.frameSenLeft));
-    placeButtons(layout, buttonTop);
+    placeText(m_ui.FrameDef, frameDefLeft, m_ui.txtDefinition, DefinitionIndent);
+    placeText(m_ui.FrameSen, frameSenLeft, m_ui.txtSentence, SentenceIndent);
+    placeButtons(left, middle + boxWidth, pixels(layout.playLeft), buttonTop);
 }
 
 // Play and Quick Flash at the right end, the others of one width in what is left.
-void EntryArea::placeButtons(const MainLayout &layout, int top)
+void EntryArea::placeButtons(int left, int right, int playLeft, int top)
 {
     const int line = lineHeight();
-    const int playLeft = pixels(layout.playLeft);
-    const int playWidth = pixels(layout.frameWidth) - playLeft;
-    const int flashWidth = std::max(playWidth, m_ui.cmdQuickFlash->sizeHint().width());
+    const int playWidth = right - playLeft;
+    const int flashWidth =
+        std::max(playWidth + Spacing, m_ui.cmdQuickFlash->sizeHint().width()); // with its margin
     m_ui.cmdPlayScramble->setGeometry(playLeft, top, playWidth, line);
     m_ui.cmdQuickFlash->setGeometry(playLeft - flashWidth, top, flashWidth, line);
 
     const std::array entryButtons{m_ui.cmdAdd, m_ui.cmdAbort, m_ui.cmdDelete, m_ui.cmdSearch};
-    const int room = playLeft - flashWidth - Spacing;
+    const int room = playLeft - flashWidth - left;
     constexpr int usualWidth = 116;
     int width = std::max(usualWidth, m_ui.cmdNewWord->sizeHint().width() + 2 * Spacing);
     width = std::min(width, room / int(entryButtons.size()) - Spacing);
-    int left = Spacing;
     for (QPushButton *button : entryButtons) {
         button->setGeometry(left, top, width, line);
         left += width + Spacing;

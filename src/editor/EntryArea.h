@@ -44,7 +44,7 @@ public:
 private:
     [[nodiscard]] int lineHeight() const;
     [[nodiscard]] int titleHeight() const;
-    void placeButtons(const MainLayout &layout, int top);
+    void placeButtons(int left, int right, int playLeft, int top);
     void txtDefinition_Change();
     void txtSentence_Change();
 

@@ -36,9 +36,21 @@ QString styleSheet(const QPalette &palette)
 {
     const bool dark = isDark(palette);
     QString sheet = QStringLiteral(R"(
-QGroupBox { border: 1px solid @line; border-radius: 8px; margin-top: 9px; padding: 8px; }
+QGroupBox {
+    border: 1px solid @line; border-radius: 8px; margin-top: @halfTitlepx;
+    padding: @halfTitlepx 8px 8px 8px; }
 QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; color: @quiet; }
 #centralWidget > QGroupBox#Frame1 { border: none; margin: 0; padding: 0; border-radius: 0; }
+#FrameDef, #FrameSen, #FramePrinter, #dlgQuickFlash QGroupBox {
+    border: none; margin-top: @titlepx; padding: 0; }
+#FrameDef::title, #FrameSen::title, #FramePrinter::title, #dlgQuickFlash QGroupBox::title {
+    left: -2px; padding: 0; }
+#FrameDef::title { left: 12px; }
+#FrameSen::title { left: 31px; }
+#lstPrinter, #lstExportWords {
+    background: palette(base); border: 1px solid @line; border-radius: 6px; padding: 2px; }
+#lstPrinter:focus, #lstExportWords:focus { border: 2px solid @accent; padding: 1px; }
+#cmdQuickFlash { margin-right: 8px; }
 QLineEdit, QPlainTextEdit {
     background: palette(base); border: 1px solid @outline; border-radius: 6px; padding: 3px 6px;
     selection-background-color: @accent; selection-color: @onAccent; }
@@ -73,7 +85,7 @@ FlashCard:focus { border: 2px solid @focus; }
 #wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
 #frmHits, #frmMisses {
     background: palette(base); border: 1px solid @line; border-radius: 10px; margin: 0;
-    padding: 26px 8px 8px 12px; }
+    padding: @titleInsidepx 8px 8px 12px; }
 #frmHits::title, #frmMisses::title { subcontrol-origin: border; left: 14px; top: 8px; padding: 0; }
 LetterTile { background: transparent; min-height: 0; padding: 0; border: none; }
 ScrolledArea, ScrolledArea > QWidget > QWidget { background: transparent; }
@@ -112,6 +124,11 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
     // A layout never makes a button lower than this.
     const int buttonType = std::max(18, QFontMetrics(QApplication::font()).height());
     sheet.replace(QLatin1String("@buttonType"), QString::number(buttonType));
+    // Of the captions of frames: on the border, above a frame without one, inside a panel.
+    const int titleType = QFontMetrics(QApplication::font()).height();
+    sheet.replace(QLatin1String("@halfTitle"), QString::number(std::max(9, titleType / 2 + 1)));
+    sheet.replace(QLatin1String("@titleInside"), QString::number(std::max(26, titleType + 10)));
+    sheet.replace(QLatin1String("@title"), QString::number(titleType));
     const QColor accent = accentColour(palette);
     const auto set = [&sheet](const char *name, const QColor &colour) {
         sheet.replace(QLatin1String(name), colour.name());

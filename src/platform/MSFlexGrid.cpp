@@ -196,12 +196,12 @@ int MSFlexGrid::RowHeight(int row) const
     return rowHeight(row) * TwipsPerPixel;
 }
 
-// Continues the rows from the last column to the right edge.
+// Continues the rows from the last column to the right edge. That column has no line at its end.
 void MSFlexGrid::paintEvent(QPaintEvent *event)
 {
     QTableWidget::paintEvent(event);
     const int last = columnCount() - 1;
-    const int left = columnViewportPosition(last) + columnWidth(last);
+    const int left = columnViewportPosition(last) + columnWidth(last) - 1;
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     const int lineColour = style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this);
@@ -210,10 +210,10 @@ void MSFlexGrid::paintEvent(QPaintEvent *event)
     for (int row = 0; row < rowCount(); ++row) {
         const QRect rest(left, rowViewportPosition(row), viewport()->width() - left,
                          rowHeight(row));
-        if (row == 0)
-            painter.fillRect(rest, palette().window());
-        else if (cellBackColour(row, last) == Yellow)
-            painter.fillRect(rest, Qt::yellow);
+        const bool yellow = cellBackColour(row, last) == Yellow;
+        painter.fillRect(rest, yellow     ? QBrush(Qt::yellow)
+                               : row == 0 ? palette().window()
+                                          : palette().base());
         painter.drawLine(rest.bottomLeft(), rest.bottomRight());
     }
 }

@@ -106,6 +106,29 @@ private Q_SLOTS:
         QCOMPARE(flash.y(), play.y());
     }
 
+    void controlsAboveOneAnotherShareTheirEdges()
+    {
+        MainWindow main;
+        main.fill(5);
+        const auto place = [&main](const char *name) {
+            return Layout::placeOf(main.control<QWidget>(name));
+        };
+        const QRect definition = place("txtDefinition");
+        const QRect sentence = place("txtSentence");
+        QCOMPARE(place("Label1").left(), definition.left());
+        QCOMPARE(place("cmdNewWord").left(), definition.left());
+        QCOMPARE(place("txtWord").right(), definition.right());
+        QCOMPARE(place("lblQuiet").left(), sentence.left());
+        QCOMPARE(place("lblQuiet").right(), sentence.right());
+        QCOMPARE(place("cmdPlayScramble").right(), sentence.right());
+        QCOMPARE(sentence.top(), definition.top());
+        QCOMPARE(sentence.bottom(), definition.bottom());
+        // Each box is in the middle of its half of the window.
+        const int window = main.window().width();
+        QVERIFY(std::abs(definition.left() - (window - 1 - sentence.right())) <= 1);
+        QVERIFY(std::abs(definition.left() - (window / 2 - 1 - definition.right())) <= 2);
+    }
+
     void theWindowFitsTheScreen_data() { Layout::addTypeSizes(); }
 
     void theWindowFitsTheScreen()
