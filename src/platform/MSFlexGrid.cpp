@@ -66,6 +66,9 @@ protected:
             shrinkToFit(*option);
         if (index.column() == 0)
             option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+        // In a low row, letters such as g would be cut below; above, there is room for accents.
+        if (option->rect.height() < option->fontMetrics.height())
+            option->displayAlignment.setFlag(Qt::AlignVCenter, false).setFlag(Qt::AlignBottom);
     }
 };
 
@@ -282,10 +285,11 @@ void MSFlexGrid::layOutRows()
         const int top = height * row / m_visibleRows;
         setRowHeight(row, std::max(1, height * (row + 1) / m_visibleRows - top));
     }
-    constexpr int smallest = 9;
+    const int row = height / m_visibleRows;
+    const int smallest = row < 12 ? 8 : 9;
     constexpr int largest = 22;
     QFont rowFont = font();
-    rowFont.setPixelSize(std::clamp(height / m_visibleRows * 7 / 10, smallest, largest));
+    rowFont.setPixelSize(std::clamp(row * 7 / 10, smallest, largest));
     setFont(rowFont);
 }
 

@@ -29,6 +29,22 @@ private:
     mutable qsizetype m_characters = 0;
 };
 
+// The first and the last row of a cell's picture that has ink; the lines of the grid are left out.
+std::pair<int, int> inkRows(const QImage &cell)
+{
+    int first = cell.height();
+    int last = -1;
+    for (int y = 0; y < cell.height() - 1; ++y) {
+        for (int x = 2; x < cell.width() - 2; ++x) {
+            if (cell.pixelColor(x, y).lightness() > 200)
+                continue;
+            first = std::min(first, y);
+            last = y;
+        }
+    }
+    return {first, last};
+}
+
 } // namespace
 
 class MSFlexGrid_Painting_test final : public QObject
@@ -138,6 +154,26 @@ private Q_SLOTS:
         const QImage word = page.cellImage(0, 1);
         page.grid.setText(0, 1, u"Vocabulary Worm"_s);
         QVERIFY(page.cellImage(0, 1) != word);
+    }
+
+    void lettersAreWholeInLowRows()
+    {
+        for (const int height : {10, 11, 12, 13, 14, 16, 20}) {
+            GridPage page;
+            page.grid.setFrameShape(QFrame::NoFrame);
+            page.grid.resize(page.grid.width(), VisibleRows * height);
+            const int row = 2;
+            QCOMPARE(page.grid.rowHeight(row), height);
+            page.grid.setText(row, 1, u"H"_s);
+            const auto [capTop, base] = inkRows(page.cellImage(row, 1));
+            page.grid.setText(row, 1, u"g"_s);
+            const auto [top, bottom] = inkRows(page.cellImage(row, 1));
+            const QFontMetrics metrics(page.grid.font());
+            const QString where = QString::number(height);
+            QVERIFY2(base - capTop + 1 >= metrics.capHeight() - 1, qPrintable(where));
+            QVERIFY2(bottom - base >= metrics.tightBoundingRect(u"g"_s).bottom(),
+                     qPrintable(where));
+        }
     }
 
     void aTextOfSeveralLinesIsShownOnOne()
