@@ -23,6 +23,7 @@ protected:
 
 private:
     void cmdOK_Click();
+    void fitToTexts();
 
     std::unique_ptr<Ui::dlgAbout> m_ui;
 };

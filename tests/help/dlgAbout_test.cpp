@@ -5,6 +5,8 @@
 #include "support/Controls.h"
 #include "support/FormTest.h"
 #include "support/FreshHome.h"
+#include "support/LargeType.h"
+#include "support/Layout.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -35,6 +37,20 @@ private Q_SLOTS:
         QVERIFY(folder.isReadOnly());
         Controls::press(Qt::Key_Return);
         QVERIFY(!dialog.isVisible());
+    }
+
+    void itFitsTheScreen_data() { Layout::addTypeSizes(); }
+
+    void itFitsTheScreen()
+    {
+        QFETCH(double, type);
+        const LargeType font(type);
+        dlgAbout dialog(nullptr);
+        dialog.show();
+        Controls::waitUntilActive(dialog);
+        Layout::checkFitsTheScreen(dialog);
+        dialog.resize(dialog.minimumSize());
+        Layout::checkFitsTheScreen(dialog);
     }
 };
 
