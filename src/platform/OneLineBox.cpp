@@ -18,6 +18,15 @@ QString oneLine(const QString &text)
     return QString(text).remove(atTheEnds).replace(inside, QStringLiteral(" "));
 }
 
+QSize OneLineBox::forPlaceholder(QSize size) const
+{
+    if (placeholderText().isEmpty())
+        return size;
+    const int others = QLineEdit::minimumSizeHint().width() - fontMetrics().maxWidth();
+    const int text = fontMetrics().horizontalAdvance(placeholderText());
+    return size.expandedTo({text + others, 0});
+}
+
 void OneLineBox::keyPressEvent(QKeyEvent *event)
 {
     if (!event->matches(QKeySequence::Paste)) {

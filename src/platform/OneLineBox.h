@@ -26,6 +26,12 @@ public:
     void showDifferences(const QList<TextRange> &ranges);
     // What is marked now.
     [[nodiscard]] QList<QTextLayout::FormatRange> marks() const;
+    // Wide enough for the placeholder.
+    [[nodiscard]] QSize sizeHint() const override { return forPlaceholder(QLineEdit::sizeHint()); }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return forPlaceholder(QLineEdit::minimumSizeHint());
+    }
 
 public Q_SLOTS:
     // Replaces the slot of QLineEdit, which the context menu calls by its name.
@@ -39,6 +45,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    [[nodiscard]] QSize forPlaceholder(QSize size) const;
     void pasteFrom(QClipboard::Mode mode);
     void endUndoStep();
     void paintMarks(const QList<QTextLayout::FormatRange> &marks);

@@ -145,6 +145,30 @@ private Q_SLOTS:
         checkTheColumnsAreWhole(main);
     }
 
+    void theHintOfAnEmptyListIsWhole_data() { Layout::addTypeSizes(); }
+
+    void theHintOfAnEmptyListIsWhole()
+    {
+        QFETCH(double, type);
+        const LargeType font(type);
+        MainWindow main;
+        QVERIFY(Layout::visibleControls(main.window())
+                    .contains(&main.control<QWidget>("lblEmptyList")));
+        checkNothingIsCut(main);
+    }
+
+    void theHintOfAnEmptyListIsWholeInASmallWindow()
+    {
+        MainWindow main;
+        main.window().showNormal();
+        main.window().resize(main.window().minimumSize());
+        QTRY_COMPARE(main.window().size(), main.window().minimumSize());
+        checkNothingIsCut(main);
+        main.window().resize(900, 900);
+        QTRY_COMPARE(main.window().width(), 900);
+        checkNothingIsCut(main);
+    }
+
     void nothingIsCutInAnyMode_data()
     {
         QTest::addColumn<QString>("mode");

@@ -3,10 +3,13 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
+#include <QStyleOptionGroupBox>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -24,10 +27,61 @@ bool holdsOneLine(const QWidget &control)
            qobject_cast<const QLabel *>(&control) || qobject_cast<const QLineEdit *>(&control);
 }
 
+// A label that wraps its text needs the height that follows from its width.
+QSize leastSize(const QWidget &control)
+{
+    const auto *label = qobject_cast<const QLabel *>(&control);
+    if (label && label->hasHeightForWidth() && !label->text().isEmpty())
+        return {0, label->heightForWidth(label->width())};
+    return control.minimumSizeHint();
+}
+
 bool isTooSmall(const QWidget &control)
 {
-    const QSize least = control.minimumSizeHint();
+    const QSize least = leastSize(control);
     return control.width() < least.width() || control.height() < least.height();
+}
+
+// Where the style paints the title, in the coordinates of the box. Its text is two pixels further
+// to the right.
+QRect titleOf(const QGroupBox &box)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(&box);
+    option.text = box.title();
+    option.lineWidth = 1;
+    option.textAlignment = box.alignment();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    return box.style()
+        ->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, &box)
+        .translated(2, 0);
+}
+
+void checkTitle(const QGroupBox &box, Caller caller)
+{
+    if (box.title().isEmpty())
+        return;
+    const QRect title = titleOf(box);
+    if (!box.rect().contains(title) ||
+        title.width() < box.fontMetrics().horizontalAdvance(box.title()))
+        failTest(u"the title of "_s + box.objectName() + u" is cut"_s, caller);
+    const auto inside = box.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget *control : inside)
+        if (control->isVisible() && control->geometry().intersects(title.adjusted(0, -1, 0, 1)))
+            failTest(u"the title of "_s + box.objectName() + u" touches "_s + control->objectName(),
+                     caller);
+}
+
+void checkPlaceholder(const QLineEdit &box, Caller caller)
+{
+    constexpr int besideText = 2; // pixels that Qt leaves free
+    QStyleOptionFrame option;
+    option.initFrom(&box);
+    option.lineWidth = 1;
+    const QRect room = box.style()->subElementRect(QStyle::SE_LineEditContents, &option, &box);
+    if (box.text().isEmpty() &&
+        box.fontMetrics().horizontalAdvance(box.placeholderText()) > room.width() - 2 * besideText)
+        failTest(u"the placeholder of "_s + box.objectName() + u" is cut"_s, caller);
 }
 
 bool overlap(const QWidget &one, const QWidget &other)
@@ -49,7 +103,9 @@ QList<QWidget *> Layout::visibleControls(const QWidget &window)
     const QList<QWidget *> all = window.findChildren<QWidget *>();
     for (QWidget *control : all) {
         const QString name = control->objectName();
-        const bool scrolls = control->parentWidget()->objectName() == u"qt_scrollarea_viewport"_s;
+        const auto *area =
+            qobject_cast<const QScrollArea *>(control->parentWidget()->parentWidget());
+        const bool scrolls = area && area->widget() == control;
         if (control->window() == &window && control->isVisible() && !name.isEmpty() &&
             !name.startsWith(u"qt_"_s) && !scrolls)
             controls += control;
@@ -71,8 +127,12 @@ void Layout::checkNothingIsCut(const QWidget &window, Caller caller)
             failTest(name + u" is cut"_s, caller);
         if (holdsOneLine(*control) && isTooSmall(*control))
             failTest(name + u" is too small: "_s + text(control->size()) + u", not "_s +
-                         text(control->minimumSizeHint()),
+                         text(leastSize(*control)),
                      caller);
+        if (const auto *box = qobject_cast<const QGroupBox *>(control))
+            checkTitle(*box, caller);
+        if (const auto *box = qobject_cast<const QLineEdit *>(control))
+            checkPlaceholder(*box, caller);
         for (const QWidget *other : controls)
             if (other != control && overlap(*control, *other))
                 failTest(name + u" and "_s + other->objectName() + u" overlap"_s, caller);

@@ -18,7 +18,8 @@ namespace Layout {
 [[nodiscard]] QList<QWidget *> visibleControls(const QWidget &window);
 // Lets the layout follow the texts. Then fails the test if a visible control has no size, is cut by
 // the window or by what contains it, overlaps another one, or, if it is a button, a label or a box
-// of one line, is smaller than its least size.
+// of one line, is smaller than its least size; if a label that wraps its text is too low for it; if
+// the title of a frame is cut or touches a control inside; or if a placeholder is cut.
 void checkNothingIsCut(const QWidget &window, Caller caller = Caller::current());
 // Fails the test if a visible control that can have the keyboard has no name for assistive tools.
 void checkNames(const QWidget &window, Caller caller = Caller::current());
