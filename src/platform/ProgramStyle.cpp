@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QPainter>
 #include <QStyleOptionSlider>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -155,4 +156,14 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
     const QRect thumb = proxy()->subControlRect(control, bar, SC_ScrollBarSlider, widget);
     if (bar->minimum < bar->maximum && bar->state.testFlag(State_Enabled) && isLong(thumb, *bar))
         drawThumb(*painter, thumb, *bar);
+}
+
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                              const QWidget *widget) const
+{
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool ofIndicator = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight ||
+                             metric == PM_ExclusiveIndicatorWidth ||
+                             metric == PM_ExclusiveIndicatorHeight;
+    return ofIndicator && widget ? std::max(usual, widget->fontMetrics().height() * 3 / 4) : usual;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Qt's Fusion style, with scroll bars whose thumb stands out from its track, and option buttons and
-// check boxes that stand out from the window.
+// check boxes that stand out from the window and grow with the type.
 #pragma once
 
 #include <QProxyStyle>
@@ -16,4 +16,6 @@ public:
                        const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override;
 };

@@ -7,9 +7,11 @@
 #include "support/FormTest.h"
 #include "support/LargeType.h"
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QStyle>
 
@@ -132,6 +134,35 @@ private Q_SLOTS:
                          qPrintable(seen.ink.name() + u" on "_s + seen.paper.name()));
             }
         }
+    }
+
+    void optionButtonsAndCheckBoxesStandOutFromTheWindow()
+    {
+        for (const QPalette &palette : {lightPalette(), darkPalette()}) {
+            wear(palette);
+            QRadioButton option;
+            QCheckBox check;
+            for (QAbstractButton *button : {static_cast<QAbstractButton *>(&option),
+                                            static_cast<QAbstractButton *>(&check)}) {
+                button->show();
+                const Seen off(button->grab().toImage());
+                QVERIFY2(off.contrastOfInk() >= ReadableMark, qPrintable(off.text()));
+                const QImage before = button->grab().toImage();
+                button->setCheckable(true);
+                button->setChecked(true);
+                QVERIFY(button->grab().toImage() != before);
+                button->hide();
+            }
+        }
+    }
+
+    void optionButtonsAndCheckBoxesGrowWithTheType()
+    {
+        const LargeType type(2);
+        const QRadioButton option;
+        for (const auto metric : {QStyle::PM_IndicatorWidth, QStyle::PM_ExclusiveIndicatorHeight})
+            QVERIFY(option.style()->pixelMetric(metric, nullptr, &option) >=
+                    option.fontMetrics().height() / 2);
     }
 
     void theTitleOfAFrameIsReadable()
