@@ -81,6 +81,7 @@ FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @a
 #prgDeck { background: @line; border: none; border-radius: 2px; }
 #prgDeck::chunk { background: @accent; border-radius: 2px; }
 #lblDeck, #lblEnding { color: @quiet; }
+#lblWordExist { font-size: @questionTypepx; font-weight: bold; }
 FlashCard:focus { border: 2px solid @focus; }
 #wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
 #frmHits, #frmMisses {
@@ -118,9 +119,10 @@ QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
 MSFlexGrid:focus { border-bottom: 2px solid @accent; }
 )");
-    // The type of the boxes for entries follows the application's.
-    const int entryType = std::max(15, QFontInfo(QApplication::font()).pixelSize() * 23 / 20);
-    sheet.replace(QLatin1String("@entryType"), QString::number(entryType));
+    // The type of the boxes for entries and of the question about a word follows the application's.
+    const int type = QFontInfo(QApplication::font()).pixelSize();
+    sheet.replace(QLatin1String("@entryType"), QString::number(std::max(15, type * 23 / 20)));
+    sheet.replace(QLatin1String("@questionType"), QString::number(std::max(17, type * 13 / 10)));
     // A layout never makes a button lower than this.
     const int buttonType = std::max(18, QFontMetrics(QApplication::font()).height());
     sheet.replace(QLatin1String("@buttonType"), QString::number(buttonType));

@@ -6,9 +6,12 @@
 #include "platform/MsgBox.h"
 #include "platform/Screen.h"
 #include "runtime/Blanks.h"
+#include "transfer/TextDifference.h"
 #include "transfer/ui_dlgWordExist.h"
 
 #include <QStyle>
+
+#include <utility>
 
 using namespace Module1;
 
@@ -16,6 +19,10 @@ dlgWordExist::dlgWordExist(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgWordExist>())
 {
     m_ui->setupUi(this);
+    m_ui->lblWordExist->ensurePolished();
+    constexpr int margins = 8;
+    m_ui->questionArea->setFixedHeight(2 * m_ui->lblWordExist->fontMetrics().height() + margins);
+    m_ui->txtCurWord->showLostCharacters(true);
     openWithSize(*this, size().expandedTo(sizeHint()));
     openAsLastClosed();
     onClick(m_ui->cmdYes, &dlgWordExist::cmdYes_Click);
@@ -27,6 +34,11 @@ dlgWordExist::dlgWordExist(QWidget *parent)
     onClick(m_ui->cmdAllowModify, &dlgWordExist::cmdAllowModify_Click);
     onClick(m_ui->cmdUpdate, &dlgWordExist::cmdUpdate_Click);
     onClick(m_ui->cmdDelete, &dlgWordExist::cmdDelete_Click);
+    connect(m_ui->txtCurWord, &QLineEdit::textChanged, this,
+            guarded(this, &dlgWordExist::existingEntry_Change));
+    for (const EntryTextBox *box : {m_ui->txtCurDef, m_ui->txtCurSen})
+        connect(box, &QPlainTextEdit::textChanged, this,
+                guarded(this, &dlgWordExist::existingEntry_Change));
 }
 
 dlgWordExist::~dlgWordExist() = default;
@@ -43,6 +55,7 @@ void dlgWordExist::Form_Load()
     m_ui->txtImportWord->setText(gImportWord);
     m_ui->txtImportDef->setText(gImportDef);
     m_ui->txtImportSen->setText(gImportSen);
+    showDifferences();
     gAddThis = gAddAll = false;
     m_ui->cmdYes->setFocus();
 }
@@ -126,6 +139,16 @@ void dlgWordExist::cmdDelete_Click()
     enableEditing(false);
 }
 
+void dlgWordExist::existingEntry_Change()
+{
+    const bool isEdited = m_isEntryShown && !m_ui->txtCurWord->isReadOnly();
+    m_ui->lblQuiet->setLine(isEdited ? lostCharactersText(m_ui->txtCurWord->text() +
+                                                          m_ui->txtCurDef->toPlainText() +
+                                                          m_ui->txtCurSen->toPlainText())
+                                     : QString());
+    showDifferences();
+}
+
 void dlgWordExist::showExisting()
 {
     const cVocabList &list = gVocabList();
@@ -145,9 +168,27 @@ void dlgWordExist::lockExisting(bool locked)
         box->style()->polish(box); // a locked box looks locked
 }
 
+void dlgWordExist::showDifferences()
+{
+    const auto differences = [this](const QString &incoming, const QString &existing) {
+        return m_isEntryShown ? differenceOf(incoming, existing) : TextDifference();
+    };
+    const auto words = differences(m_ui->txtImportWord->text(), m_ui->txtCurWord->text());
+    m_ui->txtImportWord->showDifferences(words.ofOne);
+    m_ui->txtCurWord->showDifferences(words.ofOther);
+    for (const auto &[incoming, existing] : {std::pair(m_ui->txtImportDef, m_ui->txtCurDef),
+                                             std::pair(m_ui->txtImportSen, m_ui->txtCurSen)}) {
+        const auto texts = differences(incoming->toPlainText(), existing->toPlainText());
+        incoming->showDifferences(texts.ofOne);
+        existing->showDifferences(texts.ofOther);
+    }
+}
+
 // An entry that is shown can be deleted; it can be updated after it was unlocked.
 void dlgWordExist::enableEditing(bool entryShown)
 {
+    m_isEntryShown = entryShown;
+    existingEntry_Change();
     const bool locked = m_ui->txtCurWord->isReadOnly();
     m_ui->cmdAllowModify->setEnabled(entryShown && locked);
     m_ui->cmdUpdate->setEnabled(entryShown && !locked);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Asks about an imported word that the open list already has, and shows the existing entry, which
-// can be edited there. The answers are the flags gAddThis, gAddAll, gSkipAll and gStopImport.
+// can be edited there. Where the two differ they are marked. The answers are the flags gAddThis,
+// gAddAll, gSkipAll and gStopImport.
 #pragma once
 
 #include "platform/DialogForm.h"
@@ -38,11 +39,14 @@ private:
     void cmdAllowModify_Click();
     void cmdUpdate_Click();
     void cmdDelete_Click();
+    void existingEntry_Change();
 
     void showExisting();
     void lockExisting(bool locked);
     void enableEditing(bool entryShown);
+    void showDifferences();
     void unload();
 
     std::unique_ptr<Ui::dlgWordExist> m_ui;
+    bool m_isEntryShown = false; // not after it was deleted
 };
