@@ -80,7 +80,7 @@ FlashCard { border-radius: 14px; border: 1px solid @outline; }
 FlashCard[back="true"] { background: @accent; color: @onAccent; border-color: @accent; }
 #prgDeck { background: @line; border: none; border-radius: 2px; }
 #prgDeck::chunk { background: @accent; border-radius: 2px; }
-#lblDeck, #lblEnding { color: @quiet; }
+#lblDeck, #lblEnding, #lblConflict { color: @quiet; }
 #lblWordExist { font-size: @questionTypepx; font-weight: bold; }
 FlashCard:focus { border: 2px solid @focus; }
 #wordPanel, #cluePanel, #rowPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }

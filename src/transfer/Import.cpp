@@ -8,7 +8,64 @@
 #include "transfer/DifLines.h"
 #include "transfer/dlgWordExist.h"
 
+#include <QSet>
+
 using namespace Module1;
+
+namespace {
+
+// The words of the source after its current one.
+QStringList listWordsAhead()
+{
+    const cVocabList &source = gImportList();
+    QStringList words;
+    for (int i = source.CurrentWord().toInt() + 1; i <= source.NumWords().toInt(); ++i)
+        if (const QString &word = source.entry(i).Word; !word.isEmpty())
+            words += word;
+    return words;
+}
+
+// The words of the rows after this line, up to a row that the import will not read.
+QStringList difWordsAhead(int line, Integer valuesPerRow)
+{
+    QStringList words;
+    try {
+        while (gDifLines(line) != QLatin1String("EOD")) {
+            if (gDifLines(line) != QLatin1String("BOT")) {
+                ++line;
+                continue;
+            }
+            const QString word = difValue(gDifLines(line + 2));
+            line += 2 * difValuesRead(valuesPerRow);
+            if (gDifLines(line).size() < 2)
+                break;
+            words += word;
+        }
+    } catch (const RunTimeError &) {
+        return words;
+    }
+    return words;
+}
+
+// How many of the words the open list will have when they come in, if no entry is deleted or
+// changed meanwhile.
+int conflictsAmong(const QStringList &words)
+{
+    cVocabList &list = gVocabList();
+    const bool takesWords = !list.isFull();
+    QSet<QString> added;
+    int conflicts = 0;
+    for (const QString &word : words) {
+        const QString lower = word.toLower();
+        if (added.contains(lower) || !list.positionsOf(lower).empty())
+            ++conflicts;
+        else if (takesWords)
+            added += lower;
+    }
+    return conflicts;
+}
+
+} // namespace
 
 Import::Import(QObject *parent)
     : QObject(parent), m_adder(gVocabList(), [this] { Q_EMIT paused(); })
@@ -21,6 +78,7 @@ void Import::ImportWordList()
     cVocabList &source = gImportList();
     source.CurrentWord(1);
     gImportCount = 0;
+    m_asked = 0;
     if (!source.OpenFile() || !fitsInList())
         return;
     while (source.CurrentWord() <= source.NumWords() && !gStopImport) {
@@ -63,7 +121,7 @@ bool Import::fitsInList() const
 void Import::addConflicting()
 {
     if (!gSkipAll)
-        askAboutWord();
+        askAboutWord(listWordsAhead());
     if (gAddThis || gAddAll)
         add();
 }
@@ -100,6 +158,7 @@ void Import::importDifRows()
     gAddThis = gAddAll = gStopImport = false;
     gImportList().CurrentWord(1);
     gImportCount = 0;
+    m_asked = 0;
     int line = 14;
     while (vectors >= 1 && !gStopImport) {
         if (gDifLines(line) != QLatin1String("BOT")) {
@@ -110,7 +169,7 @@ void Import::importDifRows()
                 if (!gVocabList().Exist(gImportWord, 1))
                     add();
                 else if (!gSkipAll)
-                    askAboutWord();
+                    askAboutWord(difWordsAhead(line, valuesPerRow));
             }
             // Also after a new word: once Yes was answered, each new word comes in twice until
             // the dialog opens again.
@@ -147,10 +206,13 @@ void Import::add()
     ++gImportCount;
 }
 
-void Import::askAboutWord()
+// The conflicts ahead are counted anew for each question: answers change their number.
+void Import::askAboutWord(const QStringList &wordsAhead)
 {
     Q_EMIT paused();
     dlgWordExist dialog(qobject_cast<QWidget *>(parent()));
+    ++m_asked;
+    dialog.showConflict(m_asked, m_asked + conflictsAmong(wordsAhead));
     connect(&dialog, &dlgWordExist::refresh, this, &Import::refresh);
     connect(&dialog, &dlgWordExist::deleted, this, &Import::deleted);
     dialog.exec();

@@ -10,6 +10,7 @@
 #include "transfer/WordAdder.h"
 
 #include <QObject>
+#include <QStringList>
 
 class Import final : public QObject
 {
@@ -43,8 +44,9 @@ private:
     [[nodiscard]] int readDifRow(int line, Integer valuesPerRow);
     void addConflicting();
     void add();
-    void askAboutWord();
+    void askAboutWord(const QStringList &wordsAhead);
     [[nodiscard]] bool fitsInList() const;
 
     WordAdder m_adder;
+    int m_asked = 0; // about so many words of this import
 };

@@ -19,6 +19,7 @@ dlgWordExist::dlgWordExist(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgWordExist>())
 {
     m_ui->setupUi(this);
+    m_ui->lblConflict->hide();
     m_ui->lblWordExist->ensurePolished();
     constexpr int margins = 8;
     m_ui->questionArea->setFixedHeight(2 * m_ui->lblWordExist->fontMetrics().height() + margins);
@@ -42,6 +43,12 @@ dlgWordExist::dlgWordExist(QWidget *parent)
 }
 
 dlgWordExist::~dlgWordExist() = default;
+
+void dlgWordExist::showConflict(int number, int total)
+{
+    m_ui->lblConflict->setText(QStringLiteral("Conflict %1 of %2").arg(number).arg(total));
+    m_ui->lblConflict->show();
+}
 
 void dlgWordExist::Form_Load()
 {

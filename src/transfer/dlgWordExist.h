@@ -20,6 +20,9 @@ public:
     explicit dlgWordExist(QWidget *parent = nullptr);
     ~dlgWordExist() override;
 
+    // Shows "Conflict 2 of 5" above the question.
+    void showConflict(int number, int total);
+
 Q_SIGNALS:
     // The main window should be brought up to date.
     void refresh();

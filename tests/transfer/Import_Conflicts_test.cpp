@@ -3,6 +3,8 @@
 // the first question with each answer to the second.
 #include "transfer/ImportRun.h"
 
+#include <QLabel>
+
 using namespace ImportTools;
 using namespace Module1;
 using namespace Qt::StringLiterals;
@@ -171,6 +173,57 @@ private Q_SLOTS:
         m_run->dif(joined(difLinesOf({u"old1|"_s})));
     }
 
+    void theQuestionsAreNumbered_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<QStringList>("answers");
+        QTest::addColumn<QString>("numbers");
+        const auto row = [](const char *name, const char *words, const QStringList &answers,
+                            const char *numbers) {
+            QTest::newRow(name) << QString::fromLatin1(words).split(u' ') << answers
+                                << QString::fromLatin1(numbers);
+        };
+        const QString yes = QString::fromLatin1(Yes);
+        const QString no = QString::fromLatin1(No);
+        row("one", "old1 new1", {no}, "1 of 1");
+        row("some", "new1 OLD1 old2 new2 old1", {no, yes, no}, "1 of 3, 2 of 3, 3 of 3");
+        row("a new word twice", "new1 old1 NEW1 new1", {no, yes, no}, "1 of 3, 2 of 3, 3 of 3");
+        row("Yes To All", "old1 old2", {QString::fromLatin1(YesToAll)}, "1 of 2");
+        row("No To All", "old1 old2", {QString::fromLatin1(NoToAll)}, "1 of 2");
+        row("a deletion before No", "old1 old1 old2", {u"cmdDelete"_s, no, no}, "1 of 3, 2 of 2");
+        row("a deletion before Yes", "old1 old1 old2", {u"cmdDelete"_s, yes, no, no},
+            "1 of 3, 2 of 3, 3 of 3");
+    }
+
+    void theQuestionsAreNumbered()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(QStringList, answers);
+        for (const bool isDif : {false, true}) {
+            setOpenEntries(Open);
+            gSkipAll = false;
+            QStringList numbers;
+            expectAnswers(answers, numbers);
+            if (isDif)
+                m_run->dif(joined(difLinesOf(words, "0,1")));
+            else
+                m_run->wordList(listFile(words));
+            QTEST(numbers.join(u", "_s).remove(u"Conflict "_s), "numbers");
+        }
+    }
+
+    // The rows before the mistake come in.
+    void aMalformedDifFileIsCountedUpToItsMistake()
+    {
+        QByteArrayList lines = difLinesOf({u"old1|"_s, u"old2|"_s, u"old1|"_s});
+        lines[lines.size() - 3] = "V"; // the last value
+        for (const char *number : {"Conflict 1 of 2", "Conflict 2 of 2"})
+            expectQuestion(m_run->answers, u"cmdNo"_s, [number](QDialog &form) {
+                QCOMPARE(Controls::find<QLabel>(form, "lblConflict").text(), QLatin1String(number));
+            });
+        QCOMPARE(m_run->difError(joined(lines)), 5);
+    }
+
     void aDeletedEntryIsNoConflictAnyMore()
     {
         expectQuestion(m_run->answers, u"cmdNo"_s, [this](QDialog &form) {
@@ -184,6 +237,30 @@ private Q_SLOTS:
     }
 
 private:
+    // Each answer to a question, with cmdDelete before it where the entry is deleted first; then
+    // the message at the end. Collects the headings of the questions.
+    void expectAnswers(QStringList answers, QStringList &headings)
+    {
+        if (answers.isEmpty()) {
+            m_run->answers.expectAnyMsgBox(QMessageBox::Ok, [](QMessageBox &) {});
+            return;
+        }
+        const bool deletes = answers.constFirst() == u"cmdDelete"_s;
+        if (deletes)
+            answers.removeFirst();
+        const QString answer = answers.takeFirst();
+        const auto look = [this, &headings, deletes, answers](QDialog &form) {
+            headings += Controls::find<QLabel>(form, "lblConflict").text();
+            if (deletes) {
+                m_run->answers.expectMsgBox(u"Are you sure you want to delete 'old1' ?"_s,
+                                            QMessageBox::Yes);
+                giveAnswer(form, u"cmdDelete"_s);
+            }
+            expectAnswers(answers, headings);
+        };
+        expectQuestion(m_run->answers, answer, look);
+    }
+
     void expectQuestions()
     {
         QFETCH(QStringList, questions);

@@ -106,6 +106,7 @@ public:
         answers.useForm(
             "dlgWordExist", [use](QDialog &dialog) { use(WordExistForm(dialog)); }, caller);
         dlgWordExist dialog;
+        dialog.showConflict(2, 5);
         int refreshed = 0;
         QObject::connect(&dialog, &dlgWordExist::refresh, &dialog, [&, caller] {
             ++refreshed;
