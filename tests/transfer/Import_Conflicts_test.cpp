@@ -188,6 +188,7 @@ private Q_SLOTS:
         row("one", "old1 new1", {no}, "1 of 1");
         row("some", "new1 OLD1 old2 new2 old1", {no, yes, no}, "1 of 3, 2 of 3, 3 of 3");
         row("a new word twice", "new1 old1 NEW1 new1", {no, yes, no}, "1 of 3, 2 of 3, 3 of 3");
+        row("a new word twice behind it", "old1 new1 NEW1", {no, no}, "1 of 2, 2 of 2");
         row("Yes To All", "old1 old2", {QString::fromLatin1(YesToAll)}, "1 of 2");
         row("No To All", "old1 old2", {QString::fromLatin1(NoToAll)}, "1 of 2");
         row("a deletion before No", "old1 old1 old2", {u"cmdDelete"_s, no, no}, "1 of 3, 2 of 2");
