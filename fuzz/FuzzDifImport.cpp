@@ -45,6 +45,8 @@ private:
 
 Answers person;
 QStringList messages;
+std::size_t conflicts = 0; // as the last question says
+bool isCutShort = false;   // by an answer after which no more questions come
 
 using Entry = std::array<QString, 3>;
 
@@ -217,6 +219,8 @@ Outcome importedOutcome()
     gDifLines = Array<QString>(); // as after an empty file
     gSkipAll = gChanged = false;
     messages.clear();
+    conflicts = 0;
+    isCutShort = false;
     Outcome outcome;
     outcome.entries.reserve(16);
     try {
@@ -236,9 +240,18 @@ Outcome importedOutcome()
 
 } // namespace
 
+// Without deletions the number of conflicts is known from the first question on.
+void dlgWordExist::showConflict(int number, int total)
+{
+    require(std::size_t(number) == person.asked() + 1 && number <= total);
+    require(conflicts == 0 || conflicts == std::size_t(total));
+    conflicts = std::size_t(total);
+}
+
 void dlgWordExist::exec()
 {
     const Answer answer = person.next();
+    isCutShort = answer == Answer::YesToAll || answer == Answer::NoToAll || answer == Answer::Abort;
     gAddThis = answer == Answer::Yes;
     gAddAll = answer == Answer::YesToAll;
     if (answer == Answer::NoToAll)
@@ -264,6 +277,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     fillFile(bytes);
     person = Answers(letters);
     const Outcome outcome = importedOutcome();
+    require(isCutShort || conflicts == outcome.asked);
     require(outcome == PlainImport(characters, Answers(letters)).run());
     return 0;
 }

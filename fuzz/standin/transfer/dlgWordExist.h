@@ -11,6 +11,7 @@ class dlgWordExist final : public QObject
 public:
     explicit dlgWordExist(QWidget * /*parent*/) {}
 
+    void showConflict(int number, int total);
     void exec();
 
 Q_SIGNALS:
