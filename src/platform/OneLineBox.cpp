@@ -124,9 +124,8 @@ void OneLineBox::paintMarks(const QList<QTextLayout::FormatRange> &marks)
     QPainter painter(this);
     painter.setClipRect(style()->subElementRect(QStyle::SE_LineEditContents, &frame, this));
     painter.setPen(Qt::transparent);
-    const QRect cursor = cursorRect();
-    layout.draw(&painter, {cursor.x() + cursor.width() / 2 - line.cursorToX(cursorPosition()),
-                           double(cursor.top())});
+    const QRectF cursor = cursorRect();
+    layout.draw(&painter, {cursor.center().x() - line.cursorToX(cursorPosition()), cursor.top()});
 }
 
 void OneLineBox::pasteFrom(QClipboard::Mode mode)

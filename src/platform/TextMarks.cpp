@@ -10,8 +10,8 @@ QList<TextRange> lostCharacters(QStringView text, qsizetype most)
 {
     const auto isKept = [](QChar character) { return isInWindows1252(character.unicode()); };
     QList<TextRange> runs;
-    for (auto end = text.begin(); runs.size() < most;) {
-        const auto start = std::find_if_not(end, text.end(), isKept);
+    for (const auto *end = text.begin(); runs.size() < most;) {
+        const auto *const start = std::find_if_not(end, text.end(), isKept);
         if (start == text.end())
             break;
         end = std::find_if(start, text.end(), isKept);

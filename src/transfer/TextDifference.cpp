@@ -13,10 +13,10 @@ using Words = std::span<const QStringView>;
 std::vector<QStringView> wordsOf(QStringView text)
 {
     std::vector<QStringView> words;
-    for (auto begin = text.begin(); begin != text.end();) {
+    for (const auto *begin = text.begin(); begin != text.end();) {
         const bool isBlank = begin->isSpace();
-        const auto end = std::find_if(begin, text.end(),
-                                      [isBlank](QChar next) { return next.isSpace() != isBlank; });
+        const auto *const end = std::find_if(
+            begin, text.end(), [isBlank](QChar next) { return next.isSpace() != isBlank; });
         words.emplace_back(begin, end);
         begin = end;
     }
