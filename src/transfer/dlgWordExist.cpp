@@ -117,6 +117,7 @@ void dlgWordExist::cmdFindNext_Click()
 void dlgWordExist::cmdAllowModify_Click()
 {
     lockExisting(false);
+    m_ui->txtCurWord->setFocus(); // else Delete would get it from the disabled button
     enableEditing(true);
 }
 

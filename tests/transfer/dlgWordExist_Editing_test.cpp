@@ -62,6 +62,18 @@ private Q_SLOTS:
         });
     }
 
+    // It would be on Delete, the next control that is enabled.
+    void allowModifyPutsTheFocusIntoTheWord()
+    {
+        ask([](const WordExistForm &form) {
+            form.button("cmdAllowModify").setFocus();
+            Controls::press(Qt::Key_Space);
+            QCOMPARE(form.state(), shownUnlocked());
+            QCOMPARE(Controls::focusedControl(), u"txtCurWord"_s);
+            form.close();
+        });
+    }
+
     void enterPressesTheButtonWithTheFocus()
     {
         gAddThis = true;
