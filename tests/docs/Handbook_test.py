@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Checks the handbook against itself and against the program.
 
-The arguments are the folder of the sources and the folder of the build.
+The arguments are the folder of the sources and that of the built pages, if they are built.
 """
 import html
 import html.parser
@@ -12,7 +12,7 @@ import sys
 import unittest
 
 ROOT = pathlib.Path(sys.argv[1])
-BUILT = pathlib.Path(sys.argv[2]) / "share" / "doc" / "tanglewit" / "handbook"
+BUILT = pathlib.Path(sys.argv[2]) if len(sys.argv) > 2 else None
 HANDBOOK = ROOT / "docs" / "handbook"
 PAGES = {path.stem: path.read_text() for path in sorted(HANDBOOK.glob("*.md"))}
 
@@ -62,9 +62,8 @@ class Handbook(unittest.TestCase):
             for target in LINK.findall(page):
                 self.assertTrue((HANDBOOK / target).is_file(), f"{name}.md: {target}")
 
+    @unittest.skipUnless(BUILT, "the handbook is not built: there is no cmark-gfm")
     def test_theBuiltPagesFindEachOther(self):
-        if not BUILT.is_dir():
-            self.skipTest("the handbook is not built: there is no cmark-gfm")
         for name in PAGES:
             page = References((BUILT / f"{name}.html").read_text())
             self.assertGreater(len(page.found), len(PAGES) - 1)
