@@ -16,10 +16,7 @@ class frmMain_Help_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QDir(pathOf(Place::Handbook)).exists(u"index.html"_s));
-    }
+    void initTestCase() { QVERIFY(QDir(pathOf(Place::Handbook)).exists(u"index.html"_s)); }
 
     void helpIsTheLastMenu()
     {

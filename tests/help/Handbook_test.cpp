@@ -43,10 +43,7 @@ class Handbook_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QDir(pathOf(Place::Handbook)).exists(u"index.html"_s));
-    }
+    void initTestCase() { QVERIFY(QDir(pathOf(Place::Handbook)).exists(u"index.html"_s)); }
 
     void f1OpensThePageOfTheWindow_data()
     {
