@@ -111,8 +111,6 @@ void EntryArea::show(EditorMode mode, EntryFocus focus)
     m_ui.cmdAdd->setEnabled(look.isEnabled(EntryLook::Add));
     const bool updates = look.shown == EntryLook::Shown::Update;
     m_ui.cmdAdd->setText(updates ? QStringLiteral("&Update") : QStringLiteral("&Add"));
-    m_ui.cmdAdd->setToolTip(updates ? QStringLiteral("Store the changed entry (Alt+U, Enter)")
-                                    : QStringLiteral("Add the word to the list (Alt+A, Enter)"));
     m_ui.cmdNewWord->setVisible(!showsAdd);
     m_ui.cmdNewWord->setEnabled(look.isEnabled(EntryLook::NewWord));
     m_ui.cmdAbort->setEnabled(look.isEnabled(EntryLook::Abort));
@@ -124,7 +122,24 @@ void EntryArea::show(EditorMode mode, EntryFocus focus)
     m_defaultButton.set(look.defaultButton == EntryLook::Add      ? m_ui.cmdAdd
                         : look.defaultButton == EntryLook::Search ? m_ui.cmdSearch
                                                                   : m_ui.cmdNewWord);
+    showTips(updates);
     giveFocus(focus);
+}
+
+// Enter presses the default button only.
+void EntryArea::showTips(bool updates)
+{
+    const auto show = [](QPushButton &button, const QString &what, const QString &keys) {
+        const QString enter = button.isDefault() ? QStringLiteral(", Enter") : QString();
+        button.setToolTip(QStringLiteral("%1 (%2%3)").arg(what, keys, enter));
+    };
+    show(*m_ui.cmdNewWord, QStringLiteral("Type a new word for the list"), QStringLiteral("Alt+N"));
+    if (updates)
+        show(*m_ui.cmdAdd, QStringLiteral("Store the changed entry"), QStringLiteral("Alt+U"));
+    else
+        show(*m_ui.cmdAdd, QStringLiteral("Add the word to the list"), QStringLiteral("Alt+A"));
+    show(*m_ui.cmdSearch, QStringLiteral("Find the word of the word box; again for the next one"),
+         QStringLiteral("Alt+S, Ctrl+F"));
 }
 
 void EntryArea::giveFocus(EntryFocus control)

@@ -45,6 +45,7 @@ private:
     [[nodiscard]] int lineHeight() const;
     [[nodiscard]] int titleHeight() const;
     void placeButtons(int left, int right, int playLeft, int top);
+    void showTips(bool updates);
     void txtDefinition_Change();
     void txtSentence_Change();
 

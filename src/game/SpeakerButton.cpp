@@ -118,7 +118,7 @@ void SpeakerButton::setVolume(int percent)
 
 void SpeakerButton::showTip()
 {
-    setToolTip(isSoundMuted() ? QStringLiteral("The music is muted (Ctrl+M)")
+    setToolTip(isSoundMuted() ? QStringLiteral("Hear the music again (Ctrl+M)")
                               : QStringLiteral("Mute the music (Ctrl+M)"));
     setAccessibleDescription(QStringLiteral("Volume %1 percent").arg(soundVolume()));
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the main window's buttons, those of its dialogs and its menu items show beside their words.
+// What the buttons of the program's windows and the menu items show beside their words.
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/MainWindow.h"
+#include "game/GameForm.h"
+#include "help/dlgHandbook.h"
 #include "support/FormTest.h"
 #include "support/TestFiles.h"
 #include "transfer/dlgWordExist.h"
@@ -12,23 +14,27 @@
 #include <QImage>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Of the window's own buttons, not those that belong to a control of Qt.
+// Of the window's own buttons, not those that belong to a control of Qt nor the letter tiles, which
+// nobody can press.
 QList<QAbstractButton *> buttonsOf(const QWidget &window)
 {
     QList<QAbstractButton *> buttons;
     for (auto *button : window.findChildren<QAbstractButton *>())
         if (button->window() == &window && !button->objectName().isEmpty() &&
-            !button->objectName().startsWith(u"qt_"_s))
+            !button->objectName().startsWith(u"qt_"_s) &&
+            !button->testAttribute(Qt::WA_TransparentForMouseEvents))
             buttons += button;
     return buttons;
 }
 
-// What a tool tip lacks: it is one phrase, and behind it stand the button's keys in brackets.
+// What a tool tip lacks: it is one phrase, and behind it stand the button's keys in brackets: its
+// letter with Alt, and its shortcut.
 QString mistakeIn(const QAbstractButton &button)
 {
     static const QRegularExpression phrase(u"^[A-Z][^()]*[^.() ]( \\([^()]+\\))?$"_s);
@@ -38,9 +44,11 @@ QString mistakeIn(const QAbstractButton &button)
         return u"%1: '%2'"_s.arg(button.objectName(), tip);
     const qsizetype mark = button.text().indexOf(u'&');
     const QString key = mark < 0 ? QString() : button.text().mid(mark + 1, 1).toUpper();
-    return altKey.match(tip).captured(1) == key
+    const QString keys = tip.section(u'(', 1);
+    return altKey.match(keys).captured(1) == key && keys.contains(button.shortcut().toString())
                ? QString()
-               : u"%1: '%2' for '%3'"_s.arg(button.objectName(), tip, button.text());
+               : u"%1: '%2' for '%3' %4"_s.arg(button.objectName(), tip, button.text(),
+                                               button.shortcut().toString());
 }
 
 void checkButtons(const QWidget &window, int buttons)
@@ -51,6 +59,21 @@ void checkButtons(const QWidget &window, int buttons)
         if (const QString mistake = mistakeIn(*button); !mistake.isEmpty())
             mistakes += mistake;
     QCOMPARE(mistakes, QStringList());
+}
+
+bool isWithEnter(const QAbstractButton &button)
+{
+    return button.toolTip().contains(u"Enter)"_s) || button.toolTip().contains(u"Enter,"_s);
+}
+
+// The button that Enter presses, and no other one of those that can be seen, says so.
+void checkEnter(const QWidget &window, const char *name)
+{
+    QStringList buttons;
+    for (const QAbstractButton *button : buttonsOf(window))
+        if (button->isVisible() && isWithEnter(*button))
+            buttons += button->objectName();
+    QCOMPARE(buttons, QStringList{QLatin1String(name)});
 }
 
 } // namespace
@@ -65,31 +88,102 @@ private Q_SLOTS:
         MainWindow main;
         main.fill({u"cat"_s});
         checkButtons(main.window(), 7);
+        checkEnter(main.window(), "cmdNewWord");
         main.click("cmdNewWord");
         checkButtons(main.window(), 7);
+        checkEnter(main.window(), "cmdAdd");
         main.clickCell(1, 1);
         QCOMPARE(main.control<QPushButton>("cmdAdd").text(), u"&Update"_s);
         checkButtons(main.window(), 7);
+        checkEnter(main.window(), "cmdAdd");
+        main.click("cmdAbort");
+        main.click("cmdSearch");
+        checkButtons(main.window(), 7);
+        checkEnter(main.window(), "cmdSearch");
+    }
+
+    void eachButtonOfTheGameSaysWhatItDoesAndItsKeys()
+    {
+        GameForm game;
+        game.choose("mnuUpbeat");
+        game.open();
+        checkButtons(game.window(), 8);
+        checkEnter(game.window(), "cmdStart");
+        game.click("cmdStart");
+        QVERIFY(game.control<QWidget>("btnSpeaker").isVisible());
+        checkButtons(game.window(), 8);
+        checkEnter(game.window(), "cmdEnter");
+        game.click("cmdHide");
+        checkEnter(game.window(), "cmdEnter");
+        auto &speaker = game.control<QToolButton>("btnSpeaker");
+        speaker.click();
+        checkButtons(game.window(), 8);
+        speaker.click();
+        game.expectMiss([](QDialog &dialog) {
+            checkButtons(dialog, 3);
+            checkEnter(dialog, "cmdOK");
+            Controls::click(Controls::find<QPushButton>(dialog, "cmdDown"));
+            checkButtons(dialog, 3);
+            checkEnter(dialog, "cmdOK");
+        });
+        game.answer(u"wrong"_s);
+        game.click("cmdRestart");
+        checkEnter(game.window(), "cmdStart");
+    }
+
+    void eachButtonOfTheTop10SaysWhatItDoesAndItsKeys()
+    {
+        GameForm game;
+        game.start();
+        game.answerRight();
+        while (game.text("lblNumLifes").toInt() > 1 && !QTest::currentTestFailed())
+            game.answerWrong();
+        game.expectMiss();
+        game.expectTop10Entry(u"Anna"_s, [](QDialog &dialog) {
+            checkButtons(dialog, 3);
+            checkEnter(dialog, "cmdEnter");
+        });
+        game.answer(u"wrong"_s);
+        game.expectTop10([](QDialog &dialog) {
+            checkButtons(dialog, 3);
+            checkEnter(dialog, "cmdClose");
+        });
+        game.click("cmdViewTop10");
+        QVERIFY(game.answers.allSeen());
+    }
+
+    void eachButtonOfTheHandbookSaysWhatItDoesAndItsKeys()
+    {
+        const QTemporaryDir folder;
+        const QString page = folder.filePath(u"index.html"_s);
+        writeFile(page, "<p>A page</p>");
+        dlgHandbook handbook(page, nullptr);
+        handbook.show();
+        checkButtons(handbook, 3);
     }
 
     void eachButtonOfADialogSaysWhatItDoesAndItsKeys_data()
     {
         QTest::addColumn<QByteArray>("item");
         QTest::addColumn<int>("buttons");
-        QTest::newRow("dlgExport") << "mnuExport"_ba << 3;
-        QTest::newRow("dlgQuickFlash") << "mnuQuickFlash"_ba << 5;
-        QTest::newRow("frmPrint") << "mnuPrint"_ba << 12;
-        QTest::newRow("dlgAbout") << "mnuAbout"_ba << 1;
+        QTest::addColumn<QByteArray>("enter");
+        QTest::newRow("dlgExport") << "mnuExport"_ba << 3 << "cmdOk"_ba;
+        QTest::newRow("dlgQuickFlash") << "mnuQuickFlash"_ba << 5 << QByteArray();
+        QTest::newRow("frmPrint") << "mnuPrint"_ba << 12 << "cmdPrint"_ba;
+        QTest::newRow("dlgAbout") << "mnuAbout"_ba << 1 << "cmdOK"_ba;
     }
 
     void eachButtonOfADialogSaysWhatItDoesAndItsKeys()
     {
         QFETCH(QByteArray, item);
         QFETCH(int, buttons);
+        QFETCH(QByteArray, enter);
         MainWindow main;
         main.fill({u"cat"_s, u"dog"_s});
-        main.answers.useForm(QTest::currentDataTag(), [buttons](QDialog &dialog) {
+        main.answers.useForm(QTest::currentDataTag(), [buttons, enter](QDialog &dialog) {
             checkButtons(dialog, buttons);
+            if (!enter.isEmpty())
+                checkEnter(dialog, enter);
             dialog.close();
         });
         main.choose(item);

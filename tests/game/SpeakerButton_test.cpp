@@ -48,7 +48,7 @@ private Q_SLOTS:
         QTest::mouseClick(m_button, Qt::LeftButton, {}, QPoint(12, 16));
         QVERIFY(isSoundMuted());
         QVERIFY(m_button->isChecked());
-        QCOMPARE(m_button->toolTip(), u"The music is muted (Ctrl+M)"_s);
+        QCOMPARE(m_button->toolTip(), u"Hear the music again (Ctrl+M)"_s);
         QCOMPARE(QApplication::focusWidget(), m_box);
         QTest::mouseClick(m_button, Qt::LeftButton, {}, QPoint(12, 16));
         QVERIFY(!isSoundMuted());
