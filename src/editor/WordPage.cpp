@@ -52,15 +52,17 @@ void WordPage::place(const MainLayout &layout)
     const int width = pixels(layout.windowWidth);
     const int height = pixels(layout.gridHeight);
     const int barWidth = m_bar.sizeHint().width();
-    // In a narrow window the numbers have what the other columns leave.
+    m_grid.setGeometry(0, 0, width - barWidth, height);
+    m_bar.setGeometry(width - barWidth, 0, barWidth, height);
+    // The numbers have what the other columns leave, and on a tall screen larger type.
     int left = width - barWidth;
     for (int column = Word; column < Columns; ++column) {
         m_grid.setColWidth(column, layout.columnWidths[static_cast<std::size_t>(column - Word)]);
         left -= m_grid.columnWidth(column);
     }
-    m_grid.setColWidth(Number, std::min(layout.numberWidth, left * TwipsPerPixel));
-    m_grid.setGeometry(0, 0, width - barWidth, height);
-    m_bar.setGeometry(width - barWidth, 0, barWidth, height);
+    constexpr int margin = 12;
+    const int longest = m_grid.fontMetrics().horizontalAdvance(QStringLiteral("32767")) + margin;
+    m_grid.setColumnWidth(Number, std::min(std::max(pixels(layout.numberWidth), longest), left));
     gRowHeight = m_grid.RowHeight(1);
     placeHint();
 }

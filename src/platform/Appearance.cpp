@@ -60,6 +60,7 @@ QLineEdit[readOnly="true"], EntryTextBox[readOnly="true"] {
     background: palette(window); color: @quiet; }
 QLineEdit#txtWord, QLineEdit#txtCurWord, QLineEdit#txtImportWord, EntryTextBox {
     font-size: @entryTypepx; }
+QLineEdit#txtWord[large="true"], EntryTextBox[large="true"] { font-size: @largeEntryTypepx; }
 QLineEdit#txtImportWord, EntryTextBox#txtImportDef, EntryTextBox#txtImportSen {
     color: palette(text); }
 QPushButton {
@@ -121,7 +122,9 @@ MSFlexGrid:focus { border-bottom: 2px solid @accent; }
 )");
     // The type of the boxes for entries and of the question about a word follows the application's.
     const int type = QFontInfo(QApplication::font()).pixelSize();
-    sheet.replace(QLatin1String("@entryType"), QString::number(std::max(15, type * 23 / 20)));
+    const int entryType = std::max(15, type * 23 / 20);
+    sheet.replace(QLatin1String("@entryType"), QString::number(entryType));
+    sheet.replace(QLatin1String("@largeEntryType"), QString::number(entryType * 3 / 2));
     sheet.replace(QLatin1String("@questionType"), QString::number(std::max(17, type * 13 / 10)));
     // A layout never makes a button lower than this.
     const int buttonType = std::max(18, QFontMetrics(QApplication::font()).height());

@@ -106,6 +106,26 @@ private Q_SLOTS:
         QCOMPARE(flash.y(), play.y());
     }
 
+    void aTallWindowShowsTheEntryInLargerType()
+    {
+        MainWindow main;
+        main.window().showNormal();
+        const auto typeIn = [&main](int height) {
+            main.window().resize(1000, height);
+            QCoreApplication::processEvents();
+            QSet<int> sizes;
+            for (const char *box : {"txtWord", "txtDefinition", "txtSentence"})
+                sizes += QFontInfo(main.control<QWidget>(box).font()).pixelSize();
+            checkNothingIsCut(main);
+            return sizes;
+        };
+        const int screen = main.window().screen()->size().height();
+        const QSet<int> usual = typeIn(screen / 2 + 400);
+        QCOMPARE(usual.size(), 1);
+        QCOMPARE(typeIn(screen / 2 + 1000), QSet<int>{*usual.begin() * 3 / 2});
+        QCOMPARE(typeIn(screen / 2 + 400), usual);
+    }
+
     void controlsAboveOneAnotherShareTheirEdges()
     {
         MainWindow main;
