@@ -79,6 +79,7 @@ private Q_SLOTS:
         QTest::newRow("light") << lightPalette();
         QTest::newRow("dark") << darkPalette();
         QTest::newRow("lighter dark") << QPalette(QColor(0x3A, 0x3A, 0x3A));
+        QTest::newRow("high contrast") << highContrastPalette();
     }
 
     void theWindowCanBeRead()
