@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flash/TimeLine.h"
 
+#include "platform/AccessibleRole.h"
 #include "platform/Appearance.h"
 #include "platform/Motion.h"
 #include "platform/RetainedSize.h"
@@ -20,6 +21,7 @@ constexpr int Thickness = 4; // pixels
 
 TimeLine::TimeLine(QWidget *parent) : QWidget(parent)
 {
+    giveAccessibleRole<QAccessible::Indicator, TimeLine>();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     retainSizeWhenHidden(*this); // the card above it keeps its size
     setVisible(false);

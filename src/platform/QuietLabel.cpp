@@ -23,7 +23,10 @@ void QuietLabel::setLine(const QString &text, const QString &marked)
         return;
     m_text = text;
     m_marked = marked;
-    m_announcing.start();
+    if (accessibleName().isEmpty())
+        setAccessibleName(this->text());
+    else
+        m_announcing.start();
     update();
 }
 

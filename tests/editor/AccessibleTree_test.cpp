@@ -3,6 +3,7 @@
 #include "editor/EveryWindow.h"
 #include "editor/MainWindow.h"
 #include "game/GameForm.h"
+#include "platform/QuietLabel.h"
 #include "support/FormTest.h"
 
 #include <QAbstractButton>
@@ -40,7 +41,8 @@ bool isGeneral(QAccessible::Role role)
 bool isEmptyLabel(const QWidget &widget)
 {
     const auto *label = qobject_cast<const QLabel *>(&widget);
-    return label && label->text().isEmpty();
+    const auto *quiet = qobject_cast<const QuietLabel *>(&widget);
+    return (label && label->text().isEmpty()) || (quiet && quiet->text().isEmpty());
 }
 
 // A number or a sign says nothing without what is beside it.

@@ -92,7 +92,7 @@ bool hasText(const QWidget &control)
         return !text->toPlainText().isEmpty();
     if (const auto *text = qobject_cast<const QTextEdit *>(&control))
         return !text->toPlainText().isEmpty();
-    return control.inherits("QuietLabel");
+    return control.inherits("QuietLabel") && !control.accessibleName().isEmpty();
 }
 
 QRect titleOf(const QGroupBox &group)
