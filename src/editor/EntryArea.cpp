@@ -2,11 +2,10 @@
 #include "editor/EntryArea.h"
 
 #include "editor/MainLayout.h"
+#include "editor/TallArea.h"
 #include "editor/ui_frmMain.h"
 #include "platform/Guarded.h"
 #include "platform/Screen.h"
-
-#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -50,25 +49,14 @@ int EntryArea::leastHeight() const
     return 2 * lineHeight() + titleHeight() + box + 4 * RowSpacing;
 }
 
-// On a tall screen the boxes have room for larger type, as the rows of the grid do.
-void EntryArea::fitType(int height)
-{
-    constexpr int tall = 900;
-    for (QWidget *box :
-         {static_cast<QWidget *>(m_ui.txtWord), static_cast<QWidget *>(m_ui.txtDefinition),
-          static_cast<QWidget *>(m_ui.txtSentence)}) {
-        if (box->property("large").toBool() == (height >= tall))
-            continue;
-        box->setProperty("large", height >= tall);
-        box->style()->polish(box); // the style sheet asks for the property
-    }
-}
-
 // From top to bottom: the word, the two long texts, the buttons. The boxes are in the middle of the
 // window's halves; all else begins and ends with them.
 void EntryArea::place(const MainLayout &layout, int height)
 {
-    fitType(height);
+    for (QWidget *box :
+         {static_cast<QWidget *>(m_ui.txtWord), static_cast<QWidget *>(m_ui.txtDefinition),
+          static_cast<QWidget *>(m_ui.txtSentence)})
+        fitType(*box, height);
     const int line = lineHeight();
     m_ui.Frame1->setGeometry(0, pixels(layout.frameTop), pixels(layout.frameWidth), height);
     const int frameDefLeft = pixels(layout.windowWidth - layout.frameWidth);

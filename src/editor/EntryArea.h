@@ -44,7 +44,6 @@ public:
 private:
     [[nodiscard]] int lineHeight() const;
     [[nodiscard]] int titleHeight() const;
-    void fitType(int height);
     void placeButtons(int left, int right, int playLeft, int top);
     void showTips(bool updates);
     void txtDefinition_Change();

@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/cVocabList.h"
 #include "editor/MainLayout.h"
+#include "editor/TallArea.h"
 #include "platform/Guarded.h"
 #include "platform/MSFlexGrid.h"
 #include "platform/Screen.h"
@@ -70,6 +71,7 @@ void WordPage::place(const MainLayout &layout)
 // In the middle of the rows below the first one, which takes the new word.
 void WordPage::placeHint()
 {
+    fitType(*m_hint, m_grid.height());
     m_hint->adjustSize();
     const QRect rows = m_grid.viewport()->rect().adjusted(0, m_grid.rowViewportPosition(2), 0, 0);
     QRect place(QPoint(), m_hint->size().boundedTo(rows.size()));

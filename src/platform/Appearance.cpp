@@ -102,6 +102,7 @@ ScrolledArea:focus { border: 2px solid @focus; }
 #lblEmptyList {
     background: palette(base); color: @quiet; border: 1px solid @line; border-radius: 10px;
     font-size: @entryTypepx; padding: 12px 28px; }
+#lblEmptyList[large="true"] { font-size: @largeEntryTypepx; }
 #lblHint { font-size: 15px; color: @quiet; }
 #lblTypingHint { color: @quiet; }
 #lblAnswerIs { font-size: 26px; font-weight: bold; }
