@@ -4,6 +4,7 @@
 #include "platform/Appearance.h"
 #include "platform/Motion.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 
 #include <algorithm>
@@ -39,6 +40,39 @@ QColor onAlarmColour(const QPalette &palette)
     return isDark(palette) ? Qt::black : Qt::white;
 }
 
+bool isTold(Integer left)
+{
+    return left == 10 || left == LastSeconds;
+}
+
+// A status bar, whose name is told when a change of it is announced.
+class ToldCountdown final : public QAccessibleWidget
+{
+public:
+    explicit ToldCountdown(QLabel &label)
+        : QAccessibleWidget(&label, QAccessible::StatusBar), m_label(label)
+    {
+    }
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        if (kind != QAccessible::Name)
+            return QAccessibleWidget::text(kind);
+        const QString left = m_label.text();
+        return left + (left == QLatin1String("1") ? QStringLiteral(" second left")
+                                                  : QStringLiteral(" seconds left"));
+    }
+
+private:
+    QLabel &m_label;
+};
+
+QAccessibleInterface *makeCountdown(const QString & /*className*/, QObject *object)
+{
+    auto *ring = qobject_cast<CountdownRing *>(object);
+    return ring ? new ToldCountdown(*ring) : nullptr;
+}
+
 // Of the part of the ring that has gone.
 QColor trackColour(const QPalette &palette)
 {
@@ -49,6 +83,9 @@ QColor trackColour(const QPalette &palette)
 
 CountdownRing::CountdownRing(QWidget *parent) : QLabel(parent)
 {
+    QAccessible::installFactory(makeCountdown);
+    setAccessibleName(
+        QStringLiteral("Countdown")); // without a name, each change of the text is told
     setSide(UsualSide);
 }
 
@@ -65,6 +102,11 @@ void CountdownRing::setSeconds(Integer left, Integer limit)
     m_isFilled = false;
     setText(left.toText());
     update();
+    if (isTick && isTold(left)) {
+        QAccessibleEvent nameChanged(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&nameChanged);
+        Q_EMIT told();
+    }
     if (isTick && isLastSeconds()) {
         Motion::end(*this);
         Motion::play(*this, rect(), PulseTime, [this](QPainter &painter, double t) {

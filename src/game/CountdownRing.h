@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The countdown: a number of seconds in a ring that gets shorter with them, in the colour of the
 // level. In the last five seconds it is a filled disc with a larger number.
+//
+// Screen readers tell the seconds when ten and when five are left, and whenever they are asked.
 #pragma once
 
 #include "runtime/Integer.h"
@@ -26,6 +28,10 @@ public:
 
     // The colour of the ring at a level; at least 3 to 1 to the window and to the ring's track.
     [[nodiscard]] static QColor colourOf(Integer level, const QPalette &palette);
+
+Q_SIGNALS:
+    // Screen readers are told of the seconds left.
+    void told();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -228,8 +228,8 @@ void GameBoard::playNewLevel()
 
 void GameBoard::showFeedback(const QString &plain, const QString &html)
 {
-    m_ui.lblFeedback->setText(html);
     m_ui.lblFeedback->setAccessibleName(plain);
+    m_ui.lblFeedback->setText(html);
 }
 
 void GameBoard::endMotions()

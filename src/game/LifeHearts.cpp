@@ -44,7 +44,7 @@ void drawHeart(QPainter &painter, const QColor &outline, const QBrush &inside)
 
 LifeHearts::LifeHearts(QWidget *parent) : QWidget(parent)
 {
-    giveAccessibleRole<QAccessible::Graphic, LifeHearts>();
+    giveAccessibleRole<QAccessible::StatusBar, LifeHearts>();
     setFixedSize(GameState().NumLifes.toInt() * HeartPitch, HeartSide);
 }
 
@@ -54,7 +54,8 @@ void LifeHearts::setLives(Integer lives)
         return;
     const bool isLost = lives == m_lives - 1 && lives >= 0;
     m_lives = lives;
-    setAccessibleName(QStringLiteral("Hearts: %1").arg(lives.toInt()));
+    setAccessibleName(lives == 1 ? QStringLiteral("1 life left")
+                                 : QStringLiteral("%1 lives left").arg(lives.toInt()));
     update();
     Motion::end(*this);
     if (!isLost)

@@ -5,6 +5,7 @@
 #include "support/MotionStyle.h"
 #include "support/PaintCount.h"
 
+#include <QAccessible>
 #include <QImage>
 #include <QTest>
 
@@ -48,6 +49,11 @@ bool hasDisc(const QImage &image)
     return image.pixelColor(insideTheRing).red() > image.pixelColor(insideTheRing).green() + 80;
 }
 
+QString nameOf(QWidget &widget)
+{
+    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+}
+
 QPalette darkPalette()
 {
     QPalette palette(QColor(0x2D, 0x2D, 0x2D));
@@ -62,6 +68,32 @@ class Gauges_test final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void screenReadersTellTenAndFiveSecondsAlone()
+    {
+        CountdownRing ring;
+        QStringList told;
+        connect(&ring, &CountdownRing::told, this, [&] { told += nameOf(ring); });
+        for (int left = 30; left >= 0; --left)
+            ring.setSeconds(left, 30);
+        ring.setSeconds(5, 5); // the next word
+        QCOMPARE(told, QStringList({u"10 seconds left"_s, u"5 seconds left"_s}));
+        QCOMPARE(QAccessible::queryAccessibleInterface(&ring)->role(), QAccessible::StatusBar);
+        ring.setSeconds(3, 5);
+        QCOMPARE(nameOf(ring), u"3 seconds left"_s);
+        ring.setSeconds(1, 5);
+        QCOMPARE(nameOf(ring), u"1 second left"_s);
+    }
+
+    void screenReadersTellTheLives()
+    {
+        LifeHearts hearts;
+        hearts.setLives(4);
+        QCOMPARE(nameOf(hearts), u"4 lives left"_s);
+        hearts.setLives(1);
+        QCOMPARE(nameOf(hearts), u"1 life left"_s);
+        QCOMPARE(QAccessible::queryAccessibleInterface(&hearts)->role(), QAccessible::StatusBar);
+    }
+
     void theCountdownIsANumber()
     {
         CountdownRing ring;
