@@ -19,6 +19,11 @@ PAGES = {path.stem: path.read_text() for path in sorted(HANDBOOK.glob("*.md"))}
 LINK = re.compile(r"!?\[[^]]*\]\(([^)]+)\)")
 # A window that closes by itself and takes no keys.
 WITHOUT_PAGE = {"frmSplash"}
+# Errors, which have a table of their own or are texts of Qt; and a word order's notice of a random
+# number that cannot be drawn.
+NOT_ON_THE_PAGE = {"error.report()", "RunTimeError(RunTimeError::OutOfMemory).report()",
+                   "QString::fromUtf8(error.what())", "text",
+                   'QStringLiteral("Result=0")'}
 # Each table of keys, and the form that has them.
 FORM_OF_KEYS = {
     "Main window": "editor/frmMain",
@@ -44,6 +49,39 @@ def source_text(folder):
     """All texts in the sources, those that go on in the next line joined."""
     text = "\n".join(path.read_text() for path in sorted((ROOT / "src" / folder).rglob("*.cpp")))
     return re.sub(r'"\s*\n\s*"', "", text)
+
+
+def strings(source):
+    """The string literals of a source."""
+    return re.findall(r'"((?:[^"\\\n]|\\.)*)"', source)
+
+
+def first_arguments(sources, *functions):
+    """The first argument of each call of these functions, as it is in the source."""
+    for call in re.finditer(rf"(?<![\w:.>])(?:{'|'.join(functions)})\(", sources):
+        depth, end = 0, call.end()
+        while depth > 0 or sources[end] not in ",)":
+            if sources[end] == '"':
+                end += re.match(r'"(?:[^"\\]|\\.)*', sources[end:]).end()
+            depth += {"(": 1, ")": -1}.get(sources[end], 0)
+            end += 1
+        argument = sources[call.end():end].strip()
+        if not argument.startswith("const "):  # the function itself
+            yield argument
+
+
+def texts_of(message, sources):
+    """The fixed parts of each text that an expression can give."""
+    function = re.fullmatch(r"([\w:]+)\(\w*\)", message)
+    if function:
+        body = re.search(rf"\b{function[1]}\([^)]*\)\n{{(.*?)\n}}", sources, re.DOTALL)[1]
+        return [texts for text in strings(body) for texts in texts_of(f'"{text}"', sources)]
+    return [fixed_parts("…".join(strings(message)), r"…|%\d|\\n")]
+
+
+def fixed_parts(text, gap="…|32000"):
+    """A text without what is put in at run time, nor the quotation marks around it."""
+    return [part.strip(" '") for part in re.split(gap, text) if part.strip(" '")]
 
 
 class References(html.parser.HTMLParser):
@@ -99,11 +137,15 @@ class Handbook(unittest.TestCase):
 
     def test_eachKeyOfThePageIsAKeyOfItsWindow(self):
         for heading, form in FORM_OF_KEYS.items():
-            texts = form_text(form) + source_text(form.split("/")[0])
+            # The letter of a menu item works only while its menu is open.
+            without_items = re.sub(r"<action .*?</action>", "", form_text(form), flags=re.DOTALL)
+            captions = re.findall(r"<string>([^<]*)</string>", without_items)
+            captions += strings(source_text(form.split("/")[0]))
+            letters = {letter.upper() for caption in captions
+                       for letter in re.findall(r"&(\w)", caption)}
             for keys, _ in rows(PAGES["keyboard"], heading)[1:]:
                 for letter in re.findall(r"\bAlt\+(\w)\b", keys):
-                    found = re.search(f"&{letter}", texts, re.IGNORECASE)
-                    self.assertTrue(found, f"{heading}: {keys}")
+                    self.assertIn(letter, letters, f"{heading}: {keys}")
 
     def test_eachKeyOfAWindowIsOnThePage(self):
         for heading, form in FORM_OF_KEYS.items():
@@ -115,9 +157,8 @@ class Handbook(unittest.TestCase):
             self.assertTrue(buttons, form)
             for button in buttons:
                 for letter in re.findall(r"&(\w)", button):
-                    if heading != "Game" or letter not in "SE":  # Start and Enter: see Enter
-                        key = f"Alt+{letter.upper()}"
-                        self.assertTrue(key in listed, f"{heading}: {key}")
+                    key = f"Alt+{letter.upper()}"
+                    self.assertTrue(key in listed, f"{heading}: {key}")
             for shortcut in re.findall(r'<string notr="true">([^<]+)</string>', form_text(form)):
                 if re.match(r"(Ctrl\+|F\d)", shortcut):
                     self.assertTrue(shortcut in listed, f"{heading}: {shortcut}")
@@ -137,12 +178,22 @@ class Handbook(unittest.TestCase):
         sources = source_text(".") + "".join(
             path.read_text() for path in (ROOT / "src").rglob("*.h"))
         for message, _ in rows(PAGES["messages"], "Messages")[1:]:
-            text = message.strip("… ")
-            text = re.sub(r" ?32000$", "", text)  # the number is put in at run time
-            self.assertTrue(text in sources, message)
+            for part in fixed_parts(message):
+                self.assertTrue(part in sources, message)
         for number, words, _ in rows(PAGES["messages"], "Run-time errors")[1:]:
             self.assertTrue(f'QStringLiteral("{words}")' in sources, words)
             self.assertTrue(re.search(rf"= {number}\b", sources), words)
+
+    def test_eachMessageOfTheProgramIsOnThePage(self):
+        sources = source_text(".")
+        listed = [fixed_parts(message) for message, _ in rows(PAGES["messages"], "Messages")]
+        messages = [argument for argument in first_arguments(sources, "MsgBox", "notice")
+                    if argument not in NOT_ON_THE_PAGE]
+        self.assertGreater(len(messages), 25)
+        for message in messages:
+            for texts in texts_of(message, sources):
+                self.assertTrue(texts, message)
+                self.assertIn(texts, listed, message)
 
 
 if __name__ == "__main__":
