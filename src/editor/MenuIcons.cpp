@@ -12,7 +12,7 @@ namespace {
 struct ItemIcon
 {
     const char *item;
-    const char *icon; // a standard name
+    const char *icon; // a name that icon themes share
 };
 
 constexpr std::array Icons{
@@ -20,12 +20,18 @@ constexpr std::array Icons{
     ItemIcon{"mnuOpen", "document-open"},
     ItemIcon{"mnuSave", "document-save"},
     ItemIcon{"mnuSaveAs", "document-save-as"},
+    ItemIcon{"mnuCreateTextFile", "text-x-generic"},
     ItemIcon{"mnuPageSetup", "document-page-setup"},
     ItemIcon{"mnuPrinterSetup", "printer"},
     ItemIcon{"mnuPrint", "document-print"},
+    ItemIcon{"mnuPrintWholeList", "document-print"},
+    ItemIcon{"mnuExport", "document-export"},
+    ItemIcon{"mnuImport", "document-import"},
     ItemIcon{"mnuExit", "application-exit"},
     ItemIcon{"mnuDeleteWord", "edit-delete"},
     ItemIcon{"mnuPlayScramble", "applications-games"},
+    ItemIcon{"mnuQuickFlash", "x-office-presentation"},
+    ItemIcon{"mnuMusic", "audio-x-generic"},
     ItemIcon{"mnuHandbook", "help-contents"},
     ItemIcon{"mnuKeyboard", "input-keyboard"},
     ItemIcon{"mnuAbout", "help-about"},
@@ -33,10 +39,12 @@ constexpr std::array Icons{
 
 void showIconsOf(const QMenu &menu)
 {
-    for (QAction *item : menu.actions())
+    for (QAction *item : menu.actions()) {
+        const QObject &named = item->menu() ? static_cast<QObject &>(*item->menu()) : *item;
         for (const auto &[name, icon] : Icons)
-            if (item->objectName() == QLatin1String(name))
+            if (named.objectName() == QLatin1String(name))
                 item->setIcon(QIcon::fromTheme(QLatin1String(icon)));
+    }
 }
 
 } // namespace
