@@ -10,13 +10,14 @@
 
 namespace {
 
-bool opensPages(const QString &folderOfDesktopEntries)
+// Editors and office programs, too, say that they open "text/html".
+bool listsBrowser(const QString &folderOfDesktopEntries)
 {
     QFile cache(folderOfDesktopEntries + QStringLiteral("/mimeinfo.cache"));
     if (!cache.open(QIODevice::ReadOnly))
         return false;
     while (!cache.atEnd())
-        if (cache.readLine().startsWith("text/html="))
+        if (cache.readLine().startsWith("x-scheme-handler/http="))
             return true;
     return false;
 }
@@ -27,7 +28,7 @@ bool hasBrowser()
     const QStringList folders =
         QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
     return !QStandardPaths::findExecutable(QStringLiteral("x-www-browser")).isEmpty() ||
-           std::any_of(folders.begin(), folders.end(), opensPages);
+           std::any_of(folders.begin(), folders.end(), listsBrowser);
 }
 
 } // namespace

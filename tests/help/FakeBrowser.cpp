@@ -12,13 +12,12 @@ FakeBrowser::FakeBrowser(Desktop desktop)
 {
     qputenv("PATH", QFile::encodeName(m_data.path())); // none of the machine's browsers
     qputenv("XDG_DATA_DIRS", QFile::encodeName(m_data.path()));
-    const bool hasBrowser = desktop == Desktop::WithBrowser;
     QDir(m_data.path()).mkpath(u"applications"_s);
     writeFile(m_data.filePath(u"applications/mimeinfo.cache"_s),
-              hasBrowser ? "[MIME Cache]\ntext/html=browser.desktop;\n"
-                         : "[MIME Cache]\ntext/plain=editor.desktop;\n");
-    if (hasBrowser)
-        QDesktopServices::setUrlHandler(u"file"_s, this, "open");
+              desktop == Desktop::WithBrowser
+                  ? "[MIME Cache]\nx-scheme-handler/http=browser.desktop;\n"
+                  : "[MIME Cache]\ntext/html=office.desktop;\n");
+    QDesktopServices::setUrlHandler(u"file"_s, this, "open");
 }
 
 FakeBrowser::~FakeBrowser()
