@@ -278,8 +278,8 @@ private Q_SLOTS:
     void whatIsShownHasAnAccessibleName()
     {
         m_form->start();
-        for (const char *name : {"lblScrambledWord", "lblClue", "lblSentence", "lblCountDown",
-                                 "lblScore", "lblLevel", "lblNumLifes"})
+        for (const char *name :
+             {"lblScrambledWord", "lblClue", "lblSentence", "lblScore", "lblLevel", "lblNumLifes"})
             QCOMPARE(accessibleName(m_form->control<QLabel>(name)), m_form->text(name));
         m_form->passTime(8);
         const QString tile = m_form->tiles().constFirst();

@@ -79,7 +79,7 @@ def gets_a_first_word(guide, words):
 
     with guide.step("The countdown runs and turns up one tile after another"):
         for letter in word[:2]:
-            until(f"a tile with {letter}", lambda: game.find("push button", letter), limit=30)
+            until(f"a tile with {letter}", lambda: game.find("label", letter), limit=30)
         guide.picture("game-tiles")
         guide.picture_for_handbook("game", game)
 
