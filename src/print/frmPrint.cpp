@@ -188,8 +188,9 @@ void frmPrint::showPage()
     enable(m_ui->cmdLastPage, !preview.isLast());
     const bool isWhole = preview.zoom() == PagePreview::Zoom::WholePage;
     m_ui->cmdZoom->setText(isWhole ? QStringLiteral("Actual size") : QStringLiteral("Whole page"));
-    m_ui->cmdZoom->setToolTip(isWhole ? QStringLiteral("Show the page as large as on paper")
-                                      : QStringLiteral("Show all of the page"));
+    m_ui->cmdZoom->setToolTip(
+        isWhole ? QStringLiteral("Show the page as large as on paper (+ in the preview)")
+                : QStringLiteral("Show all of the page (- in the preview)"));
 }
 
 void frmPrint::cmdPrint_Click()

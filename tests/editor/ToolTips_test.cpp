@@ -231,6 +231,30 @@ private Q_SLOTS:
         checkButtons(dialog, 9);
     }
 
+    void theButtonsBelowThePreviewNameItsKeys_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::newRow("cmdFirstPage") << u"(Home in the preview)"_s;
+        QTest::newRow("cmdPreviousPage") << u"(Ctrl+PgUp)"_s;
+        QTest::newRow("cmdNextPage") << u"(Ctrl+PgDn)"_s;
+        QTest::newRow("cmdLastPage") << u"(End in the preview)"_s;
+        QTest::newRow("cmdZoom") << u"(+ in the preview)"_s;
+    }
+
+    void theButtonsBelowThePreviewNameItsKeys()
+    {
+        QFETCH(QString, key);
+        MainWindow main;
+        main.fill({u"cat"_s});
+        main.answers.useForm("frmPrint", [key](QDialog &dialog) {
+            const auto &button = Controls::find<QPushButton>(dialog, QTest::currentDataTag());
+            QVERIFY2(button.toolTip().endsWith(key), qPrintable(button.toolTip()));
+            dialog.close();
+        });
+        main.choose("mnuPrint");
+        QVERIFY(main.answers.allSeen());
+    }
+
     void thePreviewsZoomSaysWhatItDoesInBothStates()
     {
         MainWindow main;
@@ -240,6 +264,7 @@ private Q_SLOTS:
             const QString before = zoom.toolTip();
             Controls::click(zoom);
             QVERIFY(zoom.toolTip() != before);
+            QVERIFY(zoom.toolTip().endsWith(u"(- in the preview)"_s));
             checkButtons(dialog, 12);
             dialog.close();
         });
