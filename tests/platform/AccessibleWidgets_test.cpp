@@ -5,6 +5,8 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QFrame>
+#include <QLabel>
 #include <QRadioButton>
 #include <QSignalSpy>
 

@@ -48,7 +48,7 @@ inline constexpr double ReadableMark = 3;   // the same for large text, lines an
 // White and yellow on black, as some people set it.
 [[nodiscard]] inline QPalette highContrastPalette()
 {
-    QPalette palette(QColor(Qt::black));
+    QPalette palette{QColor(Qt::black)};
     for (const auto role : {QPalette::Base, QPalette::AlternateBase, QPalette::Button})
         palette.setColor(role, Qt::black);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
