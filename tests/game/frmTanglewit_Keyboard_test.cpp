@@ -281,6 +281,8 @@ private Q_SLOTS:
         for (const char *name :
              {"lblScrambledWord", "lblClue", "lblSentence", "lblScore", "lblLevel", "lblNumLifes"})
             QCOMPARE(accessibleName(m_form->control<QLabel>(name)), m_form->text(name));
+        QCOMPARE(accessibleName(m_form->control<QLabel>("lblCountDown")),
+                 m_form->text("lblCountDown") + u" seconds left"_s);
         m_form->passTime(8);
         const QString tile = m_form->tiles().constFirst();
         QCOMPARE(accessibleName(m_form->button("cmdLetters_13")), tile.last(1));

@@ -176,12 +176,13 @@ QList<const QWidget *> visibleParts(const QWidget &window)
     return parts;
 }
 
-// The strongest contrast of what is within `depth` of an edge to what is just outside of it.
-double edgeContrast(const Picture &picture, QPointF outside, QPointF inwards, double depth)
+// The strongest contrast of what is within `depth` pixels of an edge to what is just outside of it.
+double edgeContrast(const Picture &picture, QPointF outside, QPointF inwards, int depth)
 {
     double best = 0;
-    for (double step = 0; step <= depth; step += 1.0 / Enlarged)
-        best = std::max(best, contrast(picture.at(outside), picture.at(outside + inwards * step)));
+    for (int step = 0; step <= depth * Enlarged; ++step)
+        best = std::max(
+            best, contrast(picture.at(outside), picture.at(outside + inwards * step / Enlarged)));
     return best;
 }
 
@@ -190,7 +191,7 @@ double edgeContrast(const Picture &picture, QPointF outside, QPointF inwards, do
 double borderContrast(const Picture &picture, const QRect &place)
 {
     constexpr double gap = 1.5;
-    constexpr double depth = 5;
+    constexpr int depth = 5;
     const QRectF frame(place);
     const QPointF middle = frame.center();
     double weakest = 21;
