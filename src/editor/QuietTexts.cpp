@@ -43,7 +43,7 @@ QString QuietTexts::ofSameWord(int position, const VocabRecord &entry)
 
 QString QuietTexts::ofHit(int hit, int hits)
 {
-    return QStringLiteral("%1 of %2 found. A click on its row changes it.").arg(hit).arg(hits);
+    return QStringLiteral("%1 of %2 found. Click its row to change it.").arg(hit).arg(hits);
 }
 
 QString QuietTexts::ofTextFile(const QString &path)

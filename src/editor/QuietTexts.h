@@ -26,7 +26,7 @@ struct SaveFile
 [[nodiscard]] Line ofList(int words, bool isChanged, const SaveFile &file);
 // "In the list: 12 glacier - a slow river of ice"
 [[nodiscard]] QString ofSameWord(int position, const VocabRecord &entry);
-// "2 of 3 found. A click on its row changes it."
+// "2 of 3 found. Click its row to change it."
 [[nodiscard]] QString ofHit(int hit, int hits);
 // "12 words added." after an import, or "12 words added, 3 not added: the list is full."
 [[nodiscard]] QString ofImport(int added, int refused);

@@ -202,7 +202,12 @@ void dlgWordExist::enableEditing(bool entryShown)
     m_ui->cmdUpdate->setEnabled(entryShown && !locked);
     m_ui->cmdDelete->setEnabled(entryShown);
     // Enter in a box that is being edited must not answer the question.
-    (m_ui->cmdUpdate->isEnabled() ? m_ui->cmdUpdate : m_ui->cmdYes)->setDefault(true);
+    const bool updates = m_ui->cmdUpdate->isEnabled();
+    (updates ? m_ui->cmdUpdate : m_ui->cmdYes)->setDefault(true);
+    const QString update = QStringLiteral("Store what you typed into the boxes of this entry");
+    m_ui->cmdUpdate->setToolTip(updates ? update + QStringLiteral(" (Enter)") : update);
+    m_ui->cmdYes->setToolTip(updates ? QStringLiteral("Add this word, too (Alt+Y)")
+                                     : QStringLiteral("Add this word, too (Alt+Y, Enter)"));
 }
 
 void dlgWordExist::unload()

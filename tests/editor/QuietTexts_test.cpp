@@ -56,7 +56,7 @@ private Q_SLOTS:
         QCOMPARE(QuietTexts::ofImport(12, 3), u"12 words added, 3 not added: the list is full."_s);
         QCOMPARE(QuietTexts::ofTextFile(u"/home/a/words.txt"_s), u"Written to words.txt."_s);
         QCOMPARE(QuietTexts::ofPrint(u"words.pdf"_s), u"Printed to words.pdf."_s);
-        QCOMPARE(QuietTexts::ofHit(2, 3), u"2 of 3 found. A click on its row changes it."_s);
+        QCOMPARE(QuietTexts::ofHit(2, 3), u"2 of 3 found. Click its row to change it."_s);
     }
 };
 

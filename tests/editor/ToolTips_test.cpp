@@ -199,7 +199,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("buttons");
         QTest::addColumn<QByteArray>("enter");
         QTest::newRow("dlgExport") << "mnuExport"_ba << 3 << "cmdOk"_ba;
-        QTest::newRow("dlgQuickFlash") << "mnuQuickFlash"_ba << 5 << QByteArray();
+        QTest::newRow("dlgQuickFlash") << "mnuQuickFlash"_ba << 5 << "cmdNext"_ba;
         QTest::newRow("frmPrint") << "mnuPrint"_ba << 12 << "cmdPrint"_ba;
         QTest::newRow("dlgAbout") << "mnuAbout"_ba << 1 << "cmdOK"_ba;
     }
@@ -213,8 +213,7 @@ private Q_SLOTS:
         main.fill({u"cat"_s, u"dog"_s});
         main.answers.useForm(QTest::currentDataTag(), [buttons, enter](QDialog &dialog) {
             checkButtons(dialog, buttons);
-            if (!enter.isEmpty())
-                checkEnter(dialog, enter);
+            checkEnter(dialog, enter);
             dialog.close();
         });
         main.choose(item);
@@ -229,6 +228,9 @@ private Q_SLOTS:
         dlgWordExist dialog;
         dialog.show();
         checkButtons(dialog, 9);
+        checkEnter(dialog, "cmdYes");
+        Controls::click(Controls::find<QPushButton>(dialog, "cmdAllowModify"));
+        checkEnter(dialog, "cmdUpdate");
     }
 
     void theButtonsBelowThePreviewNameItsKeys_data()

@@ -98,9 +98,9 @@ private Q_SLOTS:
         m_main->click("cmdSearch");
         m_main->type("txtWord", u"a 2"_s);
         m_main->click("cmdSearch");
-        QCOMPARE(line(), u"1 of 2 found. A click on its row changes it."_s);
+        QCOMPARE(line(), u"1 of 2 found. Click its row to change it."_s);
         m_main->click("cmdSearch");
-        QCOMPARE(line(), u"2 of 2 found. A click on its row changes it."_s);
+        QCOMPARE(line(), u"2 of 2 found. Click its row to change it."_s);
         put("txtWord", u"b"_s);
         QCOMPARE(line(), u"4 words · Save writes animals.lwx"_s);
         put("txtWord", u"ł"_s);
