@@ -15,7 +15,7 @@
 namespace {
 
 // Pixels.
-constexpr int LeastRowHeight = 30;
+constexpr int LeastRowHeight = 27;
 constexpr int RankWidth = 48;
 constexpr int StarWidth = 32;
 constexpr int ColumnGap = 20;

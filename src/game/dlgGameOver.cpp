@@ -10,6 +10,7 @@
 #include "platform/Motion.h"
 #include "platform/MsgBox.h"
 #include "platform/Paths.h"
+#include "platform/Screen.h"
 #include "runtime/Blanks.h"
 
 #include <algorithm>
@@ -30,6 +31,7 @@ dlgGameOver::dlgGameOver(Music &music, QWidget *parent)
 {
     m_ui->setupUi(this);
     makeRows();
+    openWithSize(*this, size());
     openAsLastClosed();
     onClick(m_ui->cmdEnter, &dlgGameOver::cmdEnter_Click);
     onClick(m_ui->cmdReset, &dlgGameOver::cmdReset_Click);

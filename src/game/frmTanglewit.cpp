@@ -20,19 +20,20 @@ using namespace Module1;
 namespace {
 
 constexpr int NarrowScreen = 12000;       // twips
+constexpr int LowScreen = 600;            // pixels
 constexpr QSize LargestWindow(1200, 900); // pixels
 
-// Maximised on a narrow screen; else up to nine tenths of the screen, in proportion 4 to 3.
+// Maximised on a narrow or low screen; else up to nine tenths of the screen, in proportion 4 to 3.
 void takeSize(QWidget &window)
 {
     const QSize wholeScreen = screenInTwips(window);
-    if (wholeScreen.width() <= NarrowScreen) {
+    const QRect room = window.screen()->availableGeometry();
+    const QSize proportion = QSize(4, 3).scaled(room.size() * 0.9, Qt::KeepAspectRatio);
+    if (wholeScreen.width() <= NarrowScreen || room.height() <= LowScreen) {
         window.resize(pixels(wholeScreen.width()), window.height());
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
         return;
     }
-    const QRect room = window.screen()->availableGeometry();
-    const QSize proportion = QSize(4, 3).scaled(room.size() * 0.9, Qt::KeepAspectRatio);
     window.resize(proportion.boundedTo(LargestWindow).expandedTo(window.minimumSize()));
     window.move(room.center() - window.rect().center());
 }
