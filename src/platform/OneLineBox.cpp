@@ -112,7 +112,8 @@ void OneLineBox::paintMarks(const QList<QTextLayout::FormatRange> &marks)
 {
     QTextLayout layout(text(), font());
     QTextOption option;
-    option.setTextDirection(layoutDirection());
+    // As QLineEdit does.
+    option.setTextDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     option.setFlags(QTextOption::IncludeTrailingSpaces);
     layout.setTextOption(option);
     layout.setFormats(marks);

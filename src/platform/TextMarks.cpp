@@ -14,8 +14,12 @@ QList<TextRange> lostCharacters(QStringView text, qsizetype most)
         const auto *const start = std::find_if_not(end, text.end(), isKept);
         if (start == text.end())
             break;
+        // A combining mark has no width of its own: it is marked with the character below it.
+        auto first = start;
+        while (first != text.begin() && first->isMark())
+            --first;
         end = std::find_if(start, text.end(), isKept);
-        runs += {int(start - text.begin()), int(end - start)};
+        runs += {int(first - text.begin()), int(end - first)};
     }
     return runs;
 }

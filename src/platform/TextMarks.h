@@ -17,7 +17,8 @@ struct TextRange
     bool operator==(const TextRange &) const = default;
 };
 
-// The runs of characters that a list file cannot keep; no more than the first `most` of them.
+// The runs of characters that a list file cannot keep, combining marks with the character that they
+// belong to; no more than the first `most` of them.
 [[nodiscard]] QList<TextRange> lostCharacters(QStringView text, qsizetype most);
 // "This list cannot keep: ł, 漢". Empty where the text has no such characters.
 [[nodiscard]] QString lostCharactersText(QStringView text);

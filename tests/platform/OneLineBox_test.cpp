@@ -211,6 +211,23 @@ private Q_SLOTS:
         QVERIFY(!m_box->isUndoAvailable());
     }
 
+    void aTextFromRightToLeftIsMarkedWhereItStands()
+    {
+        m_box->resize(300, m_box->sizeHint().height());
+        m_box->setText(u"\u05D0\u05D1 abc"_s);
+        m_box->clearFocus();
+        const QImage plain = m_box->grab().toImage();
+        m_box->showLostCharacters(true);
+        const QRect painted = difference(plain, m_box->grab().toImage());
+        const auto at = [this](int position) {
+            m_box->setCursorPosition(position);
+            return m_box->inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+        };
+        QVERIFY(!painted.isEmpty());
+        QVERIFY(std::abs(painted.right() - at(0)) <= 2);
+        QVERIFY(painted.left() > at(int(m_box->text().size())));
+    }
+
     void differencesAreMarkedUntilTheTextChanges()
     {
         m_box->setText(u"Glacier"_s);

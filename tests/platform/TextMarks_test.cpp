@@ -22,6 +22,7 @@ private Q_SLOTS:
         row("several", u"\u0142\u00F3d\u017A"_s, {{0, 1}, {3, 1}});
         row("side by side", u"a\u6F22\u5B57"_s, {{1, 2}});
         row("a surrogate pair", QString::fromUcs4(U"a \U0001F600 b"), {{2, 2}});
+        row("a combining mark", u"cafe\u0301 e"_s, {{3, 2}});
         row("too many", u"\u0142 "_s.repeated(5), {{0, 1}, {2, 1}, {4, 1}});
     }
 
