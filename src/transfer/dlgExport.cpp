@@ -15,6 +15,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QMouseEvent>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -82,10 +83,7 @@ dlgExport::dlgExport(const QString &startFolder, QWidget *parent)
     new LostFocus(m_ui->txtEnd, [this] { txtEnd_LostFocus(); });
     m_ui->lstExportWords->setItemDelegate(
         new NumberedItems(m_ui->lstExportWords, [this](int row) { return numberOf(row); }));
-    connect(m_ui->lstExportWords, &QListWidget::doubleClicked, this,
-            [this](const QModelIndex &item) {
-                runGuarded([&] { lstExportWords_DblClick(item.row()); });
-            });
+    m_ui->lstExportWords->viewport()->installEventFilter(this);
     connect(m_ui->txtFilename, &QLineEdit::textChanged, this,
             guarded(this, &dlgExport::txtFilename_Change));
     onClick(m_ui->cmdBrowse, &dlgExport::cmdBrowse_Click);
@@ -137,10 +135,29 @@ int dlgExport::numberOf(int row) const
     return m_shownStart.toInt() + (m_shownEnd >= m_shownStart ? row : -row);
 }
 
-// A double click sets the start of the range, the next one its end.
-void dlgExport::lstExportWords_DblClick(int row)
+// The first press may leave a number box, which fills the list anew: the double click is on the
+// word that was there before. Qt must not set the focus by itself, as it does so before the press.
+bool dlgExport::eventFilter(QObject *watched, QEvent *event)
 {
-    const Integer number = numberOf(row);
+    const bool isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
+    if (watched == m_ui->lstExportWords->viewport() &&
+        (isDoubleClick || event->type() == QEvent::MouseButtonPress)) {
+        const auto &mouse = static_cast<QMouseEvent &>(*event);
+        if (!isDoubleClick) {
+            const QModelIndex word = m_ui->lstExportWords->indexAt(mouse.pos());
+            m_pressedNumber = word.isValid() ? std::optional(numberOf(word.row())) : std::nullopt;
+            m_ui->lstExportWords->setFocus(Qt::MouseFocusReason);
+        } else if (m_pressedNumber && mouse.button() == Qt::LeftButton) {
+            runGuarded([this] { lstExportWords_DblClick(*m_pressedNumber); });
+            return true;
+        }
+    }
+    return DialogForm::eventFilter(watched, event);
+}
+
+// A double click sets the start of the range, the next one its end.
+void dlgExport::lstExportWords_DblClick(Integer number)
+{
     (m_setsEnd ? EndNo : StartNo) = number;
     (m_setsEnd ? m_ui->txtEnd : m_ui->txtStart)->setText(number.toText());
     m_setsEnd = !m_setsEnd;

@@ -7,6 +7,7 @@
 #include "runtime/Integer.h"
 
 #include <memory>
+#include <optional>
 
 class QLineEdit;
 
@@ -23,6 +24,8 @@ public:
     explicit dlgExport(const QString &startFolder, QWidget *parent = nullptr);
     ~dlgExport() override;
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 protected:
     void Form_Load() override;
 
@@ -37,7 +40,7 @@ private:
     void cmdCancel_Click();
 
     void txtFilename_Change();
-    void lstExportWords_DblClick(int row);
+    void lstExportWords_DblClick(Integer number);
 
     void fillPreview(EqualNumbers equalNumbers);
     void exportRange();
@@ -51,5 +54,6 @@ private:
     Integer StartNo; // first item number of the range
     Integer EndNo;   // last item number; below the first, the range runs downwards
     Integer ExportCount;
-    bool m_setsEnd = false; // a double click sets the end of the range, not its start
+    std::optional<int> m_pressedNumber; // of the entry in the preview that was pressed last
+    bool m_setsEnd = false;             // a double click sets the end of the range, not its start
 };

@@ -106,12 +106,6 @@ private Q_SLOTS:
 
     void aDoubleClickSetsTheStartAndTheNextOneTheEnd()
     {
-        const auto doubleClick = [this](int row) {
-            auto &words = m_form->control<QListWidget>("lstExportWords");
-            const QPoint place = words.visualItemRect(words.item(row)).center();
-            QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, place);
-            QTest::mouseDClick(words.viewport(), Qt::LeftButton, {}, place);
-        };
         doubleClick(2);
         QCOMPARE(m_form->preview(), ExportForm::words(3, 10));
         QCOMPARE(m_form->text("txtStart"), u"3"_s);
@@ -121,6 +115,29 @@ private Q_SLOTS:
         doubleClick(4);
         QCOMPARE(m_form->text("txtStart"), u"7"_s);
         QCOMPARE(m_form->preview(), ExportForm::words(7, 7));
+    }
+
+    // The first click leaves the box, and the list moves under the mouse.
+    void aDoubleClickAfterATypedNumberSetsTheWordThatWasClicked()
+    {
+        m_form->type("txtStart", u"5"_s);
+        doubleClick(2);
+        QCOMPARE(m_form->text("txtStart"), u"3"_s);
+        QCOMPARE(m_form->preview(), ExportForm::words(3, 10));
+        m_form->type("txtStart", u"5"_s);
+        doubleClick(6);
+        QCOMPARE(m_form->text("txtStart"), u"5"_s);
+        QCOMPARE(m_form->text("txtEnd"), u"9"_s);
+        QCOMPARE(m_form->preview(), ExportForm::words(5, 9));
+    }
+
+    void aClickInThePreviewLeavesTheBox()
+    {
+        m_form->type("txtStart", u"5"_s);
+        QTest::mouseClick(m_form->control<QListWidget>("lstExportWords").viewport(),
+                          Qt::LeftButton);
+        QCOMPARE(Controls::focusedControl(), u"lstExportWords"_s);
+        QCOMPARE(m_form->preview(), ExportForm::words(5, 10));
     }
 
     void withoutAFileNameTheNameBoxGetsTheKeyboard()
@@ -371,6 +388,15 @@ private Q_SLOTS:
     }
 
 private:
+    // On the word that is in the row before the first click.
+    void doubleClick(int row)
+    {
+        auto &words = m_form->control<QListWidget>("lstExportWords");
+        const QPoint place = words.visualItemRect(words.item(row)).center();
+        QTest::mouseClick(words.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(words.viewport(), Qt::LeftButton, {}, place);
+    }
+
     // Checks the name that the file dialog offers.
     static std::function<void(QFileDialog &)> offered(const QString &name)
     {
