@@ -30,6 +30,11 @@ void QuietLabel::setLine(const QString &text, const QString &marked)
     update();
 }
 
+QSize QuietLabel::sizeHint() const
+{
+    return {0, fontMetrics().height()};
+}
+
 bool QuietLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)

@@ -17,6 +17,9 @@ public:
     void setLine(const QString &text, const QString &marked = {});
     [[nodiscard]] QString text() const { return m_text + m_marked; }
     [[nodiscard]] QString markedText() const { return m_marked; }
+    // One line high.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     bool event(QEvent *event) override;

@@ -139,6 +139,16 @@ void Layout::checkNothingIsCut(const QWidget &window, Caller caller)
     }
 }
 
+void Layout::checkHasRoomFor(const QWidget &control, const QString &line, Caller caller)
+{
+    const QSize needed(control.fontMetrics().horizontalAdvance(line),
+                       control.fontMetrics().height());
+    if (control.width() < needed.width() || control.height() < needed.height())
+        failTest(u"the text of "_s + control.objectName() + u" is cut: "_s + text(control.size()) +
+                     u", not "_s + text(needed),
+                 caller);
+}
+
 void Layout::checkNames(const QWidget &window, Caller caller)
 {
     const QList<QWidget *> controls = visibleControls(window);

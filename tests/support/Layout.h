@@ -21,6 +21,9 @@ namespace Layout {
 // of one line, is smaller than its least size; if a label that wraps its text is too low for it; if
 // the title of a frame is cut or touches a control inside; or if a placeholder is cut.
 void checkNothingIsCut(const QWidget &window, Caller caller = Caller::current());
+// Fails the test if one line with the text is wider or higher than the control.
+void checkHasRoomFor(const QWidget &control, const QString &text,
+                     Caller caller = Caller::current());
 // Fails the test if a visible control that can have the keyboard has no name for assistive tools.
 void checkNames(const QWidget &window, Caller caller = Caller::current());
 
