@@ -15,6 +15,17 @@
 
 using namespace Module1;
 
+namespace {
+
+// From its start, also where it is longer than the box.
+void showWord(OneLineBox &box, const QString &word)
+{
+    box.setText(word);
+    box.setCursorPosition(0);
+}
+
+} // namespace
+
 dlgWordExist::dlgWordExist(QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgWordExist>())
 {
@@ -59,7 +70,7 @@ void dlgWordExist::Form_Load()
     showExisting();
     lockExisting(true);
     enableEditing(true);
-    m_ui->txtImportWord->setText(gImportWord);
+    showWord(*m_ui->txtImportWord, gImportWord);
     m_ui->txtImportDef->setText(gImportDef);
     m_ui->txtImportSen->setText(gImportSen);
     showDifferences();
@@ -160,7 +171,7 @@ void dlgWordExist::existingEntry_Change()
 void dlgWordExist::showExisting()
 {
     const cVocabList &list = gVocabList();
-    m_ui->txtCurWord->setText(list.Word());
+    showWord(*m_ui->txtCurWord, list.Word());
     m_ui->txtCurDef->setText(list.Definition());
     m_ui->txtCurSen->setText(list.Sentence());
 }

@@ -61,6 +61,24 @@ private Q_SLOTS:
         });
     }
 
+    void aLongWordIsShownFromItsStart()
+    {
+        const QString word = u"abcdefghij"_s.repeated(30);
+        setOpenEntries({word + u"|first"_s, word + u"|second"_s});
+        WordExistQuestion(word).ask(*m_answers, [](const WordExistForm &form) {
+            const auto firstShown = [&form](const char *name) {
+                auto &box = Controls::find<QLineEdit>(form.form, name);
+                box.grab(); // scrolls to its cursor
+                return box.cursorPositionAt({0, box.height() / 2});
+            };
+            QCOMPARE(firstShown("txtImportWord"), 0);
+            QCOMPARE(firstShown("txtCurWord"), 0);
+            form.click("cmdFindNext");
+            QCOMPARE(firstShown("txtCurWord"), 0);
+            form.close();
+        });
+    }
+
     void thePositionIsWrittenInDecimal()
     {
         QStringList entries;
