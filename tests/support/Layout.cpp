@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyleOptionGroupBox>
@@ -84,10 +85,43 @@ void checkPlaceholder(const QLineEdit &box, Caller caller)
         failTest(u"the placeholder of "_s + box.objectName() + u" is cut"_s, caller);
 }
 
+// The scroll area that moves the control, if one does.
+const QScrollArea *areaOf(const QWidget &control)
+{
+    for (const QWidget *part = &control; !part->isWindow(); part = part->parentWidget()) {
+        const auto *area = qobject_cast<const QScrollArea *>(part->parentWidget()->parentWidget());
+        if (area && area->viewport() == part->parentWidget())
+            return area;
+    }
+    return nullptr;
+}
+
+// Whether one covers the other where both can be seen. Within one scroll area the controls that are
+// scrolled out of view count, too.
 bool overlap(const QWidget &one, const QWidget &other)
 {
-    return !one.isAncestorOf(&other) && !other.isAncestorOf(&one) &&
-           Layout::placeOf(one).intersects(Layout::placeOf(other));
+    if (one.isAncestorOf(&other) || other.isAncestorOf(&one))
+        return false;
+    const bool moveTogether = areaOf(one) == areaOf(other);
+    const auto seen = [moveTogether](const QWidget &control) {
+        const QRect place = Layout::placeOf(control);
+        const QScrollArea *area = areaOf(control);
+        return area && !moveTogether ? place & Layout::placeOf(*area->viewport()) : place;
+    };
+    return seen(one).intersects(seen(other));
+}
+
+// What does not fit into a scroll area can be reached with a bar, and no button that ends a dialog
+// needs one.
+void checkScrolledControl(const QWidget &control, const QScrollArea &area, Caller caller)
+{
+    const QSize rest = area.widget()->size() - area.viewport()->size();
+    if ((rest.width() > 0 && area.horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff) ||
+        (rest.height() > 0 && area.verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff))
+        failTest(area.objectName() + u" has no bar for what it holds"_s, caller);
+    const auto *button = qobject_cast<const QPushButton *>(&control);
+    if (button && button->isDefault())
+        failTest(control.objectName() + u" can be scrolled out of view"_s, caller);
 }
 
 } // namespace
@@ -122,7 +156,10 @@ void Layout::checkNothingIsCut(const QWidget &window, Caller caller)
         const QString name = control->objectName();
         if (control->size().isEmpty())
             failTest(name + u" has no size"_s, caller);
-        if (!window.rect().contains(placeOf(*control)) ||
+        const QScrollArea *area = areaOf(*control);
+        if (area)
+            checkScrolledControl(*control, *area, caller);
+        if ((!area && !window.rect().contains(placeOf(*control))) ||
             !control->parentWidget()->rect().contains(control->geometry()))
             failTest(name + u" is cut"_s, caller);
         if (holdsOneLine(*control) && isTooSmall(*control))
@@ -167,8 +204,11 @@ void Layout::checkFitsTheScreen(const QWidget &window, Caller caller)
     checkNames(window, caller);
     constexpr int titleBar = 30;
     const QRect room = window.screen()->availableGeometry();
-    if (window.width() > room.width() || window.height() > room.height() - titleBar)
-        failTest(text(window.size()) + u" is larger than the screen"_s, caller);
+    const QSize size = window.isMaximized()
+                           ? window.minimumSizeHint().expandedTo(window.minimumSize())
+                           : window.size();
+    if (size.width() > room.width() || size.height() > room.height() - titleBar)
+        failTest(text(size) + u" is larger than the screen"_s, caller);
     if (!room.contains(window.geometry()))
         failTest(u"the window is not on the screen"_s, caller);
 }
