@@ -6,8 +6,6 @@
 #include "support/LargeType.h"
 #include "support/Layout.h"
 
-#include <QScreen>
-
 class WindowLayout_test final : public QObject
 {
     Q_OBJECT
@@ -20,10 +18,6 @@ private Q_SLOTS:
     void itFitsTheScreen()
     {
         QFETCH_GLOBAL(double, type);
-        const QByteArray row = QTest::currentDataTag();
-        if (QGuiApplication::primaryScreen()->size() == QSize(911, 512) &&
-            (row.startsWith("game") || row.startsWith("Top 10")))
-            QSKIP("The game and the Top 10 need a higher screen.");
         const LargeType font(type);
         EveryWindow::open([](QWidget &window) { Layout::checkFitsTheScreen(window); });
     }
