@@ -21,7 +21,7 @@ constexpr int Thickness = 4; // pixels
 
 TimeLine::TimeLine(QWidget *parent) : QWidget(parent)
 {
-    giveAccessibleRole<QAccessible::Indicator, TimeLine>();
+    giveAccessibleRole<QAccessible::Graphic, TimeLine>();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     retainSizeWhenHidden(*this); // the card above it keeps its size
     setVisible(false);

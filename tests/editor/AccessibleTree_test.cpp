@@ -32,10 +32,12 @@ bool isContainer(const QWidget &widget)
            widget.objectName() == u"settingsArea"_s;
 }
 
+// Also those that assistive tools on Linux are told as "unknown".
 bool isGeneral(QAccessible::Role role)
 {
-    return role == QAccessible::NoRole || role == QAccessible::Client ||
-           role == QAccessible::Border;
+    const QList general{QAccessible::NoRole,    QAccessible::Client, QAccessible::Border,
+                        QAccessible::Indicator, QAccessible::Clock,  QAccessible::Whitespace};
+    return general.contains(role);
 }
 
 bool isEmptyLabel(const QWidget &widget)
