@@ -72,7 +72,7 @@ void Controls::holdOn(Qt::Key key, const QString &text, Caller caller)
     }
 }
 
-QPoint Controls::middleOf(const QScrollBar &bar, QStyle::SubControl part, Caller caller)
+QRect Controls::placeOf(const QScrollBar &bar, QStyle::SubControl part)
 {
     QStyleOptionSlider option;
     option.initFrom(&bar);
@@ -84,7 +84,12 @@ QPoint Controls::middleOf(const QScrollBar &bar, QStyle::SubControl part, Caller
     option.sliderValue = bar.value();
     option.singleStep = bar.singleStep();
     option.pageStep = bar.pageStep();
-    const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
+    return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
+}
+
+QPoint Controls::middleOf(const QScrollBar &bar, QStyle::SubControl part, Caller caller)
+{
+    const QRect place = placeOf(bar, part);
     if (place.isEmpty() || !bar.rect().contains(place.center()))
         failTest(bar.objectName() + u" has no such arrow or slider"_s, caller);
     return place.center();

@@ -52,6 +52,8 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
            Caller caller = Caller::current());
 // Sends the repeated press of a key that is held down to the control with the keyboard focus.
 void holdOn(Qt::Key key, const QString &text = {}, Caller caller = Caller::current());
+// Where an arrow, the slider or the groove of a scroll bar is; empty where the bar has none.
+[[nodiscard]] QRect placeOf(const QScrollBar &bar, QStyle::SubControl part);
 // The middle of an arrow or of the slider of a scroll bar. A bar without that part fails the test.
 [[nodiscard]] QPoint middleOf(const QScrollBar &bar, QStyle::SubControl part,
                               Caller caller = Caller::current());

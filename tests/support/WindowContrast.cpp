@@ -2,6 +2,7 @@
 #include "support/WindowContrast.h"
 
 #include "support/Contrast.h"
+#include "support/Controls.h"
 #include "support/Layout.h"
 
 #include <QApplication>
@@ -19,7 +20,6 @@
 #include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QStyleOptionGroupBox>
-#include <QStyleOptionSlider>
 #include <QTableWidget>
 #include <QTextEdit>
 
@@ -236,17 +236,8 @@ QRect focusFrameOf(const QWidget &control)
 // The thumb against its track, and the arrows against what is behind them.
 double barContrast(const Picture &picture, const QScrollBar &bar)
 {
-    QStyleOptionSlider option;
-    option.initFrom(&bar);
-    option.subControls = QStyle::SC_All;
-    option.orientation = bar.orientation();
-    option.minimum = bar.minimum();
-    option.maximum = bar.maximum();
-    option.sliderPosition = option.sliderValue = bar.value();
-    option.singleStep = bar.singleStep();
-    option.pageStep = bar.pageStep();
     const auto part = [&](QStyle::SubControl control) {
-        return seen(bar, bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, control, &bar));
+        return seen(bar, Controls::placeOf(bar, control));
     };
     double weakest = 21;
     for (const auto arrow : {QStyle::SC_ScrollBarAddLine, QStyle::SC_ScrollBarSubLine})
