@@ -5,6 +5,7 @@
 #include "core/cVocabList.h"
 #include "platform/LostFocus.h"
 #include "platform/MsgBox.h"
+#include "platform/RetainedSize.h"
 #include "platform/Screen.h"
 #include "runtime/Blanks.h"
 #include "runtime/FileError.h"
@@ -77,6 +78,8 @@ dlgExport::dlgExport(const QString &startFolder, QWidget *parent)
     : DialogForm(parent), m_ui(std::make_unique<Ui::dlgExport>()), Cdlg(startFolder)
 {
     m_ui->setupUi(this);
+    retainSizeWhenHidden(*m_ui->lblEnding);
+    m_ui->lblEnding->hide();
     openWithSize(*this, size().expandedTo(sizeHint()));
     openAsLastClosed();
     new LostFocus(m_ui->txtStart, [this] { txtStart_LostFocus(); });
@@ -169,9 +172,10 @@ void dlgExport::txtFilename_Change()
     const QString name = withoutOuterBlanks(m_ui->txtFilename->text());
     const bool lacksEnding =
         !name.isEmpty() && !name.endsWith(QStringLiteral(".lwx"), Qt::CaseInsensitive);
-    m_ui->lblEnding->setText(lacksEnding ? QStringLiteral("Without .lwx, Open lists the file only "
-                                                          "under All files.")
-                                         : QString());
+    if (lacksEnding == m_ui->lblEnding->isVisibleTo(this))
+        return; // else it would be told again with each letter
+    m_ui->lblEnding->setVisible(lacksEnding);
+    m_ui->lblEnding->setAccessibleName(lacksEnding ? m_ui->lblEnding->text() : QString());
 }
 
 void dlgExport::cmdBrowse_Click()

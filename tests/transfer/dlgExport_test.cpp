@@ -2,6 +2,7 @@
 // The range with its preview, and the file dialog of the target.
 #include "transfer/dlgExport.h"
 
+#include "platform/StatusLabel.h"
 #include "support/FormTest.h"
 #include "support/TestFiles.h"
 #include "transfer/ExportForm.h"
@@ -164,7 +165,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         m_form->type("txtFilename", name);
-        QTEST(!m_form->control<QLabel>("lblEnding").text().isEmpty(), "isNoted");
+        const auto &note = m_form->control<StatusLabel>("lblEnding"); // its name is told
+        QTEST(note.isVisible(), "isNoted");
+        QTEST(note.accessibleName() == note.text(), "isNoted");
     }
 
     void equalNumbersShowNothingAfterTheStartBoxAndTheWordAfterTheEndBox()
