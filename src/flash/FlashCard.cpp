@@ -133,9 +133,11 @@ void FlashCard::fitType()
     QRect needed;
     QFont type = font();
     const auto fits = [&](int size) {
+        // A smaller type is better than a broken word; in the smallest the document breaks it.
+        const int breaks = size == TypeSizes.back() ? int(Qt::TextWrapAnywhere) : 0;
         type.setPointSize(size);
         needed = QFontMetrics(type).boundingRect(
-            room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap), text);
+            room, int(Qt::AlignHCenter) | int(Qt::TextWordWrap) | breaks, text);
         return room.contains(needed);
     };
     // The smallest size first: a text that is too long for it is measured only once.

@@ -123,6 +123,29 @@ private Q_SLOTS:
         QVERIFY(fits(card()));
     }
 
+    void aWordThatIsBrokenIsInTheMiddle()
+    {
+        card().setText(QString(150, u'm'), FlashCard::Side::Front);
+        QCOMPARE(typeSize(card()), 12);
+        QTextCursor place(card().document());
+        const QRect first = card().cursorRect(place);
+        place.movePosition(QTextCursor::End);
+        const QRect last = card().cursorRect(place);
+        QVERIFY(last.top() > first.bottom());
+        const int above = card().viewport()->y() + first.top() - card().contentsRect().top();
+        const int below = card().contentsRect().bottom() - card().viewport()->y() - last.bottom();
+        QVERIFY2(qAbs(above - below) < first.height() / 2,
+                 qPrintable(u"%1, %2"_s.arg(above).arg(below)));
+    }
+
+    void aWordThatIsLongerThanTheCardStartsAtItsTop()
+    {
+        card().setText(QString(5000, u'm'), FlashCard::Side::Front);
+        QVERIFY(!fits(card()));
+        QCOMPARE(card().viewport()->y(), card().contentsRect().y());
+        QCOMPARE(card().verticalScrollBar()->value(), 0);
+    }
+
     void theTypeFollowsTheSizeOfTheCard()
     {
         m_form->dialog().resize(600, 400);
