@@ -64,7 +64,7 @@ void paintMedal(QPainter &painter, QPointF middle, const QColor &metal, const QC
 
 QFont quietFont(QFont font)
 {
-    font.setPixelSize(13);
+    font.setPixelSize(QFontInfo(font).pixelSize() * 13 / 16);
     return font;
 }
 
@@ -72,6 +72,13 @@ QFont pointsFont(QFont font)
 {
     font.setBold(true);
     return font;
+}
+
+QFont medalFont(QFont font)
+{
+    constexpr int Largest = MedalSide * 3 / 4;
+    font.setPixelSize(std::min(QFontInfo(font).pixelSize(), Largest));
+    return pointsFont(font);
 }
 
 } // namespace
@@ -191,11 +198,15 @@ private:
 Top10Row::Top10Row(int rank, QWidget *parent)
     : QWidget(parent), m_rank(rank), m_label(new Top10Label(rank, this))
 {
-    setMinimumHeight(LeastRowHeight);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(RankWidth, 0, StarWidth, 0);
     row->setSpacing(0);
     row->addWidget(m_label, 1);
+}
+
+QSize Top10Row::minimumSizeHint() const
+{
+    return QWidget::minimumSizeHint().expandedTo({0, LeastRowHeight});
 }
 
 void Top10Row::setEntry(const Top10Entry &entry, Name name)
@@ -255,7 +266,7 @@ void Top10Row::paintEvent(QPaintEvent * /*event*/)
         paintMedal(painter, place.center() - QPointF(0, 2), colours.medals[std::size_t(m_rank - 1)],
                    colours.newEdge);
     painter.setPen(hasMedal ? colours.onMedal : colours.quiet);
-    painter.setFont(hasMedal ? pointsFont(m_label->font()) : m_label->font());
+    painter.setFont(hasMedal ? medalFont(m_label->font()) : m_label->font());
     painter.drawText(hasMedal ? place.translated(0, -2) : place, Qt::AlignCenter,
                      QString::number(m_rank));
 }

@@ -45,6 +45,7 @@ public:
     // The label's object name is lblTop10_ and the rank.
     Top10Row(int rank, QWidget *parent);
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
     void setEntry(const Top10Entry &entry, Name name);
     // What the entry needs.
     [[nodiscard]] Top10Columns columns() const;

@@ -13,6 +13,8 @@
 #include "platform/Screen.h"
 #include "runtime/Blanks.h"
 
+#include <QScreen>
+
 #include <algorithm>
 
 using namespace Module1;
@@ -75,6 +77,23 @@ void dlgGameOver::Form_Load()
     m_ui->lblHint->setVisible(!note.isEmpty());
     showRows();
     showNaming(m_newRow != 0);
+    fitToTexts();
+}
+
+// The dialog grows with the type, within the screen. Its layout alone does not keep enough height
+// free for labels that wrap their texts.
+void dlgGameOver::fitToTexts()
+{
+    for (QWidget *control : findChildren<QWidget *>())
+        control->ensurePolished();        // the style sheet makes some of them larger
+    constexpr QSize FrameOfWindow(8, 38); // with its title bar, at most
+    constexpr int UsualWidth = 680;
+    constexpr int UsualType = 26;
+    const QSize room = screen()->availableSize() - FrameOfWindow;
+    const int wide = UsualWidth * m_ui->lblTitle->fontInfo().pixelSize() / UsualType;
+    const int newWidth = std::max(width(), std::min(wide, room.width()));
+    const int needed = layout()->totalMinimumHeightForWidth(newWidth);
+    resize(newWidth, std::max(height(), std::min(needed, room.height())));
 }
 
 // Runs beside everything else.

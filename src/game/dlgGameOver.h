@@ -42,6 +42,7 @@ private:
     [[nodiscard]] Top10Row &rowWidget(Integer row) const;
     void showRows();
     void showPrize();
+    void fitToTexts();
     void showNaming(bool naming);
 
     std::unique_ptr<Ui::dlgGameOver> m_ui;

@@ -96,39 +96,51 @@ ScrolledArea:focus { border: 2px solid @focus; }
 #lblBest, #lblLevelHits, #lblWordsLeft, #lblFeedback, #lblRules { color: @quiet; }
 #lblWorth { font-weight: bold; }
 #lblScore, #lblLevel, #lblNumLifes { font-size: 28px; font-weight: bold; }
-#txtUserAnswer { font-size: 20px; }
+#txtUserAnswer { font-size: @textTypepx; }
 #frmTanglewit #txtUserAnswer { font-size: 30px; }
-#lblTitle { font-size: 26px; font-weight: bold; }
+#lblTitle { font-size: @headingTypepx; font-weight: bold; }
 #lblEmptyList {
     background: palette(base); color: @quiet; border: 1px solid @line; border-radius: 10px;
     font-size: @entryTypepx; padding: 12px 28px; }
 #lblEmptyList[large="true"] { font-size: @largeEntryTypepx; }
-#lblHint { font-size: 15px; color: @quiet; }
+#lblHint { font-size: @entryTypepx; color: @quiet; }
 #lblTypingHint { color: @quiet; }
-#lblAnswerIs { font-size: 26px; font-weight: bold; }
-#lblAnswerIs[long="true"] { font-size: 20px; }
+#lblAnswerIs { font-size: @headingTypepx; font-weight: bold; }
+#lblAnswerIs[long="true"] { font-size: @textTypepx; }
 #answerPanel { background: palette(base); border: 1px solid @line; border-radius: 10px; }
-#rowPanel QLabel, #txtName { font-size: 16px; }
+#rowPanel QLabel, #txtName { font-size: @rowTypepx; }
 #txtName { padding: 1px 6px; }
 #txtName:focus { padding: 0 5px; }
 #lstPrinter, #lstExportWords, HandbookText {
     border: 1px solid @outline; border-radius: 6px; padding: 1px; }
 #lstPrinter:focus, #lstExportWords:focus, HandbookText:focus {
     border: 2px solid @accent; padding: 0; }
-#lstHits, #lstMisses { background: transparent; border: none; font-size: 14px; }
+#lstHits, #lstMisses { background: transparent; border: none; font-size: @listTypepx; }
 #lstHits:focus, #lstMisses:focus { border: 2px solid @focus; border-radius: 4px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 MSFlexGrid { border: none; border-bottom: 1px solid @line; gridline-color: @thin; }
 MSFlexGrid:focus { border-bottom: 2px solid @accent; }
 )");
-    // The type of the boxes for entries and of the question about a word follows the application's.
+    // The type of texts and lists follows the application's. The least sizes are those that look
+    // well beside type of 13 pixels.
     const int type = QFontInfo(QApplication::font()).pixelSize();
-    const int entryType = std::max(15, type * 23 / 20);
-    sheet.replace(QLatin1String("@entryType"), QString::number(entryType));
+    const auto setType = [&sheet, type](const char *name, int least, double factor) {
+        const int size = std::max(least, int(type * factor));
+        sheet.replace(QLatin1String(name), QString::number(size));
+        return size;
+    };
+    const int entryType = setType("@entryType", 15, 1.15);
     sheet.replace(QLatin1String("@largeEntryType"), QString::number(entryType * 3 / 2));
-    sheet.replace(QLatin1String("@questionType"), QString::number(std::max(17, type * 13 / 10)));
-    // A layout never makes a button lower than this.
-    const int buttonType = std::max(18, QFontMetrics(QApplication::font()).height());
+    setType("@questionType", 17, 1.3);
+    setType("@headingType", 26, 2);
+    setType("@textType", 20, 1.5);
+    setType("@rowType", 16, 1.25);
+    setType("@listType", 14, 1.1);
+    // A layout may make a button as low as this, so that it is what the button's text needs, which
+    // may be a pixel more than the type's height.
+    const QSize buttonText =
+        QFontMetrics(QApplication::font()).size(Qt::TextShowMnemonic, QStringLiteral("X"));
+    const int buttonType = std::max(18, buttonText.height());
     sheet.replace(QLatin1String("@buttonType"), QString::number(buttonType));
     // Of the captions of frames: on the border, above a frame without one, inside a panel.
     const int titleType = QFontMetrics(QApplication::font()).height();

@@ -243,11 +243,35 @@ private Q_SLOTS:
         }
     }
 
-    void theTypeOfTheEntryFollowsTheApplications()
+    void theTypeFollowsTheApplications_data()
     {
-        const int usual = entryType();
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isLong");
+        for (const char *name : {"txtWord", "lblWordExist", "lstHits", "lstMisses", "lblHint",
+                                 "lblTitle", "lblAnswerIs", "txtUserAnswer", "txtName"})
+            QTest::newRow(name) << QString::fromLatin1(name) << false;
+        QTest::newRow("lblAnswerIs, long") << u"lblAnswerIs"_s << true;
+    }
+
+    void theTypeFollowsTheApplications()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isLong);
+        QLineEdit control; // the rule for txtWord is for boxes alone
+        control.setObjectName(name);
+        control.setProperty("long", isLong);
+        const int usual = typeOf(control);
         const LargeType type(1.5);
-        QVERIFY2(entryType() >= usual * 5 / 4, qPrintable(QString::number(entryType())));
+        QVERIFY2(typeOf(control) >= usual * 5 / 4, qPrintable(QString::number(typeOf(control))));
+        QVERIFY(typeOf(control) > QFontInfo(QApplication::font()).pixelSize());
+    }
+
+    void theTypeOfTheEntryBoxesFollowsTheApplications()
+    {
+        EntryTextBox box;
+        const int usual = typeOf(box);
+        const LargeType type(1.5);
+        QVERIFY2(typeOf(box) >= usual * 5 / 4, qPrintable(QString::number(typeOf(box))));
     }
 
     void theLookFollowsThePaletteAtRunTime()
@@ -298,11 +322,10 @@ private Q_SLOTS:
     }
 
 private:
-    static int entryType()
+    static int typeOf(QWidget &control)
     {
-        EntryTextBox box;
-        box.ensurePolished();
-        return box.fontInfo().pixelSize();
+        control.ensurePolished();
+        return control.fontInfo().pixelSize();
     }
 
     static void wear(const QPalette &palette)
