@@ -2,6 +2,7 @@
 #include "game/LetterTile.h"
 
 #include "platform/AccessibleRole.h"
+#include "platform/Appearance.h"
 #include "platform/Motion.h"
 
 #include <QPainter>
@@ -59,7 +60,7 @@ void LetterTile::turnUp(const QString &letter)
     show();
     const QPixmap back = grab();
     setText(letter);
-    Motion::turnOver(*this, back, grab(), parentWidget()->palette().midlight());
+    Motion::turnOver(*this, back, grab(), panelColour(parentWidget()->palette()));
 }
 
 void LetterTile::paintEvent(QPaintEvent * /*event*/)

@@ -120,7 +120,7 @@ std::vector<QRect> TileRack::places() const
 void TileRack::drawSlots(QPainter &painter, const std::vector<QRect> &places) const
 {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().midlight());
+    painter.setBrush(panelColour(palette()));
     painter.drawRoundedRect(rect(), 10, 10);
     painter.setPen(QPen(quietColour(palette()), 1.5));
     painter.setBrush(Qt::NoBrush);

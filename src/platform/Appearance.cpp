@@ -186,6 +186,15 @@ QColor outlineColour(const QPalette &palette)
     return {0x86, 0x8D, 0x92};
 }
 
+QColor panelColour(const QPalette &palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    const int steps = isDark(palette) ? 8 : 2; // from the window's colour to white
+    return {window.red() + (255 - window.red()) / steps,
+            window.green() + (255 - window.green()) / steps,
+            window.blue() + (255 - window.blue()) / steps};
+}
+
 QColor focusColour(const QPalette &palette)
 {
     return isDark(palette) ? QColor(Qt::white) : accentColour(palette).darker(170);

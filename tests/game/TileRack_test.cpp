@@ -63,6 +63,15 @@ private Q_SLOTS:
         QCOMPARE(turnedUp(rack), QString());
     }
 
+    void itHasTheColourOfAPanel()
+    {
+        QApplication::setPalette(QApplication::style()->standardPalette());
+        TileRack rack;
+        rack.resize(400, 64);
+        const QImage picture = rack.grab().toImage();
+        QCOMPARE(picture.pixelColor(20, 32), panelColour(rack.palette()));
+    }
+
     void lettersLieInTheMiddleOfTheRow_data()
     {
         QTest::addColumn<QString>("word");

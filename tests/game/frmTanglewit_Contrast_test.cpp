@@ -76,6 +76,7 @@ private Q_SLOTS:
     void initTestCase_data()
     {
         QTest::addColumn<QPalette>("palette");
+        QTest::newRow("of the style") << QApplication::style()->standardPalette();
         QTest::newRow("light") << lightPalette();
         QTest::newRow("dark") << darkPalette();
         QTest::newRow("lighter dark") << QPalette(QColor(0x3A, 0x3A, 0x3A));

@@ -75,6 +75,18 @@ private Q_SLOTS:
         QVERIFY(accentColour(lightPalette()) != accentColour(darkPalette()));
     }
 
+    void panelsAreALittleLighterThanTheWindow()
+    {
+        for (const QPalette &palette : {QApplication::style()->standardPalette(), lightPalette(),
+                                        darkPalette(), highContrastPalette()}) {
+            const QColor window = palette.color(QPalette::Window);
+            const QColor panel = panelColour(palette);
+            QVERIFY(panel.lightness() > window.lightness());
+            QVERIFY(contrast(panel, window) < 1.6);
+            QVERIFY(contrast(quietColour(palette), panel) >= ReadableText);
+        }
+    }
+
     void whatAnEmptyBoxSaysIsReadable()
     {
         for (const QPalette &palette : {lightPalette(), darkPalette(), highContrastPalette()}) {
