@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "help/HandbookText.h"
 
-#include "platform/Appearance.h"
-
 #include <QImage>
 
 namespace {
@@ -23,7 +21,7 @@ HandbookText::HandbookText(QWidget *parent) : QTextBrowser(parent)
 QVariant HandbookText::loadResource(int type, const QUrl &name)
 {
     if (type == QTextDocument::StyleSheetResource)
-        return StyleSheet + QStringLiteral("a { color: %1; }").arg(accentColour(palette()).name());
+        return StyleSheet;
     QVariant resource = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource)
         return resource;

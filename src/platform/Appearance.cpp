@@ -26,6 +26,8 @@ QPalette withOwnColours(QPalette palette)
     palette.setColor(QPalette::Highlight, accentColour(palette));
     palette.setColor(QPalette::HighlightedText, onAccentColour(palette));
     palette.setColor(QPalette::PlaceholderText, quietColour(palette));
+    for (const auto role : {QPalette::Link, QPalette::LinkVisited})
+        palette.setColor(role, accentColour(palette));
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
         palette.setColor(QPalette::Disabled, role, disabledColour(palette));

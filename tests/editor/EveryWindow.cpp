@@ -129,7 +129,9 @@ void openHandbook(const Look &look)
 {
     const QTemporaryDir folder;
     const QString page = QDir(folder.path()).filePath(u"index.html"_s);
-    writeFile(page, "<h1>Contents</h1><p>See <a href='x.html'>keys</a>.</p>");
+    QFile::copy(QStringLiteral(HANDBOOK_STYLE), QDir(folder.path()).filePath(u"handbook.css"_s));
+    writeFile(page, "<html><head><link rel='stylesheet' href='handbook.css'></head>"
+                    "<body><h1>Contents</h1><p>See <a href='x.html'>keys</a>.</p></body></html>");
     dlgHandbook handbook(page, nullptr);
     handbook.show();
     Controls::waitUntilActive(handbook);
