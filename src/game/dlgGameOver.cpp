@@ -21,6 +21,10 @@ using namespace Module1;
 
 namespace {
 
+// Pixels: the dialog's width with the title's usual type.
+constexpr int WidthOfUsualType = 680;
+constexpr int UsualTitleType = 26;
+
 std::size_t indexOf(Integer row)
 {
     return static_cast<std::size_t>(row.toInt() - 1);
@@ -33,7 +37,11 @@ dlgGameOver::dlgGameOver(Music &music, QWidget *parent)
 {
     m_ui->setupUi(this);
     makeRows();
-    openWithSize(*this, size());
+    for (QWidget *control : findChildren<QWidget *>())
+        control->ensurePolished(); // the style sheet makes some of them larger
+    // It grows with the type.
+    openWithSize(*this, {WidthOfUsualType * m_ui->lblTitle->fontInfo().pixelSize() / UsualTitleType,
+                         height()});
     openAsLastClosed();
     onClick(m_ui->cmdEnter, &dlgGameOver::cmdEnter_Click);
     onClick(m_ui->cmdReset, &dlgGameOver::cmdReset_Click);
@@ -80,20 +88,13 @@ void dlgGameOver::Form_Load()
     fitToTexts();
 }
 
-// The dialog grows with the type, within the screen. Its layout alone does not keep enough height
-// free for labels that wrap their texts.
+// Its layout alone does not keep enough height free for labels that wrap their texts.
 void dlgGameOver::fitToTexts()
 {
-    for (QWidget *control : findChildren<QWidget *>())
-        control->ensurePolished();        // the style sheet makes some of them larger
-    constexpr QSize FrameOfWindow(8, 38); // with its title bar, at most
-    constexpr int UsualWidth = 680;
-    constexpr int UsualType = 26;
-    const QSize room = screen()->availableSize() - FrameOfWindow;
-    const int wide = UsualWidth * m_ui->lblTitle->fontInfo().pixelSize() / UsualType;
-    const int newWidth = std::max(width(), std::min(wide, room.width()));
-    const int needed = layout()->totalMinimumHeightForWidth(newWidth);
-    resize(newWidth, std::max(height(), std::min(needed, room.height())));
+    constexpr int TitleBar = 38; // at most, with the frame
+    const int room = screen()->availableSize().height() - TitleBar;
+    const int needed = layout()->totalMinimumHeightForWidth(width());
+    resize(width(), std::max(height(), std::min(needed, room)));
 }
 
 // Runs beside everything else.
