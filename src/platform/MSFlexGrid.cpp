@@ -9,6 +9,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
@@ -135,6 +136,9 @@ void MSFlexGrid::Clear()
 void MSFlexGrid::setText(int row, int column, const QString &text)
 {
     cell(row, column).setText(text);
+    // Qt's headers are hidden and have the texts for assistive tools only: the view, which would
+    // lay out all rows again, needs no notice.
+    const QSignalBlocker silence(model());
     if (row == 0)
         setHorizontalHeaderItem(column, new QTableWidgetItem(text));
     if (column == 0)
