@@ -54,7 +54,7 @@ void QuietLine::say(const QString &text)
     m_before.reset();
 }
 
-// What is shown follows at the handler's end.
+// Has nothing to do itself: the line is refreshed after each handler.
 void QuietLine::txtWord_Change() {}
 
 void QuietLine::refresh()

@@ -13,7 +13,7 @@ class QPalette;
 [[nodiscard]] QColor quietColour(const QPalette &palette);
 // For the borders of boxes and buttons, which have to stand out from the window.
 [[nodiscard]] QColor outlineColour(const QPalette &palette);
-// For a flat area in the window on which signs lie; a little lighter than the window.
+// For a flat area in the window, such as the rack of letters; a little lighter than the window.
 [[nodiscard]] QColor panelColour(const QPalette &palette);
 // For the border of what has the keyboard.
 [[nodiscard]] QColor focusColour(const QPalette &palette);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One line of quiet type, the end of which may be in the accent colour. A text that is too long
-// ends in "…" and is its own tool tip. Screen readers hear it as a status bar, the
-// first text at once and then each one that stays for half a second: not each letter that is typed.
+// ends in "…" and is its own tool tip. Screen readers hear it as a status bar: the first text at
+// once, and then each text that stays for half a second, so not each letter that is typed.
 #pragma once
 
 #include <QTimer>

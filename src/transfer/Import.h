@@ -48,5 +48,5 @@ private:
     [[nodiscard]] bool fitsInList() const;
 
     WordAdder m_adder;
-    int m_asked = 0; // about so many words of this import
+    int m_asked = 0; // questions about existing words in this import
 };

@@ -9,7 +9,6 @@
 #include <QDBusVirtualObject>
 #include <QFile>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <utility>
@@ -27,8 +26,6 @@ public:
     }
     Q_DISABLE_COPY_MOVE(SessionBus)
 
-    [[nodiscard]] static bool isInstalled() { return !daemon().isEmpty(); }
-
     // False if it does not run.
     [[nodiscard]] bool start()
     {
@@ -41,8 +38,9 @@ public:
                        "eavesdrop=\"true\"/>"
                        "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
         settings.close();
-        m_daemon.start(daemon(), {QStringLiteral("--nofork"), QStringLiteral("--print-address=1"),
-                                  QStringLiteral("--config-file=") + settings.fileName()});
+        m_daemon.start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--nofork"), QStringLiteral("--print-address=1"),
+                        QStringLiteral("--config-file=") + settings.fileName()});
         while (!m_daemon.canReadLine())
             if (!m_daemon.waitForReadyRead(20'000))
                 return false;
@@ -51,11 +49,6 @@ public:
     }
 
 private:
-    [[nodiscard]] static QString daemon()
-    {
-        return QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
-    }
-
     QTemporaryDir m_folder;
     QProcess m_daemon;
 };
